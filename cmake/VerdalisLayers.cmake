@@ -1,0 +1,49 @@
+# How every target of the project is compiled, and how a layer and its tests become targets.
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+  # Paths relative to the source tree let several build folders share the cache.
+  set(CMAKE_CXX_COMPILER_LAUNCHER
+    ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${CMAKE_SOURCE_DIR} CCACHE_NOHASHDIR=1 ${CCACHE_PROGRAM})
+endif()
+
+# The flags of the project's own code. Contraction of a multiplication and an addition into one
+# rounding would change the last bit of a profit, and with it the order of the options.
+add_library(verdalis_flags INTERFACE)
+target_compile_features(verdalis_flags INTERFACE cxx_std_20)
+target_compile_options(verdalis_flags INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror -ffp-contract=off -fno-fast-math)
+target_include_directories(verdalis_flags INTERFACE ${CMAKE_SOURCE_DIR})
+set(CMAKE_CXX_EXTENSIONS OFF)
+
+# verdalis_layer(NAME [LINKS layer...] [LIBS target...])
+# A static library verdalis_NAME of all sources in NAME/.
+function(verdalis_layer name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "LINKS;LIBS")
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/${name}/*.cpp ${CMAKE_SOURCE_DIR}/${name}/*.h)
+  add_library(verdalis_${name} STATIC ${sources})
+  set_target_properties(verdalis_${name} PROPERTIES LINKER_LANGUAGE CXX)
+  target_link_libraries(verdalis_${name} PUBLIC verdalis_flags ${arg_LIBS})
+  foreach(link IN LISTS arg_LINKS)
+    target_link_libraries(verdalis_${name} PUBLIC verdalis_${link})
+  endforeach()
+endfunction()
+
+# verdalis_tests(NAME [LINKS layer...] [LIBS target...])
+# A test program test_NAME of all sources in tests/NAME/, which links the layers named and nothing else.
+# One CTest entry a test suite keeps failures readable and lets CTest use every core.
+function(verdalis_tests name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "LINKS;LIBS")
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/${name}/*.cpp)
+  if(NOT sources)
+    return()
+  endif()
+  add_executable(test_${name} ${sources})
+  target_link_libraries(test_${name} PRIVATE verdalis_flags GTest::gmock_main rapidcheck ${arg_LIBS})
+  target_compile_definitions(test_${name} PRIVATE
+    VERDALIS_SOURCE_DIR="${CMAKE_SOURCE_DIR}" VERDALIS_BINARY_DIR="${CMAKE_BINARY_DIR}")
+  foreach(link IN LISTS arg_LINKS)
+    target_link_libraries(test_${name} PRIVATE verdalis_${link})
+  endforeach()
+  gtest_discover_tests(test_${name} TEST_PREFIX "${name}." PROPERTIES TIMEOUT 300 DISCOVERY_TIMEOUT 60)
+endfunction()

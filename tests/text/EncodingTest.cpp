@@ -1,0 +1,182 @@
+#include <gtest/gtest.h>
+#include <rapidcheck/gtest.h>
+
+#include <array>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "tests/text/Generators.h"
+#include "text/encoding.h"
+#include "text/quote.h"
+
+namespace verdalis {
+namespace {
+
+/// The characters of the bytes 80 to 9F in Windows-1252, written as UTF-8 by the compiler; empty where there
+/// is none.
+constexpr std::array<const char8_t*, 32> upperControls = {
+    u8"€", u8"",  u8"‚", u8"ƒ", u8"„", u8"…", u8"†", u8"‡", u8"ˆ", u8"‰", u8"Š",
+    u8"‹", u8"Œ", u8"",  u8"Ž", u8"",  u8"",  u8"‘", u8"’", u8"“", u8"”", u8"•",
+    u8"–", u8"—", u8"˜", u8"™", u8"š", u8"›", u8"œ", u8"",  u8"ž", u8"Ÿ"};
+
+std::string bytes(const char8_t* text) {
+  return reinterpret_cast<const char*>(text);
+}
+
+TEST(IsUtf8, TakesWellFormedTextAlone) {
+  using namespace std::string_literals;
+  for (const std::string& text :
+       {""s, "plain"s, "\0"s, "\x7F"s, "\xC2\x80"s, "\xDF\xBF"s, "\xE0\xA0\x80"s, "\xED\x9F\xBF"s,
+        "\xEE\x80\x80"s, "\xEF\xBF\xBF"s, "\xF0\x90\x80\x80"s, "\xF4\x8F\xBF\xBF"s, "a\xC3\xA9z"s}) {
+    EXPECT_TRUE(isUtf8(text)) << ::testing::PrintToString(text);
+  }
+  for (const std::string& text : {"\x80"s,
+                                  "\xBF"s,
+                                  "\xC0\x80"s,
+                                  "\xC1\xBF"s,
+                                  "\xC2"s,
+                                  "\xC2 "s,
+                                  "\xC2\xC2\x80"s,
+                                  "\xE0\x80\x80"s,
+                                  "\xE0\x9F\xBF"s,
+                                  "\xE2\x82"s,
+                                  "\xE2\x82 "s,
+                                  "\xED\xA0\x80"s,
+                                  "\xED\xBF\xBF"s,
+                                  "\xF0\x8F\xBF\xBF"s,
+                                  "\xF0\x90\x80"s,
+                                  "\xF4\x90\x80\x80"s,
+                                  "\xF5\x80\x80\x80"s,
+                                  "\xF8\x88\x80\x80\x80"s,
+                                  "\xFE"s,
+                                  "\xFF"s,
+                                  "caf\xE9"s,
+                                  "plain\xC3"s}) {
+    EXPECT_FALSE(isUtf8(text)) << ::testing::PrintToString(text);
+  }
+}
+
+TEST(IsUtf8, LooksNoFurtherThanTheEnd) {
+  const std::string corn = bytes(u8"🌽");
+  for (std::size_t length = 1; length < corn.size(); ++length) {
+    EXPECT_FALSE(isUtf8(std::string_view(corn).substr(0, length))) << length;
+  }
+}
+
+TEST(DecodeText, KeepsUtf8) {
+  EXPECT_EQ(decodeText(""), "");
+  EXPECT_EQ(decodeText("Corn\r\n12"), "Corn\r\n12");
+  EXPECT_EQ(decodeText(bytes(u8"Maïs – 10 €")), bytes(u8"Maïs – 10 €"));
+}
+
+TEST(DecodeText, DropsTheByteOrderMark) {
+  EXPECT_EQ(decodeText("\xEF\xBB\xBF"), "");
+  EXPECT_EQ(decodeText("\xEF\xBB\xBF"
+                       "Corn"),
+            "Corn");
+  EXPECT_EQ(decodeText("Corn\xEF\xBB\xBF"), "Corn\xEF\xBB\xBF");
+  // Within a file that is no UTF-8 it is three characters like any others.
+  EXPECT_EQ(decodeText("\xEF\xBB\xBF\xE9"), bytes(u8"ï»¿é"));
+}
+
+TEST(DecodeText, ReadsTheRestAsWindows1252) {
+  EXPECT_EQ(decodeText("Ma\xEFs \x80 10"), bytes(u8"Maïs € 10"));
+  EXPECT_EQ(decodeText("\x93quoted\x94"), bytes(u8"“quoted”"));
+  EXPECT_EQ(decodeText("\x81\x8D\x8F\x90\x9D"), bytes(u8"\uFFFD\uFFFD\uFFFD\uFFFD\uFFFD"));
+}
+
+TEST(Windows1252, EveryCharacterGoesThereAndBack) {
+  for (unsigned code = 0; code < 256; ++code) {
+    const std::string byte(1, static_cast<char>(code));
+    std::string character = byte;
+    if (code >= 0x80 && code < 0xA0) {
+      character = bytes(upperControls.at(code - 0x80));
+      if (character.empty()) {
+        EXPECT_EQ(decodeText(byte), bytes(u8"\uFFFD")) << code;
+        continue;
+      }
+    } else if (code >= 0xA0) {
+      character = {static_cast<char>(0xC0 | (code / 64)), static_cast<char>(0x80 | (code % 64))};
+    }
+    EXPECT_EQ(decodeText(byte), character) << code;
+    EXPECT_EQ(encodeForExport(character), byte) << code;
+  }
+}
+
+TEST(EncodeForExport, KeepsUtf8WhereACharacterHasNoPlace) {
+  for (const char8_t* text :
+       {u8"Ω", u8"é Ω", u8"10 ≤ 12", u8"🌽", u8"\uFFFD", u8"\u0081", u8"\u009D", u8"\u0080"}) {
+    EXPECT_EQ(encodeForExport(bytes(text)), bytes(text));
+  }
+}
+
+TEST(EncodeForExport, KeepsWhatIsNoUtf8) {
+  EXPECT_EQ(encodeForExport("caf\xE9"), "caf\xE9");
+  EXPECT_EQ(encodeForExport(bytes(u8"é") + "\xC3"), bytes(u8"é") + "\xC3");
+}
+
+TEST(LowerCase, ChangesTheLettersAToZAlone) {
+  EXPECT_EQ(lowerCase("Grain Sorghum @[`{ AZaz09"), "grain sorghum @[`{ azaz09");
+  EXPECT_EQ(lowerCase(bytes(u8"ÉÄÜ İ")), bytes(u8"ÉÄÜ İ"));
+  EXPECT_EQ(lowerCase(""), "");
+}
+
+TEST(QuoteForMessage, ShowsTheTextOnOneLine) {
+  EXPECT_EQ(quoteForMessage(""), "\"\"");
+  EXPECT_EQ(quoteForMessage("12 acres"), "\"12 acres\"");
+  EXPECT_EQ(quoteForMessage("a\r\nb\tc"), "\"a  b c\"");
+  EXPECT_EQ(quoteForMessage(std::string("a\0b", 3)), "\"a b\"");
+  EXPECT_EQ(quoteForMessage("caf\xE9"), bytes(u8"\"café\""));
+}
+
+TEST(QuoteForMessage, CutsAfterFortyCharacters) {
+  const auto repeated = [](const char8_t* text, int count) {
+    std::string result;
+    for (int i = 0; i < count; ++i)
+      result += bytes(text);
+    return result;
+  };
+  EXPECT_EQ(quoteForMessage(repeated(u8"x", 40)), '"' + repeated(u8"x", 40) + '"');
+  EXPECT_EQ(quoteForMessage(repeated(u8"x", 41)), '"' + repeated(u8"x", 40) + "...\"");
+  EXPECT_EQ(quoteForMessage(repeated(u8"é", 41)), '"' + repeated(u8"é", 40) + "...\"");
+  EXPECT_EQ(quoteForMessage(repeated(u8"🌽", 40)), '"' + repeated(u8"🌽", 40) + '"');
+  EXPECT_EQ(quoteForMessage(repeated(u8"🌽", 5000)), '"' + repeated(u8"🌽", 40) + "...\"");
+}
+
+/// Bytes that are near to UTF-8, so that its rules are met and broken often.
+rc::Gen<std::string> nearUtf8() {
+  const std::vector<std::string> pieces = {
+      "a",        "\xC2",         "\x80",         "\xA9", "\xC3\xA9",         "\xE2",
+      "\x82",     "\xE2\x82\xAC", "\xED",         "\xBF", "\xF0\x9F",         "\x8C\xBD",
+      "\xF4\x90", "\xEF\xBB",     "\xEF\xBB\xBF", "\xFF", "\xF0\x9F\x8C\xBD", "\x81"};
+  return rc::gen::map(rc::gen::container<std::vector<std::string>>(rc::gen::elementOf(pieces)),
+                      [](const std::vector<std::string>& parts) {
+                        std::string text;
+                        for (const auto& part : parts)
+                          text += part;
+                        return text;
+                      });
+}
+
+RC_GTEST_PROP(EncodingProperty, DecodedTextIsAlwaysUtf8, ()) {
+  const auto input = *rc::gen::oneOf(testing::anyBytes(), nearUtf8());
+  const std::string text = decodeText(input);
+  RC_ASSERT(isUtf8(text));
+  RC_ASSERT(text.size() <= 3 * input.size());
+  RC_ASSERT(isUtf8(quoteForMessage(input)));
+}
+
+RC_GTEST_PROP(EncodingProperty, ExportIsOneByteACharacterOrUnchanged, ()) {
+  const std::string text = decodeText(*rc::gen::oneOf(testing::anyBytes(), nearUtf8()));
+  const std::string exported = encodeForExport(text);
+  if (exported != text) {
+    RC_ASSERT(exported.size() < text.size());
+    // What other programs take for Windows-1252 reads back, but for the rare bytes that look like UTF-8 as
+    // well.
+    if (!isUtf8(exported)) RC_ASSERT(decodeText(exported) == text);
+  }
+}
+
+}  // namespace
+}  // namespace verdalis

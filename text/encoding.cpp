@@ -1,0 +1,131 @@
+#include "text/encoding.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+
+namespace verdalis {
+namespace {
+
+constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+constexpr char32_t replacement = 0xFFFD;
+
+/// The characters of the bytes 80 to 9F in Windows-1252. All other bytes are the characters of the same
+/// number.
+constexpr std::array<char32_t, 32> windowsCharacters = {
+    0x20AC,      replacement, 0x201A, 0x0192, 0x201E, 0x2026,      0x2020, 0x2021,       //
+    0x02C6,      0x2030,      0x0160, 0x2039, 0x0152, replacement, 0x017D, replacement,  //
+    replacement, 0x2018,      0x2019, 0x201C, 0x201D, 0x2022,      0x2013, 0x2014,       //
+    0x02DC,      0x2122,      0x0161, 0x203A, 0x0153, replacement, 0x017E, 0x0178};
+
+unsigned byteAt(std::string_view bytes, std::size_t pos) {
+  return static_cast<unsigned char>(bytes[pos]);
+}
+
+/// Reads the character that begins at `pos` and moves `pos` behind it; nothing where no well-formed one
+/// begins there.
+std::optional<char32_t> nextCharacter(std::string_view bytes, std::size_t& pos) {
+  const unsigned lead = byteAt(bytes, pos);
+  if (lead < 0x80) {
+    ++pos;
+    return lead;
+  }
+  std::size_t length = 0;
+  char32_t smallest = 0;  // what fits into fewer bytes must not be written with this many
+  if (lead >= 0xC0 && lead < 0xE0) {
+    length = 2;
+    smallest = 0x80;
+  } else if (lead >= 0xE0 && lead < 0xF0) {
+    length = 3;
+    smallest = 0x800;
+  } else if (lead >= 0xF0 && lead < 0xF8) {
+    length = 4;
+    smallest = 0x10000;
+  } else {
+    return std::nullopt;
+  }
+  if (bytes.size() - pos < length) return std::nullopt;
+  char32_t character = lead & (0x7FU >> length);
+  for (std::size_t i = 1; i < length; ++i) {
+    const unsigned byte = byteAt(bytes, pos + i);
+    if ((byte & 0xC0U) != 0x80U) return std::nullopt;
+    character = (character << 6U) | (byte & 0x3FU);
+  }
+  const bool surrogate = character >= 0xD800 && character <= 0xDFFF;
+  if (character < smallest || surrogate || character > 0x10FFFF) return std::nullopt;
+  pos += length;
+  return character;
+}
+
+/// Appends a character below U+10000, which all of Windows-1252 are.
+void appendUtf8(std::string& text, char32_t character) {
+  const auto tail = [](char32_t bits) { return static_cast<char>(0x80U | (bits & 0x3FU)); };
+  if (character < 0x80) {
+    text += static_cast<char>(character);
+  } else if (character < 0x800) {
+    text += static_cast<char>(0xC0U | (character >> 6U));
+    text += tail(character);
+  } else {
+    text += static_cast<char>(0xE0U | (character >> 12U));
+    text += tail(character >> 6U);
+    text += tail(character);
+  }
+}
+
+std::optional<char> windowsByte(char32_t character) {
+  if (character < 0x80 || (character >= 0xA0 && character <= 0xFF)) return static_cast<char>(character);
+  if (character == replacement) return std::nullopt;
+  const auto* const found = std::find(windowsCharacters.begin(), windowsCharacters.end(), character);
+  if (found == windowsCharacters.end()) return std::nullopt;
+  return static_cast<char>(0x80 + (found - windowsCharacters.begin()));
+}
+
+}  // namespace
+
+bool isUtf8(std::string_view bytes) {
+  std::size_t pos = 0;
+  while (pos < bytes.size()) {
+    if (!nextCharacter(bytes, pos)) return false;
+  }
+  return true;
+}
+
+std::string decodeText(std::string bytes) {
+  if (isUtf8(bytes)) {
+    if (bytes.starts_with(byteOrderMark)) bytes.erase(0, byteOrderMark.size());
+    return bytes;
+  }
+  std::string text;
+  text.reserve(bytes.size() + bytes.size() / 8);
+  for (const char c : bytes) {
+    const auto byte = static_cast<unsigned char>(c);
+    const bool listed = byte >= 0x80 && byte < 0xA0;
+    appendUtf8(text, listed ? windowsCharacters.at(byte - 0x80U) : char32_t{byte});
+  }
+  return text;
+}
+
+std::string encodeForExport(std::string_view utf8) {
+  std::string encoded;
+  encoded.reserve(utf8.size());
+  std::size_t pos = 0;
+  while (pos < utf8.size()) {
+    const auto character = nextCharacter(utf8, pos);
+    const auto byte = character ? windowsByte(*character) : std::nullopt;
+    if (!byte) return std::string(utf8);
+    encoded += *byte;
+  }
+  return encoded;
+}
+
+std::string lowerCase(std::string_view text) {
+  std::string result(text);
+  for (char& c : result) {
+    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+  }
+  return result;
+}
+
+}  // namespace verdalis
