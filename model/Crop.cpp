@@ -1,0 +1,110 @@
+#include "model/Crop.h"
+
+#include <cmath>
+#include <limits>
+#include <memory>
+
+#include "model/CropKind.h"
+#include "model/checked.h"
+#include "text/numbers.h"
+
+namespace verdalis {
+namespace {
+
+/// The whole inches of a depth that is first rounded to tenths, half away from zero on its decimal text: 3.96
+/// is 4. The tenth rounds up to the next inch from f.95 on, and the 64-bit float nearest to f.95 is (100 f +
+/// 95) / 100, so no text has to be made: a float lies at or above that one exactly when its shortest text is
+/// f.95 or more.
+double wholeInches(double depth) {
+  if (depth < 0) return -wholeInches(-depth);
+  const double inches = std::floor(depth);
+  return depth >= (inches * 100 + 95) / 100 ? inches + 1 : inches;
+}
+
+std::string describeRange(const YieldTable& table) {
+  return std::to_string(table.firstRain()) + " to " + std::to_string(table.lastRain()) + " inches";
+}
+
+/// The column of a rainfall: the nearest whole inch, halves to the even inch. -1 for a rainfall that no table
+/// has.
+int rainColumn(double annualRain) {
+  const double rounded = std::nearbyint(annualRain);
+  return rounded >= 0 && rounded <= std::numeric_limits<int>::max() ? static_cast<int>(rounded) : -1;
+}
+
+}  // namespace
+
+std::string Crop::yieldToString() const {
+  return formatNumber(Yield, "###,##0.0") + " " + cropUnitsArray[0] + "/ac";
+}
+
+void Crop::setYieldTable(const YieldTable& table) {
+  yieldTable = std::make_shared<const YieldTable>(table);
+}
+
+void Crop::setYield(double& Depth, double annualRain) {
+  if (cropKind(cropType) == CropKind::fallow) {
+    Yield = 0;
+    return;
+  }
+  if (!yieldTable) {
+    throw RunTimeError(ErrorNumber::subscript, "The crop " + cropType + " has no yield table.");
+  }
+  const YieldTable& table = *yieldTable;
+  const int top = table.maxIrrigation();
+  if (Depth > top) Depth = top;
+
+  const double whole = wholeInches(Depth);
+  const int rain = rainColumn(annualRain);
+  if (!(whole >= 0)) {
+    throw RunTimeError(ErrorNumber::subscript, "A net irrigation of " + generalText(Depth) +
+                                                   " inches is outside the yield table of " + cropType +
+                                                   ". Check the irrigation amount and efficiency.");
+  }
+  const int lo = static_cast<int>(whole);
+  if (!table.contains(lo, rain)) {
+    throw RunTimeError(ErrorNumber::subscript, "Annual rainfall " + generalText(annualRain) +
+                                                   " is outside the yield table of " + cropType + " (" +
+                                                   describeRange(table) + ").");
+  }
+  const int hi = lo + 1 > top ? top : lo + 1;
+  const double y0 = table.cell(lo, rain);
+  const double y1 = table.cell(hi, rain);
+
+  // Whether the table counts as absolute is asked of this very cell, not of the table: meant, also where a
+  // dry corner of an absolute table holds a cell of 1 or less.
+  const double scale = y1 > 1.0 ? normalFactor : maxYield;
+  if (y0 == y1) {
+    Yield = y0 * scale;
+  } else {
+    // Just under a whole inch lo lies above Depth, so t is a small negative number: meant.
+    const double t = (Depth - lo) / (hi - lo);
+    Yield = (y0 + t * (y1 - y0)) * scale;
+  }
+  checked(Yield, "The yield of " + cropType);
+}
+
+void Crop::setNormal(double expectedYield, double annualRain) {
+  if (!yieldTable) return;
+  const int rain = rainColumn(annualRain);
+  if (!yieldTable->contains(yieldTable->maxIrrigation(), rain)) return;
+  const double factor = expectedYield / yieldTable->cell(yieldTable->maxIrrigation(), rain);
+  if (std::isfinite(factor)) normalFactor = factor;
+}
+
+double Crop::getMaxIrrigation() const {
+  return yieldTable ? yieldTable->maxIrrigation() : 0;
+}
+
+Crop Crop::Copy() const {
+  Crop copy = *this;
+  copy.inputCosts.AlfalfaFlat = 0;
+  return copy;
+}
+
+std::string Crop::writeData() const {
+  return cropType + "\r\n" + generalText(price) + "\r\n" + generalText(maxYield) + "\r\n" +
+         inputCosts.writeData();
+}
+
+}  // namespace verdalis

@@ -1,0 +1,67 @@
+#include "model/Field.h"
+
+#include "model/checked.h"
+#include "text/numbers.h"
+
+namespace verdalis {
+
+std::string Field::toString() {
+  const double costs = getCosts();
+  const double returns = getReturn();
+  const double irrigation = irrigCosts->getCosts(Depth, acres);
+  const double landUsage = theCrop->inputCosts.getReturns(acres);
+  return generalText(acres) + " ac.\t" + formatNumber(Depth, "###,##0.00") + "'' Net Irrig Water, \t" +
+         theCrop->cropType.substr(0, 7) + " Yield = " + theCrop->yieldToString() + "\tTotal Costs = $" +
+         formatNumber(costs, "###,###,#00.##") + "\t\tTotal Returns = $" +
+         formatNumber(returns, "###,###,##0.##") +
+         "\r\nGross Irrig Water = " + formatNumber(grossFromNet(Depth), "#,##0.00") +
+         "''\r\nTotal Water Pumping Cost : $" + formatNumber(irrigation, "###,###,000") +
+         "\r\nLand Usage Return = $" + formatNumber(landUsage, "###,###,##0");
+}
+
+double Field::getReturn() {
+  if (TotalReturn != 0) return TotalReturn;
+  const Crop& crop = *theCrop;
+  const double sales = checked(crop.price * crop.Yield * acres, "The return of a field");
+  TotalReturn = checked(sales + crop.inputCosts.getReturns(acres), "The return of a field");
+  return TotalReturn;
+}
+
+void Field::makeFallow() {
+  auto fallow = std::make_shared<Crop>();
+  fallow->cropType = "Fallow";
+  theCrop = std::move(fallow);
+  Depth = 0;
+}
+
+double Field::getCosts() {
+  if (TotalCost != 0) return TotalCost;
+  const double production = getProductionCosts();
+  const double irrigation = irrigCosts->getCosts(Depth, acres);
+  TotalCost = checked(irrigation + production, "The cost of a field");
+  return TotalCost;
+}
+
+double Field::getProductionCosts() {
+  Crop& crop = *theCrop;
+  double grossDepth = grossFromNet(Depth);
+  return crop.inputCosts.getCosts(acres, crop.Yield, crop, grossDepth);
+}
+
+double Field::getProfit() {
+  const double costs = getCosts();
+  return checked(getReturn() - costs, "The profit of a field");
+}
+
+Field Field::Copy() const {
+  Field copy;
+  copy.acres = acres;
+  copy.Depth = Depth;
+  copy.annualRain = annualRain;
+  copy.TotalCost = TotalCost;
+  copy.theCrop = std::make_shared<Crop>(theCrop->Copy());
+  copy.irrigCosts = std::make_shared<IrrigationCosts>(irrigCosts->Copy());
+  return copy;
+}
+
+}  // namespace verdalis

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <memory>
+#include <utility>
+
+namespace verdalis {
+
+/// An object that is created empty on first use, so that it is never absent when read. Copying shares the
+/// object, as far as it exists by then.
+template <class T>
+class FirstUse {
+ public:
+  FirstUse() = default;
+  FirstUse(std::shared_ptr<T> object) : object_(std::move(object)) {}  // NOLINT(google-explicit-constructor)
+
+  T* operator->() const { return &object(); }
+  T& operator*() const { return object(); }
+  [[nodiscard]] const std::shared_ptr<T>& shared() const {
+    object();
+    return object_;
+  }
+
+ private:
+  T& object() const {
+    if (!object_) object_ = std::make_shared<T>();
+    return *object_;
+  }
+
+  mutable std::shared_ptr<T> object_;
+};
+
+}  // namespace verdalis

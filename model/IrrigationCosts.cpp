@@ -1,0 +1,62 @@
+#include "model/IrrigationCosts.h"
+
+#include <array>
+#include <cmath>
+#include <utility>
+
+#include "model/EfficiencyFraction.h"
+#include "model/checked.h"
+#include "text/numbers.h"
+
+namespace verdalis {
+namespace {
+
+constexpr std::array<std::pair<std::string_view, double>, 4> performanceFigures{{
+    {"Diesel", 12.5},
+    {"Natural Gas", 61.7},
+    {"Propane", 6.89},
+    {"Electricity", 0.885},
+}};
+
+/// The value of a step, or 0 for a step that failed: an overflow or a division by zero.
+double stepOrZero(double value) {
+  return std::isfinite(value) ? value : 0;
+}
+
+}  // namespace
+
+std::optional<double> fuelPerformance(std::string_view fuelType) {
+  for (const auto& [fuel, figure] : performanceFigures) {
+    if (fuel == fuelType) return figure;
+  }
+  return std::nullopt;
+}
+
+double IrrigationCosts::getCosts(double Depth, double acres) {
+  // The trend's figure is charged on the net depth as it stands.
+  if (UseBatch) return stepOrZero(BatchIrrigationCosts * acres * Depth);
+  if (!(Depth > 0 && active) || GPM <= 0 || NPC <= 0) return 0;
+
+  const double gross = stepOrZero(Depth / EfficiencyFraction);
+  const double waterHorsepower = stepOrZero((PSI * feetPerPsi + Lift) * GPM / gallonFeetPerHorsepower);
+  const double pumpingHours = gross * acres / (GPM / gpmPerAcreInchHour);
+  if (std::isfinite(pumpingHours)) hours = pumpingHours;
+  const double fuel = stepOrZero((waterHorsepower / NPC) * hours * cost);
+  // Labour is half an hour an acre and season, whatever the depth.
+  return stepOrZero(acres * 0.5 * LaborPerHour + fuel + acres * RepairsPerAcreInch * gross);
+}
+
+double IrrigationCosts::getMaxInches(double acres) const {
+  if (acres == 0) return 0;
+  return checked((GPM * 60 * dblEstHours / acres) * (1 / gallonsPerAcreInch), "The pumping capacity");
+}
+
+std::string IrrigationCosts::writeData() const {
+  std::string text;
+  for (const double value : {GPM, Lift, PSI, LaborPerHour, FixedPerAcre, RepairsPerAcreInch, NPC, cost}) {
+    text += generalText(value) + "\r\n";
+  }
+  return text + (active ? "True" : "False") + "\r\n" + FuelType + "\r\n" + generalText(dblEstHours);
+}
+
+}  // namespace verdalis

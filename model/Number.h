@@ -1,0 +1,27 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "text/numbers.h"
+
+namespace verdalis {
+
+/// A number that is empty until it is set, and counts as 0 while it is empty.
+class Number {
+ public:
+  Number() = default;
+  Number(double value) : value_(value) {}  // NOLINT(google-explicit-constructor): stands for a plain number
+
+  operator double() const { return value_.value_or(0); }  // NOLINT(google-explicit-constructor)
+  [[nodiscard]] bool isEmpty() const { return !value_.has_value(); }
+  void clear() { value_.reset(); }
+
+  /// Empty, or general number text.
+  [[nodiscard]] std::string text() const { return value_ ? generalText(*value_) : std::string(); }
+
+ private:
+  std::optional<double> value_;
+};
+
+}  // namespace verdalis

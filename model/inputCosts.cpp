@@ -1,0 +1,209 @@
+#include "model/inputCosts.h"
+
+#include <array>
+#include <optional>
+
+#include "model/Crop.h"
+#include "model/CropKind.h"
+#include "model/EfficiencyFraction.h"
+#include "model/checked.h"
+
+namespace verdalis {
+namespace {
+
+/// Fertiliser taken up per unit of yield, lb of nutrient per yield unit (bu., ton or lb).
+struct NutrientRates {
+  double nitrogen;
+  double phosphorus;
+};
+
+constexpr NutrientRates nutrientRates(CropKind kind) {
+  switch (kind) {
+    case CropKind::corn:
+      return {1.35, 0.43};
+    case CropKind::grainSorghum:
+      return {1.25, 0.44};
+    case CropKind::wheat:
+      return {1.75, 0.55};
+    case CropKind::sunflower:
+      return {0.05, 0.018};
+    case CropKind::alfalfa:
+      return {0, 14.88};
+    case CropKind::soybeans:
+      return {0, 0.87};
+    case CropKind::fallow:
+    case CropKind::other:
+      break;
+  }
+  return {0, 0};
+}
+
+/// Lower bounds of the water bands of the seeding rates, net inches; the first that holds wins.
+constexpr std::array<double, 6> seedBands{18, 15, 12, 9, 6, 0};
+using BandRates = std::array<double, seedBands.size()>;
+
+/// Seeds per acre for Corn, Soybeans and Sunflower, lb per acre for the others.
+constexpr BandRates cornSeed{32000, 29000, 26000, 23000, 20000, 17000};
+constexpr BandRates soybeanSeed{200000, 185000, 170000, 155000, 140000, 125000};
+constexpr BandRates grainSorghumSeed{7.81, 6.56, 5.31, 4.06, 2.81, 1.56};
+constexpr BandRates sunflowerSeed{25500, 24000, 22500, 21000, 19500, 18000};
+constexpr BandRates wheatSeed{90, 90, 90, 90, 90, 90};
+constexpr BandRates alfalfaSeed{3, 3, 3, 3, 3, 3};
+
+constexpr const BandRates* seedRates(CropKind kind) {
+  switch (kind) {
+    case CropKind::corn:
+      return &cornSeed;
+    case CropKind::soybeans:
+      return &soybeanSeed;
+    case CropKind::grainSorghum:
+      return &grainSorghumSeed;
+    case CropKind::sunflower:
+      return &sunflowerSeed;
+    case CropKind::wheat:
+      return &wheatSeed;
+    case CropKind::alfalfa:
+      return &alfalfaSeed;
+    case CropKind::fallow:
+    case CropKind::other:
+      break;
+  }
+  return nullptr;
+}
+
+std::optional<double> optimalSeedRate(CropKind kind, double netDepth) {
+  const BandRates* rates = seedRates(kind);
+  if (rates == nullptr) return std::nullopt;
+  for (std::size_t band = 0; band < seedBands.size(); ++band) {
+    if (netDepth >= seedBands.at(band)) return rates->at(band);
+  }
+  return std::nullopt;
+}
+
+bool isSeedPricedByPound(CropKind kind) {
+  return kind == CropKind::grainSorghum || kind == CropKind::wheat || kind == CropKind::alfalfa;
+}
+
+}  // namespace
+
+double inputCosts::getCosts(double acres, double yield, const Crop& crop, double& grossDepth) {
+  if (UseBatch) return checked(BatchGeneralCosts * acres, "The production cost of a field");
+
+  // The units decide, not the name: a custom crop in tons has a stand life too.
+  double standLife = 1;
+  if (crop.isForage()) {
+    if (AlfalfaStand == 0.0) AlfalfaStand = 1;
+    standLife = AlfalfaStand;
+  }
+  const NutrientRates rates = nutrientRates(cropKind(crop.cropType));
+
+  NPerAcre = NOptimal ? rates.nitrogen * yield : NitrogenApplied;
+  double total = NPerAcre * NitrogenCost * acres;
+  PPerAcre = POptimal ? rates.phosphorus * yield : PApplied;
+  total += PPerAcre * PCost * acres;
+  total += getSeedCost(acres, yield, crop.cropType, grossDepth) / standLife;
+  total += Herbicide * acres;
+  total += Insecticide * acres;
+  total += (Tillage * acres) / standLife;
+  total += (Planting * acres) / standLife;
+  total += FertilizerApplication * acres;
+  total += HerbicideApplication * acres;
+  total += InsecticideApplication * acres;
+  total += getHarvestCost(acres, yield, crop.cropType);
+  total += MiscCost * acres;
+  // An overflow in any of the terms reaches the total as an infinity or as no number.
+  return checked(total, "The production cost of a field");
+}
+
+double inputCosts::getReturns(double acres) const {
+  return checked(Returns * acres, "The land usage return of a field");
+}
+
+double inputCosts::getHarvestCost(double acres, double yield, std::string_view cropType) const {
+  const CropKind kind = cropKind(cropType);
+  double cost = 0;
+  if (kind == CropKind::alfalfa) {
+    if (AlfalfaPerTon > 0) {
+      cost = yield * AlfalfaPerTon * acres;
+    } else {
+      cost = (AlfalfaSwathing * AlfalfaSwathingNum + AlfalfaRaking * AlfalfaRakingNum +
+              AlfalfaBaling * AlfalfaBalingNum) *
+             acres;
+    }
+  } else if (kind == CropKind::sunflower) {
+    // The yield is in pounds, the rates are per hundredweight.
+    if (HarvestFlatRate > 0) {
+      cost = (yield / 100) * HarvestFlatRate * acres;
+    } else {
+      cost = (HarvestBasePerAcre + HarvestExceedRate * (yield - HarvestExceedBu) / 100 +
+              HarvestHauling * yield / 100) *
+             acres;
+    }
+  } else if (HarvestFlatRate > 0) {
+    cost = yield * HarvestFlatRate * acres;
+  } else {
+    cost =
+        (HarvestBasePerAcre + HarvestExceedRate * (yield - HarvestExceedBu) + HarvestHauling * yield) * acres;
+  }
+  return checked(cost, "The harvest cost of a field");
+}
+
+double inputCosts::getSeedCost(double acres, double /*yield*/, std::string_view cropType,
+                               double& grossDepth) {
+  grossDepth = checked(grossDepth * EfficiencyFraction, "The net irrigation depth");
+  const CropKind kind = cropKind(cropType);
+  const double divisor = isSeedPricedByPound(kind) ? 1 : 1000;
+  if (SeedOptimal) SeedRate = optimalSeedRate(kind, grossDepth).value_or(SeedRate);
+  return checked(SeedRate / divisor * SeedCost * acres, "The seed cost of a field");
+}
+
+inputCosts inputCosts::Copy() const {
+  inputCosts copy = *this;
+  copy.AlfalfaFlat = 0;
+  return copy;
+}
+
+std::string inputCosts::writeData() const {
+  const auto word = [](bool flag) { return std::string(flag ? "True" : "False"); };
+  const std::array<std::string, 31> lines{
+      generalText(NitrogenCost),
+      generalText(NitrogenApplied),
+      word(NOptimal),
+      generalText(PCost),
+      generalText(PApplied),
+      word(POptimal),
+      generalText(SeedCost),
+      generalText(SeedRate),
+      word(SeedOptimal),
+      generalText(Herbicide),
+      generalText(Insecticide),
+      generalText(Tillage),
+      generalText(Planting),
+      generalText(HerbicideApplication),
+      generalText(InsecticideApplication),
+      generalText(Returns),
+      HarvestBasePerAcre.text(),
+      HarvestExceedBu.text(),
+      HarvestExceedRate.text(),
+      HarvestHauling.text(),
+      HarvestFlatRate.text(),
+      AlfalfaSwathing.text(),
+      AlfalfaSwathingNum.text(),
+      AlfalfaRaking.text(),
+      AlfalfaRakingNum.text(),
+      AlfalfaBaling.text(),
+      AlfalfaBalingNum.text(),
+      AlfalfaPerTon.text(),
+      AlfalfaStand.text(),
+      generalText(MiscCost),
+      generalText(FertilizerApplication),  // out of its family, at the end: that is its place in the file
+  };
+  std::string text;
+  for (const std::string& line : lines) {
+    if (&line != lines.data()) text += "\r\n";
+    text += line;
+  }
+  return text;
+}
+
+}  // namespace verdalis

@@ -1,0 +1,81 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "model/Number.h"
+
+namespace verdalis {
+
+class Crop;
+
+/// What it costs to grow one acre of one crop, and the dollars that makes for a field of a given size, yield
+/// and water. With the optimal switches on, nitrogen and phosphorus follow the yield that is reached and the
+/// seeding rate follows the net irrigation.
+class inputCosts {
+ public:
+  double NitrogenCost = 0;            ///< $ per lb
+  double NitrogenApplied = 0;         ///< lb per acre, used while NOptimal is off
+  bool NOptimal = false;              ///< Nitrogen by yield
+  double PCost = 0;                   ///< $ per lb
+  double PApplied = 0;                ///< lb per acre, used while POptimal is off
+  bool POptimal = false;              ///< Phosphorus by yield
+  double SeedCost = 0;                ///< $ per 1,000 seeds; $ per lb for Grain Sorghum, Wheat and Alfalfa
+  double SeedRate = 0;                ///< Seeds per acre, or lb per acre. Overwritten while SeedOptimal is on
+  bool SeedOptimal = false;           ///< Seeding rate by net irrigation
+  double Herbicide = 0;               ///< $ per acre, material
+  double Insecticide = 0;             ///< $ per acre, material
+  double Tillage = 0;                 ///< $ per acre, operation
+  double Planting = 0;                ///< $ per acre, operation
+  double FertilizerApplication = 0;   ///< $ per acre, operation
+  double HerbicideApplication = 0;    ///< $ per acre, operation
+  double InsecticideApplication = 0;  ///< $ per acre, operation
+  Number HarvestBasePerAcre;          ///< $ per acre, custom harvest base charge
+  Number HarvestExceedBu;             ///< Yield units per acre above which the extra charge runs
+  Number HarvestExceedRate;           ///< $ per yield unit ($ per 100 lb for Sunflower)
+  Number HarvestHauling;              ///< $ per yield unit ($ per 100 lb for Sunflower)
+  Number
+      HarvestFlatRate;  ///< $ per yield unit ($ per 100 lb for Sunflower); above 0 it replaces the other four
+  Number AlfalfaSwathing;     ///< $ per acre and operation
+  Number AlfalfaSwathingNum;  ///< Operations per season
+  Number AlfalfaRaking;       ///< $ per acre and operation
+  Number AlfalfaRakingNum;    ///< Operations per season
+  Number AlfalfaBaling;       ///< $ per bale
+  Number AlfalfaBalingNum;    ///< Bales per acre
+  Number AlfalfaPerTon;       ///< $ per ton; above 0 it replaces the three operations
+  Number AlfalfaStand;        ///< Life of stand, years. 0 or empty becomes 1 when first costed
+  double AlfalfaFlat = 0;     ///< Reserved: no screen, file or formula touches it, and Copy() leaves it out
+  double Returns = 0;         ///< $ per acre, other income of the land
+  double MiscCost = 0;        ///< $ per acre
+  std::string theString;      ///< Returned by toString(); nothing sets it
+  double NPerAcre = 0;        ///< Result: lb of nitrogen per acre of the last getCosts()
+  double PPerAcre = 0;        ///< Result: lb of phosphorus per acre of the last getCosts()
+  bool UseBatch = false;      ///< A trend has replaced the production costs by BatchGeneralCosts
+  double BatchGeneralCosts = 0;  ///< $ per acre
+
+  /// Production cost of a field, dollars. `acres` is its size, `yield` is per acre, `grossDepth` in inches
+  /// comes back multiplied by the efficiency. Updates NPerAcre, PPerAcre, SeedRate and perhaps AlfalfaStand.
+  /// \throws RunTimeError (overflow)
+  double getCosts(double acres, double yield, const Crop& crop, double& grossDepth);
+
+  /// Other income of a field, dollars.
+  /// \throws RunTimeError (overflow)
+  [[nodiscard]] double getReturns(double acres) const;
+
+  /// Harvest cost of a field, dollars. The extra charge has no floor: a yield below HarvestExceedBu lowers
+  /// the cost, and that is meant. \throws RunTimeError (overflow)
+  [[nodiscard]] double getHarvestCost(double acres, double yield, std::string_view cropType) const;
+
+  /// Seed cost of a field, dollars, not yet spread over the life of the stand. `yield` takes no part.
+  /// `grossDepth` comes back as net inches. With SeedOptimal it sets SeedRate.
+  /// \throws RunTimeError (overflow)
+  double getSeedCost(double acres, double yield, std::string_view cropType, double& grossDepth);
+
+  [[nodiscard]] std::string toString() const { return theString; }
+  [[nodiscard]] inputCosts Copy() const;
+
+  /// The 31 lines of the saved inputs file, CR LF between them.
+  [[nodiscard]] std::string writeData() const;
+};
+
+}  // namespace verdalis
