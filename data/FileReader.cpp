@@ -1,0 +1,201 @@
+#include "data/FileReader.h"
+
+#include <algorithm>
+#include <memory>
+#include <system_error>
+#include <utility>
+
+#include "data/readFile.h"
+#include "text/RunTimeError.h"
+#include "text/encoding.h"
+#include "text/numbers.h"
+
+namespace verdalis {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Cells of all tables that a soils file may ask for: a hundred of the largest ones. Without a bound a file
+/// of many short records that each ask for a large table could keep the start waiting for hours.
+constexpr long maxSoilCells = 100L * maxTableSide * maxTableSide;
+
+/// The files of a folder by name, ignoring case; folders are passed over.
+std::vector<fs::path> listFiles(const fs::path& folder) {
+  std::error_code error;
+  fs::directory_iterator entry(folder, error);
+  std::vector<std::pair<std::string, fs::path>> files;
+  for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
+    std::error_code ignored;
+    if (!entry->is_directory(ignored))
+      files.emplace_back(lowerCase(entry->path().filename().string()), entry->path());
+  }
+  if (error) {
+    throw RunTimeError(ErrorNumber::fileNotFound, "The folder of crop files " + folder.string() +
+                                                      " cannot be read: " + error.message() + ".");
+  }
+  std::sort(files.begin(), files.end());
+  std::vector<fs::path> paths;
+  paths.reserve(files.size());
+  for (auto& [name, path] : files)
+    paths.push_back(std::move(path));
+  return paths;
+}
+
+/// The entries of a comma separated list one after the other; an empty text has none.
+class ListReader {
+ public:
+  explicit ListReader(std::string_view text) : rest_(text), more_(!text.empty()) {}
+
+  [[nodiscard]] bool next(std::string_view& entry) {
+    if (!more_) return false;
+    const std::size_t comma = rest_.find(',');
+    entry = rest_.substr(0, comma);
+    more_ = comma != std::string_view::npos;
+    rest_.remove_prefix(more_ ? comma + 1 : rest_.size());
+    return true;
+  }
+
+ private:
+  std::string_view rest_;
+  bool more_;
+};
+
+int wholeNumber(std::string_view entry, std::string_view what) {
+  return toInt16(toDouble(entry), what);
+}
+
+std::string_view firstEntry(std::string_view list) {
+  return list.substr(0, list.find(','));
+}
+
+std::string_view lastEntry(std::string_view list) {
+  const std::size_t comma = list.rfind(',');
+  return comma == std::string_view::npos ? list : list.substr(comma + 1);
+}
+
+/// Reads one crop file over whatever the crop holds.
+void readCrop(Crop& crop, const fs::path& path) {
+  const std::string text = readFile(path);
+  crop.Custom = fs::absolute(path).string().find("custom") != std::string::npos;
+  LineReader lines(text);
+  const auto keyLine = [&] { return FileReader::parseEquals(lines.next()); };
+  const auto passOver = [&] { static_cast<void>(lines.next()); };
+
+  crop.cropType = keyLine();
+  passOver();
+  crop.cropUnits = keyLine();
+  ListReader units(crop.cropUnits);
+  crop.cropUnitsArray = {};
+  for (std::string& unit : crop.cropUnitsArray) {
+    std::string_view word;
+    if (units.next(word)) unit = word;
+  }
+  passOver();
+  const std::string_view rainfall = keyLine();
+  passOver();
+  const std::string_view irrigation = keyLine();
+  passOver();
+  crop.setYieldTable(FileReader::makeYieldArray(rainfall, irrigation, keyLine()));
+}
+
+std::shared_ptr<Crop> makeFallowCrop() {
+  auto fallow = std::make_shared<Crop>();
+  fallow->cropType = "Fallow";
+  return fallow;
+}
+
+}  // namespace
+
+std::string_view FileReader::parseEquals(std::string_view line) {
+  const std::size_t sign = line.find('=');
+  if (sign == std::string_view::npos) {
+    throw RunTimeError(ErrorNumber::invalidCall, "A line of a crop file has no \"=\".");
+  }
+  return line.substr(sign + 1);
+}
+
+YieldTable FileReader::makeYieldArray(std::string_view rainfall, std::string_view irrigation,
+                                      std::string_view values) {
+  const int firstRain = wholeNumber(firstEntry(rainfall), "The first rainfall");
+  const int lastRain = wholeNumber(lastEntry(rainfall), "The last rainfall");
+  const int maxIrrigation = wholeNumber(lastEntry(irrigation), "The last net irrigation");
+  if (lastRain >= maxTableSide || maxIrrigation >= maxTableSide) {
+    throw RunTimeError(ErrorNumber::subscript,
+                       "A yield table has at most " + std::to_string(maxTableSide) + " rows and columns.");
+  }
+  YieldTable table(maxIrrigation, firstRain, lastRain);
+  int row = 0;
+  int column = firstRain;
+  ListReader list(values);
+  for (std::string_view value; list.next(value);) {
+    table.setCell(row, column, Val(value));
+    if (column == lastRain) {
+      column = firstRain;
+      ++row;
+    } else {
+      ++column;
+    }
+  }
+  return table;
+}
+
+bool FileReader::Initialize() {
+  fileCollection.clear();
+  cropCollection = {};
+  fileDirectory = home_ / "crops";
+  fileCollection = listFiles(fileDirectory);
+  const std::size_t stockFiles = fileCollection.size();
+  fileDirectory /= "custom";
+  std::error_code error;
+  fs::create_directory(fileDirectory, error);
+  // In a home folder that cannot be written there are no custom crops, and the stock crops are there all the
+  // same.
+  if (fs::is_directory(fileDirectory, error)) {
+    for (fs::path& path : listFiles(fileDirectory))
+      fileCollection.push_back(std::move(path));
+  }
+
+  std::size_t position = 1;
+  auto crop = std::make_shared<Crop>();
+  for (const fs::path& path : fileCollection) {
+    try {
+      readCrop(*crop, path);
+    } catch (const RunTimeError&) {
+      continue;  // no crop: the next file is read over what this one has left
+    }
+    readSoils(*crop);
+    cropCollection.Add(crop);
+    if (position == stockFiles) cropCollection.Add(makeFallowCrop());
+    ++position;
+    crop = std::make_shared<Crop>();
+  }
+  return true;
+}
+
+void FileReader::readSoils(Crop& crop) const {
+  try {
+    fs::path file = home_ / "crops" / "soils" / "";
+    file +=
+        lowerCase(crop.cropType) + ".txt";  // appended as text: a name such as "/corn" stays in the folder
+    const std::string text = readFile(file);
+    LineReader lines(text);
+    for (long cells = 0; cells < maxSoilCells && !lines.atEnd();) {
+      const std::string name = lowerCase(parseEquals(lines.next()));
+      const std::string_view rainfall = parseEquals(lines.next());
+      const std::string_view irrigation = parseEquals(lines.next());
+      auto tables = std::make_shared<SoilTables>();
+      for (const char* key : {"yield", "relative"}) {
+        YieldTable table = makeYieldArray(rainfall, irrigation, parseEquals(lines.next()));
+        cells += (table.maxIrrigation() + 1L) * (table.lastRain() + 1L);
+        tables->emplace_back(key, std::make_shared<const YieldTable>(std::move(table)));
+      }
+      if (name == "ulysses") crop.soil_ulysses = tables;
+      if (name == "valent") crop.soil_valent = tables;
+      if (name == "valentine") crop.soil_valentine = tables;
+    }
+  } catch (const RunTimeError&) {
+    // No soils file, or one that is cut short: the crop keeps what has been read so far.
+  }
+}
+
+}  // namespace verdalis

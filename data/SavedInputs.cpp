@@ -1,0 +1,147 @@
+#include "data/SavedInputs.h"
+
+#include <string_view>
+#include <vector>
+
+#include "data/readFile.h"
+#include "data/writeFile.h"
+#include "text/RunTimeError.h"
+#include "text/encoding.h"
+#include "text/numbers.h"
+
+namespace verdalis {
+namespace {
+
+constexpr std::string_view trendToken = "batch_enabled";
+
+/// Takes the file apart into its free-form values.
+class ValueReader {
+ public:
+  explicit ValueReader(std::string_view text) : rest_(text) {}
+
+  [[nodiscard]] bool atEnd() const { return rest_.empty(); }
+
+  std::string_view next() {
+    if (rest_.empty()) throw RunTimeError(ErrorNumber::invalidCall, "The saved inputs end too early.");
+    const std::size_t start = rest_.find_first_not_of(" \t");
+    rest_.remove_prefix(start == std::string_view::npos ? rest_.size() : start);
+    const std::size_t end = rest_.find_first_of(",\r\n");
+    const std::string_view value = rest_.substr(0, end);
+    if (end == std::string_view::npos) {
+      rest_ = {};
+    } else {
+      rest_.remove_prefix(end + (rest_.substr(end, 2) == "\r\n" ? 2 : 1));
+    }
+    return value;
+  }
+
+  void read(std::string& field) { field = next(); }
+  void read(double& field) { field = Val(next()); }
+  void read(bool& field) { field = lowerCase(next()) == "true"; }
+  void read(Number& field) {
+    const std::string_view value = next();
+    if (value.empty()) {
+      field.clear();
+    } else {
+      field = Val(value);
+    }
+  }
+
+  template <class... Fields>
+  void readAll(Fields&... fields) {
+    (read(fields), ...);
+  }
+
+ private:
+  std::string_view rest_;
+};
+
+void readCropBlock(ValueReader& values, Crop& crop) {
+  inputCosts& costs = crop.inputCosts;
+  values.readAll(crop.price, crop.maxYield, costs.NitrogenCost, costs.NitrogenApplied, costs.NOptimal,
+                 costs.PCost, costs.PApplied, costs.POptimal, costs.SeedCost, costs.SeedRate,
+                 costs.SeedOptimal, costs.Herbicide, costs.Insecticide, costs.Tillage, costs.Planting,
+                 costs.HerbicideApplication, costs.InsecticideApplication, costs.Returns,
+                 costs.HarvestBasePerAcre, costs.HarvestExceedBu, costs.HarvestExceedRate,
+                 costs.HarvestHauling, costs.HarvestFlatRate, costs.AlfalfaSwathing, costs.AlfalfaSwathingNum,
+                 costs.AlfalfaRaking, costs.AlfalfaRakingNum, costs.AlfalfaBaling, costs.AlfalfaBalingNum,
+                 costs.AlfalfaPerTon, costs.AlfalfaStand, costs.MiscCost, costs.FertilizerApplication);
+}
+
+/// The row that the block of a crop name is for: the first of that name that has not had one yet, so that two
+/// crops of one name get a block each; once all have had theirs, the first.
+Crop* rowFor(std::string_view name, const std::vector<std::shared_ptr<Crop>>& rows,
+             std::vector<bool>& filled) {
+  Crop* first = nullptr;
+  for (std::size_t i = 0; i < rows.size(); ++i) {
+    if (!rows[i] || rows[i]->cropType != name) continue;
+    if (!filled[i]) {
+      filled[i] = true;
+      return rows[i].get();
+    }
+    if (first == nullptr) first = rows[i].get();
+  }
+  return first;
+}
+
+void putPlantIntoControls(const IrrigationCosts& plant, InputControls& controls) {
+  controls.setText("txtGPM", generalText(plant.GPM));
+  controls.setText("txtEstHours", generalText(plant.dblEstHours));
+  controls.setText("txtLift", generalText(plant.Lift));
+  controls.setText("txtPSI", generalText(plant.PSI));
+  controls.setText("cboFuelType", plant.FuelType);
+  controls.setText("txtCost", generalText(plant.cost));
+  controls.setText("txtLaborPerHour", generalText(plant.LaborPerHour));
+  controls.setText("txtRepairsPerAcre", generalText(plant.RepairsPerAcreInch));
+}
+
+void readInto(std::string_view text, SavedInputsTarget& target) {
+  ValueReader values(text);
+  GeneralInputs& general = target.generalInputs();
+  values.readAll(general.splitIndex, general.totalAcres, general.waterAllocation, general.irrigEff,
+                 general.annualRain);
+  IrrigationCosts& plant = target.tempIrrigationCosts();
+  values.readAll(plant.GPM, plant.Lift, plant.PSI, plant.LaborPerHour, plant.FixedPerAcre,
+                 plant.RepairsPerAcreInch, plant.NPC, plant.cost, plant.active, plant.FuelType,
+                 plant.dblEstHours);
+  general.setData(target);
+  putPlantIntoControls(plant, target);
+
+  std::vector<bool> filled(target.rowCrops().size());
+  while (!values.atEnd()) {
+    const std::string_view token = values.next();
+    if (token == trendToken) {
+      target.setTrendEnabled();
+    } else if (Crop* crop = rowFor(token, target.rowCrops(), filled)) {
+      readCropBlock(values, *crop);
+    }
+  }
+  target.refreshRows();
+}
+
+}  // namespace
+
+bool saveInputs(const std::filesystem::path& file, const GeneralInputs& general, const IrrigationCosts& plant,
+                const CropScenario& cropCollection, bool trendEnabled) {
+  std::string text = general.writeData() + "\r\n" + plant.writeData() + "\r\n";
+  for (const auto& crop : cropCollection)
+    text += crop->writeData() + "\r\n";
+  if (trendEnabled) text += std::string(trendToken) + "\r\n";
+  try {
+    writeFile(file, text);
+    return true;
+  } catch (const RunTimeError&) {
+    return false;
+  }
+}
+
+bool loadInputs(const std::filesystem::path& file, SavedInputsTarget& target) {
+  try {
+    readInto(readFile(file), target);
+    return true;
+  } catch (const RunTimeError&) {
+    return false;  // what has been read so far stays in force
+  }
+}
+
+}  // namespace verdalis

@@ -1,0 +1,107 @@
+#include "data/writeFile.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <optional>
+#include <string>
+#include <system_error>
+
+#include "text/RunTimeError.h"
+
+namespace verdalis {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// A file that is being written. Until keep() it is removed again.
+class TemporaryFile {
+ public:
+  TemporaryFile(const fs::path& beside, mode_t mode) : name_(beside.string() + ".XXXXXX") {
+    descriptor_ = ::mkstemp(name_.data());
+    if (descriptor_ >= 0 && ::fchmod(descriptor_, mode) != 0) close();
+  }
+  TemporaryFile(const TemporaryFile&) = delete;
+  TemporaryFile& operator=(const TemporaryFile&) = delete;
+  ~TemporaryFile() { close(); }
+
+  [[nodiscard]] bool write(std::string_view bytes) const {
+    while (descriptor_ >= 0 && !bytes.empty()) {
+      const ssize_t written = ::write(descriptor_, bytes.data(), bytes.size());
+      if (written < 0 && errno == EINTR) continue;
+      if (written < 0) return false;
+      bytes.remove_prefix(static_cast<std::size_t>(written));
+    }
+    return descriptor_ >= 0 && ::fsync(descriptor_) == 0;
+  }
+
+  [[nodiscard]] bool moveTo(const fs::path& target) {
+    if (::rename(name_.c_str(), target.c_str()) != 0) return false;
+    ::close(descriptor_);
+    descriptor_ = -1;
+    return true;
+  }
+
+ private:
+  void close() {
+    if (descriptor_ < 0) return;
+    const int cause = errno;  // the reason of the failure outlives the cleaning up
+    ::close(descriptor_);
+    ::unlink(name_.c_str());
+    descriptor_ = -1;
+    errno = cause;
+  }
+
+  std::string name_;
+  int descriptor_ = -1;
+};
+
+mode_t modeFor(const fs::path& target) {
+  struct stat status {};
+  if (::stat(target.c_str(), &status) == 0) return status.st_mode & 07777U;
+  const mode_t mask = ::umask(0);
+  ::umask(mask);
+  return 0666U & ~mask;
+}
+
+/// The file that a path stands for behind all links, whether it exists or not.
+/// Nothing when the links form a circle.
+std::optional<fs::path> behindLinks(fs::path path) {
+  constexpr int mostLinks = 40;
+  std::error_code error;
+  for (int links = 0; links < mostLinks; ++links) {
+    if (!fs::is_symlink(path, error)) return path;
+    path = path.parent_path() / fs::read_symlink(path, error);
+  }
+  return std::nullopt;
+}
+
+/// Why a file must not be replaced; 0 when it may.
+int reasonToRefuse(const fs::path& target) {
+  std::error_code error;
+  const fs::file_status status = fs::status(target, error);
+  if (!fs::exists(status)) return 0;
+  if (fs::is_directory(status)) return EISDIR;
+  // A device or a pipe is no place of a file, and renaming a file over it would destroy it.
+  if (!fs::is_regular_file(status)) return ENXIO;
+  // A file that its owner has protected is not replaced behind his back.
+  return ::access(target.c_str(), W_OK) == 0 ? 0 : errno;
+}
+
+}  // namespace
+
+void writeFile(const fs::path& path, std::string_view bytes) {
+  const std::optional<fs::path> target = behindLinks(path);
+  int reason = target ? reasonToRefuse(*target) : ELOOP;
+  if (reason == 0) {
+    TemporaryFile file(*target, modeFor(*target));
+    if (file.write(bytes) && file.moveTo(*target)) return;
+    reason = errno;
+  }
+  throw RunTimeError(ErrorNumber::fileNotFound, "The file " + path.string() + " cannot be written: " +
+                                                    std::generic_category().message(reason) + ".");
+}
+
+}  // namespace verdalis
