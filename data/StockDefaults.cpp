@@ -20,13 +20,13 @@ constexpr std::array<StockPrice, 6> prices{
     {{85, 10}, {6.2, 75}, {6.52, 220}, {0.2, 3500}, {5.75, 120}, {10.22, 65}}};
 
 struct CostRow {
-  double inputCosts::*field;
-  Row values;
+  double inputCosts::*field = nullptr;
+  Row values{};
 };
 
 struct NumberRow {
-  Number inputCosts::*field;
-  Row values;
+  Number inputCosts::*field = nullptr;
+  Row values{};
 };
 
 // Crop budgets of the central High Plains, $ per unit; the columns as above.

@@ -1,9 +1,24 @@
 #include "model/Field.h"
 
+#include <string_view>
+
 #include "model/checked.h"
 #include "text/numbers.h"
 
 namespace verdalis {
+namespace {
+
+/// The first characters of a UTF-8 text; a character is never cut.
+std::string_view firstCharacters(std::string_view text, std::size_t count) {
+  std::size_t end = 0;
+  for (; end < text.size(); ++end) {
+    const bool begins = (static_cast<unsigned char>(text[end]) & 0xC0U) != 0x80U;
+    if (begins && count-- == 0) break;
+  }
+  return text.substr(0, end);
+}
+
+}  // namespace
 
 std::string Field::toString() {
   const double costs = getCosts();
@@ -11,8 +26,8 @@ std::string Field::toString() {
   const double irrigation = irrigCosts->getCosts(Depth, acres);
   const double landUsage = theCrop->inputCosts.getReturns(acres);
   return generalText(acres) + " ac.\t" + formatNumber(Depth, "###,##0.00") + "'' Net Irrig Water, \t" +
-         theCrop->cropType.substr(0, 7) + " Yield = " + theCrop->yieldToString() + "\tTotal Costs = $" +
-         formatNumber(costs, "###,###,#00.##") + "\t\tTotal Returns = $" +
+         std::string(firstCharacters(theCrop->cropType, 7)) + " Yield = " + theCrop->yieldToString() +
+         "\tTotal Costs = $" + formatNumber(costs, "###,###,#00.##") + "\t\tTotal Returns = $" +
          formatNumber(returns, "###,###,##0.##") +
          "\r\nGross Irrig Water = " + formatNumber(grossFromNet(Depth), "#,##0.00") +
          "''\r\nTotal Water Pumping Cost : $" + formatNumber(irrigation, "###,###,000") +

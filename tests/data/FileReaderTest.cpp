@@ -1,0 +1,299 @@
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <array>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "data/FileReader.h"
+#include "tests/data/CropLibrary.h"
+#include "tests/data/Failure.h"
+#include "tests/data/OrdinaryUser.h"
+#include "tests/data/PlainCropReader.h"
+#include "text/RunTimeError.h"
+
+namespace verdalis {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::asOrdinaryUser;
+using testing::CropLibrary;
+using testing::failureOf;
+using testing::smallCrop;
+using Names = std::vector<std::string>;
+
+TEST(FileReader, GivesStockCropsThenFallowThenCustomCrops) {
+  const CropLibrary library;
+  library.stock("b.txt", smallCrop("Beans"));
+  library.stock("a.txt", smallCrop("Alfalfa"));
+  library.custom("a.txt", smallCrop("Mine"));
+  library.custom("b.txt", smallCrop("Yours"));
+  EXPECT_EQ(library.names(), (Names{"Alfalfa", "Beans", "Fallow", "Mine", "Yours"}));
+}
+
+TEST(FileReader, ReturnsTrueAndTellsFoldersAndFiles) {
+  const CropLibrary library;
+  library.stock("b.txt", smallCrop("Beans"));
+  library.stock("a", "no crop");
+  library.custom("c.txt", smallCrop("Mine"));
+  FileReader reader(library.home());
+  EXPECT_TRUE(reader.Initialize());
+  EXPECT_EQ(reader.fileDirectory, library.home() / "crops/custom");
+  EXPECT_EQ(reader.fileCollection,
+            (std::vector<fs::path>{library.home() / "crops/a", library.home() / "crops/b.txt",
+                                   library.home() / "crops/custom/c.txt"}));
+}
+
+TEST(FileReader, SortsByNameIgnoringCase) {
+  const CropLibrary library;
+  for (const char* name : {"Zinnia", "alfa", "BEANS", "corn", "Corn2", "10", "9", "_x", "Aa"})
+    library.stock(name, smallCrop(name));
+  EXPECT_EQ(library.names(),
+            (Names{"10", "9", "_x", "Aa", "alfa", "BEANS", "corn", "Corn2", "Zinnia", "Fallow"}));
+}
+
+TEST(FileReader, TakesEveryFileWhateverItsName) {
+  const CropLibrary library;
+  library.stock(".hidden", smallCrop("Hidden"));
+  library.stock("no extension", smallCrop("None"));
+  library.stock("page.html", smallCrop("Page"));
+  library.stock("Ma\xEFs.txt~", smallCrop("Backup"));
+  library.custom(".hidden", smallCrop("Mine"));
+  EXPECT_EQ(library.names(), (Names{"Hidden", "Backup", "None", "Page", "Fallow", "Mine"}));
+}
+
+TEST(FileReader, HiddenFilesThatAreNoCropsCountToo) {
+  const CropLibrary library;
+  library.stock(".DS_Store", "x");
+  library.stock("corn.txt", smallCrop("Corn"));
+  EXPECT_EQ(library.names(), Names{"Corn"});
+}
+
+TEST(FileReader, PassesFoldersOver) {
+  const CropLibrary library;
+  library.stock("corn.txt", smallCrop("Corn"));
+  library.stock("archive/old.txt", smallCrop("Old"));
+  library.soils("corn.txt", "");
+  library.custom("archive/old.txt", smallCrop("Old"));
+  fs::create_directory_symlink("archive", library.home() / "crops/link");
+  EXPECT_EQ(library.names(), (Names{"Corn", "Fallow"}));
+}
+
+TEST(FileReader, ReadsLinkedFiles) {
+  const CropLibrary library;
+  library.folder().write("elsewhere.txt", smallCrop("Corn"));
+  fs::create_symlink("../elsewhere.txt", library.home() / "crops/corn.txt");
+  EXPECT_EQ(library.names(), (Names{"Corn", "Fallow"}));
+}
+
+TEST(FileReader, ABrokenLinkIsAFileThatCannotBeRead) {
+  const CropLibrary library;
+  library.stock("corn.txt", smallCrop("Corn"));
+  fs::create_symlink("nowhere", library.home() / "crops/link");
+  EXPECT_EQ(library.names(), Names{"Corn"});
+}
+
+TEST(FileReader, MakesTheFolderOfCustomCrops) {
+  const CropLibrary library;
+  library.stock("corn.txt", smallCrop("Corn"));
+  EXPECT_EQ(library.names(), (Names{"Corn", "Fallow"}));
+  EXPECT_TRUE(fs::is_directory(library.home() / "crops/custom"));
+  EXPECT_EQ(library.names(), (Names{"Corn", "Fallow"})) << "with an empty folder of custom crops";
+}
+
+// Fallow comes behind the last stock file that counts; no file, no Fallow.
+TEST(FileReader, HasNoFallowWithoutStockFiles) {
+  const CropLibrary library;
+  EXPECT_EQ(library.names(), Names{});
+  library.custom("a.txt", smallCrop("Mine"));
+  EXPECT_EQ(library.names(), Names{"Mine"});
+}
+
+TEST(FileReader, FallowHasNoUnitsAndNoTable) {
+  const CropLibrary library;
+  library.stock("corn.txt", smallCrop("Corn"));
+  const auto reader = library.read();
+  const Crop& fallow = *reader.cropCollection.Item(2);
+  EXPECT_EQ(fallow.cropType, "Fallow");
+  EXPECT_EQ(fallow.cropUnits, "");
+  EXPECT_EQ(fallow.cropUnitsArray, (std::array<std::string, 2>{"", ""}));
+  EXPECT_EQ(fallow.yieldTable, nullptr);
+  EXPECT_FALSE(fallow.Custom);
+}
+
+TEST(FileReader, ABadFileKeepsFallowWaitingForOneMore) {
+  const CropLibrary library;
+  library.stock("a.txt", smallCrop("A"));
+  library.stock("b.txt", "no crop");
+  library.stock("c.txt", smallCrop("C"));
+  EXPECT_EQ(library.names(), (Names{"A", "C"})) << "and without one more there is no Fallow";
+  library.custom("a.txt", smallCrop("Mine"));
+  EXPECT_EQ(library.names(), (Names{"A", "C", "Mine", "Fallow"}));
+  library.custom("b.txt", smallCrop("Yours"));
+  EXPECT_EQ(library.names(), (Names{"A", "C", "Mine", "Fallow", "Yours"}));
+}
+
+TEST(FileReader, ABadLastStockFileDoesTheSame) {
+  const CropLibrary library;
+  library.stock("a.txt", smallCrop("A"));
+  library.stock("z.txt", "no crop");
+  EXPECT_EQ(library.names(), Names{"A"});
+  library.custom("a.txt", smallCrop("Mine"));
+  EXPECT_EQ(library.names(), (Names{"A", "Mine", "Fallow"}));
+}
+
+TEST(FileReader, TwoBadFilesKeepFallowWaitingForTwo) {
+  const CropLibrary library;
+  library.stock("a.txt", "");
+  library.stock("b.txt", smallCrop("B"));
+  library.stock("c.txt", "CROP=C\r\n");
+  for (const char* name : {"1", "2", "3"})
+    library.custom(name, smallCrop(name));
+  EXPECT_EQ(library.names(), (Names{"B", "1", "2", "Fallow", "3"}));
+}
+
+TEST(FileReader, ABadCustomFileIsPassedOver) {
+  const CropLibrary library;
+  library.stock("a.txt", smallCrop("A"));
+  library.custom("a.txt", "no crop");
+  library.custom("b.txt", smallCrop("Mine"));
+  EXPECT_EQ(library.names(), (Names{"A", "Fallow", "Mine"}));
+}
+
+// The next file is read over what a bad one has left, and nothing of the bad one stays.
+TEST(FileReader, ACropBehindABadFileIsItsOwn) {
+  const std::string bad =
+      "CROP=Bad\r\n\r\nUNITS=ton,tons,more\r\n\r\nANNUAL_RAIN=1,2\r\n\r\nEFF_IRRIG=0,1\r\n\r\nYIELD_VALUES=9,"
+      "9,9,9\r\n";
+  const std::string good = smallCrop("Good");
+  const auto lines = testing::plainLines(bad);
+  for (std::size_t kept = 0; kept < lines.size(); ++kept) {
+    const CropLibrary library;
+    std::string cut;
+    for (std::size_t i = 0; i < kept; ++i)
+      cut += lines[i] + "\r\n";
+    library.stock("a.txt", cut);
+    library.stock("b.txt", good);
+    library.stock("c.txt", smallCrop("Other"));
+    const auto reader = library.read();
+    ASSERT_EQ(reader.cropCollection.Count(), 2) << kept << " lines";
+    EXPECT_EQ(testing::plainCrop(*reader.cropCollection.Item(1)), testing::plainCrop(good))
+        << kept << " lines";
+  }
+}
+
+TEST(FileReader, ASingleUnitBehindABadFileHasNoPluralOfThat) {
+  const CropLibrary library;
+  library.stock("a.txt", "CROP=Bad\r\n\r\nUNITS=ton,tons\r\n");
+  std::string single = smallCrop("Good");
+  single.erase(single.find(",bushels"), 8);
+  library.stock("b.txt", single);
+  const auto reader = library.read();
+  EXPECT_EQ(reader.cropCollection.Item(1)->cropUnitsArray, (std::array<std::string, 2>{"bu.", ""}));
+}
+
+TEST(FileReader, DoesNotWaitForAPipe) {
+  const CropLibrary library;
+  library.stock("a.txt", smallCrop("A"));
+  library.custom("b.txt", smallCrop("B"));
+  ASSERT_EQ(::mkfifo((library.home() / "crops/pipe").c_str(), 0600), 0);
+  ASSERT_EQ(::mkfifo((library.home() / "crops/custom/pipe").c_str(), 0600), 0);
+  fs::create_directory(library.home() / "crops/soils");
+  ASSERT_EQ(::mkfifo((library.home() / "crops/soils/a.txt").c_str(), 0600), 0);
+  EXPECT_EQ(library.names(), (Names{"A", "B", "Fallow"}));
+}
+
+TEST(FileReader, EveryCallStartsAnew) {
+  const CropLibrary library;
+  library.stock("corn.txt", smallCrop("Corn"));
+  FileReader reader(library.home());
+  reader.Initialize();
+  const auto corn = reader.cropCollection.Item(1);
+  corn->price = 5;
+  library.custom("a.txt", smallCrop("Mine"));
+  reader.Initialize();
+  ASSERT_EQ(reader.cropCollection.Count(), 3);
+  EXPECT_EQ(reader.fileCollection.size(), 2U);
+  EXPECT_NE(reader.cropCollection.Item(1), corn);
+  EXPECT_EQ(reader.cropCollection.Item(1)->price, 0);
+}
+
+TEST(FileReader, TellsAMissingFolderOfCropsWithItsPath) {
+  const testing::TemporaryFolder home;
+  FileReader reader(home.path());
+  const auto text = failureOf(ErrorNumber::fileNotFound, [&] { reader.Initialize(); });
+  EXPECT_NE(text.find((home / "crops").string()), std::string::npos) << text;
+  EXPECT_EQ(reader.cropCollection.Count(), 0);
+}
+
+TEST(FileReader, TellsAFileInThePlaceOfTheFolderOfCrops) {
+  const testing::TemporaryFolder home;
+  home.write("crops", smallCrop("Corn"));
+  FileReader reader(home.path());
+  const auto text = failureOf(ErrorNumber::fileNotFound, [&] { reader.Initialize(); });
+  EXPECT_NE(text.find((home / "crops").string()), std::string::npos) << text;
+}
+
+TEST(FileReader, ForgetsTheOldCropsWhenTheFolderHasGone) {
+  const CropLibrary library;
+  library.stock("corn.txt", smallCrop("Corn"));
+  FileReader reader(library.home());
+  reader.Initialize();
+  fs::remove_all(library.home() / "crops");
+  static_cast<void>(failureOf(ErrorNumber::fileNotFound, [&] { reader.Initialize(); }));
+  EXPECT_EQ(reader.cropCollection.Count(), 0);
+  EXPECT_TRUE(reader.fileCollection.empty());
+}
+
+TEST(FileReader, TellsAFolderOfCropsThatCannotBeRead) {
+  const CropLibrary library;
+  library.stock("corn.txt", smallCrop("Corn"));
+  openToAll(library.folder());
+  fs::permissions(library.home() / "crops", fs::perms::none);
+  const auto told = asOrdinaryUser([&] {
+    try {
+      static_cast<void>(library.read());
+    } catch (const RunTimeError& error) {
+      return error.number() == ErrorNumber::fileNotFound &&
+             std::string(error.what()).find((library.home() / "crops").string()) != std::string::npos;
+    }
+    return false;
+  });
+  if (!told) GTEST_SKIP() << "root, and no other user at hand";
+  EXPECT_TRUE(*told);
+}
+
+TEST(FileReader, ACropFileThatCannotBeReadIsPassedOver) {
+  const CropLibrary library;
+  library.stock("corn.txt", smallCrop("Corn"));
+  library.stock("secret.txt", smallCrop("Secret"));
+  library.custom("a.txt", smallCrop("Mine"));
+  openToAll(library.folder());
+  fs::permissions(library.home() / "crops/secret.txt", fs::perms::none);
+  const auto passed = asOrdinaryUser([&] { return library.names() == Names{"Corn", "Mine", "Fallow"}; });
+  if (!passed) GTEST_SKIP() << "root, and no other user at hand";
+  EXPECT_TRUE(*passed);
+}
+
+TEST(FileReader, AHomeFolderThatCannotBeWrittenHasItsStockCrops) {
+  const CropLibrary library;
+  library.stock("corn.txt", smallCrop("Corn"));
+  openToAll(library.folder());
+  fs::permissions(library.home() / "crops", static_cast<fs::perms>(0555));
+  const auto there = asOrdinaryUser([&] { return library.names() == Names{"Corn", "Fallow"}; });
+  if (!there) GTEST_SKIP() << "root, and no other user at hand";
+  EXPECT_TRUE(*there);
+  EXPECT_FALSE(fs::exists(library.home() / "crops/custom"));
+}
+
+TEST(FileReader, ManyFilesOfOneNameAreManyCrops) {
+  const CropLibrary library;
+  library.stock("a.txt", smallCrop("Corn"));
+  library.stock("A.txt", smallCrop("Corn"));
+  library.custom("a.txt", smallCrop("Fallow"));
+  EXPECT_EQ(library.names(), (Names{"Corn", "Corn", "Fallow", "Fallow"}));
+}
+
+}  // namespace
+}  // namespace verdalis

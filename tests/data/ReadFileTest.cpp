@@ -1,0 +1,155 @@
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "data/readFile.h"
+#include "tests/data/Failure.h"
+#include "tests/data/OrdinaryUser.h"
+#include "tests/support/TemporaryFolder.h"
+#include "text/RunTimeError.h"
+
+namespace verdalis {
+namespace {
+
+using testing::asOrdinaryUser;
+using testing::failureOf;
+using testing::TemporaryFolder;
+
+void expectUnreadable(const std::filesystem::path& path) {
+  const auto text = failureOf(ErrorNumber::fileNotFound, [&] { static_cast<void>(readFile(path)); });
+  EXPECT_NE(text.find(path.string()), std::string::npos) << text;
+}
+
+TEST(ReadFile, GivesTheBytesOfUtf8AsTheyStand) {
+  const TemporaryFolder folder;
+  const std::string bytes("Ma\xC3\xAFs, \xE2\x82\xAC 5\r\n\0x\t\n", 18);
+  EXPECT_EQ(readFile(folder.write("a.txt", bytes)), bytes);
+}
+
+TEST(ReadFile, DropsAByteOrderMark) {
+  const TemporaryFolder folder;
+  EXPECT_EQ(readFile(folder.write("a.txt",
+                                  "\xEF\xBB\xBF"
+                                  "CROP=Corn")),
+            "CROP=Corn");
+  EXPECT_EQ(readFile(folder.write("a.txt", "\xEF\xBB\xBF")), "");
+}
+
+TEST(ReadFile, ReadsOtherBytesAsWindows1252) {
+  const TemporaryFolder folder;
+  EXPECT_EQ(readFile(folder.write("a.txt", "Ma\xEFs \x80")), "Ma\xC3\xAFs \xE2\x82\xAC");
+}
+
+TEST(ReadFile, GivesNothingForAnEmptyFile) {
+  const TemporaryFolder folder;
+  EXPECT_EQ(readFile(folder.write("a.txt", "")), "");
+}
+
+TEST(ReadFile, FollowsALink) {
+  const TemporaryFolder folder;
+  folder.write("a.txt", "here");
+  std::filesystem::create_symlink("a.txt", folder / "link");
+  EXPECT_EQ(readFile(folder / "link"), "here");
+}
+
+TEST(ReadFile, FailsWithThePathForWhatIsNoOrdinaryFile) {
+  const TemporaryFolder folder;
+  expectUnreadable(folder / "missing.txt");
+  expectUnreadable(folder.path());
+  expectUnreadable(folder.write("a.txt", "x") / "below a file.txt");
+  expectUnreadable(folder / std::string(300, 'n'));
+  expectUnreadable("");
+  std::filesystem::create_symlink("nowhere", folder / "broken");
+  expectUnreadable(folder / "broken");
+  std::filesystem::create_symlink("circle", folder / "circle");
+  expectUnreadable(folder / "circle");
+  expectUnreadable("/dev/zero");
+  expectUnreadable("/dev/null");
+}
+
+TEST(ReadFile, DoesNotWaitForAPipe) {
+  const TemporaryFolder folder;
+  ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
+  expectUnreadable(folder / "pipe");
+}
+
+TEST(ReadFile, FailsForAFileBeyondTheLimit) {
+  const TemporaryFolder folder;
+  const auto file = folder.write("large.txt", "");
+  std::filesystem::resize_file(file, maxFileSize + 1);  // takes no room on the disk
+  expectUnreadable(file);
+}
+
+TEST(ReadFile, ReadsAFileOfManyMegabytes) {
+  const TemporaryFolder folder;
+  std::string bytes;
+  bytes.resize(20'000'000, 'x');
+  EXPECT_TRUE(readFile(folder.write("a.txt", bytes)) == bytes);
+}
+
+TEST(ReadFile, FailsWithoutThePermissionToRead) {
+  const TemporaryFolder folder;
+  const auto file = folder.write("a.txt", "secret");
+  openToAll(folder);
+  std::filesystem::permissions(file, std::filesystem::perms::none);
+  const auto failed = asOrdinaryUser([&] {
+    try {
+      static_cast<void>(readFile(file));
+    } catch (const RunTimeError& error) {
+      return error.number() == ErrorNumber::fileNotFound;
+    }
+    return false;
+  });
+  if (!failed) GTEST_SKIP() << "root, and no other user at hand";
+  EXPECT_TRUE(*failed);
+}
+
+std::vector<std::string> linesOf(std::string_view text) {
+  LineReader reader(text);
+  std::vector<std::string> lines;
+  while (!reader.atEnd())
+    lines.emplace_back(reader.next());
+  return lines;
+}
+
+using Lines = std::vector<std::string>;
+
+TEST(LineReader, TakesEachOfTheThreeLineEnds) {
+  EXPECT_EQ(linesOf("a\r\nb\r\n"), (Lines{"a", "b"}));
+  EXPECT_EQ(linesOf("a\nb\n"), (Lines{"a", "b"}));
+  EXPECT_EQ(linesOf("a\rb\r"), (Lines{"a", "b"}));
+  EXPECT_EQ(linesOf("a\rb\nc\r\nd"), (Lines{"a", "b", "c", "d"}));
+}
+
+TEST(LineReader, KeepsEmptyLines) {
+  EXPECT_EQ(linesOf("\r\n\r\n"), (Lines{"", ""}));
+  EXPECT_EQ(linesOf("\n\na"), (Lines{"", "", "a"}));
+  EXPECT_EQ(linesOf("\r\r"), (Lines{"", ""}));
+  EXPECT_EQ(linesOf("a\n\rb"), (Lines{"a", "", "b"}));
+  EXPECT_EQ(linesOf("a\r\r\nb"), (Lines{"a", "", "b"}));
+}
+
+TEST(LineReader, TakesALastLineWithoutAnEnd) {
+  EXPECT_EQ(linesOf("a"), (Lines{"a"}));
+  EXPECT_EQ(linesOf("a\r\n "), (Lines{"a", " "}));
+  EXPECT_EQ(linesOf(""), Lines{});
+}
+
+TEST(LineReader, KeepsBlanksAndZeroBytes) {
+  EXPECT_EQ(linesOf(std::string_view(" a\0b \t\r\n", 8)), (Lines{std::string(" a\0b \t", 6)}));
+}
+
+TEST(LineReader, FailsAtTheEnd) {
+  LineReader reader("a\r\n");
+  EXPECT_EQ(reader.next(), "a");
+  EXPECT_TRUE(reader.atEnd());
+  static_cast<void>(failureOf(ErrorNumber::invalidCall, [&] { static_cast<void>(reader.next()); }));
+  LineReader empty("");
+  static_cast<void>(failureOf(ErrorNumber::invalidCall, [&] { static_cast<void>(empty.next()); }));
+}
+
+}  // namespace
+}  // namespace verdalis

@@ -1,0 +1,240 @@
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+#include <csignal>
+#include <filesystem>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "data/writeFile.h"
+#include "tests/data/Failure.h"
+#include "tests/data/OrdinaryUser.h"
+#include "tests/support/TemporaryFolder.h"
+#include "text/RunTimeError.h"
+
+namespace verdalis {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::asOrdinaryUser;
+using testing::failureOf;
+using testing::openToAll;
+using testing::TemporaryFolder;
+
+using Names = std::vector<std::string>;
+
+void expectNotWritten(const fs::path& path) {
+  const auto text = failureOf(ErrorNumber::fileNotFound, [&] { writeFile(path, "new"); });
+  EXPECT_NE(text.find(path.string()), std::string::npos) << text;
+}
+
+/// While it lives, no file of this process can grow beyond `bytes`: a write beyond fails halfway, as on a
+/// full disk.
+class FullDisk {
+ public:
+  explicit FullDisk(rlim_t bytes) {
+    if (::getrlimit(RLIMIT_FSIZE, &before_) != 0) throw std::runtime_error("no limit");
+    handler_ = std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit limit{bytes, before_.rlim_max};
+    if (::setrlimit(RLIMIT_FSIZE, &limit) != 0) throw std::runtime_error("no limit");
+  }
+  FullDisk(const FullDisk&) = delete;
+  FullDisk& operator=(const FullDisk&) = delete;
+  ~FullDisk() {
+    ::setrlimit(RLIMIT_FSIZE, &before_);
+    std::signal(SIGXFSZ, handler_);
+  }
+
+ private:
+  rlimit before_{};
+  void (*handler_)(int) = nullptr;
+};
+
+TEST(WriteFile, MakesANewFile) {
+  const TemporaryFolder folder;
+  const std::string bytes("one\r\ntwo\n\0\xFF", 11);
+  writeFile(folder / "a.txt", bytes);
+  EXPECT_EQ(folder.read("a.txt"), bytes);
+  EXPECT_EQ(folder.names(), Names{"a.txt"});
+}
+
+TEST(WriteFile, ReplacesAFileAsAWhole) {
+  const TemporaryFolder folder;
+  folder.write("a.txt", "a long old text");
+  writeFile(folder / "a.txt", "new");
+  EXPECT_EQ(folder.read("a.txt"), "new");
+  writeFile(folder / "a.txt", "");
+  EXPECT_EQ(folder.read("a.txt"), "");
+  EXPECT_EQ(folder.names(), Names{"a.txt"});
+}
+
+TEST(WriteFile, WritesManyMegabytes) {
+  const TemporaryFolder folder;
+  std::string bytes;
+  bytes.resize(9'000'001, 'z');
+  writeFile(folder / "a.txt", bytes);
+  EXPECT_TRUE(folder.read("a.txt") == bytes);
+}
+
+// Whoever reads the old file goes on reading it: it is replaced and not written over.
+TEST(WriteFile, LeavesTheOldFileToItsReaders) {
+  const TemporaryFolder folder;
+  folder.write("a.txt", "old");
+  fs::create_hard_link(folder / "a.txt", folder / "reader");
+  writeFile(folder / "a.txt", "new");
+  EXPECT_EQ(folder.read("reader"), "old");
+  EXPECT_EQ(folder.read("a.txt"), "new");
+}
+
+TEST(WriteFile, TakesANameWithoutAFolder) {
+  const TemporaryFolder folder;
+  const fs::path before = fs::current_path();
+  fs::current_path(folder.path());
+  writeFile("a.txt", "here");
+  fs::current_path(before);
+  EXPECT_EQ(folder.read("a.txt"), "here");
+}
+
+TEST(WriteFile, KeepsThePermissions) {
+  const TemporaryFolder folder;
+  for (const unsigned mode : {0600U, 0640U, 0644U, 0660U, 0666U, 0755U}) {
+    fs::permissions(folder.write("a.txt", "old"), static_cast<fs::perms>(mode));
+    writeFile(folder / "a.txt", "new");
+    EXPECT_EQ(static_cast<unsigned>(fs::status(folder / "a.txt").permissions()), mode);
+  }
+}
+
+TEST(WriteFile, GivesANewFileThePermissionsThatTheMaskAllows) {
+  const TemporaryFolder folder;
+  const mode_t before = ::umask(027);
+  writeFile(folder / "a.txt", "new");
+  const mode_t kept = ::umask(before);
+  EXPECT_EQ(static_cast<unsigned>(fs::status(folder / "a.txt").permissions()), 0640U);
+  EXPECT_EQ(kept, 027U) << "the mask of the process has changed";
+}
+
+TEST(WriteFile, FollowsLinks) {
+  const TemporaryFolder folder;
+  folder.write("real/a.txt", "old");
+  fs::create_symlink("real/a.txt", folder / "link");
+  fs::create_symlink(folder / "link", folder / "link of a link");
+  writeFile(folder / "link of a link", "new");
+  EXPECT_EQ(folder.read("real/a.txt"), "new");
+  EXPECT_TRUE(fs::is_symlink(folder / "link"));
+  EXPECT_TRUE(fs::is_symlink(folder / "link of a link"));
+  EXPECT_EQ(folder.names("real"), Names{"a.txt"});
+}
+
+TEST(WriteFile, FollowsALinkToAFileThatIsYetToCome) {
+  const TemporaryFolder folder;
+  fs::create_directory(folder / "real");
+  fs::create_symlink("real/a.txt", folder / "link");
+  writeFile(folder / "link", "new");
+  EXPECT_EQ(folder.read("real/a.txt"), "new");
+  EXPECT_TRUE(fs::is_symlink(folder / "link"));
+}
+
+TEST(WriteFile, FollowsALinkOfAFolder) {
+  const TemporaryFolder folder;
+  fs::create_directory(folder / "real");
+  fs::create_directory_symlink("real", folder / "link");
+  writeFile(folder / "link/a.txt", "new");
+  EXPECT_EQ(folder.read("real/a.txt"), "new");
+}
+
+TEST(WriteFile, FailsForLinksInACircle) {
+  const TemporaryFolder folder;
+  fs::create_symlink("two", folder / "one");
+  fs::create_symlink("one", folder / "two");
+  expectNotWritten(folder / "one");
+  EXPECT_EQ(folder.names(), (Names{"one", "two"}));
+  EXPECT_TRUE(fs::is_symlink(folder / "one"));
+}
+
+TEST(WriteFile, FailsWithoutAFolderForIt) {
+  const TemporaryFolder folder;
+  expectNotWritten(folder / "missing/a.txt");
+  expectNotWritten(folder.write("a.txt", "x") / "below a file.txt");
+  expectNotWritten("");
+  EXPECT_EQ(folder.names(), Names{"a.txt"});
+}
+
+TEST(WriteFile, DoesNotReplaceAFolder) {
+  const TemporaryFolder folder;
+  fs::create_directory(folder / "a.txt");
+  expectNotWritten(folder / "a.txt");
+  EXPECT_TRUE(fs::is_directory(folder / "a.txt"));
+  EXPECT_EQ(folder.names(), Names{"a.txt"});
+}
+
+TEST(WriteFile, DoesNotReplaceAPipe) {
+  const TemporaryFolder folder;
+  ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
+  fs::create_symlink("pipe", folder / "link");
+  expectNotWritten(folder / "pipe");
+  expectNotWritten(folder / "link");
+  EXPECT_TRUE(fs::is_fifo(folder / "pipe"));
+  EXPECT_EQ(folder.names(), (Names{"link", "pipe"}));
+}
+
+TEST(WriteFile, LeavesTheOldFileWhenTheDiskIsFull) {
+  const TemporaryFolder folder;
+  folder.write("a.txt", "old");
+  for (const rlim_t room : {0U, 1U, 4096U, 99'999U}) {
+    const FullDisk full(room);
+    const auto text =
+        failureOf(ErrorNumber::fileNotFound, [&] { writeFile(folder / "a.txt", std::string(100'000, 'n')); });
+    EXPECT_NE(text.find("a.txt"), std::string::npos);
+    EXPECT_EQ(folder.read("a.txt"), "old");
+    EXPECT_EQ(folder.names(), Names{"a.txt"}) << "room for " << room;
+  }
+  const FullDisk full(100'000);
+  writeFile(folder / "a.txt", std::string(100'000, 'n'));
+  EXPECT_EQ(folder.read("a.txt").size(), 100'000U);
+}
+
+TEST(WriteFile, MakesNoFileWhenTheDiskIsFull) {
+  const TemporaryFolder folder;
+  const FullDisk full(2);
+  expectNotWritten(folder / "a.txt");
+  EXPECT_EQ(folder.names(), Names{});
+}
+
+/// Whether writing fails and leaves the old text, for a user whom permissions bind.
+std::optional<bool> staysAsItWas(const TemporaryFolder& folder, const fs::path& file) {
+  return asOrdinaryUser([&] {
+    try {
+      writeFile(file, "new");
+    } catch (const RunTimeError& error) {
+      return error.number() == ErrorNumber::fileNotFound && folder.read(file) == "old" &&
+             folder.names(file.parent_path()).size() == 1;
+    }
+    return false;
+  });
+}
+
+TEST(WriteFile, LeavesAProtectedFile) {
+  const TemporaryFolder folder;
+  const auto file = folder.write("a.txt", "old");
+  openToAll(folder);
+  fs::permissions(file, static_cast<fs::perms>(0444));
+  const auto stayed = staysAsItWas(folder, file);
+  if (!stayed) GTEST_SKIP() << "root, and no other user at hand";
+  EXPECT_TRUE(*stayed);
+}
+
+TEST(WriteFile, LeavesAFileOfAFolderThatCannotBeWritten) {
+  const TemporaryFolder folder;
+  const auto file = folder.write("below/a.txt", "old");
+  openToAll(folder);
+  fs::permissions(folder / "below", static_cast<fs::perms>(0555));
+  const auto stayed = staysAsItWas(folder, file);
+  if (!stayed) GTEST_SKIP() << "root, and no other user at hand";
+  EXPECT_TRUE(*stayed);
+}
+
+}  // namespace
+}  // namespace verdalis

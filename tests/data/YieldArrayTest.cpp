@@ -1,0 +1,171 @@
+#include <gtest/gtest.h>
+#include <rapidcheck/gtest.h>
+
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "data/FileReader.h"
+#include "tests/data/Failure.h"
+#include "tests/data/PlainCropReader.h"
+#include "text/RunTimeError.h"
+
+namespace verdalis {
+namespace {
+
+using testing::failureOf;
+using testing::PlainTable;
+using testing::plainTable;
+
+PlainTable tableOf(std::string_view rainfall, std::string_view irrigation, std::string_view values) {
+  return plainTable(FileReader::makeYieldArray(rainfall, irrigation, values));
+}
+
+void expectFailure(ErrorNumber number, const std::string& rainfall, const std::string& irrigation,
+                   const std::string& values) {
+  SCOPED_TRACE(rainfall + " | " + irrigation + " | " + values.substr(0, 40));
+  static_cast<void>(failureOf(
+      number, [&] { static_cast<void>(FileReader::makeYieldArray(rainfall, irrigation, values)); }));
+}
+
+std::string repeated(const std::string& entry, int count) {
+  std::string list = entry;
+  for (int i = 1; i < count; ++i)
+    list += "," + entry;
+  return list;
+}
+
+TEST(ParseEquals, GivesWhatFollowsTheFirstSign) {
+  EXPECT_EQ(FileReader::parseEquals("CROP=Corn"), "Corn");
+  EXPECT_EQ(FileReader::parseEquals("CROP=a=b=c"), "a=b=c");
+  EXPECT_EQ(FileReader::parseEquals("CROP=="), "=");
+  EXPECT_EQ(FileReader::parseEquals("CROP="), "");
+  EXPECT_EQ(FileReader::parseEquals("="), "");
+  EXPECT_EQ(FileReader::parseEquals("=Corn"), "Corn");
+  EXPECT_EQ(FileReader::parseEquals(" key = Corn "), " Corn ");
+}
+
+TEST(ParseEquals, FailsAtOnceWithoutOne) {
+  for (const std::string& line : {std::string(), std::string("CROP Corn"), std::string(1'000'000, 'x')}) {
+    static_cast<void>(
+        failureOf(ErrorNumber::invalidCall, [&] { static_cast<void>(FileReader::parseEquals(line)); }));
+  }
+}
+
+TEST(MakeYieldArray, FillsRowAfterRowFromTheFirstRainfallColumn) {
+  const PlainTable expected{2, {{0, 0, 1, 2, 3}, {0, 0, 4, 5, 6}}};
+  EXPECT_EQ(tableOf("2,3,4", "0,1", "1,2,3,4,5,6"), expected);
+}
+
+TEST(MakeYieldArray, TakesASingleCell) {
+  EXPECT_EQ(tableOf("0", "0", "7.5"), (PlainTable{0, {{7.5}}}));
+}
+
+TEST(MakeYieldArray, ASingleRainfallMakesEachValueARow) {
+  EXPECT_EQ(tableOf("1", "0,1,2", "7,8,9"), (PlainTable{1, {{0, 7}, {0, 8}, {0, 9}}}));
+}
+
+TEST(MakeYieldArray, CountsOnlyTheFirstAndLastRainfallAndTheLastIrrigation) {
+  const PlainTable expected{1, {{0, 1, 2}, {0, 3, 4}}};
+  EXPECT_EQ(tableOf("1,99999,x,,1e400,2", "17,no number,-3,1", "1,2,3,4"), expected);
+  EXPECT_EQ(tableOf("1,2", "1", "1,2,3,4"), expected);
+}
+
+TEST(MakeYieldArray, RoundsItsBoundsToWholeInchesHalvesToTheEvenOne) {
+  EXPECT_EQ(tableOf("0.5,1.5", "0.5", "1,2,3"), (PlainTable{0, {{1, 2, 3}}}));
+  EXPECT_EQ(tableOf(" 1 , 2 ", " 1 ", "1,2,3,4"), (PlainTable{1, {{0, 1, 2}, {0, 3, 4}}}));
+  EXPECT_EQ(tableOf("1e0,+2.", "0.6", "1,2,3,4"), (PlainTable{1, {{0, 1, 2}, {0, 3, 4}}}));
+}
+
+TEST(MakeYieldArray, LeavesCellsWithoutAValueAt0) {
+  EXPECT_EQ(tableOf("0,1", "0,1", "5,6,7"), (PlainTable{0, {{5, 6}, {7, 0}}}));
+  EXPECT_EQ(tableOf("0,1", "0,1", "5"), (PlainTable{0, {{5, 0}, {0, 0}}}));
+  EXPECT_EQ(tableOf("0,1", "0,1", ""), (PlainTable{0, {{0, 0}, {0, 0}}}));
+}
+
+TEST(MakeYieldArray, ReadsTheLeadingNumberOfEachValue) {
+  EXPECT_EQ(tableOf("0,11", "0", ", ,x,12 bu.,1.5.7,-3,1e2,\t4,.5,+6, 1e ,7"),
+            (PlainTable{0, {{0, 0, 0, 12, 1.5, -3, 100, 4, 0.5, 6, 1, 7}}}));
+}
+
+TEST(MakeYieldArray, FailsForMoreValuesThanCells) {
+  EXPECT_EQ(tableOf("11,12", "0,1", "1,2,3,4").rows.size(), 2U);
+  expectFailure(ErrorNumber::subscript, "11,12", "0,1", "1,2,3,4,5");
+  expectFailure(ErrorNumber::subscript, "11,12", "0,1", "1,2,3,4,");  // an empty value is one too
+  expectFailure(ErrorNumber::subscript, "0", "0", repeated("1", 100'000));
+}
+
+TEST(MakeYieldArray, FailsForBoundsThatAreNoNumbers) {
+  for (const char* bound : {"", " ", "x", "1,", "1,x", ",", "1 2", "1-2", "0x10"}) {
+    expectFailure(ErrorNumber::typeMismatch, bound, "0", "1");
+    expectFailure(ErrorNumber::typeMismatch, "1", bound, "1");
+  }
+  expectFailure(ErrorNumber::typeMismatch, ",1", "0", "1");
+}
+
+TEST(MakeYieldArray, FailsForBoundsAndValuesThatAreTooLarge) {
+  for (const char* bound : {"32768", "-32769", "1e300", "1e400", "-1e400", "99999999999999999999"}) {
+    expectFailure(ErrorNumber::overflow, bound, "0", "1");
+    expectFailure(ErrorNumber::overflow, "1", bound, "1");
+  }
+  expectFailure(ErrorNumber::overflow, "0,1", "0", "1,1e400");
+}
+
+TEST(MakeYieldArray, FailsForNegativeBounds) {
+  expectFailure(ErrorNumber::subscript, "-5,-1", "0", "");
+  expectFailure(ErrorNumber::subscript, "0,1", "-1", "");
+  expectFailure(ErrorNumber::subscript, "-1,1", "0", "1");
+}
+
+// A list that falls has no column for its first value.
+TEST(MakeYieldArray, FailsForAValueWhereRainfallFalls) {
+  expectFailure(ErrorNumber::subscript, "21,11", "0,1", "1");
+  EXPECT_EQ(tableOf("3,1", "0", ""), (PlainTable{3, {{0, 0}}}));
+}
+
+TEST(MakeYieldArray, HasAtMost1000RowsAnd1000Columns) {
+  const PlainTable wide = tableOf("0,999", "0", repeated("3", 1000));
+  EXPECT_EQ(wide.rows.size(), 1U);
+  EXPECT_EQ(wide.rows[0], std::vector<double>(1000, 3.0));
+  const PlainTable high = tableOf("0", "999", repeated("4", 1000));
+  EXPECT_EQ(high.rows.size(), 1000U);
+  EXPECT_EQ(high.rows[999], std::vector<double>{4});
+  EXPECT_EQ(tableOf("11,999", "0,999", "").rows.size(), 1000U);
+  expectFailure(ErrorNumber::subscript, "0,1000", "0", "1");
+  expectFailure(ErrorNumber::subscript, "1000", "0", "");
+  expectFailure(ErrorNumber::subscript, "0", "0,1000", "1");
+  expectFailure(ErrorNumber::subscript, "0,32767", "0,32767", "");
+}
+
+/// Entries of a list: whole numbers of a range, and now and then something odd.
+rc::Gen<std::string> anyList(int least, int most, std::size_t length) {
+  const auto plain = rc::gen::map(rc::gen::inRange(least, most), [](int n) { return std::to_string(n); });
+  const auto odd = rc::gen::element<std::string>("", " ", "x", "1.5", "2.5", "-0.4", "1e1", "1e400", "1e-400",
+                                                 "7 bu.", ".", "+3", "999", "1000", "32768", "1=2");
+  const auto entry = rc::gen::weightedOneOf<std::string>({{40, plain}, {1, odd}});
+  return rc::gen::map(rc::gen::container<std::vector<std::string>>(length, entry),
+                      [](const std::vector<std::string>& entries) {
+                        std::string list;
+                        for (const auto& text : entries)
+                          list += (&text == entries.data() ? "" : ",") + text;
+                        return list;
+                      });
+}
+
+RC_GTEST_PROP(MakeYieldArray, IsThatOfThePlainReader, ()) {
+  const auto rainfall = *anyList(0, 4, 1) + "," + *anyList(2, 7, *rc::gen::inRange<std::size_t>(1, 4));
+  const auto irrigation = *anyList(0, 5, *rc::gen::inRange<std::size_t>(0, 4));
+  const auto values = *anyList(-5, 300, *rc::gen::inRange<std::size_t>(0, 20));
+  const auto expected = plainTable(rainfall, irrigation, values);
+  RC_CLASSIFY(expected.has_value(), "a table");
+  std::optional<PlainTable> table;
+  try {
+    table = tableOf(rainfall, irrigation, values);
+  } catch (const RunTimeError&) {
+  }
+  RC_ASSERT(table == expected);
+}
+
+}  // namespace
+}  // namespace verdalis

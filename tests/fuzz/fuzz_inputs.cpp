@@ -1,0 +1,62 @@
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "data/SavedInputs.h"
+#include "tests/data/PlainInputsReader.h"
+#include "tests/data/PlainTarget.h"
+#include "tests/data/SameInputs.h"
+#include "tests/fuzz/Fuzzing.h"
+#include "tests/support/TemporaryFolder.h"
+#include "text/encoding.h"
+
+// Any bytes as saved inputs: they set what the plain reader sets, and what they have set can be saved and
+// loaded again.
+
+namespace verdalis {
+namespace {
+
+using fuzz::require;
+using testing::contentOf;
+using testing::PlainInputsReader;
+using testing::PlainTarget;
+using testing::TemporaryFolder;
+
+// Short names are found sooner. "1" is a value as well, and there are two crops "C".
+const std::vector<std::string> names{"C", "1", "C", "Fallow", ""};
+
+void check(const std::string& bytes) {
+  static const TemporaryFolder folder("fuzz");
+  const auto file = folder.write("inputs.txt", bytes);
+  PlainTarget expected(names);
+  const bool expectedRead = PlainInputsReader(decodeText(bytes), expected).read();
+  PlainTarget target(names);
+  const bool read = loadInputs(file, target);
+  require(read == expectedRead, "whether the file is read to its end");
+  require(contentOf(target) == contentOf(expected), "what the file sets");
+  if (!read) return;
+
+  std::string text = target.general.writeData() + "\r\n" + target.plant.writeData() + "\r\n";
+  for (const auto& crop : target.rows)
+    text += crop->writeData() + "\r\n";
+  PlainTarget again(names);
+  require(PlainInputsReader(text, again).read(), "saved inputs can be read");
+  require(contentOf(again.plant) == contentOf(target.plant), "the plant is loaded as it was saved");
+  require(contentOf(again.general) == contentOf(target.general), "the inputs are loaded as they were saved");
+  for (std::size_t i = 0; i < names.size(); ++i)
+    require(contentOf(*again.rows[i]) == contentOf(*target.rows[i]), "a crop is loaded as it was saved");
+}
+
+}  // namespace
+}  // namespace verdalis
+
+extern "C" int LLVMFuzzerInitialize(int* /*count*/, char*** /*arguments*/) {
+  verdalis::fuzz::workInMemory();
+  return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  verdalis::check(std::string(data, data + size));
+  return 0;
+}
