@@ -1,0 +1,56 @@
+#include <benchmark/benchmark.h>
+
+#include <memory>
+#include <utility>
+
+#include "engine/BestMix.h"
+#include "tests/support/Crops.h"
+#include "tests/support/Plant.h"
+
+namespace verdalis::bench {
+namespace {
+
+/// Four fields of Corn whose costs are set by hand, so that the profit is known.
+FieldCollection candidateOf(double profit) {
+  FieldCollection candidate;
+  for (int i = 0; i < 4; ++i) {
+    auto field = std::make_shared<Field>();
+    field->theCrop = std::make_shared<Crop>(testing::cornCrop());
+    field->irrigCosts = std::make_shared<IrrigationCosts>(testing::defaultPlant());
+    field->TotalCost = 1;
+    field->TotalReturn = 1 + profit / 4;
+    candidate.Add(std::move(field));
+  }
+  return candidate;
+}
+
+/// A ranking of 100 places, all taken; a kept copy works its return out of a crop without yield, so it earns
+/// -4.
+BestMix fullMix() {
+  BestMix best;
+  best.setSize(100);
+  FieldCollection candidate = candidateOf(0);
+  for (int i = 0; i < 100; ++i)
+    best.submit(candidate);
+  return best;
+}
+
+void submitRejected(benchmark::State& state) {
+  BestMix best = fullMix();
+  FieldCollection candidate = candidateOf(-100);
+  while (state.KeepRunning())
+    best.submit(candidate);
+}
+BENCHMARK(submitRejected);
+
+/// Every candidate climbs from the last place to the first.
+void submitToTheTop(benchmark::State& state) {
+  BestMix best = fullMix();
+  FieldCollection candidate = candidateOf(0);
+  while (state.KeepRunning())
+    best.submit(candidate);
+}
+BENCHMARK(submitToTheTop);
+
+}  // namespace
+}  // namespace verdalis::bench

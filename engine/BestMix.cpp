@@ -1,0 +1,127 @@
+#include "engine/BestMix.h"
+
+#include <cstddef>
+#include <utility>
+
+#include "model/checked.h"
+#include "text/numbers.h"
+
+namespace verdalis {
+namespace {
+
+BestMix::Option placeholder() {
+  auto option = std::make_shared<FieldCollection>();
+  option->isNew = true;
+  return option;
+}
+
+/// Whether two fields look alike on the screen: same crop and acres, same shown yield and depth.
+bool looksLike(const Field& f, const Field& g) {
+  return f.theCrop->cropType == g.theCrop->cropType && f.acres == g.acres &&
+         formatNumber(f.theCrop->Yield, "###,##0") == formatNumber(g.theCrop->Yield, "###,##0") &&
+         formatNumber(f.Depth, "###.00") == formatNumber(g.Depth, "###.00");
+}
+
+std::string grossVolumeText(const FieldCollection& option, std::string_view pattern) {
+  return "Total Gross Irrigated Volume = " + formatNumber(grossFromNet(option.getVolume()), pattern) +
+         "ac-in\r\n\r\n";
+}
+
+}  // namespace
+
+void BestMix::setSize(std::int16_t size) {
+  if (size <= 0) {
+    throw RunTimeError(ErrorNumber::subscript, "The number of options to keep is " + std::to_string(size) +
+                                                   ". It must be 1 or more.");
+  }
+  size_ = size;
+  bestArray_.clear();
+  bestArray_.reserve(static_cast<std::size_t>(size));
+  for (std::int16_t i = 0; i < size; ++i)
+    bestArray_.push_back(placeholder());
+}
+
+void BestMix::submit(FieldCollection& candidate) {
+  if (bestArray_.empty()) {
+    throw RunTimeError(ErrorNumber::subscript, "There is no place to keep an option in.");
+  }
+  const double profit = candidate.getProfit();
+  std::size_t place = bestArray_.size() - 1;
+  if (bestArray_[place]->isNew || bestArray_[place]->getProfit() <= profit) {
+    // The candidate climbs from the last place while the entry above is a placeholder or gives way to it.
+    while (place > 0 && (bestArray_[place - 1]->isNew || bestArray_[place - 1]->getProfit() <= profit)) {
+      bestArray_[place] = std::move(bestArray_[place - 1]);
+      --place;
+    }
+    bestArray_[place] = std::make_shared<FieldCollection>(candidate.Copy());
+  }
+  LowEnd = bestArray_.back()->getProfit();
+}
+
+std::string BestMix::toString() const {
+  std::string text;
+  int number = 1;
+  int duplicates = 0;
+  for (std::size_t i = 0; i < bestArray_.size(); ++i) {
+    FieldCollection& option = *bestArray_[i];
+    if (i > 0 && sameScenario(option, *bestArray_[i - 1], true)) {
+      ++duplicates;
+      continue;
+    }
+    text += "OPTION " + std::to_string(number) + " " + std::string(90, '*') + "\r\n\r\n" + option.toString() +
+            "**********************\r\nProfit = $" + formatNumber(option.getProfit(), "###,###,###,000.00") +
+            "\r\n";
+    // Before the first run there is no efficiency to work the gross volume out with; the report goes on
+    // without.
+    try {
+      text += grossVolumeText(option, "###,###.00");
+    } catch (const RunTimeError&) {
+      text += "\r\n";
+    }
+    ++number;
+  }
+  return text + "\r\n\r\nThere were " + std::to_string(duplicates) + " duplicates";
+}
+
+std::string BestMix::getCollection() const {
+  std::string text;
+  for (const Option& option : bestArray_) {
+    text += "\r\n\r\n" + option->toString() + "---------------------------------------\r\nReturn = $" +
+            formatNumber(option->getReturn(), "###,###,###,000") + "\r\n" +
+            grossVolumeText(*option, "###,###,000");
+  }
+  return text;
+}
+
+std::vector<BestMix::Option> BestMix::returnCollection(bool removeDuplicates) {
+  std::vector<Option> kept;
+  kept.reserve(bestArray_.size());
+  for (std::size_t i = 0; i < bestArray_.size(); ++i) {
+    // Each entry is compared with the one directly above it, whether or not that one was kept.
+    if (i > 0 && sameScenario(*bestArray_[i], *bestArray_[i - 1], removeDuplicates)) continue;
+    kept.push_back(std::make_shared<FieldCollection>(bestArray_[i]->Copy()));
+  }
+  while (kept.size() < bestArray_.size())
+    kept.push_back(placeholder());
+  bestArray_ = kept;
+  return kept;
+}
+
+bool BestMix::sameScenario(FieldCollection& a, FieldCollection& b, bool compare) {
+  if (!compare) return false;
+  if (a.getProfit() != b.getProfit()) return false;
+  if (a.Count() != b.Count())
+    return true;  // equal profit with another number of fields counts as the same: meant
+  // Not cleared between the fields, and that is meant: once the first field has found a partner, the others
+  // are not asked any more.
+  bool found = false;
+  for (const auto& f : a) {
+    for (const auto& g : b) {
+      if (looksLike(*f, *g)) found = true;
+    }
+    if (!found) return false;
+  }
+  return found;
+}
+
+}  // namespace verdalis

@@ -1,0 +1,60 @@
+#include "engine/FieldCalculator.h"
+
+#include <memory>
+#include <vector>
+
+#include "engine/CandidateBuilder.h"
+#include "engine/FastSearch.h"
+#include "engine/RunPulse.h"
+
+namespace verdalis {
+namespace {
+
+/// The kept candidates as options, placeholders behind. \returns nothing when the search is to be given up.
+std::optional<std::vector<BestMix::Option>> makeOptions(const std::vector<KeptCandidate>& kept,
+                                                        const SearchInputs& inputs, RunPulse& pulse) {
+  constexpr std::size_t optionsPerTurn = 16;
+  CandidateBuilder builder(inputs);
+  std::vector<std::size_t> crops;
+  std::vector<BestMix::Option> options;
+  options.reserve(static_cast<std::size_t>(inputs.size));
+  for (const KeptCandidate& candidate : kept) {
+    if (options.size() % optionsPerTurn == 0 && !pulse.turn()) return std::nullopt;
+    inputs.combinations.positions(inputs.combinations.Count() - 1 - candidate.digits, crops);
+    FieldCollection& built = builder.build(inputs.depths.Item(static_cast<long>(candidate.split) + 1), crops);
+    static_cast<void>(built.getProfit());  // the copy carries the costs that this works out
+    options.push_back(std::make_shared<FieldCollection>(built.Copy()));
+  }
+  while (options.size() < static_cast<std::size_t>(inputs.size)) {
+    options.push_back(std::make_shared<FieldCollection>());
+    options.back()->isNew = true;
+  }
+  return options;
+}
+
+std::optional<BestMix> search(const SearchInputs& inputs, RunPulse& pulse, BestMix best) {
+  FastSearch fastSearch(inputs, pulse);
+  const auto kept = fastSearch.run();
+  if (!kept) return std::nullopt;
+  const auto options = makeOptions(*kept, inputs, pulse);
+  if (!options) return std::nullopt;
+  best.SetBestArray(*options);
+  best.LowEnd = options->back()->getProfit();
+  return best;
+}
+
+}  // namespace
+
+std::optional<BestMix> evaluateCombinations(const SearchInputs& inputs, ProgramState& state,
+                                            RunHooks& hooks) {
+  RunPulse pulse(state, hooks);
+  static_cast<void>(pulse.pump());  // a cancel from before the search does not count
+  state.CancelRequested = false;
+  BestMix best;
+  best.setSize(inputs.size);
+  std::optional<BestMix> result = search(inputs, pulse, std::move(best));
+  hooks.closeProgress();
+  return result;
+}
+
+}  // namespace verdalis

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+#include "engine/ProgramState.h"
+#include "engine/Split.h"
+#include "engine/SplitCollection.h"
+
+namespace verdalis {
+
+/// A way to divide the farm: the caption of its option button and the percent of the acres of each field.
+struct LandDivision {
+  std::string_view caption;
+  std::vector<double> percentages;
+};
+
+/// The six land divisions in the order of the option buttons. Four fields is the most that a candidate has.
+/// The three thirds are 33 % each: one percent of the land stays out of the allocation, and that is meant.
+[[nodiscard]] const std::array<LandDivision, 6>& landDivisions();
+
+/// Which button of the group "Land Split:" is on.
+using LandSplitButtons = std::array<bool, 6>;
+
+/// The percentages of the land division whose button is on.
+/// \throws RunTimeError (invalidCall) when none is.
+[[nodiscard]] Split getLandSplit(const LandSplitButtons& Option1);
+
+/// Each percentage x as (x / 100) * acres.
+/// \throws RunTimeError (overflow)
+[[nodiscard]] Split percentToAcres(const Split& landSplit, double acres);
+
+/// Each percentage x as (x / 100) * netVolume, in acre-inches.
+/// \throws RunTimeError (overflow)
+[[nodiscard]] Split percentToVolume(double netVolume, const Split& split);
+
+/// All water splits over n fields that the iteration factor of `state` allows, in acre-inches, in descending
+/// order of the first share, then the second and so on. Adds to state.splitCounter. `acres` takes no part.
+/// \throws RunTimeError (divisionByZero) for a factor of 0, (invalidCall) for a negative one, (overflow).
+[[nodiscard]] SplitCollection makeWaterSplits(std::int16_t n, double netVolume, double acres,
+                                              ProgramState& state);
+
+/// Each water split as net inches: value k divided by the acres of field k.
+/// \throws RunTimeError (divisionByZero) for a field of 0 acres, (overflow).
+[[nodiscard]] SplitCollection volumesToDepths(SplitCollection water, const Split& landSplit);
+
+}  // namespace verdalis

@@ -1,0 +1,117 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <rapidcheck/gtest.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "engine/MakingCropCombos.h"
+#include "tests/support/Crops.h"
+#include "tests/support/Errors.h"
+
+// All assignments of the selected crops to the fields.
+
+namespace verdalis::testing {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+
+CropScenario cropsNamed(const std::vector<std::string>& names) {
+  CropScenario crops;
+  for (const std::string& name : names)
+    crops.Add(std::make_shared<Crop>(namedCrop(name)));
+  return crops;
+}
+
+std::vector<std::string> listOf(const CropCombinations& combinations) {
+  std::vector<std::string> list;
+  for (std::uint64_t i = 1; i <= combinations.Count(); ++i)
+    list.push_back(combinations.Item(i).toString());
+  return list;
+}
+
+std::vector<std::string> combos(const std::vector<std::string>& names, std::int16_t n) {
+  return listOf(makeCropCombos(cropsNamed(names), n));
+}
+
+TEST(CropCombinations, BeginWithTheLastCropOnEveryField) {
+  EXPECT_THAT(combos({"A", "B"}, 2), ElementsAre("B, B", "B, A", "A, B", "A, A"));
+}
+
+TEST(CropCombinations, OfOneFieldAreTheCropsInReverse) {
+  EXPECT_THAT(combos({"A", "B", "C"}, 1), ElementsAre("C", "B", "A"));
+}
+
+TEST(CropCombinations, OfOneCropAreOne) {
+  EXPECT_THAT(combos({"A"}, 4), ElementsAre("A, A, A, A"));
+}
+
+TEST(CropCombinations, OfTwoCropsOnThreeFieldsAreEight) {
+  EXPECT_THAT(combos({"A", "B"}, 3), ElementsAre("B, B, B", "B, B, A", "B, A, B", "B, A, A", "A, B, B",
+                                                 "A, B, A", "A, A, B", "A, A, A"));
+}
+
+TEST(CropCombinations, OfNoCropsAreNone) {
+  for (std::int16_t n = 1; n <= 4; ++n)
+    EXPECT_EQ(makeCropCombos(CropScenario(), n).Count(), 0U) << n;
+}
+
+TEST(CropCombinations, AreTheCropsToThePowerOfTheFields) {
+  std::vector<std::string> names;
+  for (int i = 0; i < 10; ++i)
+    names.push_back("Crop " + std::to_string(i));
+  EXPECT_EQ(makeCropCombos(cropsNamed(names), 4).Count(), 10'000U);
+  EXPECT_EQ(makeCropCombos(cropsNamed({"A", "B", "C"}), 4).Count(), 81U);
+}
+
+TEST(CropCombinations, HoldCopiesOfTheCropsFromTheStart) {
+  const CropScenario crops = cropsNamed({"A", "B"});
+  crops.Item(1)->price = 5;
+  const CropCombinations combinations = makeCropCombos(crops, 2);
+  crops.Item(1)->price = 9;
+  crops.Item(2)->cropType = "X";
+  const CropScenario first = combinations.Item(1);
+  EXPECT_EQ(first.toString(), "B, B");
+  EXPECT_EQ(combinations.Item(4).Item(1)->price, 5);
+  EXPECT_NE(combinations.Item(4).Item(1), crops.Item(1));
+}
+
+TEST(CropCombinations, TreatFallowLikeAnyCrop) {
+  EXPECT_THAT(combos({"Corn", "Fallow"}, 2),
+              ElementsAre("Fallow, Fallow", "Fallow, Corn", "Corn, Fallow", "Corn, Corn"));
+}
+
+TEST(CropCombinations, TellAnIndexOutsideThem) {
+  const CropCombinations combinations = makeCropCombos(cropsNamed({"A", "B"}), 2);
+  EXPECT_THAT(errorText(ErrorNumber::subscript, [&] { (void)combinations.Item(0); }), HasSubstr("0"));
+  EXPECT_THAT(errorText(ErrorNumber::subscript, [&] { (void)combinations.Item(5); }), HasSubstr("5"));
+}
+
+TEST(CropCombinations, TellANumberThatCannotBeCounted) {
+  std::vector<std::string> names(66'000, "A");
+  EXPECT_THAT(errorText(ErrorNumber::overflow, [&] { (void)makeCropCombos(cropsNamed(names), 4); }),
+              HasSubstr("too many crops"));
+}
+
+RC_GTEST_PROP(CropCombinations, AreAllSequencesInFallingOrderOfTheCropPositions, ()) {
+  const int k = *rc::gen::inRange(1, 7);
+  const auto n = static_cast<std::int16_t>(*rc::gen::inRange(1, 5));
+  std::vector<std::string> names;
+  for (int i = 0; i < k; ++i)
+    names.emplace_back(1, static_cast<char>('a' + i));
+  const auto list = combos(names, n);
+  std::size_t expected = 1;
+  for (int i = 0; i < n; ++i)
+    expected *= static_cast<std::size_t>(k);
+  RC_ASSERT(list.size() == expected);
+  // One letter a crop: falling positions are falling texts, and none comes twice.
+  RC_ASSERT(std::is_sorted(list.begin(), list.end(), std::greater<>()));
+  RC_ASSERT(std::adjacent_find(list.begin(), list.end()) == list.end());
+}
+
+}  // namespace
+}  // namespace verdalis::testing

@@ -1,0 +1,138 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "engine/MakingSplits.h"
+#include "engine/Split.h"
+#include "tests/support/Errors.h"
+
+// A split as a list of numbers, the six land divisions, and the conversions from shares to acres, volumes and
+// depths.
+
+namespace verdalis::testing {
+namespace {
+
+using ::testing::AllOf;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+
+TEST(Split, IsAListOfNumbers) {
+  Split split;
+  EXPECT_EQ(split.Count(), 0);
+  split.addSplit(50);
+  split.addSplit(33.5);
+  EXPECT_EQ(split.Count(), 2);
+  EXPECT_THAT(split.getSplits(), ElementsAre(50, 33.5));
+  EXPECT_THAT(split.splits, ElementsAre(50, 33.5));
+}
+
+TEST(Split, TotalsItsValuesAfterRoundingEachHalvesToEven) {
+  EXPECT_EQ(Split().total(), 0);
+  EXPECT_EQ((Split{100.0 / 3, 100.0 / 3, 100.0 / 3}).total(), 99);
+  EXPECT_EQ((Split{100.0 / 3, 200.0 / 3}).total(), 100);
+  EXPECT_EQ((Split{0.5}).total(), 0);
+  EXPECT_EQ((Split{1.5}).total(), 2);
+  EXPECT_EQ((Split{2.5}).total(), 2);
+  EXPECT_EQ((Split{12.5, 12.5, 37.5, 37.5}).total(), 12 + 12 + 38 + 38);
+  EXPECT_EQ((Split{99.99999999999997}).total(), 100);
+}
+
+TEST(Split, ReportsEachValueWithItsUnitOnOneLine) {
+  EXPECT_EQ(Split().toString(), "");
+  EXPECT_EQ((Split{918, 102.5, 0}).toString(), "918 ac-in      102.5 ac-in      0 ac-in      ");
+}
+
+TEST(Split, CopyIsIndependent) {
+  Split split{1, 2};
+  Split copy = split.Copy();
+  EXPECT_EQ(copy, split);
+  copy.addSplit(3);
+  copy.splits[0] = 9;
+  EXPECT_THAT(split.getSplits(), ElementsAre(1, 2));
+}
+
+TEST(LandDivisions, AreTheSixOfTheOptionButtons) {
+  const auto& divisions = landDivisions();
+  EXPECT_EQ(divisions[0].caption, "50 - 50");
+  EXPECT_THAT(divisions[0].percentages, ElementsAre(50, 50));
+  EXPECT_EQ(divisions[1].caption, "75 - 25");
+  EXPECT_THAT(divisions[1].percentages, ElementsAre(75, 25));
+  EXPECT_EQ(divisions[2].caption, "33 - 33 - 33");
+  EXPECT_THAT(divisions[2].percentages, ElementsAre(33, 33, 33));
+  EXPECT_EQ(divisions[3].caption, "50 - 25 - 25");
+  EXPECT_THAT(divisions[3].percentages, ElementsAre(50, 25, 25));
+  EXPECT_EQ(divisions[4].caption, "25 - 25 - 25 - 25");
+  EXPECT_THAT(divisions[4].percentages, ElementsAre(25, 25, 25, 25));
+  EXPECT_EQ(divisions[5].caption, "100 ");
+  EXPECT_THAT(divisions[5].percentages, ElementsAre(100));
+}
+
+TEST(LandDivisions, AreChosenByTheButtonThatIsOn) {
+  for (std::size_t i = 0; i < 6; ++i) {
+    LandSplitButtons buttons{};
+    buttons.at(i) = true;
+    EXPECT_EQ(getLandSplit(buttons).getSplits(), landDivisions().at(i).percentages) << i;
+  }
+}
+
+TEST(LandDivisions, MustBeChosen) {
+  EXPECT_THAT(errorText(ErrorNumber::invalidCall, [] { (void)getLandSplit({}); }),
+              AllOf(HasSubstr("land split"), HasSubstr("Land Split:")));
+}
+
+TEST(LandAcres, AreTheSharesOfTheFarm) {
+  EXPECT_THAT(percentToAcres({75, 25}, 160).getSplits(), ElementsAre(120, 40));
+  EXPECT_THAT(percentToAcres({33, 33, 33}, 100).getSplits(), ElementsAre(33, 33, 33));
+  EXPECT_THAT(percentToAcres({100}, 0).getSplits(), ElementsAre(0));
+}
+
+TEST(LandAcres, DivideBy100BeforeTheyMultiply) {
+  const double acres = 70.1;
+  EXPECT_THAT(percentToAcres({33}, acres).getSplits(), ElementsAre((33.0 / 100) * acres));
+  EXPECT_NE((33.0 / 100) * acres, 33.0 * acres / 100);  // the order shows in the last digit
+}
+
+TEST(WaterVolume, IsTheShareOfTheNetVolume) {
+  EXPECT_THAT(percentToVolume(1020, {90, 10, 0}).getSplits(), ElementsAre(918, 102, 0));
+  EXPECT_THAT(percentToVolume(1037.3, {100.0 / 3}).getSplits(), ElementsAre(((100.0 / 3) / 100) * 1037.3));
+}
+
+TEST(WaterDepth, IsTheVolumeOverTheAcresOfTheField) {
+  SplitCollection water;
+  water.Add({1020, 0}, 2);
+  water.Add({340, 680}, 2);
+  const SplitCollection depths = volumesToDepths(water, {75, 25});
+  ASSERT_EQ(depths.Count(), 2);
+  EXPECT_THAT(depths.Item(1).getSplits(), ElementsAre(1020.0 / 75, 0));
+  EXPECT_THAT(depths.Item(2).getSplits(), ElementsAre(340.0 / 75, 680.0 / 25));
+}
+
+TEST(WaterDepth, OfNoSplitsIsNoDepths) {
+  EXPECT_EQ(volumesToDepths(SplitCollection(), {0, 0}).Count(), 0);
+}
+
+TEST(WaterDepth, NeedsAcres) {
+  SplitCollection water;
+  water.Add({0, 10}, 2);
+  EXPECT_THAT(errorText(ErrorNumber::divisionByZero,
+                        [&] {
+                          (void)volumesToDepths(water, {50, 0});
+                        }),
+              AllOf(HasSubstr("0 acres"), HasSubstr("Total Acres:")));
+}
+
+TEST(SplitConversions, TellResultsThatAreTooLarge) {
+  EXPECT_THAT(errorText(ErrorNumber::overflow, [] { (void)percentToAcres({1e300}, 1e300); }),
+              HasSubstr("size of a field"));
+  EXPECT_THAT(errorText(ErrorNumber::overflow, [] { (void)percentToVolume(1e300, {1e300}); }),
+              HasSubstr("water of a field"));
+  SplitCollection water;
+  water.Add({1e300}, 1);
+  EXPECT_THAT(errorText(ErrorNumber::overflow, [&] { (void)volumesToDepths(water, {1e-300}); }),
+              HasSubstr("depth of a field"));
+}
+
+}  // namespace
+}  // namespace verdalis::testing
