@@ -1,0 +1,250 @@
+#include "controls/Control.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "text/RunTimeError.h"
+
+namespace verdalis {
+namespace {
+
+Control* findBelow(const Frame& frame, std::string_view name) {
+  for (Control* control : frame.controls()) {
+    if (control->name() == name) return control;
+    auto* inner = dynamic_cast<Frame*>(control);
+    if (inner == nullptr) continue;
+    if (inner->scope() == Frame::Scope::transparent) {
+      if (Control* found = findBelow(*inner, name)) return found;
+    } else if (name.size() > inner->name().size() && name.starts_with(inner->name()) &&
+               name[inner->name().size()] == '.') {
+      return findBelow(*inner, name.substr(inner->name().size() + 1));
+    }
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+std::string_view kindName(ControlKind kind) {
+  switch (kind) {
+    case ControlKind::TextBox:
+      return "TextBox";
+    case ControlKind::ComboBox:
+      return "ComboBox";
+    case ControlKind::CheckBox:
+      return "CheckBox";
+    case ControlKind::OptionButton:
+      return "OptionButton";
+    case ControlKind::Button:
+      return "Button";
+    case ControlKind::Label:
+      return "Label";
+    case ControlKind::Frame:
+      return "Frame";
+    case ControlKind::MenuEntry:
+      return "MenuEntry";
+    case ControlKind::Grid:
+      return "Grid";
+    case ControlKind::ProgressBar:
+      return "ProgressBar";
+    case ControlKind::ScrollBar:
+      return "ScrollBar";
+    case ControlKind::Image:
+      break;
+  }
+  return "Image";
+}
+
+std::string shownCaption(std::string_view caption) {
+  std::string shown;
+  for (std::size_t i = 0; i < caption.size(); ++i) {
+    if (caption.substr(i, 2) == "&&") ++i;
+    shown += caption[i];
+  }
+  return shown;
+}
+
+Control::Control(ControlKind kind, Frame& container, std::string name)
+    : kind_(kind), container_(&container), desk_(container.desk_), name_(std::move(name)) {
+  container.controls_.push_back(this);
+}
+
+Control::Control(ControlKind kind, Desk& desk, std::string name)
+    : kind_(kind), desk_(&desk), name_(std::move(name)) {}
+
+Control::~Control() {
+  desk_->forget(*this);
+  if (container_ != nullptr) std::erase(container_->controls_, this);
+}
+
+std::string Control::path() const {
+  std::string path = name_;
+  for (const Frame* frame = container_; frame != nullptr; frame = frame->container()) {
+    if (frame->scope() == Frame::Scope::named) path = frame->name() + "." + path;
+  }
+  return path;
+}
+
+Frame& Control::window() {
+  if (container_ == nullptr) return static_cast<Frame&>(*this);
+  return container_->window();
+}
+
+Desk& Control::desk() {
+  return *desk_;
+}
+
+void Control::setVisible(bool visible) {
+  if (visible_ == visible) return;
+  visible_ = visible;
+  changed();
+}
+
+void Control::setEnabled(bool enabled) {
+  if (enabled_ == enabled) return;
+  enabled_ = enabled;
+  changed();
+}
+
+void Control::setCovered(bool covered) {
+  if (covered_ == covered) return;
+  covered_ = covered;
+  changed();
+}
+
+bool Control::isShown() const {
+  return visible_ && !covered_ && (container_ == nullptr || container_->isShown());
+}
+
+bool Control::isReachable() const {
+  return visible_ && !covered_ && enabled_ && (container_ == nullptr || container_->isReachable());
+}
+
+void Control::enter() {
+  desk_->run([this] { desk_->enter(*this, false); });
+}
+
+void Control::leave() {
+  desk_->run([this] { desk_->leave(*this); });
+}
+
+void Control::act(const std::function<void()>& action, bool takesFocus) {
+  // The leaving test of the field left behind is an event of its own: whatever comes of it, the action is
+  // carried out.
+  desk_->run([&] {
+    if (takesFocus) {
+      desk_->enter(*this, true);
+    } else {
+      desk_->activate(dynamic_cast<Window*>(&window()));
+    }
+  });
+  desk_->run(action);
+}
+
+void Frame::setCaption(const std::string& caption) {
+  if (caption_ == caption) return;
+  caption_ = caption;
+  changed();
+}
+
+void Frame::click() {
+  act([this] {
+    if (onClick) onClick();
+  });
+}
+
+Window::Window(Desk& desk, std::string name, Scope scope) : Frame(desk, std::move(name), scope) {
+  setVisible(false);
+  desk.windows_.push_back(this);
+}
+
+void Window::open() {
+  setVisible(true);
+  desk().activate(this);
+}
+
+void Window::close() {
+  // A field of a closed window is not tested any more.
+  if (Control* const focus = desk().focus(); focus != nullptr && &focus->window() == this)
+    desk().forget(*focus);
+  desk().forget(*this);
+  setVisible(false);
+}
+
+Window::~Window() {
+  std::erase(desk().windows_, this);
+}
+
+void Window::closeByUser() {
+  desk().run([this] {
+    if (onCloseByUser) {
+      onCloseByUser();
+    } else {
+      close();
+    }
+  });
+}
+
+void Desk::moveFocus(Control& control) {
+  focus_ = &control;
+  control.focused();
+  if (onMoveFocus) onMoveFocus(control);
+}
+
+void Desk::activate(Window* window) {
+  if (modals_ > 0 || active_ == window) return;
+  Window* const before = std::exchange(active_, window);
+  if (before != nullptr && before->isOpen() && before->onDeactivate) before->onDeactivate();
+}
+
+void Desk::enter(Control& control, bool acting) {
+  activate(dynamic_cast<Window*>(&control.window()));
+  if (focus_ == &control) return;
+  Control* const before = std::exchange(focus_, &control);
+  control.focused();
+  if (before != nullptr && before->onLeave) {
+    before->onLeave();
+    if (focus_ != &control) {
+      // A failed test has given the focus back to its field, where it stays; but an action that left the
+      // field is carried out all the same, and the focus goes with it.
+      if (!acting) return;
+      moveFocus(control);
+    }
+  }
+  if (control.onEnter) control.onEnter();
+}
+
+void Desk::leave(Control& control) {
+  if (focus_ != &control) return;
+  focus_ = nullptr;
+  if (control.onLeave) control.onLeave();
+}
+
+void Desk::forget(const Control& control) {
+  if (focus_ == &control) focus_ = nullptr;
+  if (active_ == &control) active_ = nullptr;
+}
+
+void Desk::run(const std::function<void()>& action) {
+  try {
+    action();
+  } catch (const RunTimeError& error) {
+    if (!onRunTimeError) throw;
+    onRunTimeError(error);
+  }
+}
+
+Control* Desk::find(std::string_view path) const {
+  for (const Window* window : windows_) {
+    if (window->name() == path) return const_cast<Window*>(window);  // NOLINT: the windows are not const
+    if (window->scope() == Frame::Scope::transparent) {
+      if (Control* found = findBelow(*window, path)) return found;
+    } else if (path.starts_with(window->name()) && path.size() > window->name().size() &&
+               path[window->name().size()] == '.') {
+      return findBelow(*window, path.substr(window->name().size() + 1));
+    }
+  }
+  return nullptr;
+}
+
+}  // namespace verdalis

@@ -1,0 +1,105 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <utility>
+
+#include "controls/Control.h"
+
+namespace verdalis {
+
+/// What shows a caption and can be pressed, or not.
+class Captioned : public Control {
+ public:
+  [[nodiscard]] const std::string& caption() const { return caption_; }
+  void setCaption(const std::string& caption);
+
+ protected:
+  Captioned(ControlKind kind, Frame& container, std::string name, std::string caption)
+      : Control(kind, container, std::move(name)), caption_(std::move(caption)) {}
+
+ private:
+  std::string caption_;
+};
+
+class Label : public Captioned {
+ public:
+  Label(Frame& container, std::string name, std::string caption = {})
+      : Captioned(ControlKind::Label, container, std::move(name), std::move(caption)) {}
+};
+
+class Button : public Captioned {
+ public:
+  Button(Frame& container, std::string name, std::string caption)
+      : Captioned(ControlKind::Button, container, std::move(name), std::move(caption)) {}
+
+  /// A person presses it.
+  void click();
+  std::function<void()> onClick;
+};
+
+/// An entry of the menu bar, or a whole menu. It takes no focus.
+class MenuEntry : public Captioned {
+ public:
+  MenuEntry(Frame& container, std::string name, std::string caption, MenuEntry* menu = nullptr)
+      : Captioned(ControlKind::MenuEntry, container, std::move(name), std::move(caption)), menu_(menu) {}
+
+  /// The menu that it is an entry of; nullptr in the menu bar.
+  [[nodiscard]] MenuEntry* menu() const { return menu_; }
+
+  [[nodiscard]] bool checked() const { return checked_; }
+  void setChecked(bool checked);
+
+  void click();
+  std::function<void()> onClick;
+
+ private:
+  MenuEntry* menu_;
+  bool checked_ = false;
+};
+
+/// How far something has come: from 0 to maximum.
+class ProgressBar : public Control {
+ public:
+  ProgressBar(Frame& container, std::string name)
+      : Control(ControlKind::ProgressBar, container, std::move(name)) {}
+
+  [[nodiscard]] double value() const { return value_; }
+  [[nodiscard]] double maximum() const { return maximum_; }
+  void setValue(double value);
+  void setMaximum(double maximum);
+
+ private:
+  double value_ = 0;
+  double maximum_ = 100;
+};
+
+/// A position from 0 to maximum that a person or the program moves.
+class ScrollBar : public Control {
+ public:
+  ScrollBar(Frame& container, std::string name)
+      : Control(ControlKind::ScrollBar, container, std::move(name)) {}
+
+  [[nodiscard]] int value() const { return value_; }
+  [[nodiscard]] int maximum() const { return maximum_; }
+  void setValue(int value);
+  void setMaximum(int maximum);
+
+  int smallStep = 1;
+  int largeStep = 1;
+
+  /// A person moves it; beyond the ends it stops there.
+  void scroll(int value);
+  std::function<void()> onChange;
+
+ private:
+  int value_ = 0;
+  int maximum_ = 0;
+};
+
+class Image : public Control {
+ public:
+  Image(Frame& container, std::string name) : Control(ControlKind::Image, container, std::move(name)) {}
+};
+
+}  // namespace verdalis

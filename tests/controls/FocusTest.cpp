@@ -1,0 +1,162 @@
+#include "tests/controls/Fixture.h"
+#include "text/RunTimeError.h"
+
+namespace verdalis {
+namespace {
+
+class Focus : public ::verdalis::testing::ControlsFixture {
+ protected:
+  Focus() {
+    for (TextBox* box : {&first, &second}) {
+      box->onEnter = writes("enter " + box->name());
+      box->onLeave = writes("leave " + box->name());
+      box->onChange = writes("change " + box->name());
+    }
+    button.onClick = writes("click");
+    desk.onMoveFocus = [this](Control& control) { log.push_back("moved to " + control.name()); };
+  }
+
+  /// The first field fails its test: the focus goes back to it.
+  void failFirst() {
+    first.onLeave = [this] {
+      log.emplace_back("test fails");
+      desk.moveFocus(first);
+    };
+  }
+
+  TextBox first{window, "txtFirst"};
+  TextBox second{window, "txtSecond"};
+  Button button{window, "Command1", "Press"};
+};
+
+TEST_F(Focus, EnteringAndLeaving) {
+  first.enter();
+  first.enter();
+  EXPECT_EQ(take(), Log{"enter txtFirst"});
+  second.enter();
+  EXPECT_EQ(take(), (Log{"leave txtFirst", "enter txtSecond"}));
+  first.leave();
+  EXPECT_TRUE(take().empty());
+  second.leave();
+  EXPECT_EQ(take(), Log{"leave txtSecond"});
+  EXPECT_EQ(desk.focus(), nullptr);
+  second.leave();
+  EXPECT_TRUE(take().empty());
+}
+
+TEST_F(Focus, ActionTakesTheFocusFirst) {
+  first.type("1");
+  second.type("2");
+  button.click();
+  EXPECT_EQ(take(), (Log{"enter txtFirst", "change txtFirst", "leave txtFirst", "enter txtSecond",
+                         "change txtSecond", "leave txtSecond", "click"}));
+}
+
+TEST_F(Focus, WhatTheProgramSetsTakesNoFocus) {
+  first.setText("1");
+  EXPECT_EQ(take(), Log{"change txtFirst"});
+  EXPECT_EQ(desk.focus(), nullptr);
+}
+
+TEST_F(Focus, MovedByTheProgramTestsNothing) {
+  first.enter();
+  static_cast<void>(take());
+  desk.moveFocus(second);
+  EXPECT_EQ(take(), Log{"moved to txtSecond"});
+  EXPECT_EQ(desk.focus(), &second);
+}
+
+TEST_F(Focus, FailedTestKeepsAFocusThatOnlyMoves) {
+  first.enter();
+  failFirst();
+  static_cast<void>(take());
+  second.enter();
+  EXPECT_EQ(take(), (Log{"test fails", "moved to txtFirst"}));
+  EXPECT_EQ(desk.focus(), &first);
+  first.leave();
+  EXPECT_EQ(desk.focus(), &first);
+}
+
+TEST_F(Focus, ActionIsCarriedOutAfterAFailedTest) {
+  first.enter();
+  failFirst();
+  static_cast<void>(take());
+  button.click();
+  EXPECT_EQ(take(), (Log{"test fails", "moved to txtFirst", "moved to Command1", "click"}));
+  EXPECT_EQ(desk.focus(), &button);
+
+  first.enter();
+  static_cast<void>(take());
+  second.type("2");
+  EXPECT_EQ(take(), (Log{"test fails", "moved to txtFirst", "moved to txtSecond", "enter txtSecond",
+                         "change txtSecond"}));
+  EXPECT_EQ(desk.focus(), &second);
+}
+
+TEST_F(Focus, ControlThatGoesAwayLosesIt) {
+  {
+    TextBox passing(window, "txtPassing");
+    passing.onLeave = writes("never");
+    passing.enter();
+    EXPECT_EQ(desk.focus(), &passing);
+  }
+  EXPECT_EQ(desk.focus(), nullptr);
+  first.enter();
+  EXPECT_EQ(take(), Log{"enter txtFirst"});
+}
+
+TEST_F(Focus, FieldOfAClosedWindowIsNotTested) {
+  Window options(desk, "frmOptions");
+  TextBox factor(options, "txtFineFactor");
+  factor.onLeave = writes("leave txtFineFactor");
+  options.open();
+  factor.type("5");
+  options.close();
+  EXPECT_EQ(desk.focus(), nullptr);
+  first.enter();
+  EXPECT_EQ(take(), Log{"enter txtFirst"});
+}
+
+TEST_F(Focus, RunTimeErrorsAreToldOnce) {
+  std::vector<std::string> told;
+  desk.onRunTimeError = [&](const RunTimeError& error) { told.emplace_back(error.what()); };
+  const auto fails = [] { throw RunTimeError(ErrorNumber::overflow, "too large"); };
+  button.onClick = fails;
+  button.click();
+  first.onChange = fails;
+  first.type("1");
+  EXPECT_EQ(first.text(), "1");
+  first.onEnter = fails;
+  second.enter();
+  first.enter();
+  first.onLeave = fails;
+  first.leave();
+  EXPECT_EQ(told, Log(4, "too large"));
+}
+
+TEST_F(Focus, FailingLeaveDoesNotStopTheAction) {
+  std::vector<std::string> told;
+  desk.onRunTimeError = [&](const RunTimeError& error) { told.emplace_back(error.what()); };
+  first.enter();
+  first.onLeave = [] { throw RunTimeError(ErrorNumber::overflow, "too large"); };
+  static_cast<void>(take());
+  button.click();
+  EXPECT_EQ(told, Log{"too large"});
+  EXPECT_EQ(take(), Log{"click"});
+  EXPECT_EQ(desk.focus(), &button);
+}
+
+TEST_F(Focus, WithoutAListenerTheErrorGoesOn) {
+  button.onClick = [] { throw RunTimeError(ErrorNumber::overflow, "too large"); };
+  EXPECT_THROW(button.click(), RunTimeError);
+}
+
+TEST_F(Focus, OtherExceptionsAreNotTaken) {
+  desk.onRunTimeError = [this](const RunTimeError&) { log.emplace_back("told"); };
+  button.onClick = [] { throw std::logic_error("a mistake of the program"); };
+  EXPECT_THROW(button.click(), std::logic_error);
+  EXPECT_TRUE(take().empty());
+}
+
+}  // namespace
+}  // namespace verdalis

@@ -1,0 +1,94 @@
+#include "tests/controls/Fixture.h"
+
+namespace verdalis {
+namespace {
+
+class TextBoxes : public ::verdalis::testing::ControlsFixture {
+ protected:
+  TextBoxes() {
+    box.onChange = [this] { log.push_back("change " + box.text()); };
+    box.onKey = writes("key");
+    box.watcher = writes("watcher");
+  }
+
+  TextBox box{window, "txtArea", "7"};
+  TextBox other{window, "txtMax"};
+};
+
+TEST_F(TextBoxes, TypingTellsKeyThenWatcherThenChange) {
+  box.type("8");
+  EXPECT_EQ(take(), (Log{"key", "watcher", "change 8"}));
+  EXPECT_EQ(desk.focus(), &box);
+}
+
+TEST_F(TextBoxes, TypingTheSameTextIsAKeyAndNoChange) {
+  box.type("7");
+  EXPECT_EQ(take(), Log{"key"});
+  EXPECT_FALSE(box.canUndo());
+}
+
+TEST_F(TextBoxes, SettingTellsAChangeOnlyWhereThereIsOne) {
+  box.setText("7");
+  EXPECT_TRUE(take().empty());
+  box.setText("9");
+  EXPECT_EQ(take(), (Log{"watcher", "change 9"}));
+  EXPECT_EQ(desk.focus(), nullptr);
+}
+
+TEST_F(TextBoxes, UndoGoesBackToTheTextOfTheFocus) {
+  box.type("8");
+  box.type("80");
+  EXPECT_TRUE(box.canUndo());
+  static_cast<void>(take());
+  box.undo();
+  EXPECT_EQ(box.text(), "7");
+  EXPECT_EQ(take(), (Log{"watcher", "change 7"}));
+  EXPECT_FALSE(box.canUndo());
+  box.type("8");
+  EXPECT_TRUE(box.canUndo());
+}
+
+TEST_F(TextBoxes, UndoGoesBackToWhatTheProgramSetLast) {
+  box.type("8");
+  box.setText("50");
+  EXPECT_FALSE(box.canUndo());
+  box.type("51");
+  box.undo();
+  EXPECT_EQ(box.text(), "50");
+}
+
+TEST_F(TextBoxes, LeavingAndComingBackStartsTheUndoAnew) {
+  box.type("8");
+  other.type("1");
+  box.enter();
+  EXPECT_FALSE(box.canUndo());
+  box.type("9");
+  box.undo();
+  EXPECT_EQ(box.text(), "8");
+}
+
+TEST_F(TextBoxes, FocusMovedByTheProgramStartsTheUndoAnew) {
+  box.type("8");
+  desk.moveFocus(box);
+  EXPECT_FALSE(box.canUndo());
+}
+
+TEST_F(TextBoxes, TypingBackToTheOldTextCanStillBeUndone) {
+  box.type("8");
+  box.type("7");
+  EXPECT_TRUE(box.canUndo());
+  box.undo();
+  EXPECT_EQ(box.text(), "7");
+}
+
+TEST_F(TextBoxes, HandlerMaySetTheTextItself) {
+  box.onChange = [this] {
+    if (box.text() == "x") box.setText("y");
+  };
+  box.type("x");
+  EXPECT_EQ(box.text(), "y");
+  EXPECT_FALSE(box.canUndo());
+}
+
+}  // namespace
+}  // namespace verdalis

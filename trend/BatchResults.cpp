@@ -1,0 +1,96 @@
+#include "trend/BatchResults.h"
+
+#include <functional>
+#include <memory>
+#include <utility>
+
+#include "model/listIndex.h"
+#include "results/passOver.h"
+#include "text/numbers.h"
+#include "trend/FixedTrendExport.h"
+#include "trend/TrendVariables.h"
+#include "trend/VariableTrendExport.h"
+#include "trend/saveExport.h"
+
+namespace verdalis {
+
+BatchResults::BatchResults(Frame& container, Services& services, ProgramState& state, TrendState& trend,
+                           TrendHost& host)
+    : Frame(container, "theBatchResults", Scope::named),
+      theResults(*this, "theResults", services, state),
+      services_(services),
+      state_(state),
+      trend_(trend),
+      host_(host) {
+  pnlBatchSteps.setVisible(false);
+  cmdBatchStep[0].onClick = [this] { LoadBatchResults(step_ + 1); };
+  cmdBatchStep[1].onClick = [this] { LoadBatchResults(step_ - 1); };
+  cmdExcel.onClick = [this] { exportVariable(); };
+  theResults.onExcel = [this] { exportFixed(); };
+  theResults.trendedVariables = [this] {
+    std::vector<Results::TrendedVariable> variables;
+    for (const BatchProcess& process : trend_.ProcessCollection) {
+      variables.push_back({process.cropIndex, toInt16(process.VariableIndex)});
+    }
+    return variables;
+  };
+  theResults.trendOption = [this](std::int16_t i, std::int16_t j) {
+    return trend_.TrendOptionArray.at(static_cast<std::size_t>(i), static_cast<std::size_t>(j));
+  };
+}
+
+void BatchResults::EnableBatch(bool on) {
+  pnlBatchSteps.setVisible(on);
+}
+
+void BatchResults::setBatchCollection(const std::vector<BestMix>& batches, const BatchProcess& process) {
+  batches_ = batches;
+  bp = process;
+  trendValues_ = trend_.TrendValues;
+  variableName_ = trend_.TrendVariableName;
+  variableCrop_ = trend_.TrendVariableCrop;
+  const bool steps = batches_.size() >= 2;
+  EnableBatch(steps);
+  theResults.ShowBatchedVariables(!steps);
+}
+
+void BatchResults::LoadBatchResults(long step) {
+  if (step < 1 || static_cast<std::size_t>(step) > batches_.size()) return;
+  const auto place = static_cast<std::size_t>(step) - 1;
+  passOver([&] { theResults.loadResults(batches_[place].returnCollection(true)); });
+  step_ = step;
+  UnitsPair units;
+  passOver([&] { units = GetVariableUnits(host_, bp.VariableIndex, bp.cropIndex); });
+  passOver([&] {
+    const double value = numberOf(trendValues_[listIndex(step, trendValues_.size())]);
+    lblFreeBatchDescription.setCaption(variableCrop_ + " " + variableName_ + ": " + units[0] +
+                                       formatNumber(value, "###,##0.00") + " " + units[1]);
+  });
+  lblBatchDescription1.setCaption("Step " + std::to_string(step) + " of " + std::to_string(batches_.size()));
+}
+
+void BatchResults::exportTo(const std::function<void(std::string&)>& write) {
+  exportForSpreadsheet(desk(), services_, host_.home(), write);
+}
+
+void BatchResults::exportVariable() {
+  exportTo([this](std::string& text) {
+    writeVariableTrend(
+        {batches_, trendValues_, variableName_, variableCrop_,
+         GetVariableUnits(host_, bp.VariableIndex, bp.cropIndex), host_.txtEff(), services_.clock.now()},
+        text);
+  });
+}
+
+void BatchResults::exportFixed() {
+  exportTo([this](std::string& text) {
+    const auto isTrended = [this](std::int16_t variable, const std::string& crop) {
+      return theResults.CheckVariable(variable, static_cast<std::int16_t>(GetCropIndex(host_, crop).row));
+    };
+    writeFixedTrend(
+        {trend_.TrendOptionArray, *state_.SelectedOption, isTrended, host_.txtEff(), services_.clock.now()},
+        text);
+  });
+}
+
+}  // namespace verdalis

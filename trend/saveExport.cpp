@@ -1,0 +1,92 @@
+#include "trend/saveExport.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <optional>
+#include <system_error>
+
+#include "screens/modHelp.h"
+#include "text/RunTimeError.h"
+#include "text/encoding.h"
+
+namespace verdalis {
+namespace {
+
+struct ExportError {
+  int number = 0;
+  std::string description;
+};
+
+ExportError systemError(int reason) {
+  return {reason, std::generic_category().message(reason)};
+}
+
+/// Whether the file can be written, asked of the system in the way that gets its own refusal: by opening it.
+/// What was in it stays.
+std::optional<ExportError> openForOutput(const std::filesystem::path& path) {
+  constexpr int flags = O_WRONLY | O_CREAT | O_CLOEXEC | O_NONBLOCK;
+  const int file = ::open(path.c_str(), flags, 0666);  // NOLINT(cppcoreguidelines-pro-type-vararg)
+  if (file < 0) return systemError(errno);
+  ::close(file);
+  return std::nullopt;
+}
+
+std::optional<ExportError> saveText(const std::filesystem::path& path,
+                                    const std::function<void(std::string&)>& write,
+                                    const FileWriter& writer) {
+  if (std::optional<ExportError> refused = openForOutput(path)) return refused;
+  std::string text;
+  std::optional<ExportError> error;
+  try {
+    write(text);
+  } catch (const RunTimeError& failure) {
+    error = {static_cast<int>(failure.number()), failure.what()};
+  }
+  errno = 0;
+  try {
+    writer(path, encodeForExport(text));
+  } catch (const RunTimeError& failure) {
+    const int reason = errno;
+    if (reason != 0) return systemError(reason);
+    return ExportError{static_cast<int>(failure.number()), failure.what()};
+  }
+  return error;
+}
+
+MessageAnswer show(Desk& desk, Services& services, const Message& message) {
+  const Desk::Modal modal(desk);
+  return services.messageBox.show(message);
+}
+
+}  // namespace
+
+void exportForSpreadsheet(Desk& desk, Services& services, const std::filesystem::path& folder,
+                          const std::function<void(std::string&)>& write, const FileWriter& writer) {
+  std::optional<std::filesystem::path> path;
+  {
+    const Desk::Modal modal(desk);
+    path = services.fileChooser.chooseSave({"", folder, "Microsoft Excel (*.xls) | *.xls", "xls"});
+  }
+  if (!path || path->empty()) return;
+  if (const std::optional<ExportError> error = saveText(*path, write, writer)) {
+    show(desk, services,
+         {"File Error",
+          "The file '" + path->string() +
+              "' is either currently open by another program or is unaccessible at the moment.\nPlease check "
+              "the file and try again.  Error #" +
+              std::to_string(error->number) + " -> " + error->description,
+          MessageIcon::exclamation, MessageButtons::ok});
+    return;
+  }
+  const MessageAnswer answer =
+      show(desk, services,
+           {"Export Complete",
+            "The Microsoft Excel worksheet '" + path->string() +
+                "' has been created successfully!\nDo you want to open this file now?",
+            MessageIcon::information, MessageButtons::yesNo});
+  if (answer == MessageAnswer::yes) openWithShell(desk, services, *path);
+}
+
+}  // namespace verdalis
