@@ -1,0 +1,125 @@
+#pragma once
+
+#include <array>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "controls/Control.h"
+#include "controls/displays.h"
+#include "engine/ProgramState.h"
+#include "model/Field.h"
+
+namespace verdalis {
+
+/// The details of one field: line by line and per acre, what makes up its net return.
+class Details : public Frame {
+ public:
+  /// Where "Back" leads.
+  enum class BackTo { results, trendResults };
+
+  /// `name` is that of this instance, such as "theDetails".
+  Details(Frame& container, const std::string& name, const ProgramState& state);
+
+  // Field information and totals.
+  Label lblAcres{*this, "lblAcres"};
+  Label lblCrop{*this, "lblCrop"};
+  Label lblYield{*this, "lblYield"};
+  Label lblCropPrice{*this, "lblCropPrice"};
+  Label lblGross{*this, "lblGross"};
+  Label lblRain{*this, "lblRain"};
+  Label lblTotalCosts{*this, "lblTotalCosts"};
+  Label lblTotalReturns{*this, "lblTotalReturns"};
+  Label lblTotalProfit{*this, "lblTotalProfit"};
+  Label lblAlfDetails{*this, "lblAlfDetails"};  ///< Life of the stand, of a forage crop
+  Label lblAnnualized{*this, "lblAnnualized"};  ///< What the marker "*" means, of a forage crop
+
+  // General input costs.
+  Label lblNC{*this, "lblNC"};
+  Label lblNAPA{*this, "lblNAPA"};
+  Label lblPC{*this, "lblPC"};
+  Label lblPAPA{*this, "lblPAPA"};
+  Label lblSC{*this, "lblSC"};
+  Label lblSPR{*this, "lblSPR"};
+  Label lblHC{*this, "lblHC"};
+  Label lblI{*this, "lblI"};
+  Label lblGeneralCosts{*this, "lblGeneralCosts"};
+
+  // Operation costs.
+  Label lblTC{*this, "lblTC"};
+  Label lblPlantCost{*this, "lblPlantCost"};
+  Label lblFertApplicationCost{*this, "lblFertApplicationCost"};
+  Label lblHAC{*this, "lblHAC"};
+  Label lblIAC{*this, "lblIAC"};
+  Label lblHarvestTotalCost{*this, "lblHarvestTotalCost"};
+  Label lblApplicationCosts{*this, "lblApplicationCosts"};
+
+  // Land returns.
+  Label lblMR{*this, "lblMR"};
+  Label lblReturns{*this, "lblReturns"};
+
+  // Irrigation.
+  Label lblGPM{*this, "lblGPM"};
+  Label lblPWL{*this, "lblPWL"};
+  Label lblPSI{*this, "lblPSI"};
+  Label lblFT{*this, "lblFT"};
+  Label lblFC{*this, "lblFC"};
+  Label lblLC{*this, "lblLC"};
+  Label lblMaint{*this, "lblMaint"};
+  Label lblHours{*this, "lblHours"};
+  Label lblIrrigationCosts{*this, "lblIrrigationCosts"};
+
+  // Miscellaneous.
+  Label lblMC{*this, "lblMC"};
+  Label lblSubTotalMC{*this, "lblSubTotalMC"};
+
+  /// What a trend has put in the place of the production costs (0) and of the irrigation costs (1). The
+  /// lines of these costs stay on show beside it.
+  std::array<Frame, 2> picBatch{{{*this, "picBatch(0)"}, {*this, "picBatch(1)"}}};
+  Label lblBatchGeneralProductionCost{picBatch[0], "lblBatchGeneralProductionCost"};
+  Label lblBatchIrrigationCosts{picBatch[1], "lblBatchIrrigationCosts"};
+
+  Button Command2{*this, "Command2", "Print Details"};
+  Button Command3{*this, "Command3", "Back"};
+
+  /// A line of the screen: its caption, as captions are written, and the label with its value.
+  struct Line {
+    std::string_view caption;
+    Label Details::*value;
+  };
+
+  /// A block of lines. `closing` are labels without a caption of their own: subtotals and notes.
+  struct Block {
+    std::string_view caption;
+    std::vector<Line> lines;
+    std::vector<Label Details::*> closing;
+  };
+
+  /// The blocks in order.
+  [[nodiscard]] static const std::vector<Block>& blocks();
+
+  /// Fills the screen from a copy of the field, and hands the field itself on to onFieldLoaded.
+  /// \throws RunTimeError (divisionByZero, overflow) for a figure that cannot be calculated; the labels
+  /// before it are filled by then.
+  void loadCosts(const Field& field);
+
+  /// A field is on show: it can be printed.
+  std::function<void(const Field&)> onFieldLoaded;
+
+  std::function<void()> onPrint;
+  std::function<void(BackTo)> onBack;
+
+ private:
+  void showOverrides();
+  void showGeneralCosts();
+  void showOperationCosts();
+  void showIrrigation();
+  void showTotals(double gross);
+  void showNotes();
+
+  const ProgramState& state_;
+  Field field_;
+};
+
+}  // namespace verdalis

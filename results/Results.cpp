@@ -1,0 +1,162 @@
+#include "results/Results.h"
+
+#include <algorithm>
+
+#include "model/listIndex.h"
+#include "results/figures.h"
+#include "results/passOver.h"
+#include "text/numbers.h"
+
+namespace verdalis {
+namespace {
+
+/// The variables below this index belong to a crop.
+constexpr std::int16_t cropVariables = 3;
+
+}  // namespace
+
+Results::Results(Frame& container, const std::string& name, Services& services, ProgramState& state)
+    : Frame(container, name, Scope::named), services_(services), state_(state) {
+  for (ResultHolder& row : rh)
+    row.setVisible(false);
+  batchDisplay.setVisible(false);
+  pnlBatchedVariables.setVisible(false);
+  connect();
+}
+
+void Results::connect() {
+  cmdPrevious.onClick = [this] { page(-1); };
+  cmdAdvance.onClick = [this] { page(1); };
+  cmdSaveResult.onClick = [this] { saveResult(); };
+  cmdBatchThis.onClick = [this] { batchThis(); };
+  Command1.onClick = [this] {
+    if (onBack) onBack(state_.TrendMode ? BackTo::trendSetup : BackTo::main);
+  };
+  Command2.onClick = [this] {
+    if (onPrint) onPrint();
+  };
+  cmdExcel.onClick = [this] {
+    if (onExcel) onExcel();
+  };
+  for (ResultHolder& row : rh) {
+    row.onDetails = [this](const std::shared_ptr<Field>& field) {
+      if (onDetails) onDetails(field);
+    };
+  }
+  cmdHelp.onClick = [this] {
+    if (onHelpTopic) onHelpTopic("batchoption.htm#BatchFixed");
+  };
+  cmdHelp2.onClick = [this] {
+    if (!onHelpNote) return;
+    onHelpNote(
+        "Click an 'Option' previous or next button to display results of each step of the input variable "
+        "range(s)",
+        "View Trend Results", 1750);
+  };
+  cmdHelp3.onClick = [this] {
+    if (onHelpNote) onHelpNote("Exports results to a MS Excel spreadsheet", "Excel Output", 1725);
+  };
+}
+
+const Results::Option& Results::option(std::int16_t number) const {
+  return FieldCollection[listIndex(number, FieldCollection.size())];
+}
+
+void Results::loadResults(const std::vector<Option>& options) {
+  EnableBatch(state_.TrendEnabled);
+  currentRecord = 0;
+  lblCounter.setCaption("Option 1");
+  FieldCollection = options;
+  maxOption_ = static_cast<std::int16_t>(
+      std::count_if(options.begin(), options.end(), [](const Option& entry) { return entry->Count() > 0; }));
+  switchTo(1);
+}
+
+void Results::EnableBatch(bool on) {
+  batchDisplay.setVisible(on);
+}
+
+void Results::ShowBatchedVariables(bool on) {
+  pnlBatchedVariables.setVisible(on);
+}
+
+void Results::switchTo(std::int16_t direction) {
+  if (direction == -1 && currentRecord == 1) return;
+  if (direction == 1 && currentRecord == maxOption_) return;
+  for (ResultHolder& row : rh)
+    row.setVisible(false);
+  passOver([&] { currentRecord = toInt16(static_cast<double>(currentRecord) + direction); });
+  double totalAcres = 0;
+  passOver([&] { showRows(totalAcres); });
+  passOver([&] {
+    const double profit = perAcre(getTotalProfit(currentRecord), totalAcres);
+    lblTotalProfit.setCaption(dollarsAnAcre(profit, "###,###,###"));
+  });
+  for (Label& description : lblBatchDescriptions)
+    description.setCaption("");
+  passOver([&] { describeTrend(); });
+}
+
+void Results::showRows(double& totalAcres) {
+  std::size_t row = 0;
+  for (const auto& field : option(currentRecord)->NewEnum()) {
+    totalAcres += field->acres;
+    if (row < rh.size()) {
+      rh[row].loadField(*field);
+      rh[row].setVisible(true);
+    }
+    ++row;
+  }
+}
+
+void Results::describeTrend() {
+  const verdalis::FieldCollection& shown = *option(currentRecord);
+  for (std::size_t k = 0; k < std::min(shown.theVariable.size(), lblBatchDescriptions.size()); ++k) {
+    passOver([&] {
+      const UnitsPair& units = shown.theUnits[listIndex(static_cast<long>(k) + 1, shown.theUnits.size())];
+      const double value = shown.theValue[listIndex(static_cast<long>(k) + 1, shown.theValue.size())];
+      lblBatchDescriptions[k].setCaption(shown.theVariable[k] + " : " + units[0] +
+                                         formatNumber(value, "###,###.00") + " " + units[1]);
+    });
+  }
+}
+
+double Results::getTotalProfit(std::int16_t number) const {
+  return option(number)->getProfit();
+}
+
+bool Results::CheckVariable(std::int16_t variableIndex, std::int16_t cropRowIndex) const {
+  if (!trendedVariables) return false;
+  const std::vector<TrendedVariable> variables = trendedVariables();
+  return std::any_of(variables.begin(), variables.end(), [&](const TrendedVariable& trended) {
+    if (trended.VariableIndex != variableIndex) return false;
+    const bool ofCrop = variableIndex >= 0 && variableIndex < cropVariables;
+    return !ofCrop || trended.cropIndex == cropRowIndex;
+  });
+}
+
+Results::Option Results::GetSortedBatchArrayField(std::int16_t i, std::int16_t j) const {
+  return trendOption ? trendOption(i, j) : nullptr;
+}
+
+void Results::page(std::int16_t direction) {
+  switchTo(direction);
+  lblCounter.setCaption("Option " + std::to_string(getOption()));
+}
+
+void Results::saveResult() {
+  if (onSaveOption) onSaveOption(option(currentRecord));
+  const Desk::Modal modal(desk());
+  services_.messageBox.show({"Result saved",
+                             "This option has been saved for comparison and is available by clicking the "
+                             "'Summary Table' menu item",
+                             MessageIcon::none, MessageButtons::ok});
+}
+
+void Results::batchThis() {
+  state_.SelectedOption = option(currentRecord);
+  if (onBatchThis) onBatchThis(state_.SelectedOption);
+  EnableBatch(true);
+}
+
+}  // namespace verdalis

@@ -1,0 +1,168 @@
+#include "results/SummaryPane.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <utility>
+
+#include "model/checked.h"
+#include "results/figures.h"
+#include "text/RunTimeError.h"
+#include "text/encoding.h"
+#include "text/numbers.h"
+
+namespace verdalis {
+namespace {
+
+constexpr int tableRows = 12;
+constexpr std::array<const char*, tableRows> rowHeads{
+    "",
+    "Crop",
+    "Acres",
+    "Soil",
+    "Price",
+    "Yield",
+    "Annual Rainfall",
+    "Gross Irrigation",
+    "Net Irrigation",
+    "Operating Costs",
+    "Returns",
+    "Net Return",
+};
+
+constexpr std::uint32_t green = 0x008000;
+constexpr std::uint32_t blue = 0x0000FF;
+
+}  // namespace
+
+std::string commaSeparated(const Grid& grid) {
+  std::string text;
+  for (int row = 0; row < grid.rows(); ++row) {
+    for (int column = 0; column < grid.columns(); ++column) {
+      if (column > 0) text += ",";
+      text += grid.cell(row, column);
+    }
+    text += "\r\n";
+  }
+  return text;
+}
+
+SummaryPane::SummaryPane(Frame& container, Services& services, SavedOptions& summaryResults, Outside outside)
+    : Frame(container, "pneSummary"),
+      services_(services),
+      summaryResults_(summaryResults),
+      outside_(std::move(outside)) {
+  setCaption("Summary of Saved Options");
+  fgsummary.onClick = [this] { removeClicked(); };
+  cmdExcelSave.onClick = [this] { saveTable(); };
+  cmdCancel.onClick = [this] {
+    if (onBack) onBack();
+  };
+}
+
+void SummaryPane::showSummary() {
+  build();
+  if (onShowPane) onShowPane();
+}
+
+void SummaryPane::build() {
+  if (summaryResults_.empty()) {
+    fgsummary.setVisible(false);
+    Label59.setCaption(
+        "No saved results.  Run a scenario and click the 'Save Results' button to add items to be displayed "
+        "on "
+        "this page");
+    return;
+  }
+  fgsummary.setVisible(true);
+  Label59.setCaption("Saved options are displayed in the table below.  Remove a column by clicking it.");
+  const Grid::Batch batch(fgsummary);
+  fgsummary.clear();
+  long fields = 0;
+  for (const auto& option : summaryResults_)
+    fields += option->Count();
+  fgsummary.setSize(tableRows, std::max(2, static_cast<int>(fields) + 1));
+  for (int row = 1; row < tableRows; ++row)
+    fgsummary.setCell(row, 0, rowHeads[static_cast<std::size_t>(row)]);
+
+  int column = 0;
+  try {
+    int number = 0;
+    for (const auto& option : summaryResults_)
+      addOption(*option, ++number, column);
+  } catch (const RunTimeError&) {
+    fgsummary.setSize(tableRows, std::max(2, column + 1));
+    throw;
+  }
+  fgsummary.setCurrent(fgsummary.row(), fgsummary.columns() - 1);
+}
+
+/// `column` is the last one that has been begun.
+void SummaryPane::addOption(const FieldCollection& option, int number, int& column) {
+  const std::string head = "Saved Option #" + std::to_string(number);
+  int fieldNumber = 0;
+  for (const auto& field : option) {
+    ++fieldNumber;
+    ++column;
+    for (int row = 1; row < tableRows; ++row)
+      fgsummary.setColor(row, column, number % 2 == 1 ? green : blue);
+    fgsummary.setCell(0, column,
+                      option.Count() > 1 ? head + " - Field #" + std::to_string(fieldNumber) : head);
+    addField(*field, column);
+  }
+}
+
+/// Row by row, so that the column of a field that cannot be calculated is filled as far as that goes.
+void SummaryPane::addField(Field& field, int column) {
+  int row = 0;
+  const auto add = [&](const std::string& text) { fgsummary.setCell(++row, column, text); };
+  const auto addMoney = [&](double amount) { add(dollarsAnAcre(perAcre(amount, field.acres), "###,##0")); };
+  const Crop& crop = *field.theCrop;
+  add(crop.cropType);
+  add(generalText(field.acres));
+  add(crop.soilName);
+  add("$" + formatNumber(crop.price, "###,##0.00") + "/" + crop.priceUnits());
+  add(crop.yieldToString());
+  add(generalText(Val(outside_.annualRain())) + "''");
+  add(inches(grossFromNet(field.Depth), "#0.0"));
+  add(inches(field.Depth, "#0.0"));
+  addMoney(field.getCosts());
+  addMoney(field.getReturn());
+  addMoney(field.getReturn() - field.getCosts());
+}
+
+void SummaryPane::removeClicked() {
+  {
+    const Desk::Modal modal(desk());
+    const MessageAnswer answer =
+        services_.messageBox.show({"Delete?", "Do you want to delete this saved result?",
+                                   MessageIcon::question, MessageButtons::yesNo});
+    if (answer != MessageAnswer::yes) return;
+  }
+  // An option counts for one column more than it has fields, so the columns agree with those of the table for
+  // the first option only. That is meant.
+  int n = 1;
+  for (auto option = summaryResults_.begin(); option != summaryResults_.end(); ++option) {
+    const int beyond = n + static_cast<int>((*option)->Count());
+    if (fgsummary.column() >= n && fgsummary.column() <= beyond) {
+      summaryResults_.erase(option);
+      showSummary();
+      return;
+    }
+    n = beyond + 1;
+  }
+  // A click on the heads removes nothing, but shows the pane once more, which the pane history keeps.
+  if (onShowPane) onShowPane();
+}
+
+void SummaryPane::saveTable() {
+  std::optional<std::filesystem::path> path;
+  {
+    const Desk::Modal modal(desk());
+    path = services_.fileChooser.chooseSave({"", {}, "Comma Separated Values|csv", "csv"});
+  }
+  if (path) outside_.writeFile(*path, encodeForExport(commaSeparated(fgsummary)));
+}
+
+}  // namespace verdalis

@@ -1,0 +1,117 @@
+#include "screens/CropRecord.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+#include "screens/modInputTest.h"
+#include "text/RunTimeError.h"
+#include "text/numbers.h"
+
+namespace verdalis {
+namespace {
+
+/// The most that a row accepts without a message. A crop that is not here is not tested.
+struct RowLimits {
+  std::string_view cropType;
+  double price;
+  double maxYield;
+};
+
+constexpr std::array<RowLimits, 6> rowLimits{{
+    {"Alfalfa", 300, 20},
+    {"Corn", 10, 500},
+    {"Grain Sorghum", 10, 300},
+    {"Soybeans", 20, 150},
+    {"Sunflower", 25, 8000},
+    {"Wheat", 15, 200},
+}};
+
+const RowLimits* limitsOf(const std::shared_ptr<Crop>& crop) {
+  if (!crop) return nullptr;
+  const auto* const row = std::find_if(rowLimits.begin(), rowLimits.end(), [&](const RowLimits& limits) {
+    return limits.cropType == crop->cropType;
+  });
+  return row == rowLimits.end() ? nullptr : row;
+}
+
+}  // namespace
+
+CropRecord::CropRecord(Frame& container, int index, MessageBoxService& messageBox)
+    : Frame(container, "cr(" + std::to_string(index) + ")", Scope::named), messageBox_(messageBox) {
+  chkCrop.onClick = [this] { showActivity(); };
+  cmdInputCosts.onClick = [this] {
+    if (onInputCosts) onInputCosts();
+  };
+  // A partly typed price leaves the crop's old one, a partly typed yield its leading digits: both are meant.
+  txtPrice.onChange = [this] {
+    if (Crop && isNumeric(txtPrice.text())) Crop->price = toDouble(txtPrice.text());
+  };
+  txtMaxYield.onChange = [this] {
+    if (Crop) Crop->maxYield = getMaxYield();
+  };
+  txtPrice.onLeave = [this] { testPrice(); };
+  txtMaxYield.onLeave = [this] { testMaxYield(); };
+  showActivity();
+}
+
+void CropRecord::loadInfo(const std::string& crop, const std::string& priceUnits,
+                          const std::string& /*inputCostUnits*/, const std::string& yieldUnits) {
+  const bool fallow = crop == "Fallow";
+  chkCrop.setCaption(crop);
+  lblPriceUnits.setCaption(fallow ? "" : priceUnits);
+  txtPrice.setVisible(!fallow);
+  txtMaxYield.setVisible(!fallow);
+  lblYieldUnits.setCaption(yieldUnits);
+}
+
+double CropRecord::getPrice() const {
+  return Val(txtPrice.text());
+}
+
+void CropRecord::setPrice(double price) {
+  txtPrice.setText(generalText(price));
+}
+
+void CropRecord::setMaxYield(double yield) {
+  txtMaxYield.setText(generalText(yield));
+}
+
+double CropRecord::getMaxYield() const {
+  return Val(txtMaxYield.text());
+}
+
+void CropRecord::setDefault(double price, double yield) {
+  txtPrice.setText(formatNumber(price, "#0.00"));
+  txtMaxYield.setText(generalText(yield));
+}
+
+void CropRecord::refresh() {
+  if (!Crop) return;
+  // The yield is taken before the new price text goes back into the crop.
+  const std::string yield = generalText(Crop->maxYield);
+  txtPrice.setText(formatNumber(Crop->price, "#,##0.00"));
+  txtMaxYield.setText(yield);
+}
+
+void CropRecord::showActivity() {
+  const bool active = isActive();
+  background.setVisible(active);
+  for (Control* control : controls())
+    control->setEnabled(active);
+  chkCrop.setEnabled(true);
+}
+
+void CropRecord::testPrice() {
+  if (const RowLimits* limits = limitsOf(Crop)) {
+    testInput(&txtPrice, limits->price, "Crop Price - " + Crop->cropType, messageBox_);
+  }
+}
+
+void CropRecord::testMaxYield() {
+  if (const RowLimits* limits = limitsOf(Crop)) {
+    testInput(&txtMaxYield, limits->maxYield, "Maximum Yield - " + Crop->cropType, messageBox_);
+  }
+}
+
+}  // namespace verdalis

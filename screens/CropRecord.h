@@ -1,0 +1,69 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "controls/displays.h"
+#include "controls/inputs.h"
+#include "controls/services.h"
+#include "engine/ScenarioInputs.h"
+#include "model/Crop.h"
+
+namespace verdalis {
+
+/// A row of the crop list: the tick that makes a crop a candidate, its price, its maximum yield and the way
+/// to its production costs. What is typed goes into the crop at once; the crop is the library's own.
+class CropRecord : public Frame {
+ public:
+  CropRecord(Frame& container, int index, MessageBoxService& messageBox);
+
+  std::shared_ptr<verdalis::Crop> Crop;  ///< None in the row of an empty library
+
+  Image background{*this, "background"};  ///< The tint F3F3F3 behind an active row
+  CheckBox chkCrop{*this, "chkCrop", "BLANK_CROP"};
+  TextBox txtPrice{*this, "txtPrice"};
+  Label lblPriceUnits{*this, "lblPriceUnits", "PRICE_UNITS"};
+  TextBox txtMaxYield{*this, "txtMaxYield"};
+  Label lblYieldUnits{*this, "lblYieldUnits", "YIELD_UNITS"};
+  Button cmdInputCosts{*this, "cmdInputCosts", "Costs/Returns"};
+
+  /// Shows a crop. `inputCostUnits` takes no part. Fallow has neither price nor yield.
+  void loadInfo(const std::string& crop, const std::string& priceUnits, const std::string& inputCostUnits,
+                const std::string& yieldUnits);
+
+  [[nodiscard]] bool isActive() const { return chkCrop.checked(); }
+
+  /// The leading number of the text, $ per yield unit; 0 without one.
+  [[nodiscard]] double getPrice() const;
+  void setPrice(double price);
+  void setMaxYield(double yield);
+
+  /// Always 20, whatever the crop costs: nothing depends on it.
+  [[nodiscard]] static double getInputCost() { return 20; }
+
+  /// The leading number of the text, yield units per acre; 0 without one.
+  [[nodiscard]] double getMaxYield() const;
+
+  /// The name that the row shows.
+  [[nodiscard]] const std::string& GetCrop() const { return chkCrop.caption(); }
+
+  void setDefault(double price, double yield);
+
+  /// The price and the yield of the crop, as texts.
+  void refresh();
+
+  /// What a run needs of the row.
+  [[nodiscard]] CropRowInput input() const { return {isActive(), txtPrice.text(), txtMaxYield.text()}; }
+
+  std::function<void()> onInputCosts;
+
+ private:
+  void showActivity();
+  void testPrice();
+  void testMaxYield();
+
+  MessageBoxService& messageBox_;
+};
+
+}  // namespace verdalis

@@ -1,0 +1,315 @@
+#include "screens/CustomCropPane.h"
+
+#include <system_error>
+#include <utility>
+
+#include "data/StockGrids.h"
+#include "data/writeFile.h"
+#include "screens/CustomGrid.h"
+#include "text/RunTimeError.h"
+#include "text/encoding.h"
+
+namespace verdalis {
+namespace {
+
+constexpr std::array<CustomCropField, 9> paneFields{{
+    {.control = "cboCustomGrid(0)", .label = "Select a custom crop:"},
+    {.control = "txtCustom(0)", .label = "Name of Crop", .note = "The name of your custom crop"},
+    {.control = "cboCustomGrid(4)",
+     .label = "Yield Units",
+     .note = "*Define the units that your custom crop will use.  'Tons' will be considered a forage crop."},
+    {.control = "cboCustomGrid(1)",
+     .label = "Annual Rainfall Range",
+     .note = "*Set the rainfall range for the data grid below"},
+    {.control = "cboCustomGrid(2)", .label = "to"},
+    {.control = "cboCustomGrid(3)",
+     .label = "Maximum Net Irrigation",
+     .note = "*Set the maximum net irrigation for the grid below",
+     .unit = "inches"},
+    {.control = "cmdCustomGrid(0)",
+     .label = "",
+     .note = "*Size the grid below using the values defined above"},
+    {.control = "cboCustomGrid(5)", .label = "Load Default Crop Values:"},
+    {.control = "dgCustom", .label = "Enter crop yields manually or paste from EXCEL to grid below"},
+}};
+
+constexpr int firstRainLeast = 9;
+constexpr int firstRainMost = 11;
+constexpr int lastRainLeast = 12;
+constexpr int lastRainMost = 32;
+constexpr int irrigationMost = 32;
+
+/// A crop with a default table, and the position of its unit in the list of units.
+struct DefaultTable {
+  const char* crop;
+  int unit;
+};
+
+constexpr std::array<DefaultTable, 6> defaultTables{{
+    {"Corn", 0},
+    {"Alfalfa", 2},
+    {"Grain Sorghum", 0},
+    {"Soybeans", 0},
+    {"Sunflower", 1},
+    // The table is in bushels, and the unit tons all the same, which makes a forage crop of what is saved
+    // from it: that is meant.
+    {"Wheat", 2},
+}};
+
+constexpr const char* noCrop = "Select...";
+constexpr const char* noDefault = "Select crop...";
+
+/// A step of a handler. Where it fails it is left out, and the handler goes on.
+template <class Step>
+void leaveOutIfFailing(Step step) {
+  try {
+    step();
+  } catch (const RunTimeError&) {  // NOLINT(bugprone-empty-catch): the next step follows all the same
+  }
+}
+
+void fillWithNumbers(ComboBox& list, int first, int last) {
+  list.clear();
+  for (int number = first; number <= last; ++number)
+    list.addItem(std::to_string(number));
+}
+
+void fillWithDefaultCrops(ComboBox& list) {
+  list.clear();
+  for (const DefaultTable& table : defaultTables)
+    list.addItem(table.crop);
+  list.setText(noDefault);
+}
+
+}  // namespace
+
+std::span<const CustomCropField> CustomCropPane::fields() {
+  return paneFields;
+}
+
+CustomCropPane::CustomCropPane(Frame& window, Services& services, std::filesystem::path folder)
+    : Frame(window, "pneCustomCrop"), services_(services), folder_(std::move(folder)) {
+  setCaption(std::string(title));
+  cmdCustomGrid6.setVisible(false);
+  dgCustom.setCurrent(1, 1);
+  wire();
+}
+
+void CustomCropPane::wire() {
+  cboCustomGrid[0].onClick = [this] { loadCustomCrop(cboCustomGrid[0].index()); };
+  cboCustomGrid[5].onClick = [this] { loadDefaultTable(); };
+  txtCustom.onKey = [this] { customAltered = true; };
+  dgCustom.onCharacter = [this](const std::string& character) { typeIntoGrid(dgCustom, character); };
+  dgCustom.onKey = [this](GridKey key) { pressKeyInGrid(dgCustom, key, services_.clipboard); };
+  cmdCustomGrid0.onClick = [this] { setGridSize(); };
+  cmdCustomGrid2.onClick = [this] { save(); };
+  cmdCustomGrid3.onClick = [this] { copyGrid(); };
+  cmdCustomGrid4.onClick = [this] { pasteGrid(); };
+  cmdCustomGrid5.onClick = [this] { goHome(); };
+  cmdCustomGrid6.onClick = [this] { deleteCrop(); };
+  cmdHelp.onHelp = [this](int index) {
+    if (onHelp) onHelp(index);
+  };
+}
+
+void CustomCropPane::fillLists() {
+  fillWithNumbers(cboCustomGrid[1], firstRainLeast, firstRainMost);
+  fillWithNumbers(cboCustomGrid[2], lastRainLeast, lastRainMost);
+  fillWithNumbers(cboCustomGrid[3], 0, irrigationMost);
+  fillWithDefaultCrops(cboCustomGrid[5]);
+  for (const std::size_t list : {1U, 2U, 3U})
+    cboCustomGrid.at(list).setIndex(1);
+  cboCustomGrid[4].clear();
+  for (const CustomCropUnit& unit : customCropUnits)
+    cboCustomGrid[4].addItem(std::string(unit.choice));
+  cboCustomGrid[4].setIndex(0);
+}
+
+void CustomCropPane::open() {
+  scanCustomCrops();
+  listCustomCrops();
+  resetCustomEditor();
+  if (onShowPane) onShowPane();
+}
+
+void CustomCropPane::scanCustomCrops() {
+  CustomCropList = findCustomCrops(folder_);
+}
+
+void CustomCropPane::listCustomCrops() {
+  ComboBox& list = cboCustomGrid[0];
+  list.clear();
+  list.addItem(noCrop);
+  for (const CustomCropEntry& crop : CustomCropList)
+    list.addItem(crop.name);
+  list.setIndex(0);
+}
+
+void CustomCropPane::resetCustomEditor() {
+  txtCustom.setText("");
+  for (const std::size_t list : {1U, 2U, 3U})
+    cboCustomGrid.at(list).setIndex(0);
+  dgCustom.clear();
+  cboCustomGrid[0].setIndex(0);
+  fillWithDefaultCrops(cboCustomGrid[5]);
+  customAltered = false;
+}
+
+void CustomCropPane::loadCustomCrop(int index) {
+  cmdCustomGrid6.setVisible(index > 0);
+  if (index <= 0) {
+    resetCustomEditor();
+    return;
+  }
+  const auto position = static_cast<std::size_t>(index);
+  if (position > CustomCropList.size()) return;
+  const CustomCropContents crop = readCustomCrop(CustomCropList[position - 1].path);
+  const Grid::Batch batch(dgCustom);
+  if (crop.name) txtCustom.setText(*crop.name);
+  if (crop.firstRain) cboCustomGrid[1].setText(*crop.firstRain);
+  if (crop.lastRain) cboCustomGrid[2].setText(*crop.lastRain);
+  if (crop.maxIrrigation) cboCustomGrid[3].setText(*crop.maxIrrigation);
+  setGridSize();
+  fillCustomGrid(dgCustom, crop.values);
+  customAltered = false;
+}
+
+void CustomCropPane::setGridSize() {
+  leaveOutIfFailing([this] {
+    sizeCustomGrid(dgCustom, wholeInches(cboCustomGrid[1].text()), wholeInches(cboCustomGrid[2].text()), 0,
+                   wholeInches(cboCustomGrid[3].text()));
+  });
+}
+
+void CustomCropPane::loadDefaultTable() {
+  if (!dgCustom.cell(1, 1).empty()) {
+    const MessageAnswer answer = ask(
+        {"Load defaults?",
+         "Loading default crop values will overwrite any existing data you've entered for this custom crop.  "
+         "Continue to load the default crop values?",
+         MessageIcon::question, MessageButtons::yesNo});
+    if (answer != MessageAnswer::yes) return;
+  }
+  const int index = cboCustomGrid[5].index();
+  if (index < 0) return;
+  const DefaultTable& table = defaultTables.at(static_cast<std::size_t>(index));
+  const StockGrid* const grid = stockGrid(lowerCase(table.crop));
+  if (grid == nullptr) return;
+  cboCustomGrid[1].setText(std::string(grid->firstRain));
+  cboCustomGrid[2].setText(std::string(grid->lastRain));
+  cboCustomGrid[3].setText(std::string(grid->maxIrrigation));
+  const Grid::Batch batch(dgCustom);
+  setGridSize();
+  cboCustomGrid[4].setIndex(table.unit);
+  fillCustomGrid(dgCustom, commaSeparatedEntries(grid->values));
+}
+
+void CustomCropPane::save() {
+  const std::optional<std::filesystem::path> path = pathToSave();
+  if (!path) return;
+  if (txtCustom.text().empty() || dgCustom.cell(1, 1).empty()) {
+    ask({"Not enough information",
+         "Please enter all of the information above, including information in the data grid",
+         MessageIcon::exclamation});
+    return;
+  }
+  leaveOutIfFailing([&] { write(*path); });
+  ask({"Saved", "The custom crop has been saved.", MessageIcon::information});
+  reloadRows();
+  customAltered = false;
+}
+
+/// Nothing when the user does not go on.
+std::optional<std::filesystem::path> CustomCropPane::pathToSave() {
+  const CustomCropEntry* const crop = selectedCrop();
+  if (crop != nullptr && crop->name == txtCustom.text()) return crop->path;
+  if (crop != nullptr) {
+    const MessageAnswer answer = ask({"Save as new?",
+                                      "Do you want to save this as a new custom crop?  Selecting YES will "
+                                      "create a new custom crop.",
+                                      MessageIcon::question, MessageButtons::yesNoCancel});
+    // With No the file keeps its name and gets the new name of the crop in its first line.
+    if (answer == MessageAnswer::no) return crop->path;
+    if (answer != MessageAnswer::yes) return std::nullopt;
+  }
+  return customCropPath(folder_, txtCustom.text());
+}
+
+void CustomCropPane::write(const std::filesystem::path& path) {
+  // Somebody may have taken the folder away since the library was read.
+  std::error_code ignored;
+  std::filesystem::create_directory(folder_, ignored);
+  writeFile(path,
+            customCropText({txtCustom.text(), cboCustomGrid[4].text(), cboCustomGrid[1].text(),
+                            cboCustomGrid[2].text(), cboCustomGrid[3].text(), customGridValues(dgCustom)}));
+}
+
+void CustomCropPane::copyGrid() {
+  services_.clipboard.clear();
+  services_.clipboard.setText(spreadsheetText(dgCustom));
+  ask({"Ready to Paste", "Your grid has been copied to your clipboard and can now be pasted into Excel",
+       MessageIcon::exclamation});
+}
+
+void CustomCropPane::pasteGrid() {
+  const std::string text = services_.clipboard.text();
+  if (!isSpreadsheetNumbers(text)) {
+    ask({"Try again",
+         "Non-numeric characters were detected in the data being pasted into the grid.  Please only copy "
+         "numeric values from Excel, do not include header rows or any cells with non-numeric characters. "
+         "Please try again.",
+         MessageIcon::exclamation});
+    return;
+  }
+  if (text.empty()) {
+    ask({"Copy from Excel", "Copy your selection from a Microsoft Excel worksheet first!",
+         MessageIcon::exclamation});
+    return;
+  }
+  pasteSpreadsheet(dgCustom, text);
+}
+
+void CustomCropPane::goHome() {
+  if (customAltered) {
+    const MessageAnswer answer =
+        ask({"Are you sure?", "Are you sure?  Any unsaved changes to this custom crop will be lost.",
+             MessageIcon::information, MessageButtons::yesNoCancel});
+    if (answer != MessageAnswer::yes) return;
+  }
+  reloadRows();
+  if (onBackHome) onBackHome();
+}
+
+void CustomCropPane::deleteCrop() {
+  const CustomCropEntry* const crop = selectedCrop();
+  if (crop == nullptr) return;
+  const MessageAnswer answer =
+      ask({"Delete crop?", "Delete " + crop->name, MessageIcon::question, MessageButtons::yesNoCancel});
+  if (answer != MessageAnswer::yes) return;
+  // A file that is protected from writing goes too: only its folder decides about that.
+  std::error_code ignored;
+  std::filesystem::remove(crop->path, ignored);
+  open();
+  ask({"Crop deleted", "Custom crop deleted", MessageIcon::exclamation});
+}
+
+void CustomCropPane::reloadRows() {
+  leaveOutIfFailing([this] {
+    if (loadCropRows) loadCropRows();
+  });
+}
+
+/// The saved crop that is selected; nullptr without one.
+const CustomCropEntry* CustomCropPane::selectedCrop() const {
+  const int index = cboCustomGrid[0].index();
+  const auto position = static_cast<std::size_t>(index);
+  if (index < 1 || position > CustomCropList.size()) return nullptr;
+  return &CustomCropList[position - 1];
+}
+
+MessageAnswer CustomCropPane::ask(const Message& message) {
+  const Desk::Modal modal(desk());
+  return services_.messageBox.show(message);
+}
+
+}  // namespace verdalis

@@ -1,0 +1,94 @@
+#pragma once
+
+#include <array>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "controls/inputs.h"
+#include "controls/services.h"
+
+namespace verdalis {
+
+/// The upper limit that a field is tested against when a person leaves it. It may depend on a key: the name
+/// of the crop, or the fuel.
+class Limit {
+ public:
+  using Cell = std::optional<double>;
+
+  /// The field is not tested.
+  constexpr Limit() = default;
+
+  /// One limit for all.
+  constexpr explicit Limit(double limit) : kind_(Kind::fixed), fixed_(limit) {}
+
+  /// A limit by the name of the crop: Alfalfa, Corn, Grain Sorghum, Soybeans, Sunflower, Wheat. A crop
+  /// without a number, and any other crop, is not tested.
+  static constexpr Limit byCrop(const std::array<Cell, 6>& limits) {
+    Limit limit;
+    limit.kind_ = Kind::crop;
+    limit.crops_ = limits;
+    return limit;
+  }
+
+  /// The limit of a fuel cost, $ per fuel unit, by the fuel.
+  static constexpr Limit byFuel() {
+    Limit limit;
+    limit.kind_ = Kind::fuel;
+    return limit;
+  }
+
+  /// Whether the field is ever tested.
+  [[nodiscard]] constexpr bool tests() const { return kind_ != Kind::none; }
+
+  /// The limit for a key; nothing when the field is not tested for it.
+  [[nodiscard]] Cell of(std::string_view key) const;
+
+ private:
+  enum class Kind { none, fixed, crop, fuel };
+
+  Kind kind_ = Kind::none;
+  double fixed_ = 0;
+  std::array<Cell, 6> crops_{};
+};
+
+/// Where the crop's name stands in the label of a test.
+inline constexpr std::string_view cropMark = "{crop}";
+
+/// One field of a pane with all that belongs to it. The pane wires its handlers from these rows, and whoever
+/// shows the pane takes the texts beside the fields from them. Rows that follow each other with the same
+/// label stand in one line.
+struct FieldRow {
+  std::string_view control;           ///< Name of the field
+  int group = 0;                      ///< Its group, an index from 0
+  std::string_view label = {};        ///< The fixed text in front of it
+  std::string_view column = {};       ///< The head of its column
+  std::string_view unit = {};         ///< The fixed text behind it
+  std::string_view unitControl = {};  ///< The label control behind it, where the unit is not fixed
+  std::string_view testLabel = {};    ///< Begins the messages of its test
+  Limit limit = {};
+  int helpIndex = -1;               ///< The "?" button beside it; -1 for none
+  std::string_view startText = {};  ///< Before the saved inputs are read
+};
+
+/// A group of fields of a pane with its fixed texts.
+struct FieldGroup {
+  std::string_view heading;
+  std::string_view headingControl = {};  ///< The label control that is its heading, where that is not fixed
+  std::string_view frame = {};           ///< The frame that its fields stand in; empty for the pane itself
+  std::string_view resultLabel = {};     ///< The fixed text in front of its figure
+  std::string_view resultControl = {};   ///< The label control that shows its figure
+  std::string_view note = {};            ///< Below the figure
+  int helpIndex = -1;                    ///< The "?" button beside its heading; -1 for none
+};
+
+/// The label of a row's test for a crop.
+[[nodiscard]] std::string testLabelOf(const FieldRow& row, std::string_view cropType);
+
+/// Gives the field the row's start text and its test on being left. `key` tells the crop's name, or the fuel,
+/// at that moment. `row` must outlive the field: rows are static tables.
+void wireField(TextBox& box, const FieldRow& row, MessageBoxService& messageBox,
+               const std::function<std::string()>& key);
+
+}  // namespace verdalis

@@ -1,0 +1,118 @@
+#pragma once
+
+#include <array>
+#include <functional>
+#include <memory>
+#include <span>
+#include <string>
+
+#include "controls/displays.h"
+#include "controls/inputs.h"
+#include "controls/services.h"
+#include "model/Crop.h"
+#include "screens/FieldTable.h"
+#include "screens/modHelp.h"
+
+namespace verdalis {
+
+struct InputCostsField;
+
+/// The pane that edits the production costs of one crop. It works on its fields; the crop changes only when
+/// Command6 is pressed.
+class InputCostsPane : public Frame {
+ public:
+  InputCostsPane(Frame& window, Services& services);
+
+  std::shared_ptr<Crop> activeCrop;  ///< The crop that the pane was last opened for; none before
+
+  Label lblHeader{*this, "lblHeader"};
+
+  // General input costs
+  TextBox txtNitrogenApplied{*this, "txtNitrogenApplied"};
+  TextBox txtNitrogenCost{*this, "txtNitrogenCost"};
+  CheckBox chkNOptimal{*this, "chkNOptimal", "Use optimal yield based nitrogen rate"};
+  TextBox txtPApplied{*this, "txtPApplied"};
+  TextBox txtPCost{*this, "txtPCost"};
+  CheckBox chkPOptimal{*this, "chkPOptimal", "Use optimal yield based phosphorus rate"};
+  TextBox txtSeedRate{*this, "txtSeedRate"};
+  Label lblSeedRate{*this, "lblSeedRate"};
+  TextBox txtSeedCost{*this, "txtSeedCost"};
+  Label lblSeedUnits{*this, "lblSeedUnits"};
+  CheckBox chkSeedOptimal{*this, "chkSeedOptimal", "Use optimal yield based seeding rate"};
+  TextBox txtHerbicide{*this, "txtHerbicide"};
+  TextBox txtInsecticide{*this, "txtInsecticide"};
+  Label lblGICTOTAL{*this, "lblGICTOTAL"};
+
+  // Operation costs
+  Label lblApplicationCosts{*this, "lblApplicationCosts", "Operation Costs"};
+  TextBox txtTillage{*this, "txtTillage"};
+  TextBox txtPlanting{*this, "txtPlanting"};
+  TextBox txtFertilizerApplication{*this, "txtFertilizerApplication"};
+  TextBox txtHerbicideApplication{*this, "txtHerbicideApplication"};
+  TextBox txtInsecticideApplication{*this, "txtInsecticideApplication"};
+  Label lblOC{*this, "lblOC"};
+  Label lblAnnualized{*this, "lblAnnualized",
+                      "Seed, tillage, and planting costs automatically annualized over the life of stand"};
+
+  // Harvesting costs of a grain crop
+  TextBox txtHarvestBase{*this, "txtHarvestBase"};
+  TextBox txtExceed{*this, "txtExceed"};
+  Label lblUnits{*this, "lblUnits"};
+  TextBox txtExceedCost{*this, "txtExceedCost"};
+  TextBox txtHaulingCost{*this, "txtHaulingCost"};
+  TextBox txtFlatRate{*this, "txtFlatRate"};
+  std::array<Label, 3> lblperunits{
+      {{*this, "lblperunits(0)"}, {*this, "lblperunits(1)"}, {*this, "lblperunits(2)"}}};
+
+  // Harvesting costs of a forage crop, shown over those of a grain crop
+  Frame frmICAlf{*this, "frmICAlf"};
+  TextBox txtSwathing{frmICAlf, "txtSwathing"};
+  TextBox txtSwathingNum{frmICAlf, "txtSwathingNum"};
+  TextBox txtRaking{frmICAlf, "txtRaking"};
+  TextBox txtRakingNum{frmICAlf, "txtRakingNum"};
+  TextBox txtBaling{frmICAlf, "txtBaling"};
+  TextBox txtBalingNum{frmICAlf, "txtBalingNum"};
+  TextBox txtAlfFlat{frmICAlf, "txtAlfFlat"};
+  Frame frmICAlf2{*this, "frmICAlf2"};
+  TextBox txtStand{frmICAlf2, "txtStand"};
+
+  TextBox txtMiscCost{*this, "txtMiscCost"};
+  TextBox txtReturns{*this, "txtReturns"};
+
+  Button cmdDefault{*this, "cmdDefault", "Load Default Values"};
+  Button Command13{*this, "Command13", "Clear all values on this page"};
+  Button Command6{*this, "Command6", "Apply Costs && Returns"};
+  Button cmdCancel{*this, "cmdCancel(1)", "Cancel"};
+  HelpButtons cmdHelp{*this, {11, 12, 13, 14, 21, 22, 23, 24}};
+
+  /// The fields in the order in which they are shown, and their groups.
+  [[nodiscard]] static std::span<const InputCostsField> fields();
+  [[nodiscard]] static std::span<const FieldGroup> groups();
+
+  /// Shows the costs of a crop; the pane is shown by then. \throws RunTimeError without a crop, and
+  /// (overflow) when a subtotal is too large, with all fields filled.
+  void open(std::shared_ptr<Crop> crop);
+
+  std::function<void()> onApplied;  ///< The crop has its new costs
+  std::function<void()> onBack;
+  std::function<void(int)> onHelp;
+
+ private:
+  void wire();
+  void boxChanged(const InputCostsField& field);
+  void fill(const Crop& crop);
+  void showUnits(const Crop& crop);
+  void showGeneralSubtotal();
+  void showOperationSubtotal();
+  void showSubtotals();
+  void showDefaults();
+  void clear();
+  void apply();
+  void store(int group);
+  [[nodiscard]] std::string cropType() const { return activeCrop ? activeCrop->cropType : std::string(); }
+
+  Services& services_;
+  bool filling_ = false;  ///< Many fields are being set: the subtotals wait for the last
+};
+
+}  // namespace verdalis

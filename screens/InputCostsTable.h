@@ -1,0 +1,85 @@
+#pragma once
+
+#include <array>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "model/inputCosts.h"
+#include "screens/FieldTable.h"
+#include "screens/InputCostsPane.h"
+
+namespace verdalis {
+
+/// A figure of the production costs, whether it is always a number or can be empty.
+class CostFigure {
+ public:
+  constexpr CostFigure(double inputCosts::*plain) : plain_(plain) {}     // NOLINT: one is as good as
+  constexpr CostFigure(Number inputCosts::*number) : number_(number) {}  // NOLINT: the other
+
+  [[nodiscard]] double value(const inputCosts& costs) const {
+    return plain_ != nullptr ? costs.*plain_ : static_cast<double>(costs.*number_);
+  }
+
+  void set(inputCosts& costs, double value) const {
+    if (plain_ != nullptr) {
+      costs.*plain_ = value;
+    } else {
+      costs.*number_ = value;
+    }
+  }
+
+  /// General number text; empty where the figure is.
+  [[nodiscard]] std::string text(const inputCosts& costs) const {
+    return plain_ != nullptr ? generalText(costs.*plain_) : (costs.*number_).text();
+  }
+
+ private:
+  double inputCosts::*plain_ = nullptr;
+  Number inputCosts::*number_ = nullptr;
+};
+
+/// The groups of the production cost pane, in its order.
+enum InputCostsGroup {
+  generalGroup,
+  operationGroup,
+  harvestGroup,
+  forageHarvestGroup,
+  standGroup,
+  miscGroup,
+  returnsGroup
+};
+
+/// How a figure is shown when the pane opens.
+enum class Shown {
+  plain,
+  /// With two decimals. A rate of 0.214 is shown as 0.21 and stored so when it is applied: meant.
+  money
+};
+
+/// What a change of a field recomputes.
+enum class Recomputes { nothing, generalSubtotal, operationSubtotal };
+
+/// One field of the production cost pane.
+struct InputCostsField {
+  FieldRow row;
+  TextBox InputCostsPane::*box = nullptr;
+  CostFigure figure;
+  Shown shown = Shown::plain;
+  Recomputes recomputes = Recomputes::nothing;
+  CheckBox InputCostsPane::*optimal = nullptr;  ///< Ticked while the field is empty, cleared while it is not
+  bool inputCosts::*optimalFlag = nullptr;
+};
+
+/// The default values of a field, for Corn, Wheat, Grain Sorghum, Sunflower, Soybeans, Alfalfa and Fallow.
+struct InputCostsDefault {
+  TextBox InputCostsPane::*box = nullptr;
+  std::array<const char*, 7> texts;  ///< nullptr leaves the field as it is
+};
+
+[[nodiscard]] std::span<const InputCostsDefault> inputCostsDefaults();
+
+/// The column of a crop in the default values, by its exact name; -1 for any other crop.
+[[nodiscard]] int inputCostsDefaultColumn(std::string_view cropType);
+
+}  // namespace verdalis

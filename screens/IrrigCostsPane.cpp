@@ -1,0 +1,231 @@
+#include "screens/IrrigCostsPane.h"
+
+#include <array>
+#include <cmath>
+#include <optional>
+#include <utility>
+
+#include "model/checked.h"
+#include "screens/modInputTest.h"
+#include "text/RunTimeError.h"
+#include "text/numbers.h"
+
+namespace verdalis {
+namespace {
+
+/// Gallons in an acre-inch, as the hint counts them; the plant's own figure is another one, and that is
+/// meant.
+constexpr double hintGallonsPerAcreInch = 27154.2876;
+
+constexpr int defaultFuel = 2;  // Natural Gas
+
+enum Group { costGroup, pumpingGroup };
+
+constexpr std::array<FieldGroup, 2> paneGroups{{
+    {.heading = "Variable Irrigation Costs",
+     .resultLabel = "Irrigation Costs Subtotal:",
+     .resultControl = "lblICosts",
+     .note = "*subtotal does not include labor costs"},
+    {.heading = "How much are you pumping?",
+     .resultControl = "lblInchHint",
+     .note = "*this figure is for your information only"},
+}};
+
+using Pane = IrrigCostsPane;
+using Plant = IrrigationCosts;
+
+constexpr std::array<IrrigCostsField, 8> paneFields{{
+    {.row = {.control = "txtGPM",
+             .group = costGroup,
+             .label = "GPM - Discharge rate in gallons per minute",
+             .unit = "GPM",
+             .helpIndex = 15},
+     .box = &Pane::txtGPM,
+     .value = &Plant::GPM,
+     .defaultText = "750",
+     .changesHint = true},
+    {.row = {.control = "txtLift",
+             .group = costGroup,
+             .label = "Pumping Water Lift",
+             .unit = "feet",
+             .testLabel = "Pumping Water Lift:",
+             .limit = Limit(999),
+             .helpIndex = 7},
+     .box = &Pane::txtLift,
+     .value = &Plant::Lift,
+     .defaultText = "120"},
+    {.row = {.control = "txtPSI",
+             .group = costGroup,
+             .label = "Irrigation system operating pressure (psi)",
+             .unit = "psi",
+             .testLabel = "Well Head Operating Pressure",
+             .limit = Limit(200),
+             .helpIndex = 17},
+     .box = &Pane::txtPSI,
+     .value = &Plant::PSI,
+     .defaultText = "35"},
+    {.row = {.control = "cboFuelType", .group = costGroup, .label = "Fuel Type", .helpIndex = 18},
+     .box = nullptr,
+     .value = nullptr,
+     .defaultText = "Natural Gas"},
+    {.row = {.control = "txtCost",
+             .group = costGroup,
+             .label = "Fuel Cost",
+             .unit = "per fuel unit",
+             .testLabel = "Fuel Cost",
+             .limit = Limit::byFuel(),
+             .helpIndex = 19},
+     .box = &Pane::txtCost,
+     .value = &Plant::cost,
+     .defaultText = "5.10"},
+    {.row = {.control = "txtLaborPerHour",
+             .group = costGroup,
+             .label = "Labor",
+             .unit = "/ hour",
+             .testLabel = "Labor",
+             .limit = Limit(100),
+             .helpIndex = 20},
+     .box = &Pane::txtLaborPerHour,
+     .value = &Plant::LaborPerHour,
+     .defaultText = "10"},
+    {.row = {.control = "txtRepairsPerAcre",
+             .group = costGroup,
+             .label = "Repairs and Maintenance",
+             .testLabel = "Repairs and Maintenance",
+             .limit = Limit(0.99),
+             .helpIndex = 8,
+             .startText = "0.33"},
+     .box = &Pane::txtRepairsPerAcre,
+     .value = &Plant::RepairsPerAcreInch,
+     .defaultText = "0.33"},
+    {.row = {.control = "txtEstHours",
+             .group = costGroup,
+             .label = "Total Season Pumping Hours",
+             .unit = "hours",
+             .testLabel = "Total Season Pumping Hours",
+             .limit = Limit(8000),
+             .helpIndex = 16},
+     .box = &Pane::txtEstHours,
+     .value = &Plant::dblEstHours,
+     .defaultText = "1800",
+     .changesHint = true},
+}};
+
+/// The value of a step of the figures shown; a step that fails counts as 0.
+template <class Step>
+double valueOrZero(Step step) {
+  try {
+    const double value = step();
+    return std::isfinite(value) ? value : 0;
+  } catch (const RunTimeError&) {
+    return 0;
+  }
+}
+
+/// Gives the label the caption; one that cannot be made leaves the label as it was.
+template <class Caption>
+void showWhereMade(Label& label, Caption caption) {
+  try {
+    label.setCaption(caption());
+  } catch (const RunTimeError&) {  // NOLINT(bugprone-empty-catch): half a number may stand in a field
+  }
+}
+
+}  // namespace
+
+std::span<const IrrigCostsField> IrrigCostsPane::fields() {
+  return paneFields;
+}
+
+std::span<const FieldGroup> IrrigCostsPane::groups() {
+  return paneGroups;
+}
+
+IrrigCostsPane::IrrigCostsPane(Frame& window, Services& services,
+                               std::shared_ptr<IrrigationCosts> tempIrrigationCosts)
+    : Frame(window, "pneIrrigCosts"),
+      services_(services),
+      tempIrrigationCosts_(std::move(tempIrrigationCosts)) {
+  setCaption(std::string(title));
+  wire();
+}
+
+void IrrigCostsPane::wire() {
+  for (const IrrigCostsField& field : fields()) {
+    if (field.box == nullptr) continue;
+    TextBox& box = this->*field.box;
+    wireField(box, field.row, services_.messageBox, [this] { return cboFuelType.text(); });
+    box.onChange = [this, &field] {
+      showCosts();
+      if (field.changesHint) showInchHint();
+    };
+  }
+  cboFuelType.onClick = [this] { showCosts(); };
+  Command4.onClick = [this] { emptyTexts(*this); };
+  cmdDefaultIrrigCosts.onClick = [this] { showDefaults(); };
+  Command9.onClick = [this] { apply(); };
+  cmdCancel.onClick = [this] {
+    if (onBack) onBack();
+  };
+  cmdHelp.onHelp = [this](int index) {
+    if (onHelp) onHelp(index);
+  };
+}
+
+void IrrigCostsPane::open() {
+  showInchHint();
+  emptyZeroTexts(window());
+}
+
+void IrrigCostsPane::showDefaults() {
+  for (const IrrigCostsField& field : fields()) {
+    if (field.box != nullptr) {
+      (this->*field.box).setText(std::string(field.defaultText));
+    } else {
+      cboFuelType.setIndex(defaultFuel);
+    }
+  }
+}
+
+void IrrigCostsPane::showCosts() {
+  const double waterHorsepower = valueOrZero([this] {
+    return (Val(txtPSI.text()) * feetPerPsi + Val(txtLift.text())) * Val(txtGPM.text()) /
+           gallonFeetPerHorsepower;
+  });
+  const double hoursPerAcreInch =
+      valueOrZero([this] { return 1 / (Val(txtGPM.text()) / gpmPerAcreInchHour); });
+  const std::optional<double> performance = fuelPerformance(cboFuelType.text());
+  if (!performance) return;
+  const double fuelPerHour = valueOrZero([&] { return waterHorsepower / *performance; });
+  const double fuel = valueOrZero([&] { return Val(txtCost.text()) * hoursPerAcreInch * fuelPerHour; });
+  showWhereMade(lblICosts, [&] {
+    return "$" + formatNumber(Val(txtRepairsPerAcre.text()) + fuel, "###,##0.00") + " / ac-in";
+  });
+}
+
+void IrrigCostsPane::showInchHint() {
+  const std::string area = areaText ? areaText() : std::string();
+  const double inches = valueOrZero([&] {
+    return (Val(txtGPM.text()) * 60 * Val(txtEstHours.text()) / hintGallonsPerAcreInch) / Val(area);
+  });
+  showWhereMade(lblInchHint, [&] {
+    return "Based on " + formatNumber(Val(txtGPM.text()), "#0") + " gpm, " + formatNumber(Val(area), "0") +
+           " acres, and " + formatNumber(Val(txtEstHours.text()), "0") +
+           " hours of pumping, you would apply " + formatNumber(inches, "###,##0.0") +
+           " inches of water in a season";
+  });
+}
+
+void IrrigCostsPane::apply() {
+  IrrigationCosts& plant = *tempIrrigationCosts_;
+  for (const IrrigCostsField& field : fields()) {
+    if (field.value != nullptr) plant.*field.value = Val((this->*field.box).text());
+  }
+  plant.FuelType = cboFuelType.text();
+  // Another text than that of a fuel leaves the plant its last performance figure.
+  if (const std::optional<double> performance = fuelPerformance(plant.FuelType)) plant.NPC = *performance;
+  plant.active = true;
+  if (onApplied) onApplied();
+}
+
+}  // namespace verdalis

@@ -1,0 +1,127 @@
+#pragma once
+
+#include <array>
+#include <functional>
+#include <memory>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "controls/displays.h"
+#include "controls/inputs.h"
+#include "controls/services.h"
+#include "engine/ProgramState.h"
+#include "engine/ScenarioInputs.h"
+#include "model/IrrigationCosts.h"
+#include "screens/CropRecord.h"
+#include "screens/FieldTable.h"
+#include "screens/modHelp.h"
+
+namespace verdalis {
+
+/// The pane of the main inputs: the farm and its water, the land split, the crop rows, and the button that
+/// starts the evaluation.
+class MainPane : public Frame {
+ public:
+  MainPane(Frame& window, Services& services, ProgramState& state,
+           std::shared_ptr<IrrigationCosts> tempIrrigationCosts);
+
+  TextBox txtArea{*this, "txtArea"};
+  TextBox txtMax{*this, "txtMax"};
+  Label lblVolume{*this, "lblVolume"};
+  ComboBox txtAnnRain{*this,
+                      "txtAnnRain",
+                      ComboBox::Style::freeText,
+                      {"11", "12", "13", "14", "15", "16", "17", "18", "19", "20", "21"}};
+  TextBox txtEff{*this, "txtEff"};
+  ComboBox txtSoil{
+      *this, "txtSoil", ComboBox::Style::freeText, {"Silt Loam", "Fine Sand", "Loamy Sand"}, "Silt Loam"};
+  OptionGroup landSplits;
+  std::vector<std::unique_ptr<OptionButton>> Option1;
+  CheckBox chkNoSplit{*this, "chkNoSplit", "Evaluate no land split scenario"};
+  CheckBox Check1{*this, "Check1", "Turn land splits with negative returns into fallow"};
+  Button Command8{*this, "Command8", "Enter Irrigation Information"};
+  Button Command7{*this, "Command7", "Load Default Values"};
+  Frame cropBox{*this, "cropBox"};
+  Frame cropFrameHolder{cropBox, "cropFrameHolder"};
+  Frame cropFrame{cropFrameHolder, "cropFrame"};
+  ScrollBar cropScroll{cropBox, "cropScroll"};
+  std::vector<std::unique_ptr<CropRecord>> cr;  ///< Element 0 is there from the start and stays over reloads
+  Button Command1{*this, "Command1", "Generate Output"};
+  Label lblNumber{*this, "lblNumber"};
+  TextBox txtArraySize{*this, "txtArraySize", "100"};
+  TextBox txtSize{*this, "txtSize"};                           ///< Without effect
+  Button cmdReturn{*this, "cmdReturn", "Largest Return ($)"};  ///< Without effect
+  Frame pnlBatchInstructions{*this, "pnlBatchInstructions"};
+  HelpButtons cmdHelp{*this, {0, 1, 2, 3, 4, 5, 6, 9, 10, 28, 29}};
+
+  std::string currentSoil;  ///< Always the text of txtSoil
+  int cropFrameTop = 0;     ///< Layout units; 0 or less
+
+  /// The fields of the farm in their order, with all that belongs to them; and the land split, as "Option1".
+  [[nodiscard]] static std::span<const FieldRow> fields();
+
+  /// The land split buttons, as a run reads them.
+  [[nodiscard]] LandSplitButtons landSplitButtons() const;
+
+  /// All texts that a run reads, as they stand now.
+  [[nodiscard]] ScenarioInputs scenarioInputs() const;
+
+  /// Whether everything that a run needs is there.
+  [[nodiscard]] bool ready() const;
+
+  /// Refreshes lblVolume. The result is always 0.
+  double getVolume();
+
+  /// Takes the rows 1 and up away; element 0 stays.
+  void unloadRows();
+
+  /// The row at an index; a new one is added behind the last.
+  CropRecord& row(std::size_t index);
+
+  /// Sizes the crop frame and the scroll bar to the rows.
+  /// \throws RunTimeError (overflow) for more than 59 rows.
+  void InitializeCropFrame();
+
+  /// The crop of the last row of that name, ignoring case; nullptr without one.
+  [[nodiscard]] std::shared_ptr<Crop> findCropByName(const std::string& name) const;
+
+  std::function<void()> onRun;         ///< Command1
+  std::function<void()> onIrrigation;  ///< Command8
+  std::function<void()> onDefaults;    ///< Command7
+  std::function<void(CropRecord&)> onInputCosts;
+  std::function<void(int)> onHelp;
+
+  /// The rows have been made anew.
+  std::function<void()> onRowsChanged;
+
+ private:
+  void warnOfCapacity();
+
+  Services& services_;
+  std::shared_ptr<IrrigationCosts> tempIrrigationCosts_;
+};
+
+/// The line over the button of the irrigation costs.
+inline constexpr const char* irrigationHeading = "Irrigation Costs and Capacity";
+
+/// The column heads of the crop rows, as captions are written, with their "?" buttons.
+struct CropColumn {
+  const char* caption;
+  int helpIndex;
+};
+inline constexpr std::array<CropColumn, 3> cropColumns{
+    {{"Price per unit:", 10}, {"Input Costs && Returns", 28}, {"Maximum Yield / Acre:", 9}}};
+
+/// Layout units: the height of the crop list's window, and the pitch with which the frame's height is
+/// counted.
+inline constexpr int cropFrameHolderHeight = 4410;
+inline constexpr int cropRowHeight = 550;
+
+/// The lines on the panel for trends, and the one under it.
+inline constexpr std::array<const char*, 3> batchInstructions{
+    "*Fixed batch starts after 'Generate Output'",
+    "*Variable irrigation batch can be initiated through the 'Tools' menu above",
+    "*Enable Batch Processing by Selecting 'Enable Batch Processing' from the Tools menu"};
+
+}  // namespace verdalis

@@ -1,0 +1,56 @@
+#include "screens/frmUpdating.h"
+
+namespace verdalis {
+
+frmUpdating::frmUpdating(Desk& desk, ProgramState& state) : Window(desk, "frmUpdating") {
+  Command1.onClick = [&state] { state.CancelRequested = true; };
+  // Closing the window by its frame would leave the run without a way to stop it.
+  onCloseByUser = [&state] { state.CancelRequested = true; };
+}
+
+void frmUpdating::setTitle(const std::string& text) {
+  lblTitle0.setCaption(text);
+  // Shown without taking the activation: the main window stays in use.
+  setVisible(true);
+}
+
+void frmUpdating::setMax(double steps) {
+  ProgressBar.setValue(0);  // first, so that the end of the run before does not show against the new maximum
+  ProgressBar.setMaximum(steps);
+}
+
+void frmUpdating::Update() {
+  ProgressBar.setValue(ProgressBar.value() + 1);
+}
+
+void setTopMost(frmUpdating& window, bool flag) {
+  window.topMost = flag;
+}
+
+void ProgressHooks::showProgress(const std::string& title) {
+  window_.setTitle(title);
+  if (listener_ != nullptr) listener_->showProgress(title);
+}
+
+void ProgressHooks::setProgress(double steps, const std::string& description) {
+  window_.setMax(steps);
+  window_.lblTitle1.setCaption(description);
+  if (listener_ != nullptr) listener_->setProgress(steps, description);
+}
+
+void ProgressHooks::update() {
+  window_.Update();
+  if (listener_ != nullptr) listener_->update();
+}
+
+void ProgressHooks::pumpEvents() {
+  eventPump_.pump();
+  if (listener_ != nullptr) listener_->pumpEvents();
+}
+
+void ProgressHooks::closeProgress() {
+  window_.close();
+  if (listener_ != nullptr) listener_->closeProgress();
+}
+
+}  // namespace verdalis

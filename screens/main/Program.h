@@ -1,0 +1,45 @@
+#pragma once
+
+#include <memory>
+
+#include "controls/services.h"
+#include "engine/ProgramState.h"
+#include "screens/frmWelcome.h"
+#include "screens/main/ProgramFiles.h"
+#include "screens/main/SecondaryWindows.h"
+#include "screens/main/frmMain.h"
+
+namespace verdalis {
+
+/// The running program: its windows, and the state that they share. It begins at the welcome window and ends
+/// when no window is open any more.
+class Program {
+ public:
+  Program(Services& services, ProgramFiles files);
+
+  Desk desk;
+  ProgramState state;
+  SecondaryWindows windows;
+  frmWelcome welcome;
+
+  /// The main window; made at the first use. It loads when it is first touched.
+  frmMain& main();
+  [[nodiscard]] bool hasMain() const { return main_ != nullptr; }
+
+  /// Shows the main window and closes the welcome window.
+  void start();
+
+  [[nodiscard]] bool ended() const;
+
+  /// Called after the main window has been made, before it is loaded: whoever shows it binds it here.
+  std::function<void(frmMain&)> onMainCreated;
+
+ private:
+  void tell(const RunTimeError& error);
+
+  Services& services_;
+  ProgramFiles files_;
+  std::unique_ptr<frmMain> main_;
+};
+
+}  // namespace verdalis

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "data/SavedInputs.h"
+#include "engine/ProgramState.h"
+
+namespace verdalis {
+
+class frmMain;
+
+/// The main window's controls and objects, as the reader of the saved inputs fills them.
+class SavedInputsControls : public SavedInputsTarget {
+ public:
+  SavedInputsControls(frmMain& window, ProgramState& state);
+
+  void setText(std::string_view control, const std::string& text) override;
+  void chooseLandSplit(std::optional<int> index) override;
+  GeneralInputs& generalInputs() override;
+  IrrigationCosts& tempIrrigationCosts() override;
+  const std::vector<std::shared_ptr<Crop>>& rowCrops() override { return rowCrops_; }
+  void refreshRows() override;
+  void setTrendEnabled() override { state_.TrendEnabled = true; }
+
+ private:
+  frmMain& window_;
+  ProgramState& state_;
+  std::vector<std::shared_ptr<Crop>> rowCrops_;
+};
+
+}  // namespace verdalis

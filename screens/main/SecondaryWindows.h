@@ -1,0 +1,66 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include "controls/services.h"
+#include "engine/ProgramState.h"
+#include "screens/frmAbout.h"
+#include "screens/frmHelpEff.h"
+#include "screens/frmOptions.h"
+#include "screens/frmUpdating.h"
+#include "screens/modHelp.h"
+
+namespace verdalis {
+
+/// The windows beside the main one. Each is made when it is first needed.
+class SecondaryWindows {
+ public:
+  SecondaryWindows(Desk& desk, ProgramState& state, Services& services)
+      : desk_(desk), state_(state), services_(services) {}
+
+  /// Called when a window has been made: whoever shows it binds it here.
+  std::function<void(Window&)> onCreated;
+
+  frmUpdating& updating() { return made(updating_, state_); }
+  frmHelp& help() { return made(help_); }
+  frmHelpEff& helpEff() { return made(helpEff_); }
+  frmOptions& options() { return made(options_, state_, services_); }
+  frmAbout& about() { return made(about_); }
+
+  void closeUpdating() { close(updating_); }
+
+  /// Closes those that are open.
+  void closeAll() {
+    close(updating_);
+    close(help_);
+    close(helpEff_);
+    close(options_);
+    close(about_);
+  }
+
+ private:
+  template <class Made, class... Arguments>
+  Made& made(std::unique_ptr<Made>& window, Arguments&... arguments) {
+    if (!window) {
+      window = std::make_unique<Made>(desk_, arguments...);
+      if (onCreated) onCreated(*window);
+    }
+    return *window;
+  }
+
+  static void close(const auto& window) {
+    if (window && window->isOpen()) window->close();
+  }
+
+  Desk& desk_;
+  ProgramState& state_;
+  Services& services_;
+  std::unique_ptr<frmUpdating> updating_;
+  std::unique_ptr<frmHelp> help_;
+  std::unique_ptr<frmHelpEff> helpEff_;
+  std::unique_ptr<frmOptions> options_;
+  std::unique_ptr<frmAbout> about_;
+};
+
+}  // namespace verdalis

@@ -1,0 +1,320 @@
+#include "screens/main/frmMain.h"
+
+#include <utility>
+
+#include "data/SavedInputs.h"
+#include "data/StockDefaults.h"
+#include "data/writeFile.h"
+#include "engine/RunScenario.h"
+#include "screens/main/SavedInputsControls.h"
+#include "screens/modInputTest.h"
+#include "text/RunTimeError.h"
+#include "text/encoding.h"
+
+namespace verdalis {
+namespace {
+
+constexpr const char* standardMainInfo =
+    "This program evaluates all possible combinations of water distribution over specified land divisions "
+    "and the "
+    "crop production outcome associated with the water use.";
+
+constexpr const char* trendNotice =
+    "Trend processing is now enabled.  This is completely optional and VDL will still run normally.\n"
+    "To make use of the trend processing options, select 'Run variable trend process' from the Tools menu\n"
+    " or click 'Run Fixed Trend Process' after you execute a normal VDL evaluation.\n"
+    "Disable trend processing by unchecking it in the Tools menu.";
+
+}  // namespace
+
+frmMain::frmMain(Desk& desk, Services& services, ProgramState& state, SecondaryWindows& windows,
+                 ProgramFiles files)
+    : Window(desk, "frmMain", Scope::transparent),
+      cropFiles(files.home),
+      pneMain(*this, services, state, tempIrrigationCosts),
+      pneInputCosts(*this, services),
+      pneIrrigCosts(*this, services, tempIrrigationCosts),
+      theResults(pneResults, "theResults", services, state),
+      theDetails(pneDetails, "theDetails", state),
+      pneSummary(*this, services, summaryResults, {[this] { return pneMain.txtAnnRain.text(); }, writeFile}),
+      pneCustomCrop(*this, services, files.home / "crops" / "custom"),
+      thePrinter(services.printer, {[this] {
+                                      return ReportedFarm{pneMain.txtArea.text(), pneMain.txtEff.text(),
+                                                          pneMain.txtAnnRain.text(), pneMain.txtMax.text(),
+                                                          state_.cs.toString()};
+                                    },
+                                    [this] { return services_.clock.now(); }}),
+      trendHost(*this, windows, services.eventPump, files.home),
+      trends(*this, services, state, trendHost),
+      services_(services),
+      state_(state),
+      windows_(windows),
+      files_(std::move(files)) {
+  setCaption(defaultTitle);
+  for (Frame* pane : std::initializer_list<Frame*>{&pneMain, &pneInputCosts, &pneIrrigCosts, &pneResults,
+                                                   &pneDetails, &pneSummary, &pneCustomCrop,
+                                                   &trends.pneBatchSetup0, &trends.pneBatchSetup1}) {
+    panes.addPane(*pane);
+  }
+  onCloseByUser = [this] { exit(); };
+  wireMenus();
+  wirePanes();
+  wireResults();
+  wirePrinting();
+}
+
+void frmMain::touch() {
+  if (loaded_) return;
+  loaded_ = true;
+  load();
+}
+
+void frmMain::load() {
+  showPane(pneMain);
+  strMainInfo = standardMainInfo;
+  pneMain.currentSoil = "Silt Loam";
+  pneMain.txtSoil.setText(pneMain.currentSoil);
+  try {
+    loadCropRows();
+  } catch (const RunTimeError& error) {
+    // The start goes on with the rows that are there.
+    if (!desk().onRunTimeError) throw;
+    desk().onRunTimeError(error);
+  }
+  inputsLoaded_ = loadInputs();
+  if (state_.TrendEnabled) state_.TrendNoticeShown = true;
+  EnableBatch(state_.TrendEnabled);
+  state_.FineFactor = 10;
+  trends.pneBatchSetup0.cboCrops.setIndex(0);
+  SetMainInfo(strMainInfo);
+  pneCustomCrop.fillLists();
+}
+
+void frmMain::loadCropRows() {
+  pneMain.unloadRows();
+  try {
+    cropFiles.Initialize();
+  } catch (const RunTimeError&) {
+    pneMain.InitializeCropFrame();  // for the one row that is left
+    throw;
+  }
+  const CropScenario& crops = cropFiles.cropCollection;
+  for (long i = 0; i < crops.Count(); ++i) {
+    const std::shared_ptr<Crop>& crop = crops.Item(i + 1);
+    CropRecord& row = pneMain.row(static_cast<std::size_t>(i));
+    row.loadInfo(crop->cropType, "$/" + lowerCase(crop->cropUnitsArray[0]), "$/ac", crop->cropUnitsArray[1]);
+    row.Crop = crop;
+    // Only ever added to: after a reload the names stand in the list once more.
+    trends.pneBatchSetup0.cboCrops.addItem(crop->cropType);
+  }
+  pneMain.InitializeCropFrame();
+}
+
+void frmMain::saveInputs() {
+  if (!files_.savesInputs) return;
+  generalInputs.annualRain = pneMain.txtAnnRain.text();
+  generalInputs.irrigEff = pneMain.txtEff.text();
+  const int index = pneMain.landSplits.selected();
+  generalInputs.splitIndex = index < 0 ? "" : std::to_string(index);
+  generalInputs.totalAcres = pneMain.txtArea.text();
+  generalInputs.waterAllocation = pneMain.txtMax.text();
+  // A file that cannot be written must not stop the run.
+  static_cast<void>(verdalis::saveInputs(files_.inputs, generalInputs, *tempIrrigationCosts,
+                                         cropFiles.cropCollection, state_.TrendEnabled));
+}
+
+bool frmMain::loadInputs() {
+  SavedInputsControls target(*this, state_);
+  return verdalis::loadInputs(files_.inputs, target);
+}
+
+BestMix frmMain::RunScenario(const std::string& description) {
+  pneMain.lblNumber.setCaption("");
+  for (const auto& row : pneMain.cr) {
+    if (row->Crop || !row->isActive()) continue;
+    throw RunTimeError(ErrorNumber::subscript,
+                       "A row that is ticked has no crop to evaluate. Check the folder of crops.");
+  }
+  ProgressHooks hooks(windows_.updating(), services_.eventPump, runListener);
+  return verdalis::RunScenario(pneMain.scenarioInputs(), cropFiles.cropCollection, tempIrrigationCosts,
+                               state_, hooks, description);
+}
+
+void frmMain::EnableBatch(bool on) {
+  if (on && !state_.TrendNoticeShown) {
+    {
+      const Desk::Modal modal(desk());
+      services_.messageBox.show({"Trend processing enabled", trendNotice, MessageIcon::information});
+    }
+    state_.TrendNoticeShown = true;
+  }
+  state_.TrendEnabled = on;
+  touch();
+  menus.mnuFallBatch.setEnabled(on);
+  menus.mnuEnableBatch.setChecked(on);
+  theResults.EnableBatch(on);
+  trends.pneBatchSetup1.theBatchResults.EnableBatch(on);
+  pneMain.pnlBatchInstructions.setVisible(on);
+  if (!on) showPane(pneMain);
+}
+
+void frmMain::exit() {
+  state_.CancelRequested = true;
+  windows_.closeAll();
+  close();
+}
+
+void frmMain::wireMenus() {
+  menus.mnuExit.onClick = [this] { exit(); };
+  menus.mnuEnableBatch.onClick = [this] { EnableBatch(!menus.mnuEnableBatch.checked()); };
+  menus.mnuFallBatch.onClick = [this] { trends.mnuFallBatch_Click(); };
+  menus.mnuSummary.onClick = [this] { pneSummary.showSummary(); };
+  menus.mnuOptions.onClick = [this] { windows_.options().show(); };
+  menus.mnuCustomCrop.onClick = [this] { pneCustomCrop.open(); };
+  menus.mnuAboutVDL.onClick = [this] { windows_.about().open(); };
+  menus.mnuHelp.onClick = [this] { showHelpTopic(services_.help, "index.htm"); };
+}
+
+void frmMain::wirePanes() {
+  const auto help = [this](int index) { cmdHelp_Click(index); };
+  const auto applied = [this] { goHome(); };
+  pneMain.onRun = [this] { Command1_Click(); };
+  pneMain.onDefaults = [this] { Command7_Click(); };
+  pneMain.onIrrigation = [this] {
+    showPane(pneIrrigCosts);
+    pneIrrigCosts.open();
+  };
+  pneMain.onInputCosts = [this](CropRecord& row) {
+    if (row.Crop) showPane(pneInputCosts);
+    pneInputCosts.open(row.Crop);  // tells that there is no crop
+  };
+  pneMain.onHelp = help;
+  pneInputCosts.onHelp = help;
+  pneInputCosts.onBack = [this] { goBack(); };
+  pneInputCosts.onApplied = applied;
+  pneIrrigCosts.onHelp = help;
+  pneIrrigCosts.onBack = [this] { goBack(); };
+  pneIrrigCosts.onApplied = applied;
+  pneIrrigCosts.areaText = [this] { return pneMain.txtArea.text(); };
+  trends.pneBatchSetup0.onHelp = help;
+  pneCustomCrop.onHelp = help;
+  pneCustomCrop.loadCropRows = [this] { loadCropRows(); };
+  pneCustomCrop.onShowPane = [this] { showPane(pneCustomCrop); };
+  // The information band keeps its text.
+  pneCustomCrop.onBackHome = [this] { showPane(pneMain); };
+}
+
+void frmMain::wireResults() {
+  wireOptions(theResults);
+  wireOptions(trends.pneBatchSetup1.theBatchResults.theResults);
+  theDetails.onBack = [this](Details::BackTo to) {
+    if (to == Details::BackTo::trendResults) {
+      showPane(trends.pneBatchSetup1);
+    } else {
+      showPane(pneResults);
+    }
+  };
+  pneSummary.onShowPane = [this] { showPane(pneSummary); };
+  pneSummary.onBack = [this] { goBack(); };
+}
+
+void frmMain::wireOptions(Results& results) {
+  results.onBack = [this](Results::BackTo to) {
+    if (to == Results::BackTo::trendSetup) {
+      showPane(trends.pneBatchSetup0);
+    } else {
+      goHome();
+    }
+    menus.mnuPrint.setEnabled(false);
+  };
+  results.onSaveOption = [this](const Results::Option& option) { summaryResults.push_back(option); };
+  results.onBatchThis = [this](const Results::Option&) { trends.ShowBatchScreen(); };
+  results.onDetails = [this](const std::shared_ptr<Field>& field) {
+    showPane(pneDetails);
+    theDetails.loadCosts(*field);
+  };
+  results.onHelpTopic = [this](const std::string& topic) { showHelpTopic(services_.help, topic); };
+  results.onHelpNote = [this](const std::string& text, const std::string& title, int height) {
+    showHelpNote(windows_.help(), text, title, height);
+  };
+}
+
+void frmMain::wirePrinting() {
+  const auto printResults = [this] {
+    const Desk::Modal modal(desk());
+    thePrinter.printResults();
+  };
+  const auto printDetails = [this] {
+    const Desk::Modal modal(desk());
+    thePrinter.printDetails();
+  };
+  menus.mnuPrint.onClick = [this, printResults, printDetails] {
+    if (pneDetails.visible()) {
+      printDetails();
+    } else {
+      printResults();
+    }
+  };
+  theResults.onPrint = printResults;
+  trends.pneBatchSetup1.theBatchResults.theResults.onPrint = printResults;
+  theDetails.onPrint = printDetails;
+  theDetails.onFieldLoaded = [this](const Field& field) {
+    thePrinter.setField(field);
+    menus.mnuPrint.setEnabled(true);
+  };
+}
+
+void frmMain::Command1_Click() {
+  state_.TrendMode = false;
+  if (!pneMain.ready()) {
+    const Desk::Modal modal(desk());
+    services_.messageBox.show({"Error", "Please enter all of the necessary information before continuing!",
+                               MessageIcon::exclamation});
+    return;
+  }
+  saveInputs();
+  BestMix best = RunScenario("");
+  if (best.getSize() == 0) return;
+  // Seconds since midnight, not the time that the run took: that is what the label has always shown.
+  pneMain.lblNumber.setCaption("This took " + std::to_string(services_.clock.now().secondsSinceMidnight()) +
+                               " seconds");
+  showPane(pneResults);
+  theResults.ShowBatchedVariables(false);
+  theResults.loadResults(best.returnCollection(true));
+  // Once more: packing can have made new neighbours, and then paper lists fewer options than the screen.
+  thePrinter.setCollection(best.returnCollection(true));
+  menus.mnuPrint.setEnabled(true);
+}
+
+void frmMain::Command7_Click() {
+  for (const auto& row : pneMain.cr) {
+    if (!row->Crop) continue;
+    const std::string name = lowerCase(row->GetCrop());
+    if (const StockPrice* price = defaultPrice(name)) row->setDefault(price->price, price->maxYield);
+    loadDefaultCosts(name, row->Crop->inputCosts);
+  }
+  loadDefaultPlant(*tempIrrigationCosts);
+  pneIrrigCosts.showDefaults();
+}
+
+void frmMain::goHome() {
+  showPane(pneMain);
+  SetMainInfo(strMainInfo);
+}
+
+void frmMain::goBack() {
+  showPane(popPane());
+  SetMainInfo(strMainInfo);
+}
+
+void frmMain::cmdHelp_Click(int index) {
+  for (const HelpAction& action : helpActions()) {
+    if (action.index != index) continue;
+    if (!action.topic.empty()) showHelpTopic(services_.help, action.topic);
+    if (!action.note.text.empty()) {
+      showHelpNote(windows_.help(), action.note.text, action.note.title, action.note.height);
+    }
+  }
+}
+
+}  // namespace verdalis

@@ -1,0 +1,84 @@
+#include "screens/modInputTest.h"
+
+#include <algorithm>
+
+#include "text/RunTimeError.h"
+#include "text/numbers.h"
+
+namespace verdalis {
+namespace {
+
+template <class WithText>
+void emptyText(WithText& control) {
+  try {
+    control.setText("");
+  } catch (const RunTimeError&) {  // NOLINT(bugprone-empty-catch): the text is empty by then
+  }
+}
+
+/// Empties the control if it is a text field or a combo with free text and its text is one that `counts`
+/// chooses.
+template <class Counts>
+void emptyIf(Control& control, Counts counts) {
+  if (auto* box = dynamic_cast<TextBox*>(&control)) {
+    if (counts(box->text())) emptyText(*box);
+  } else if (auto* combo = dynamic_cast<ComboBox*>(&control)) {
+    if (combo->style() == ComboBox::Style::freeText && counts(combo->text())) emptyText(*combo);
+  }
+}
+
+}  // namespace
+
+void testInput(TextBox* control, double limit, const std::string& label, MessageBoxService& messageBox) {
+  if (control == nullptr) return;
+  const std::string& text = control->text();
+  if (text.empty() || text == "-" || text == ".") return;
+  if (!isNumeric(text)) {
+    showInputError(label + ":  Please enter a numeric value!", *control, messageBox);
+    return;
+  }
+  const double value = toDouble(text);
+  if (value >= 0 && value <= limit) return;
+  // The limit is told in whole numbers, so that one below a half is not told at all; and 0 passes, although
+  // the other message asks for more: both are meant.
+  const std::string message = value >= 0 ? ":  Please enter a value that's less than or equal to " +
+                                               formatNumber(limit, "###,###,###")
+                                         : ":  Please enter a value that's greater than 0";
+  showInputError(label + message, *control, messageBox);
+}
+
+void showInputError(const std::string& message, TextBox& control, MessageBoxService& messageBox) {
+  {
+    const Desk::Modal modal(control.desk());
+    messageBox.show({"Input error", message, MessageIcon::exclamation});
+  }
+  try {
+    if (control.canUndo()) control.undo();
+  } catch (const RunTimeError&) {
+    // What follows from the text that is back failed; the text and the focus are back all the same.
+    control.desk().moveFocus(control);
+    throw;
+  }
+  control.desk().moveFocus(control);
+}
+
+std::string RemoveIllegals(std::string_view name) {
+  std::string legal(name);
+  std::erase_if(legal,
+                [](char c) { return std::string_view("*?/\\:|<>\"").find(c) != std::string_view::npos; });
+  return legal;
+}
+
+void emptyZeroTexts(Frame& window) {
+  for (Control* control : window.controls()) {
+    emptyIf(*control, [](const std::string& text) { return text == "0"; });
+    if (auto* frame = dynamic_cast<Frame*>(control)) emptyZeroTexts(*frame);
+  }
+}
+
+void emptyTexts(Frame& frame) {
+  for (Control* control : frame.controls())
+    emptyIf(*control, [](const std::string&) { return true; });
+}
+
+}  // namespace verdalis

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "controls/inputs.h"
+#include "controls/services.h"
+
+namespace verdalis {
+
+/// The range test of a text field that a person leaves: a text that is no number, a negative number or one
+/// above `limit` is told with a message that begins with `label`, the text goes back to what it was before it
+/// was edited, and the focus comes back to the field. An empty text, "-" and "." pass, and so does a control
+/// that is not there. It blocks nothing.
+void testInput(TextBox* control, double limit, const std::string& label, MessageBoxService& messageBox);
+
+/// Tells the message, takes the last edit of the field back where there is one, and gives the field the
+/// focus.
+void showInputError(const std::string& message, TextBox& control, MessageBoxService& messageBox);
+
+/// The name without the nine characters that a file name cannot have.
+[[nodiscard]] std::string RemoveIllegals(std::string_view name);
+
+/// Empties the text fields and combos with free text, of the whole window, whose text is exactly "0". A
+/// run-time error of a change that follows is passed over.
+void emptyZeroTexts(Frame& window);
+
+/// Empties the text fields and combos with free text that stand on the frame itself, not on a frame in it. A
+/// run-time error of a change that follows is passed over.
+void emptyTexts(Frame& frame);
+
+}  // namespace verdalis

@@ -1,0 +1,345 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <rapidcheck.h>
+
+#include "results/SummaryPane.h"
+#include "tests/results/Options.h"
+#include "tests/support/Errors.h"
+#include "tests/support/FakeServices.h"
+#include "text/RunTimeError.h"
+
+namespace verdalis {
+namespace {
+
+using namespace testing;
+using ::testing::ElementsAre;
+
+class SummaryPaneTest : public ::testing::Test {
+ protected:
+  SummaryPaneTest() {
+    window.open();
+    pane.onShowPane = [this] { ++shows; };
+    pane.onBack = [this] { ++backs; };
+  }
+
+  [[nodiscard]] std::vector<std::string> column(int number) const {
+    std::vector<std::string> cells;
+    cells.reserve(static_cast<std::size_t>(pane.fgsummary.rows()));
+    for (int row = 0; row < pane.fgsummary.rows(); ++row)
+      cells.push_back(pane.fgsummary.cell(row, number));
+    return cells;
+  }
+
+  ScopedEfficiency efficiency{0.85};
+  FakeServices fake;
+  Desk desk;
+  Window window{desk, "frmMain", Frame::Scope::transparent};
+  SummaryPane::SavedOptions saved;
+  std::string annualRain = "16";
+  std::vector<std::pair<std::filesystem::path, std::string>> written;
+  int shows = 0;
+  int backs = 0;
+  SummaryPane pane{window,
+                   fake.services,
+                   saved,
+                   {[this] { return annualRain; },
+                    [this](const std::filesystem::path& path, std::string_view bytes) {
+                      written.emplace_back(path, std::string(bytes));
+                    }}};
+};
+
+Option fieldsOf(int count) {
+  auto option = std::make_shared<FieldCollection>();
+  for (int i = 0; i < count; ++i)
+    option->Add(plainField(10, 100, 50));
+  return option;
+}
+
+TEST_F(SummaryPaneTest, Controls) {
+  EXPECT_EQ(pane.caption(), "Summary of Saved Options");
+  EXPECT_EQ(desk.find("pneSummary"), &pane);
+  EXPECT_EQ(desk.find("fgsummary"), &pane.fgsummary);
+  EXPECT_EQ(desk.find("Label59(1)"), &pane.Label59);
+  EXPECT_EQ(desk.find("cmdCancel(2)"), &pane.cmdCancel);
+  EXPECT_EQ(pane.cmdCancel.caption(), "Back");
+  EXPECT_EQ(pane.cmdExcelSave.caption(), "Save table to CSV");
+}
+
+TEST_F(SummaryPaneTest, WithoutSavedOptionsOnlyTheNoticeIsThere) {
+  pane.showSummary();
+  EXPECT_FALSE(pane.fgsummary.visible());
+  EXPECT_EQ(
+      pane.Label59.caption(),
+      "No saved results.  Run a scenario and click the 'Save Results' button to add items to be displayed on "
+      "this page");
+  EXPECT_TRUE(pane.cmdExcelSave.enabled());
+  EXPECT_EQ(shows, 1);
+}
+
+TEST_F(SummaryPaneTest, TheTableHasAColumnForAField) {
+  auto field = plainField(1250.5, 1234.5, 61.4, 10.2, "Corn");
+  saved.push_back(optionOf({field}));
+  pane.showSummary();
+  EXPECT_TRUE(pane.fgsummary.visible());
+  EXPECT_EQ(pane.Label59.caption(),
+            "Saved options are displayed in the table below.  Remove a column by clicking it.");
+  EXPECT_EQ(pane.fgsummary.rows(), 12);
+  EXPECT_EQ(pane.fgsummary.columns(), 2);
+  EXPECT_THAT(column(0),
+              ElementsAre("", "Crop", "Acres", "Soil", "Price", "Yield", "Annual Rainfall",
+                          "Gross Irrigation", "Net Irrigation", "Operating Costs", "Returns", "Net Return"));
+  EXPECT_THAT(column(1),
+              ElementsAre("Saved Option #1", "Corn", "1250.5", "Silt Loam", "$1,234.50/bu.", "1.0 bu./ac",
+                          "16''", "12.0''", "10.2''", "$61 /acre", "$1,235 /acre", "$1,173 /acre"));
+}
+
+TEST_F(SummaryPaneTest, HeadsNumberTheFieldsOfAnOptionThatHasSeveral) {
+  saved = {fieldsOf(3), fieldsOf(1), fieldsOf(2)};
+  pane.showSummary();
+  ASSERT_EQ(pane.fgsummary.columns(), 7);
+  std::vector<std::string> heads;
+  heads.reserve(7);
+  for (int c = 0; c < 7; ++c)
+    heads.push_back(pane.fgsummary.cell(0, c));
+  EXPECT_THAT(heads, ElementsAre("", "Saved Option #1 - Field #1", "Saved Option #1 - Field #2",
+                                 "Saved Option #1 - Field #3", "Saved Option #2",
+                                 "Saved Option #3 - Field #1", "Saved Option #3 - Field #2"));
+}
+
+TEST_F(SummaryPaneTest, OptionsAlternateInGreenAndBlue) {
+  saved = {fieldsOf(2), fieldsOf(1), fieldsOf(1)};
+  pane.showSummary();
+  for (int row = 1; row < 12; ++row) {
+    EXPECT_EQ(pane.fgsummary.color(row, 0), std::nullopt);
+    EXPECT_EQ(pane.fgsummary.color(row, 1), 0x008000U);
+    EXPECT_EQ(pane.fgsummary.color(row, 2), 0x008000U);
+    EXPECT_EQ(pane.fgsummary.color(row, 3), 0x0000FFU);
+    EXPECT_EQ(pane.fgsummary.color(row, 4), 0x008000U);
+  }
+  EXPECT_EQ(pane.fgsummary.color(0, 1), std::nullopt);
+}
+
+TEST_F(SummaryPaneTest, RainAndGrossDepthAreThoseOfNow) {
+  saved = {optionOf({plainField(10, 100, 50, 8.5)})};
+  pane.showSummary();
+  EXPECT_EQ(pane.fgsummary.cell(6, 1), "16''");
+  EXPECT_EQ(pane.fgsummary.cell(7, 1), "10.0''");
+  annualRain = "12.5 inches";
+  EfficiencyFraction = 0.5;
+  pane.showSummary();
+  EXPECT_EQ(pane.fgsummary.cell(6, 1), "12.5''");
+  EXPECT_EQ(pane.fgsummary.cell(7, 1), "17.0''");
+  annualRain = "";
+  pane.showSummary();
+  EXPECT_EQ(pane.fgsummary.cell(6, 1), "0''");
+}
+
+TEST_F(SummaryPaneTest, TheSameOptionCanStandThereTwice) {
+  const auto option = fieldsOf(1);
+  saved = {option, option};
+  pane.showSummary();
+  EXPECT_EQ(pane.fgsummary.columns(), 3);
+  EXPECT_EQ(pane.fgsummary.cell(0, 2), "Saved Option #2");
+}
+
+TEST_F(SummaryPaneTest, AnOptionWithoutFieldsHasNoColumn) {
+  saved = {placeholder()};
+  pane.showSummary();
+  EXPECT_EQ(pane.fgsummary.columns(), 2);
+  EXPECT_EQ(pane.fgsummary.cell(0, 1), "");
+  EXPECT_EQ(pane.fgsummary.cell(1, 0), "Crop");
+}
+
+TEST_F(SummaryPaneTest, RemovingAsksFirst) {
+  saved = {fieldsOf(1)};
+  pane.showSummary();
+  fake.messageBox.answers = {MessageAnswer::no};
+  pane.fgsummary.clickCell(3, 1);
+  ASSERT_EQ(fake.messageBox.log.size(), 1U);
+  EXPECT_EQ(fake.messageBox.log[0].title, "Delete?");
+  EXPECT_EQ(fake.messageBox.log[0].text, "Do you want to delete this saved result?");
+  EXPECT_EQ(fake.messageBox.log[0].icon, MessageIcon::question);
+  EXPECT_EQ(fake.messageBox.log[0].buttons, MessageButtons::yesNo);
+  EXPECT_EQ(saved.size(), 1U);
+  EXPECT_EQ(shows, 1);
+}
+
+TEST_F(SummaryPaneTest, TheLastRemovalLeavesTheNotice) {
+  saved = {fieldsOf(2)};
+  pane.showSummary();
+  fake.messageBox.answers = {MessageAnswer::yes};
+  pane.fgsummary.clickCell(0, 2);
+  EXPECT_TRUE(saved.empty());
+  EXPECT_FALSE(pane.fgsummary.visible());
+  EXPECT_EQ(pane.Label59.caption().substr(0, 17), "No saved results.");
+  EXPECT_EQ(shows, 2);
+}
+
+TEST_F(SummaryPaneTest, RemovingRebuildsTheTable) {
+  saved = {fieldsOf(2), fieldsOf(1), fieldsOf(1)};
+  const auto second = saved[1];
+  pane.showSummary();
+  pane.fgsummary.clickCell(5, 2);
+  EXPECT_EQ(saved.size(), 2U);
+  EXPECT_EQ(saved[0], second);
+  EXPECT_EQ(pane.fgsummary.columns(), 3);
+  EXPECT_EQ(pane.fgsummary.cell(0, 1), "Saved Option #1");
+  EXPECT_EQ(pane.fgsummary.color(1, 2), 0x0000FFU);
+}
+
+TEST_F(SummaryPaneTest, AClickOnTheRowHeadsRemovesNothingButShowsThePane) {
+  saved = {fieldsOf(1)};
+  pane.showSummary();
+  pane.fgsummary.clickCell(4, 0);
+  EXPECT_EQ(fake.messageBox.log.size(), 1U);
+  EXPECT_EQ(saved.size(), 1U);
+  EXPECT_EQ(shows, 2);
+}
+
+// Each option counts one column wider than it has fields.
+TEST_F(SummaryPaneTest, SingleFieldOptionsAreRemovedByPairsOfColumns) {
+  for (int clicked = 1; clicked <= 5; ++clicked) {
+    saved = {fieldsOf(1), fieldsOf(1), fieldsOf(1), fieldsOf(1), fieldsOf(1)};
+    const auto expected = saved[static_cast<std::size_t>((clicked - 1) / 2)];
+    pane.showSummary();
+    pane.fgsummary.clickCell(1, clicked);
+    EXPECT_EQ(saved.size(), 4U);
+    EXPECT_EQ(std::find(saved.begin(), saved.end(), expected), saved.end()) << clicked;
+  }
+}
+
+TEST_F(SummaryPaneTest, TheRemovedOptionIsTheOneThatCountingFinds) {
+  EXPECT_TRUE(rc::check("the counting of columns", [this] {
+    const auto sizes = *rc::gen::nonEmpty(rc::gen::container<std::vector<int>>(rc::gen::inRange(1, 5)));
+    saved.clear();
+    for (const int size : sizes)
+      saved.push_back(fieldsOf(size));
+    const auto before = saved;
+    pane.showSummary();
+    const int clicked = *rc::gen::inRange(0, pane.fgsummary.columns());
+    std::optional<std::size_t> expected;
+    int n = 1;
+    for (std::size_t i = 0; i < sizes.size() && !expected; ++i) {
+      for (int j = 0; j <= sizes[i]; ++j) {
+        if (n == clicked) {
+          expected = i;
+          break;
+        }
+        ++n;
+      }
+    }
+    pane.fgsummary.clickCell(1, clicked);
+    auto after = before;
+    if (expected) after.erase(after.begin() + static_cast<std::ptrdiff_t>(*expected));
+    RC_ASSERT(saved == after);
+  }));
+}
+
+TEST_F(SummaryPaneTest, BackIsRaised) {
+  pane.cmdCancel.click();
+  EXPECT_EQ(backs, 1);
+}
+
+TEST_F(SummaryPaneTest, SavesTheTableAsItStands) {
+  saved = {optionOf({plainField(10, 1234.5, 1000, 8.5, "Corn")}), fieldsOf(1)};
+  pane.showSummary();
+  fake.fileChooser.answers.emplace_back("/tmp/table.csv");
+  pane.cmdExcelSave.click();
+  ASSERT_EQ(fake.fileChooser.saveLog.size(), 1U);
+  EXPECT_EQ(fake.fileChooser.saveLog[0].defaultExtension, "csv");
+  EXPECT_EQ(fake.fileChooser.saveLog[0].filter, "Comma Separated Values|csv");
+  ASSERT_EQ(written.size(), 1U);
+  EXPECT_EQ(written[0].first, "/tmp/table.csv");
+  EXPECT_EQ(written[0].second,
+            ",Saved Option #1,Saved Option #2\r\n"
+            "Crop,Corn,Millet\r\n"
+            "Acres,10,10\r\n"
+            "Soil,Silt Loam,Silt Loam\r\n"
+            "Price,$1,234.50/bu.,$100.00/bu.\r\n"
+            "Yield,1.0 bu./ac,1.0 bu./ac\r\n"
+            "Annual Rainfall,16'',16''\r\n"
+            "Gross Irrigation,10.0'',0.0''\r\n"
+            "Net Irrigation,8.5'',0.0''\r\n"
+            "Operating Costs,$1,000 /acre,$50 /acre\r\n"
+            "Returns,$1,235 /acre,$100 /acre\r\n"
+            "Net Return,$235 /acre,$50 /acre\r\n");
+  EXPECT_TRUE(fake.messageBox.log.empty());
+}
+
+TEST_F(SummaryPaneTest, ACancelledChooserWritesNothing) {
+  saved = {fieldsOf(1)};
+  pane.showSummary();
+  pane.cmdExcelSave.click();
+  EXPECT_EQ(fake.fileChooser.saveLog.size(), 1U);
+  EXPECT_TRUE(written.empty());
+}
+
+TEST_F(SummaryPaneTest, WithoutOptionsTheGridAsItWasIsWritten) {
+  fake.fileChooser.answers = {"a.csv", "b.csv"};
+  pane.cmdExcelSave.click();
+  ASSERT_EQ(written.size(), 1U);
+  EXPECT_EQ(written[0].second, ",\r\n,\r\n,\r\n,\r\n,\r\n,\r\n,\r\n,\r\n,\r\n,\r\n,\r\n,\r\n");
+
+  saved = {fieldsOf(1)};
+  pane.showSummary();
+  pane.fgsummary.clickCell(1, 1);
+  ASSERT_TRUE(saved.empty());
+  pane.cmdExcelSave.click();
+  EXPECT_EQ(written[1].second.find(",Saved Option #1\r\nCrop,Millet\r\nAcres,10\r\n"), 0U);
+}
+
+TEST_F(SummaryPaneTest, TheFileIsInTheEncodingOfOtherPrograms) {
+  saved = {optionOf({plainField(10, 1, 0, 0, "Ma\xC3\xAFs")})};
+  fake.fileChooser.answers = {"a.csv", "b.csv"};
+  pane.showSummary();
+  pane.cmdExcelSave.click();
+  EXPECT_NE(written[0].second.find("Crop,Ma\xEFs\r\n"), std::string::npos);
+  saved = {optionOf({plainField(10, 1, 0, 0, "\xE5\xB0\x8F\xE9\xBA\xA6")})};
+  pane.showSummary();
+  pane.cmdExcelSave.click();
+  EXPECT_NE(written[1].second.find("Crop,\xE5\xB0\x8F\xE9\xBA\xA6\r\n"), std::string::npos);
+}
+
+TEST_F(SummaryPaneTest, AFileThatCannotBeWrittenIsARunTimeError) {
+  SummaryPane::SavedOptions none;
+  SummaryPane failing{window,
+                      fake.services,
+                      none,
+                      {[] { return std::string(); },
+                       [](const std::filesystem::path&, std::string_view) {
+                         throw RunTimeError(ErrorNumber::fileNotFound, "No place.");
+                       }}};
+  std::vector<std::string> told;
+  desk.onRunTimeError = [&](const RunTimeError& error) { told.emplace_back(error.what()); };
+  fake.fileChooser.answers.emplace_back("a.csv");
+  failing.cmdExcelSave.click();
+  EXPECT_THAT(told, ElementsAre("No place."));
+}
+
+TEST_F(SummaryPaneTest, AFieldThatCannotBeCalculatedEndsTheTableThere) {
+  saved = {fieldsOf(1), optionOf({plainField(0, 1, 0, 0, "Oats")}), fieldsOf(2)};
+  errorText(ErrorNumber::divisionByZero, [&] { pane.showSummary(); });
+  EXPECT_EQ(shows, 0);
+  EXPECT_EQ(pane.fgsummary.columns(), 3);
+  EXPECT_EQ(pane.fgsummary.cell(1, 2), "Oats");
+  EXPECT_EQ(pane.fgsummary.cell(9, 2), "");
+}
+
+TEST_F(SummaryPaneTest, WhoeverShowsTheTableIsToldOnceForItAll) {
+  saved = {fieldsOf(4), fieldsOf(4)};
+  pane.showSummary();
+  int told = 0;
+  pane.fgsummary.watcher = [&] { ++told; };
+  pane.showSummary();
+  EXPECT_EQ(told, 1);
+}
+
+TEST_F(SummaryPaneTest, ThousandsOfSavedOptionsAreNoTrouble) {
+  saved.assign(5000, fieldsOf(4));
+  pane.showSummary();
+  EXPECT_EQ(pane.fgsummary.columns(), 20001);
+  EXPECT_EQ(pane.fgsummary.cell(0, 20000), "Saved Option #5000 - Field #4");
+}
+
+}  // namespace
+}  // namespace verdalis
