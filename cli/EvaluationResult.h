@@ -1,0 +1,67 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "engine/ProgramState.h"
+#include "model/FieldCollection.h"
+
+namespace verdalis {
+
+/// One field of an option, as it is reported.
+struct FieldResult {
+  double acres = 0;
+  std::string crop;
+  double netDepth = 0;    ///< Inches
+  double grossDepth = 0;  ///< Inches, by the efficiency of the run
+  double yield = 0;       ///< Units per acre
+  std::string yieldUnit;  ///< Such as "bu."; empty for Fallow
+  double price = 0;       ///< $ per unit
+  double maxYield = 0;    ///< Units per acre
+  std::string soil;
+  double costs = 0;       ///< Dollars for the field, irrigation included
+  double returns = 0;     ///< Dollars for the field
+  double production = 0;  ///< Dollars for the field: costs without irrigation
+  double irrigation = 0;  ///< Dollars for the field
+  double hours = 0;       ///< Pumping hours; a dry field shows those that its plant held
+
+  [[nodiscard]] double profit() const { return returns - costs; }
+};
+
+/// One option of a ranking, as it is reported. Dollars for the farm.
+struct OptionResult {
+  double profit = 0;
+  double costs = 0;
+  double returns = 0;
+  double netVolume = 0;  ///< Acre-inches
+  std::vector<FieldResult> fields;
+
+  /// Acres of all fields.
+  [[nodiscard]] double acres() const;
+};
+
+/// What one evaluation has found: plain values that writers show and that nothing else refers to.
+struct EvaluationResult {
+  std::size_t waterSplits = 0;
+  std::uint64_t cropCombinations = 0;
+  double efficiency = 0;              ///< Fraction
+  double seconds = 0;                 ///< Time that the run took
+  std::vector<OptionResult> options;  ///< Best first
+
+  /// Water splits times crop combinations.
+  [[nodiscard]] std::uint64_t candidates() const { return waterSplits * cropCombinations; }
+};
+
+/// An option with the efficiency in force, which is that of the run that found it.
+/// \throws RunTimeError as its pricing does
+[[nodiscard]] OptionResult describeOption(FieldCollection& option);
+
+/// The last run with its options, as far as they hold fields.
+/// \throws RunTimeError as the pricing of an option does
+[[nodiscard]] EvaluationResult describeRun(const std::vector<std::shared_ptr<FieldCollection>>& options,
+                                           const ProgramState& state, double seconds);
+
+}  // namespace verdalis

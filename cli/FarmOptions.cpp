@@ -1,0 +1,196 @@
+#include "cli/FarmOptions.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <utility>
+
+#include "cli/home.h"
+#include "cli/textOptions.h"
+#include "data/readFile.h"
+#include "engine/MakingSplits.h"
+#include "screens/fineFactor.h"
+#include "text/RunTimeError.h"
+#include "text/numbers.h"
+#include "text/quote.h"
+
+namespace verdalis {
+namespace {
+
+constexpr std::size_t mostCropsToName = 60;
+
+/// Runs one step of an option; a refusal then begins with the option as it was typed.
+template <class Step>
+void applyOption(const std::string& option, const std::string& value, Step step) {
+  try {
+    step();
+  } catch (const Refusal& refusal) {
+    throw Refusal(option + " " + quoteForMessage(value) + ": " + refusal.what());
+  }
+}
+
+std::size_t cropRow(TypedFarm& farm, std::string_view name) {
+  if (const std::optional<std::size_t> row = farm.findRow(name)) return *row;
+  std::string text = "There is no crop " + quoteForMessage(name) + ".";
+  const std::vector<std::string> crops = farm.cropNames();
+  for (std::size_t i = 0; i < std::min(crops.size(), mostCropsToName); ++i) {
+    text += (i == 0 ? " The crops are " : ", ") + quoteForMessage(crops[i]);
+  }
+  throw Refusal(text + (crops.empty() ? " The library is empty." : "."));
+}
+
+std::pair<std::string, std::string> splitAssignment(const std::string& text, std::size_t sign) {
+  if (sign == std::string::npos) throw Refusal("The form is NAME=TEXT.");
+  return {text.substr(0, sign), text.substr(sign + 1)};
+}
+
+/// The row and the text of "CROP=TEXT". A crop's name may have a "=" in it, so each is tried.
+std::pair<std::size_t, std::string> rowAssignment(TypedFarm& farm, const std::string& text) {
+  for (std::size_t sign = text.find('='); sign != std::string::npos; sign = text.find('=', sign + 1)) {
+    if (const auto row = farm.findRow(std::string_view(text).substr(0, sign)))
+      return {*row, text.substr(sign + 1)};
+  }
+  auto [name, value] = splitAssignment(text, text.find('='));
+  return {cropRow(farm, name), std::move(value)};
+}
+
+std::string landSplitNames(std::string_view separator) {
+  std::string names;
+  for (std::size_t i = 0; i < landDivisions().size(); ++i) {
+    if (i > 0) names += separator;
+    names += std::to_string(i) + " is \"" + std::string(landDivisions().at(i).caption) + "\"";
+  }
+  return names;
+}
+
+std::size_t landSplitIndex(const std::string& text) {
+  std::size_t index = 0;
+  const char* const end = text.data() + text.size();
+  const auto [stop, error] = std::from_chars(text.data(), end, index);
+  const bool whole = error == std::errc() && stop == end;
+  if (whole && index < landDivisions().size()) return index;
+  throw Refusal("There is no such land split: " + landSplitNames(", ") + ".");
+}
+
+std::int16_t iterationFactor(const std::string& text, Messages& messages) {
+  const FineFactorEntry entry = readFineFactor(text);
+  if (!entry.factor) throw Refusal(entry.message->text);
+  if (entry.message) messages.tell(entry.message->title, entry.message->text);
+  return *entry.factor;
+}
+
+/// The control itself reads a leading number; on the command line a text that is no plain number is a slip.
+void requireNumber(const std::string& text) {
+  if (!isNumeric(text) || text.find(',') != std::string::npos) throw Refusal("Please enter a valid number");
+}
+
+ProgramFiles filesOf(const FarmRequest& request) {
+  ProgramFiles files(request.home ? std::filesystem::path(*request.home) : homeFolder(homePlaces()));
+  if (!request.inputs) return files;
+  files.inputs = *request.inputs;
+  try {
+    static_cast<void>(readFile(files.inputs));
+  } catch (const RunTimeError& error) {
+    throw Refusal(std::string("--inputs: ") + error.what());
+  }
+  return files;
+}
+
+void applyToRows(const FarmRequest& request, TypedFarm& farm) {
+  for (const std::string& price : request.prices) {
+    applyOption("--price", price, [&] {
+      const auto [row, text] = rowAssignment(farm, price);
+      farm.typePrice(row, text);
+    });
+  }
+  for (const std::string& maxYield : request.maxYields) {
+    applyOption("--max-yield", maxYield, [&] {
+      const auto [row, text] = rowAssignment(farm, maxYield);
+      farm.typeMaxYield(row, text);
+    });
+  }
+  if (request.split) {
+    applyOption("--split", *request.split, [&] { farm.chooseLandSplit(landSplitIndex(*request.split)); });
+  }
+  for (const std::string& crop : request.crops) {
+    applyOption("--crop", crop, [&] { farm.tick(cropRow(farm, crop)); });
+  }
+}
+
+}  // namespace
+
+void addFarmOptions(CLI::App& command, FarmRequest& request) {
+  addTextOption(command, "--home", "DIR", request.home,
+                "The folder with crops/ and inputs.txt;\nwithout it the program's own home folder");
+  addTextOption(command, "--inputs", "FILE", request.inputs,
+                "Read this saved inputs file in place of the home's inputs.txt");
+  command.add_flag("--defaults", request.defaults, "Then load the default prices, yields, costs and plant");
+  addTextOption(
+      command, "--set", "CONTROL=TEXT", request.sets,
+      "Then type TEXT into a control of the main window,\nsuch as txtArea=100 or \"txtSoil=Loamy Sand\"");
+  addTextOption(command, "--price", "CROP=TEXT", request.prices, "Then type the price of a crop, $ per unit");
+  addTextOption(command, "--max-yield", "CROP=TEXT", request.maxYields,
+                "Then type the maximum yield of a crop, units per acre");
+  addTextOption(command, "--split", "N", request.split, "The land split:\n" + landSplitNames("\n"));
+  addTextOption(command, "--crop", "NAME", request.crops, "A crop that takes part");
+  command.add_flag("--no-split", request.noSplit, "Also evaluate each crop on the undivided farm");
+  addTextOption(command, "--keep", "N", request.keep, "How many options to keep; 100 without it");
+  addTextOption(command, "--factor", "N", request.factor,
+                "The irrigation iteration factor: steps of water\nbetween 0 and 100 %; 10 without it");
+}
+
+std::unique_ptr<TypedFarm> makeFarm(const FarmRequest& request, Messages& messages) {
+  auto farm = std::make_unique<TypedFarm>(filesOf(request), messages);
+  if (request.inputs && !farm->inputsLoaded()) {
+    messages.tell("The file " + *request.inputs +
+                  " ends too early or holds a value that cannot be used. What was read before is in force.");
+  }
+  if (request.defaults) farm->loadDefaultValues();
+  for (const std::string& set : request.sets) {
+    applyOption("--set", set, [&] {
+      const auto [control, text] = splitAssignment(set, set.find('='));
+      farm->type(control, text);
+    });
+  }
+  applyToRows(request, *farm);
+  if (request.noSplit) farm->tickNoSplit();
+  if (request.keep) {
+    applyOption("--keep", *request.keep, [&] {
+      requireNumber(*request.keep);
+      farm->type("txtArraySize", *request.keep);
+    });
+  }
+  if (request.factor) {
+    applyOption("--factor", *request.factor,
+                [&] { farm->state().FineFactor = iterationFactor(*request.factor, messages); });
+  }
+  return farm;
+}
+
+void requireReady(const ScenarioInputs& inputs) {
+  const bool splitChosen =
+      std::find(inputs.Option1.begin(), inputs.Option1.end(), true) != inputs.Option1.end();
+  if (ready(inputs) && splitChosen) return;
+
+  std::string missing;
+  const auto require = [&](bool there, const std::string& what) {
+    if (!there) missing += (missing.empty() ? "" : "; ") + what;
+  };
+  const bool area = !inputs.txtArea.empty();
+  const bool inches = !inputs.txtMax.empty();
+  require(area, "the acres of the farm (--set txtArea=ACRES)");
+  require(inches, "the gross irrigation (--set txtMax=INCHES)");
+  require(!area || !inches || !inputs.lblVolume.empty(),
+          "acres and inches whose product is at least 1 ac-in");
+  require(isNumeric(inputs.txtAnnRain), inputs.txtAnnRain.empty()
+                                            ? "the annual rainfall (--set txtAnnRain=INCHES)"
+                                            : "an annual rainfall that is a number, which " +
+                                                  quoteForMessage(inputs.txtAnnRain) + " is not");
+  require(splitChosen, "a land split (--split N)");
+  require(
+      std::any_of(inputs.cr.begin(), inputs.cr.end(), [](const CropRowInput& row) { return row.isActive; }),
+      "a crop (--crop NAME)");
+  throw Refusal("Please enter all of the necessary information before continuing! Missing: " + missing + ".");
+}
+
+}  // namespace verdalis

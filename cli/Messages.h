@@ -1,0 +1,40 @@
+#pragma once
+
+#include <ostream>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+namespace verdalis {
+
+/// Wrong arguments, or inputs that are not complete. The text says what to change, and where.
+class Refusal : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+/// The user stopped the run.
+class Cancelled : public std::runtime_error {
+ public:
+  Cancelled() : std::runtime_error("cancelled") {}
+};
+
+/// Words to whoever sits at the terminal. Standard output is for the result alone.
+class Messages {
+ public:
+  explicit Messages(std::ostream& err) : err_(err) {}
+
+  void tell(std::string_view text) { err_ << "verdalis-cli: " << text << '\n' << std::flush; }
+
+  /// A message box of the program, by its title and its text.
+  void tell(std::string_view title, std::string_view text) {
+    tell(std::string(title) + ": " + std::string(text));
+  }
+
+  [[nodiscard]] std::ostream& stream() { return err_; }
+
+ private:
+  std::ostream& err_;
+};
+
+}  // namespace verdalis

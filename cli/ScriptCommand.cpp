@@ -1,0 +1,47 @@
+#include "cli/ScriptCommand.h"
+
+#include <filesystem>
+#include <fstream>
+#include <istream>
+#include <ostream>
+
+#include "cli/home.h"
+#include "cli/script/ScriptSession.h"
+#include "cli/textOptions.h"
+#include "text/RunTimeError.h"
+
+namespace verdalis {
+namespace {
+
+bool replay(const ScriptRequest& request, std::istream& script, std::ostream& out) {
+  ScriptSession session(request.home ? std::filesystem::path(*request.home) : homeFolder(homePlaces()));
+  const bool allDone = session.replay(script, out);
+  if (!out) {
+    throw RunTimeError(ErrorNumber::fileNotFound, "The answers cannot be written to standard output.");
+  }
+  return allDone;
+}
+
+}  // namespace
+
+const CLI::App& addScriptCommand(CLI::App& app, ScriptRequest& request) {
+  CLI::App& command =
+      *app.add_subcommand("script", "Replays a session: one command a line, one answer a line as JSON");
+  addTextOption(command, "--home", "DIR", request.home,
+                "The folder with crops/ and inputs.txt;\nwithout it the program's own home folder");
+  addTextOption(command, "FILE", "", request.file, "The script; - reads standard input");
+  return command;
+}
+
+bool replayScript(const ScriptRequest& request, std::istream& in, std::ostream& out) {
+  if (!request.file) throw Refusal("A script is required: the name of a file, or - for standard input.");
+  if (*request.file == "-") return replay(request, in, out);
+  std::error_code ignored;
+  std::ifstream file(*request.file, std::ios::binary);
+  if (!file || std::filesystem::is_directory(*request.file, ignored)) {
+    throw Refusal("The file " + *request.file + " cannot be read.");
+  }
+  return replay(request, file, out);
+}
+
+}  // namespace verdalis

@@ -1,0 +1,37 @@
+#include "cli/TerminalServices.h"
+
+#include <ctime>
+
+namespace verdalis {
+
+MessageAnswer TerminalServices::show(const Message& message) {
+  if (message.icon == MessageIcon::exclamation) {  // the icon of an input that is not accepted
+    if (!refusal_) refusal_ = message.text;
+  } else if (message.title == defaultTitle) {
+    messages_.tell(message.text);
+  } else {
+    messages_.tell(message.title, message.text);
+  }
+  switch (message.buttons) {
+    case MessageButtons::yesNo:
+      return MessageAnswer::no;
+    case MessageButtons::yesNoCancel:
+      return MessageAnswer::cancel;
+    case MessageButtons::ok:
+      break;
+  }
+  return MessageAnswer::ok;
+}
+
+ClockTime TerminalServices::now() const {
+  return localTime();
+}
+
+ClockTime localTime() {
+  const std::time_t seconds = std::time(nullptr);
+  std::tm local{};
+  if (::localtime_r(&seconds, &local) == nullptr) return {};
+  return {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min, local.tm_sec};
+}
+
+}  // namespace verdalis

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "cli/Messages.h"
+#include "controls/services.h"
+
+namespace verdalis {
+
+/// The platform of a command that nobody answers: what the program tells goes to standard error, and whatever
+/// it asks for is cancelled.
+class TerminalServices : public MessageBoxService,
+                         public FileChooserService,
+                         public ClipboardService,
+                         public HelpService,
+                         public OpenFileService,
+                         public ClockService,
+                         public EventPumpService,
+                         public PrinterService {
+ public:
+  explicit TerminalServices(Messages& messages) : messages_(messages) {}
+
+  [[nodiscard]] Services services() { return {*this, *this, *this, *this, *this, *this, *this, *this}; }
+
+  /// The first text since the last call that says that an input is not accepted. Such texts are not told: the
+  /// command ends with them.
+  [[nodiscard]] std::optional<std::string> takeRefusal() { return std::exchange(refusal_, std::nullopt); }
+
+  MessageAnswer show(const Message& message) override;
+  std::optional<std::filesystem::path> chooseOpen(const FileQuestion&) override { return std::nullopt; }
+  std::optional<std::filesystem::path> chooseSave(const FileQuestion&) override { return std::nullopt; }
+  void clear() override {}
+  void setText(const std::string&) override {}
+  [[nodiscard]] std::string text() const override { return {}; }
+  void showTopic(const std::string&) override {}
+  bool open(const std::filesystem::path&) override { return false; }
+  [[nodiscard]] ClockTime now() const override;
+  void pump() override {}
+  std::optional<int> askCopies() override { return std::nullopt; }
+  std::unique_ptr<PageSurface> beginDocument() override { return nullptr; }
+
+ private:
+  Messages& messages_;
+  std::optional<std::string> refusal_;
+};
+
+/// The local time of day.
+[[nodiscard]] ClockTime localTime();
+
+}  // namespace verdalis

@@ -1,0 +1,159 @@
+#include "cli/TypedFarm.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+#include "text/encoding.h"
+#include "text/quote.h"
+
+namespace verdalis {
+namespace {
+
+bool onOrOff(const std::string& text) {
+  const std::string lower = lowerCase(text);
+  if (lower == "true" || lower == "1") return true;
+  if (lower == "false" || lower == "0") return false;
+  throw Refusal("Please enter True or False");
+}
+
+void set(CheckBox& box, const std::string& text) {
+  if (onOrOff(text) != box.checked()) box.click();
+}
+
+void set(OptionButton& button, const std::string& text) {
+  if (onOrOff(text)) {
+    button.click();
+  } else if (button.checked()) {
+    throw Refusal("It is turned off by turning another one on.");
+  }
+}
+
+void set(TextBox& box, const std::string& text) {
+  box.type(text);
+  box.leave();
+}
+
+void set(ComboBox& combo, const std::string& text) {
+  if (combo.style() == ComboBox::Style::freeText) {
+    combo.type(text);
+  } else {
+    const auto entry = std::find(combo.items().begin(), combo.items().end(), text);
+    if (entry == combo.items().end()) throw Refusal("There is no such entry.");
+    combo.pick(static_cast<int>(std::distance(combo.items().begin(), entry)));
+  }
+  combo.leave();
+}
+
+ProgramFiles withoutSaving(ProgramFiles files) {
+  files.savesInputs = false;
+  return files;
+}
+
+bool stands(const Control& control, const Frame& pane) {
+  for (const Frame* frame = control.container(); frame != nullptr; frame = frame->container()) {
+    if (frame == &pane) return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+TypedFarm::TypedFarm(ProgramFiles files, Messages& messages)
+    : messages_(messages),
+      platform_(messages),
+      services_(platform_.services()),
+      program_(services_, withoutSaving(std::move(files))) {
+  program_.start();
+  // From here on a run-time error ends the command.
+  program_.desk.onRunTimeError = nullptr;
+}
+
+void TypedFarm::type(const std::string& name, const std::string& text) {
+  Control* const control = program_.desk.find(name);
+  if (control == nullptr || &control->window() != &main()) {
+    throw Refusal("There is no control " + quoteForMessage(name) + " in the main window.");
+  }
+  if (!control->visible()) throw Refusal(name + " is hidden.");
+  typeInto(*control, name, text);
+  refuseIfTold();
+  if (!stands(*control, mainPane())) {
+    messages_.tell(name +
+                   " takes part in a run only after it is applied on its pane, which is not done here.");
+  }
+}
+
+void TypedFarm::typeInto(Control& control, const std::string& name, const std::string& text) {
+  if (auto* box = dynamic_cast<TextBox*>(&control)) {
+    set(*box, text);
+  } else if (auto* combo = dynamic_cast<ComboBox*>(&control)) {
+    set(*combo, text);
+  } else if (auto* check = dynamic_cast<CheckBox*>(&control)) {
+    set(*check, text);
+  } else if (auto* button = dynamic_cast<OptionButton*>(&control)) {
+    set(*button, text);
+  } else {
+    throw Refusal("Nothing can be typed into " + quoteForMessage(name) + ", a " +
+                  std::string(kindName(control.kind())) + ".");
+  }
+}
+
+void TypedFarm::refuseIfTold() {
+  if (const std::optional<std::string> refusal = platform_.takeRefusal()) throw Refusal(*refusal);
+}
+
+std::optional<std::size_t> TypedFarm::findRow(std::string_view name) {
+  const auto& rows = mainPane().cr;
+  const auto lastWhere = [&](auto matches) -> std::optional<std::size_t> {
+    const auto found = std::find_if(rows.rbegin(), rows.rend(),
+                                    [&](const auto& row) { return row->Crop && matches(*row->Crop); });
+    if (found == rows.rend()) return std::nullopt;
+    return static_cast<std::size_t>(rows.rend() - found) - 1;
+  };
+  if (const auto exact = lastWhere([&](const Crop& crop) { return crop.cropType == name; })) return exact;
+  const std::string lower = lowerCase(name);
+  return lastWhere([&](const Crop& crop) { return lowerCase(crop.cropType) == lower; });
+}
+
+std::vector<std::string> TypedFarm::cropNames() {
+  std::vector<std::string> names;
+  for (const auto& row : mainPane().cr) {
+    if (row->Crop) names.push_back(row->Crop->cropType);
+  }
+  return names;
+}
+
+void TypedFarm::typePrice(std::size_t row, const std::string& text) {
+  CropRecord& record = *mainPane().cr[row];
+  if (!record.txtPrice.visible()) throw Refusal(record.GetCrop() + " has no price.");
+  set(record.txtPrice, text);
+  refuseIfTold();
+}
+
+void TypedFarm::typeMaxYield(std::size_t row, const std::string& text) {
+  CropRecord& record = *mainPane().cr[row];
+  if (!record.txtMaxYield.visible()) throw Refusal(record.GetCrop() + " has no maximum yield.");
+  set(record.txtMaxYield, text);
+  refuseIfTold();
+}
+
+void TypedFarm::tick(std::size_t row) {
+  CheckBox& box = mainPane().cr[row]->chkCrop;
+  if (!box.checked()) box.click();
+}
+
+void TypedFarm::tickNoSplit() {
+  CheckBox& box = mainPane().chkNoSplit;
+  if (!box.checked()) box.click();
+}
+
+std::optional<std::vector<Results::Option>> TypedFarm::evaluate(RunHooks& progress) {
+  main().runListener = &progress;
+  mainPane().Command1.click();
+  main().runListener = nullptr;
+  refuseIfTold();
+  if (state().CancelRequested) return std::nullopt;
+  return main().theResults.FieldCollection;
+}
+
+}  // namespace verdalis

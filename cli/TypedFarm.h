@@ -1,0 +1,74 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "cli/Messages.h"
+#include "cli/TerminalServices.h"
+#include "engine/RunHooks.h"
+#include "screens/main/Program.h"
+
+namespace verdalis {
+
+/// The running program without a window, into whose controls a farm is typed. What the program warns of goes
+/// to standard error; a range test that fails becomes a Refusal; a run-time error goes on to the caller. It
+/// writes no saved inputs.
+class TypedFarm {
+ public:
+  /// Starts the program past the welcome window. A crop library that cannot be read is told, and there are
+  /// no crops then.
+  TypedFarm(ProgramFiles files, Messages& messages);
+
+  /// The button "Load Default Values".
+  void loadDefaultValues() { mainPane().Command7.click(); }
+
+  /// Types a text into a control of the main window, on whatever pane, and leaves it. A check box and an
+  /// option button take True, False, 1 and 0. A field whose text takes no part in a run until it is applied
+  /// is told.
+  /// \throws Refusal for a control that is not there, cannot be typed into or does not accept the text.
+  void type(const std::string& name, const std::string& text);
+
+  /// The row of a crop: by its exact name, else ignoring case; with several the last.
+  [[nodiscard]] std::optional<std::size_t> findRow(std::string_view name);
+
+  /// The names of the rows' crops.
+  [[nodiscard]] std::vector<std::string> cropNames();
+
+  /// Types into a crop row, ticked or not, and leaves the field.
+  /// \throws Refusal for a text that fails the test of its field, and for a row without such a field.
+  void typePrice(std::size_t row, const std::string& text);
+  void typeMaxYield(std::size_t row, const std::string& text);
+
+  void tick(std::size_t row);
+  void chooseLandSplit(std::size_t index) { mainPane().Option1[index]->click(); }
+  void tickNoSplit();
+
+  [[nodiscard]] ScenarioInputs inputs() { return mainPane().scenarioInputs(); }
+  /// Holds what was found last.
+  [[nodiscard]] const ResultPrinter& printer() { return main().thePrinter; }
+  [[nodiscard]] ProgramState& state() { return program_.state; }
+
+  /// Whether the saved inputs were read to their end.
+  [[nodiscard]] bool inputsLoaded() { return main().inputsLoaded(); }
+
+  /// Presses the button that starts the evaluation. `progress` hears how far it is. \returns the options of
+  /// the results screen, placeholders included; nothing after a cancel.
+  /// \throws Refusal when something is missing, RunTimeError
+  [[nodiscard]] std::optional<std::vector<Results::Option>> evaluate(RunHooks& progress);
+
+ private:
+  [[nodiscard]] frmMain& main() { return program_.main(); }
+  [[nodiscard]] MainPane& mainPane() { return main().pneMain; }
+  void typeInto(Control& control, const std::string& name, const std::string& text);
+  void refuseIfTold();
+
+  Messages& messages_;
+  TerminalServices platform_;
+  Services services_;
+  Program program_;
+};
+
+}  // namespace verdalis

@@ -1,0 +1,41 @@
+#include "cli/report/reportDocument.h"
+
+#include <utility>
+
+#include "cli/report/TextPage.h"
+#include "pdf/PdfFont.h"
+#include "pdf/drawPdf.h"
+
+namespace verdalis {
+namespace {
+
+/// The measures come first among the bases: the layout refers to them.
+class PdfDocument : private PdfFont, public PageLayout {
+ public:
+  PdfDocument() : PageLayout(static_cast<const PdfFont&>(*this)) {}
+};
+
+std::string pdfOf(const PageLayout& layout) {
+  const std::string title = layout.texts().empty() ? defaultTitle : layout.texts().front().text;
+  return drawPdf(layout.texts(), layout.pages(), layout.paper(), title);
+}
+
+}  // namespace
+
+std::unique_ptr<PageSurface> reportDocument(const std::filesystem::path& path,
+                                            std::function<void(const std::string&)> onEnd) {
+  if (path.extension() == ".txt") return std::make_unique<TextPage>(std::move(onEnd));
+  auto document = std::make_unique<PdfDocument>();
+  document->onEnd = [onEnd = std::move(onEnd)](const PageLayout& layout) { onEnd(pdfOf(layout)); };
+  return document;
+}
+
+std::filesystem::path copyPath(const std::filesystem::path& path, int n) {
+  if (n == 1) return path;
+  std::filesystem::path name = path.stem();
+  name += "-" + std::to_string(n);
+  name += path.extension();
+  return path.parent_path() / name;
+}
+
+}  // namespace verdalis

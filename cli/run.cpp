@@ -1,0 +1,65 @@
+#include "cli/run.h"
+
+#include <CLI/CLI.hpp>
+#include <exception>
+#include <istream>
+#include <ostream>
+
+#include "cli/EvaluateCommand.h"
+#include "cli/Messages.h"
+#include "cli/ScriptCommand.h"
+
+namespace verdalis {
+namespace {
+
+constexpr int done = 0;
+constexpr int failed = 1;
+constexpr int refused = 2;
+
+/// What the arguments ask for; the command that was named has been parsed, the others keep their defaults.
+int dispatch(const std::vector<std::string>& args, std::istream& in, std::ostream& out, Messages& messages) {
+  CLI::App app("Finds the allocation of irrigation water, land and crops that leaves the most money.",
+               "verdalis-cli");
+  app.set_version_flag("--version", VERDALIS_VERSION, "Print the version and exit");
+  app.require_subcommand(1);
+  const std::string exitCodes =
+      "Exit code: 0 done, 1 a run-time error or a cancel, 2 wrong arguments or incomplete inputs.";
+  app.footer("\"verdalis-cli COMMAND --help\" tells the options of a command.\n" + exitCodes);
+
+  EvaluateRequest evaluateRequest;
+  const CLI::App& evaluateCommand = addEvaluateCommand(app, evaluateRequest);
+  ScriptRequest scriptRequest;
+  const CLI::App& scriptCommand = addScriptCommand(app, scriptRequest);
+  for (CLI::App* command : app.get_subcommands({})) {
+    command->set_version_flag("--version", VERDALIS_VERSION, "Print the version and exit");
+    command->footer(exitCodes);
+  }
+
+  try {
+    app.parse(std::vector<std::string>(args.rbegin(), args.rend()));
+  } catch (const CLI::Success& success) {  // --help or --version
+    return app.exit(success, out, messages.stream());
+  } catch (const CLI::ParseError& error) {
+    throw Refusal(std::string(error.what()) + "\nRun with --help for the commands and their options.");
+  }
+  if (evaluateCommand.parsed()) evaluate(evaluateRequest, out, messages);
+  if (scriptCommand.parsed() && !replayScript(scriptRequest, in, out)) return failed;
+  return done;
+}
+
+}  // namespace
+
+int run(const std::vector<std::string>& args, std::istream& in, std::ostream& out, std::ostream& err) {
+  Messages messages(err);
+  try {
+    return dispatch(args, in, out, messages);
+  } catch (const Refusal& refusal) {
+    messages.tell(refusal.what());
+    return refused;
+  } catch (const std::exception& error) {  // a run-time error, a cancel, or no memory left
+    messages.tell(error.what());
+    return failed;
+  }
+}
+
+}  // namespace verdalis

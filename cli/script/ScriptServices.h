@@ -1,0 +1,62 @@
+#pragma once
+
+#include <deque>
+#include <nlohmann/json.hpp>
+#include <optional>
+#include <string>
+
+#include "controls/services.h"
+
+namespace verdalis {
+
+/// The platform of a session that is replayed: answers that were queued, and a record of what came up.
+class ScriptServices : public MessageBoxService,
+                       public FileChooserService,
+                       public ClipboardService,
+                       public HelpService,
+                       public OpenFileService,
+                       public ClockService,
+                       public EventPumpService,
+                       public PrinterService {
+ public:
+  [[nodiscard]] Services services() { return {*this, *this, *this, *this, *this, *this, *this, *this}; }
+
+  std::deque<MessageAnswer> answers;               ///< To the next message boxes
+  std::deque<std::string> choices;                 ///< Of the next file choosers; an empty one cancels
+  std::deque<std::pair<std::string, int>> prints;  ///< Paths and copies, for the next print dialogs
+  std::optional<ClockTime> fixedTime;
+
+  /// The message boxes that came up since the last call, as the script tells them.
+  [[nodiscard]] nlohmann::ordered_json takeMessages();
+
+  /// What was asked to be shown since the last call.
+  [[nodiscard]] nlohmann::ordered_json takeOpened();
+
+  /// A note window has been shown.
+  void noteShown(const std::string& title, const std::string& text, int height);
+
+  MessageAnswer show(const Message& message) override;
+  std::optional<std::filesystem::path> chooseOpen(const FileQuestion& question) override;
+  std::optional<std::filesystem::path> chooseSave(const FileQuestion& question) override;
+  void clear() override { clipboard_.clear(); }
+  void setText(const std::string& text) override { clipboard_ = text; }
+  [[nodiscard]] std::string text() const override { return clipboard_; }
+  void showTopic(const std::string& topic) override;
+  bool open(const std::filesystem::path& path) override;
+  [[nodiscard]] ClockTime now() const override;
+  void pump() override {}
+  std::optional<int> askCopies() override;
+  std::unique_ptr<PageSurface> beginDocument() override;
+
+ private:
+  nlohmann::ordered_json messages_ = nlohmann::ordered_json::array();
+  nlohmann::ordered_json opened_ = nlohmann::ordered_json::array();
+  std::string clipboard_;
+  std::filesystem::path printPath_;  ///< The answer to the last print dialog
+  int printed_ = 0;                  ///< Its documents so far
+};
+
+/// The answer of that name: ok, yes, no or cancel.
+[[nodiscard]] std::optional<MessageAnswer> answerNamed(const std::string& name);
+
+}  // namespace verdalis

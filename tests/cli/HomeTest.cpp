@@ -1,0 +1,100 @@
+#include <gtest/gtest.h>
+
+#include "cli/home.h"
+#include "tests/support/Errors.h"
+#include "tests/support/TemporaryFolder.h"
+
+namespace verdalis::testing {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// The places of a program: it lies in bin/, its crops are installed in share/, the user's data in data/.
+class Home : public ::testing::Test {
+ protected:
+  Home() {
+    fs::create_directories(folder_ / "bin");
+    folder_.write("share/crops/corn.txt", "corn");
+    folder_.write("share/crops/soils/corn.txt", "soil");
+    fs::create_directories(folder_ / "share/crops/custom");
+  }
+
+  [[nodiscard]] HomePlaces places() const {
+    return {folder_ / "bin", folder_ / "user" / "data", {folder_ / "none", folder_ / "share" / "crops"}};
+  }
+
+  TemporaryFolder folder_{"home"};
+};
+
+TEST_F(Home, IsTheProgramsFolderIfThatHoldsCrops) {
+  fs::create_directories(folder_ / "bin/crops");
+  EXPECT_EQ(homeFolder(places()), folder_ / "bin");
+  EXPECT_FALSE(fs::exists(folder_ / "user"));
+}
+
+TEST_F(Home, IsElseTheUsersDataFolderMadeAtTheFirstStart) {
+  EXPECT_EQ(homeFolder(places()), folder_ / "user/data");
+  EXPECT_EQ(folder_.read("user/data/crops/corn.txt"), "corn");
+  EXPECT_EQ(folder_.read("user/data/crops/soils/corn.txt"), "soil");
+  EXPECT_TRUE(fs::is_directory(folder_ / "user/data/crops/custom"));
+  EXPECT_EQ(folder_.names("user/data"), std::vector<std::string>{"crops"}) << "nothing is left of the making";
+}
+
+TEST_F(Home, IsNotMadeASecondTime) {
+  static_cast<void>(homeFolder(places()));
+  folder_.write("user/data/crops/corn.txt", "my own corn");
+  folder_.write("user/data/inputs.txt", "my farm");
+  EXPECT_EQ(homeFolder(places()), folder_ / "user/data");
+  EXPECT_EQ(folder_.read("user/data/crops/corn.txt"), "my own corn");
+}
+
+TEST_F(Home, ADataFolderWithoutCropsKeepsWhatItHolds) {
+  folder_.write("user/data/inputs.txt", "my farm");
+  EXPECT_EQ(homeFolder(places()), folder_ / "user/data");
+  EXPECT_EQ(folder_.read("user/data/inputs.txt"), "my farm");
+  EXPECT_EQ(folder_.read("user/data/crops/corn.txt"), "corn");
+}
+
+TEST_F(Home, CopiesOfProtectedCropsCanBeChanged) {
+  fs::permissions(folder_ / "share/crops/corn.txt", fs::perms::owner_read);
+  fs::permissions(folder_ / "share/crops/custom", fs::perms::owner_read | fs::perms::owner_exec);
+  static_cast<void>(homeFolder(places()));
+  const auto writable = [&](const char* name) {
+    return (fs::status(folder_ / "user/data/crops" / name).permissions() & fs::perms::owner_write) !=
+           fs::perms::none;
+  };
+  EXPECT_TRUE(writable("corn.txt"));
+  EXPECT_TRUE(writable("custom"));
+}
+
+TEST_F(Home, WithoutAUserItIsAnError) {
+  HomePlaces none = places();
+  none.dataHome.reset();
+  EXPECT_EQ(errorText(ErrorNumber::fileNotFound, [&] { static_cast<void>(homeFolder(none)); }),
+            "There is no home folder: HOME is not set. Name a folder with crops/ by --home.");
+}
+
+TEST_F(Home, WithoutInstalledCropsItIsAnError) {
+  HomePlaces none = places();
+  none.stockCrops.pop_back();
+  EXPECT_EQ(
+      errorText(ErrorNumber::fileNotFound, [&] { static_cast<void>(homeFolder(none)); }),
+      "The crop files that come with the program are not installed. Name a folder with crops/ by --home.");
+  EXPECT_FALSE(fs::exists(folder_ / "user"));
+}
+
+TEST_F(Home, ThatCannotBeMadeIsAnError) {
+  folder_.write("user", "a file in the way");
+  EXPECT_EQ(errorText(ErrorNumber::fileNotFound, [&] { static_cast<void>(homeFolder(places())); }),
+            "The home folder " + (folder_ / "user/data").string() + " cannot be made: Not a directory.");
+}
+
+TEST(HomePlaces, AreThoseOfTheRunningProgram) {
+  const HomePlaces places = homePlaces();
+  EXPECT_TRUE(fs::is_directory(places.programFolder));
+  ASSERT_FALSE(places.stockCrops.empty());
+  EXPECT_TRUE(fs::exists(places.stockCrops.back() / "corn.txt")) << "the source's crops, before installing";
+}
+
+}  // namespace
+}  // namespace verdalis::testing

@@ -1,0 +1,135 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "cli/script/ScriptSession.h"
+#include "tests/support/TemporaryFolder.h"
+
+// Whole sessions: tests/sessions/NAME.script is replayed, and its answers are those of NAME.expected, line by
+// line. "@HOME@" stands for the home folder of the session in both. What the home folder holds says a line
+// "# home:" with the names of its parts, see fillHome(); without that line the stock crops.
+
+namespace verdalis::testing {
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path source = VERDALIS_SOURCE_DIR;
+const fs::path sessions = source / "tests/sessions";
+
+std::string textOf(const fs::path& file) {
+  std::ifstream stream(file, std::ios::binary);
+  return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
+}
+
+std::vector<std::string> linesOf(const std::string& text) {
+  std::vector<std::string> lines;
+  std::istringstream stream(text);
+  for (std::string line; std::getline(stream, line);)
+    lines.push_back(line);
+  return lines;
+}
+
+std::string replaced(std::string text, const std::string& from, const std::string& to) {
+  for (std::size_t place = text.find(from); place != std::string::npos;
+       place = text.find(from, place + to.size()))
+    text.replace(place, from.size(), to);
+  return text;
+}
+
+void addManyCrops(const TemporaryFolder& home) {
+  for (char letter = 'a'; letter <= 'o'; ++letter) {
+    home.write(std::string("crops/custom/") + letter + ".txt",
+               std::string("CROP=Crop ") + letter +
+                   "\r\n\r\nUNITS=bu.,bushels\r\n\r\nANNUAL_RAIN=11,12\r\n\r\nEFF_IRRIG=0,1\r\n\r\n"
+                   "YIELD_VALUES=1,2,3,4\r\n");
+  }
+}
+
+/// Adds a part to a home folder: the stock crops, 15 crops of one's own, the saved farm of the example, that
+/// trends were enabled when it was saved, or a folder of tests/sessions/homes.
+void fillHome(const TemporaryFolder& home, const std::string& part) {
+  const auto recursive = fs::copy_options::recursive;
+  if (part == "stock") {
+    fs::copy(source / "crops", home / "crops", recursive);
+  } else if (part == "many") {
+    addManyCrops(home);
+  } else if (part == "example") {
+    fs::copy(source / "examples/high-plains/inputs.txt", home / "inputs.txt");
+  } else if (part == "trends") {
+    std::ofstream(home / "inputs.txt", std::ios::app | std::ios::binary) << "batch_enabled\r\n";
+  } else if (part != "empty") {
+    fs::copy(sessions / "homes" / part, home.path(), recursive);
+  }
+}
+
+std::vector<std::string> homeParts(const std::vector<std::string>& script) {
+  const std::string mark = "# home:";
+  const auto line = std::find_if(script.begin(), script.end(),
+                                 [&](const std::string& text) { return text.starts_with(mark); });
+  if (line == script.end()) return {"stock"};
+  std::istringstream words(line->substr(mark.size()));
+  std::vector<std::string> parts;
+  for (std::string word; words >> word;)
+    parts.push_back(word);
+  return parts;
+}
+
+std::vector<std::string> scripts() {
+  std::vector<std::string> names;
+  for (const auto& entry : fs::directory_iterator(sessions)) {
+    if (entry.path().extension() == ".script") names.push_back(entry.path().stem().string());
+  }
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
+/// first-start becomes FirstStart.
+std::string testName(const ::testing::TestParamInfo<std::string>& info) {
+  std::string name;
+  bool upper = true;
+  for (const char c : info.param) {
+    if (c == '-') {
+      upper = true;
+    } else {
+      name += upper ? static_cast<char>(std::toupper(static_cast<unsigned char>(c))) : c;
+      upper = false;
+    }
+  }
+  return name;
+}
+
+class Session : public ::testing::TestWithParam<std::string> {};
+
+TEST_P(Session, AnswersAsExpected) {
+  const TemporaryFolder home("session");
+  const std::string text = textOf(sessions / (GetParam() + ".script"));
+  const std::vector<std::string> script = linesOf(replaced(text, "@HOME@", home.path().string()));
+  for (const std::string& part : homeParts(script))
+    fillHome(home, part);
+  const std::vector<std::string> expected = linesOf(textOf(sessions / (GetParam() + ".expected")));
+
+  ScriptSession session(home.path());
+  std::size_t count = 0;
+  for (std::size_t i = 0; i < script.size(); ++i) {
+    std::istringstream line(script[i]);
+    std::ostringstream answer;
+    session.replay(line, answer);
+    const std::vector<std::string> told = linesOf(replaced(answer.str(), home.path().string(), "@HOME@"));
+    for (const std::string& one : told) {
+      ASSERT_LT(count, expected.size()) << "line " << i + 1 << ": " << script[i] << "\n" << one;
+      EXPECT_EQ(one, expected[count++]) << "line " << i + 1 << ": " << script[i];
+    }
+  }
+  EXPECT_EQ(count, expected.size());
+}
+
+INSTANTIATE_TEST_SUITE_P(Scripts, Session, ::testing::ValuesIn(scripts()), testName);
+
+}  // namespace
+}  // namespace verdalis::testing
