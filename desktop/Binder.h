@@ -1,0 +1,93 @@
+#pragma once
+
+#include <QHash>
+#include <QObject>
+#include <QString>
+#include <functional>
+#include <vector>
+
+#include "controls/Grid.h"
+#include "controls/displays.h"
+#include "controls/inputs.h"
+
+class QAbstractButton;
+class QAction;
+class QCheckBox;
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QMenu;
+class QProgressBar;
+class QPushButton;
+class QRadioButton;
+class QScrollArea;
+class QScrollBar;
+class QTableWidget;
+class QWidget;
+
+namespace verdalis::desktop {
+
+/// UTF-8 of the program as text of the toolkit, and back.
+[[nodiscard]] QString qText(const std::string& text);
+[[nodiscard]] std::string programText(const QString& text);
+
+/// A caption with its mnemonic characters doubled, so that the toolkit shows it as it stands.
+[[nodiscard]] QString widgetCaption(const std::string& caption);
+
+/// Ties controls to the widgets that show them, both ways: a change of the control's state reaches the
+/// widget, what a person does with the widget reaches the control. One operation for each kind; none knows
+/// what a control is for.
+///
+/// Every widget takes its object name from its control, and its accessible name from the caption or from
+/// `label`.
+class Binder : public QObject {
+  Q_OBJECT
+
+ public:
+  explicit Binder(Desk& desk, QObject* parent = nullptr);
+
+  QLineEdit* bind(TextBox& control, QLineEdit* widget, const QString& label);
+  QComboBox* bind(ComboBox& control, QComboBox* widget, const QString& label);
+  QCheckBox* bind(CheckBox& control, QCheckBox* widget);
+  QRadioButton* bind(OptionButton& control, QRadioButton* widget);
+  QPushButton* bind(Button& control, QPushButton* widget, const QString& label = {});
+  QLabel* bind(Label& control, QLabel* widget, const QString& label = {});
+  QAction* bind(MenuEntry& control, QAction* action);
+  QMenu* bind(MenuEntry& control, QMenu* menu);
+  QProgressBar* bind(ProgressBar& control, QProgressBar* widget, const QString& label);
+  QTableWidget* bind(Grid& control, QTableWidget* widget, const QString& label);
+  QScrollBar* bind(ScrollBar& control, QScrollBar* widget, const QString& label);
+  QWidget* bind(Image& control, QWidget* widget);
+
+  /// A frame or composite control: its visibility and whether it is enabled.
+  QWidget* bind(Frame& control, QWidget* widget);
+
+  /// A window: it is shown while it is open, and what a person does to its frame reaches the control.
+  void bindWindow(Window& control, QWidget* widget);
+
+  /// A pane, whose page the main window puts in front.
+  void namePane(Frame& control, QWidget* widget) { name(control, widget, {}); }
+
+  /// The widget of a control; nullptr without one.
+  [[nodiscard]] QWidget* widget(const Control& control) const { return widgets_.value(&control); }
+  [[nodiscard]] QAction* action(const Control& control) const { return actions_.value(&control); }
+
+  /// Runs after each change of a control, beside what the binding does.
+  void alsoWatch(Control& control, const std::function<void()>& watcher);
+
+ protected:
+  bool eventFilter(QObject* object, QEvent* event) override;
+
+ private:
+  void name(Control& control, QWidget* widget, const QString& label);
+  void watch(Control& control, std::function<void()> update);
+  bool windowEvent(Window& window, QWidget* widget, QEvent* event);
+
+  Desk& desk_;
+  QHash<const Control*, QWidget*> widgets_;
+  QHash<const Control*, QAction*> actions_;
+  QHash<const QObject*, Control*> controls_;
+  QHash<const QObject*, Window*> windows_;
+};
+
+}  // namespace verdalis::desktop

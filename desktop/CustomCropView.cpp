@@ -1,0 +1,208 @@
+#include "desktop/CustomCropView.h"
+
+#include <QComboBox>
+#include <QFrame>
+#include <QGridLayout>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "desktop/ResultViews.h"
+#include "desktop/Theme.h"
+#include "text/numbers.h"
+
+namespace verdalis::desktop {
+namespace {
+
+const CustomCropField& fieldOf(std::string_view control) {
+  for (const CustomCropField& field : CustomCropPane::fields()) {
+    if (field.control == control) return field;
+  }
+  static const CustomCropField none{};
+  return none;
+}
+
+/// The number of a cell; nothing where it holds none.
+std::optional<double> numberOf(const std::string& cell) {
+  if (!isNumeric(cell)) return std::nullopt;
+  return toDouble(cell);
+}
+
+}  // namespace
+
+YieldTableWidget::YieldTableWidget(Grid& grid, Binder& binder) : grid_(grid) {
+  horizontalHeader()->hide();
+  verticalHeader()->hide();
+  setEditTriggers(QAbstractItemView::NoEditTriggers);
+  setSelectionMode(QAbstractItemView::SingleSelection);
+  horizontalHeader()->setDefaultSectionSize(64);
+  verticalHeader()->setDefaultSectionSize(26);
+  binder.bind(grid, this, tr("Yields by net irrigation and rainfall"));
+  binder.alsoWatch(grid, [this] { shade(); });
+  connect(this, &QTableWidget::currentCellChanged, this, [this](int row, int column) {
+    if (row >= 0 && column >= 0 && (row != grid_.row() || column != grid_.column()))
+      grid_.setCurrent(row, column);
+  });
+}
+
+void YieldTableWidget::shade() {
+  const QSignalBlocker quiet(this);
+  const bool dark = schemeOf(palette()) == Scheme::dark;
+  double least = 0;
+  double most = 0;
+  for (int row = 1; row < grid_.rows(); ++row) {
+    for (int column = 1; column < grid_.columns(); ++column) {
+      const double value = numberOf(grid_.cell(row, column)).value_or(0);
+      least = std::min(least, value);
+      most = std::max(most, value);
+    }
+  }
+  for (int row = 0; row < grid_.rows(); ++row) {
+    for (int column = 0; column < grid_.columns(); ++column) {
+      QTableWidgetItem* cell = item(row, column);
+      if (cell == nullptr) continue;
+      cell->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+      if (row == 0 || column == 0) {
+        cell->setBackground(palette().color(QPalette::AlternateBase));
+        continue;
+      }
+      const auto value = numberOf(grid_.cell(row, column));
+      if (!value || most <= least) {
+        cell->setBackground(QBrush());
+        continue;
+      }
+      const double share = (*value - least) / (most - least);
+      // From straw to green; in the dark scheme from earth to green, so that the text stays readable.
+      cell->setBackground(dark ? QColor::fromHsvF(static_cast<float>(0.10 + 0.24 * share), 0.55F,
+                                                  static_cast<float>(0.20 + 0.20 * share))
+                               : QColor::fromHsvF(static_cast<float>(0.13 + 0.20 * share),
+                                                  static_cast<float>(0.12 + 0.33 * share), 0.97F));
+    }
+  }
+}
+
+void YieldTableWidget::keyPressEvent(QKeyEvent* event) {
+  const auto press = [&](GridKey key) {
+    grid_.pressKey(key);
+    event->accept();
+  };
+  if (event->matches(QKeySequence::Copy)) return press(GridKey::copy);
+  if (event->matches(QKeySequence::Paste)) return press(GridKey::paste);
+  if (event->matches(QKeySequence::Cut)) return press(GridKey::cut);
+  switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      return press(GridKey::enter);
+    case Qt::Key_Backspace:
+      return press(GridKey::backspace);
+    case Qt::Key_Delete:
+      return press(GridKey::erase);
+    default:
+      break;
+  }
+  const QString typed = event->text();
+  const bool command = (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0;
+  if (!command && !typed.isEmpty() && typed[0].isPrint()) {
+    grid_.typeCharacter(programText(typed));
+    event->accept();
+    return;
+  }
+  QTableWidget::keyPressEvent(event);  // the arrows move the current cell, Tab leaves the grid
+}
+
+QWidget* customCropView(CustomCropPane& pane, Binder& binder) {
+  auto* view = new QWidget;
+  auto* layout = new QVBoxLayout(view);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(0);
+  auto* body = new QVBoxLayout;
+  body->setContentsMargins(24, 12, 24, 12);
+  body->setSpacing(10);
+  auto* title = new QHBoxLayout;
+  title->addWidget(bigLabel(fixedLabel(plain(CustomCropPane::title), "heading")));
+  title->addWidget(helpButton(binder, pane.cmdHelp, 27, plain(CustomCropPane::title)));
+  title->addStretch();
+  body->addLayout(title);
+
+  const Card form = card();
+  auto* grid = new QGridLayout;
+  grid->setHorizontalSpacing(10);
+  grid->setVerticalSpacing(6);
+  const auto label = [&](std::string_view control, QWidget* field, int row, int column) {
+    auto* text = fixedLabel(plain(fieldOf(control).label));
+    text->setBuddy(field);
+    text->setToolTip(plain(fieldOf(control).note));
+    field->setToolTip(plain(fieldOf(control).note));
+    grid->addWidget(text, row, column);
+  };
+  const auto list = [&](std::size_t index, int width) {
+    ComboBox& control = pane.cboCustomGrid.at(index);
+    auto* widget = binder.bind(control, new QComboBox, plain(fieldOf(control.name()).label));
+    widget->setMinimumWidth(width);
+    return widget;
+  };
+  auto* crops = list(0, 190);
+  label("cboCustomGrid(0)", crops, 0, 0);
+  grid->addWidget(crops, 0, 1);
+  grid->addWidget(binder.bind(pane.cmdCustomGrid6, new QPushButton), 0, 2);
+  auto* name = binder.bind(pane.txtCustom, new QLineEdit, plain(fieldOf("txtCustom(0)").label));
+  label("txtCustom(0)", name, 1, 0);
+  grid->addWidget(name, 1, 1);
+  auto* units = list(4, 140);
+  label("cboCustomGrid(4)", units, 2, 0);
+  grid->addWidget(units, 2, 1);
+  auto* rain = new QHBoxLayout;
+  auto* from = list(1, 70);
+  auto* to = list(2, 70);
+  rain->addWidget(from);
+  rain->addWidget(fixedLabel(plain(fieldOf("cboCustomGrid(2)").label)));
+  rain->addWidget(to);
+  rain->addStretch();
+  label("cboCustomGrid(1)", from, 0, 4);
+  grid->addLayout(rain, 0, 5);
+  auto* water = new QHBoxLayout;
+  auto* most = list(3, 70);
+  water->addWidget(most);
+  water->addWidget(fixedLabel(plain(fieldOf("cboCustomGrid(3)").unit), "muted"));
+  water->addSpacing(12);
+  auto* size = binder.bind(pane.cmdCustomGrid0, new QPushButton);
+  size->setToolTip(plain(fieldOf("cmdCustomGrid(0)").note));
+  water->addWidget(size);
+  water->addStretch();
+  label("cboCustomGrid(3)", most, 1, 4);
+  grid->addLayout(water, 1, 5);
+  auto* defaults = list(5, 190);
+  label("cboCustomGrid(5)", defaults, 2, 4);
+  grid->addWidget(defaults, 2, 5);
+  grid->setColumnMinimumWidth(3, 24);
+  grid->setColumnStretch(6, 1);
+  form.body->addLayout(grid);
+  for (const std::string_view noted : {"cboCustomGrid(4)", "cmdCustomGrid(0)"}) {
+    auto* note = fixedLabel(plain(fieldOf(noted).note), "muted");
+    note->setWordWrap(true);
+    form.body->addWidget(note);
+  }
+  body->addWidget(form.frame);
+
+  body->addWidget(fixedLabel(plain(fieldOf("dgCustom").label), "title"));
+  body->addWidget(new YieldTableWidget(pane.dgCustom, binder), 1);
+  body->addWidget(fixedLabel(plain(CustomCropPane::notice), "muted"));
+  layout->addLayout(body, 1);
+
+  QHBoxLayout* buttons = footerOf(layout);
+  buttons->addWidget(binder.bind(pane.cmdCustomGrid5, new QPushButton));
+  buttons->addStretch();
+  buttons->addWidget(binder.bind(pane.cmdCustomGrid3, new QPushButton));
+  buttons->addWidget(binder.bind(pane.cmdCustomGrid4, new QPushButton));
+  auto* save = new QPushButton;
+  setRole(save, "main");
+  buttons->addWidget(binder.bind(pane.cmdCustomGrid2, save));
+  addShortcut(view, QKeySequence(Qt::Key_Escape), pane.cmdCustomGrid5);
+  return view;
+}
+
+}  // namespace verdalis::desktop

@@ -1,0 +1,136 @@
+#include "desktop/HelpWindow.h"
+
+#include <QAction>
+#include <QDir>
+#include <QFile>
+#include <QKeySequence>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTextBrowser>
+#include <QTextDocument>
+#include <QToolBar>
+#include <QUrl>
+
+namespace verdalis::desktop {
+namespace {
+
+constexpr const char* homeTopic = "index.htm";
+constexpr int snippetBefore = 50;  // characters shown in front of a match, and behind it
+constexpr int snippetAfter = 110;
+
+QString readPage(const QString& path) {
+  QFile file(path);
+  return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+/// A topic that a search has found: its title, and the text around the first match.
+QString resultEntry(const QString& file, const QString& title, const QString& text, qsizetype match,
+                    int length) {
+  const qsizetype start = std::max<qsizetype>(0, match - snippetBefore);
+  const QString before = text.mid(start, match - start).toHtmlEscaped();
+  const QString found = text.mid(match, length).toHtmlEscaped();
+  const QString after = text.mid(match + length, snippetAfter).toHtmlEscaped();
+  return QStringLiteral("<p><a href=\"%1\">%2</a><br>… %3<b>%4</b>%5 …</p>")
+      .arg(file, title.toHtmlEscaped(), before, found, after);
+}
+
+}  // namespace
+
+HelpWindow::HelpWindow(const QString& folder) : folder_(folder) {
+  setObjectName(QStringLiteral("helpViewer"));
+  setWindowTitle(tr("Verdalis Help"));
+  resize(820, 680);
+
+  browser_ = new QTextBrowser(this);  // NOLINT: owned by the window
+  browser_->setObjectName(QStringLiteral("helpBrowser"));
+  browser_->setAccessibleName(tr("Help topic"));
+  browser_->setSearchPaths({folder_});
+  browser_->setOpenExternalLinks(true);
+  browser_->document()->setDocumentMargin(20);
+  browser_->setFrameShape(QFrame::NoFrame);
+  setCentralWidget(browser_);
+
+  auto* bar = addToolBar(tr("Help"));
+  bar->setMovable(false);
+  const auto add = [&](const QString& text, const QKeySequence& keys) {
+    QAction* action = bar->addAction(text);
+    action->setShortcut(keys);
+    action->setToolTip(text + QStringLiteral(" (") + keys.toString(QKeySequence::NativeText) +
+                       QStringLiteral(")"));
+    return action;
+  };
+  QAction* back = add(tr("Back"), QKeySequence::Back);
+  QAction* forward = add(tr("Forward"), QKeySequence::Forward);
+  QAction* home = add(tr("Home"), QKeySequence(QStringLiteral("Alt+Home")));
+  back->setEnabled(false);
+  forward->setEnabled(false);
+  connect(back, &QAction::triggered, browser_, &QTextBrowser::backward);
+  connect(forward, &QAction::triggered, browser_, &QTextBrowser::forward);
+  connect(browser_, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
+  connect(browser_, &QTextBrowser::forwardAvailable, forward, &QAction::setEnabled);
+  connect(home, &QAction::triggered, this, [this] { showTopic(QLatin1String(homeTopic)); });
+
+  searchText_ = new QLineEdit(this);  // NOLINT: owned by the window
+  searchText_->setObjectName(QStringLiteral("helpSearch"));
+  searchText_->setAccessibleName(tr("Search the help"));
+  searchText_->setPlaceholderText(tr("Search the help"));
+  searchText_->setClearButtonEnabled(true);
+  searchText_->setMaximumWidth(280);
+  auto* gap = new QWidget(bar);  // NOLINT: owned by the bar
+  gap->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+  bar->addWidget(gap);
+  bar->addWidget(searchText_);
+  connect(searchText_, &QLineEdit::returnPressed, this, &HelpWindow::search);
+  auto* find = new QAction(this);  // NOLINT: owned by the window
+  find->setShortcut(QKeySequence::Find);
+  addAction(find);
+  connect(find, &QAction::triggered, searchText_, qOverload<>(&QWidget::setFocus));
+  auto* close = new QAction(this);  // NOLINT: owned by the window
+  close->setShortcut(QKeySequence(Qt::Key_Escape));
+  addAction(close);
+  connect(close, &QAction::triggered, this, &QWidget::close);
+}
+
+QString HelpWindow::fileOf(const QString& topic) const {
+  const QString wanted = topic.section(QLatin1Char('#'), 0, 0);
+  const QStringList files =
+      QDir(folder_).entryList({QStringLiteral("*.htm"), QStringLiteral("*.html")}, QDir::Files);
+  for (const QString& file : files) {
+    if (file.compare(wanted, Qt::CaseInsensitive) == 0) return file;
+  }
+  return {};
+}
+
+void HelpWindow::showTopic(const QString& topic) {
+  const QString file = fileOf(topic);
+  if (file.isEmpty()) return;
+  QUrl url = QUrl::fromLocalFile(QDir(folder_).absoluteFilePath(file));
+  url.setFragment(topic.section(QLatin1Char('#'), 1));
+  browser_->setSource(url);
+  show();
+  raise();
+  activateWindow();
+}
+
+void HelpWindow::search() {
+  const QString wanted = searchText_->text().trimmed();
+  if (wanted.isEmpty()) return;
+  QString results;
+  for (const QString& file : QDir(folder_).entryList({QStringLiteral("*.htm")}, QDir::Files, QDir::Name)) {
+    QTextDocument page;
+    page.setHtml(readPage(QDir(folder_).absoluteFilePath(file)));
+    const QString text = page.toPlainText();
+    const qsizetype match = text.indexOf(wanted, 0, Qt::CaseInsensitive);
+    if (match < 0) continue;
+    const QString title = page.metaInformation(QTextDocument::DocumentTitle);
+    results +=
+        resultEntry(file, title.isEmpty() ? file : title, text, match, static_cast<int>(wanted.size()));
+  }
+  if (results.isEmpty()) results = tr("<p>No topic mentions this.</p>");
+  browser_->setHtml(
+      QStringLiteral("<h2>%1</h2>%2").arg(tr("Topics with “%1”").arg(wanted.toHtmlEscaped()), results));
+  // Links of the list are looked up beside the topics.
+  browser_->document()->setBaseUrl(QUrl::fromLocalFile(QDir(folder_).absolutePath() + QLatin1Char('/')));
+}
+
+}  // namespace verdalis::desktop

@@ -1,0 +1,121 @@
+#include "desktop/HelpWindows.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "desktop/LandSplitPicture.h"
+#include "desktop/ResultViews.h"
+#include "desktop/Theme.h"
+
+namespace verdalis::desktop {
+namespace {
+
+struct Shell {
+  QWidget* widget;
+  QVBoxLayout* body;
+};
+
+Shell shell(QWidget* parent, int width) {
+  auto* widget = new QWidget(parent, Qt::Dialog);
+  widget->setFixedWidth(width);
+  auto* body = new QVBoxLayout(widget);
+  body->setContentsMargins(24, 20, 24, 18);
+  body->setSpacing(12);
+  return {widget, body};
+}
+
+QLabel* wrapped(Binder& binder, Label& label, const char* role = nullptr) {
+  auto* widget = fixedLabel({}, role);
+  widget->setWordWrap(true);
+  return binder.bind(label, widget);
+}
+
+/// A picture that stands for the divided farm, as the program's emblem.
+QLabel* emblem(const std::vector<double>& percentages) {
+  auto* picture = new QLabel;
+  const Scheme scheme = schemeOf(picture->palette());
+  picture->setPixmap(landSplitPicture(percentages, scheme).pixmap(landSplitPictureSize));
+  return picture;
+}
+
+}  // namespace
+
+QWidget* optionsWindow(frmOptions& window, Binder& binder, QWidget* parent) {
+  const Shell made = shell(parent, 560);
+  made.body->addWidget(bigLabel(fixedLabel(QString::fromLatin1(frmOptions::heading), "heading")));
+  auto* line = new QHBoxLayout;
+  auto* label = fixedLabel({}, "title");
+  auto* field = binder.bind(window.txtFineFactor, numberField(6), plain(window.Label2.caption()));
+  label->setBuddy(field);
+  line->addWidget(binder.bind(window.Label2, label));
+  line->addWidget(field);
+  auto* help = new QPushButton;
+  setRole(help, "help");
+  line->addWidget(binder.bind(window.cmdHelp, help, QObject::tr("Help: Irrigation Iteration Factor")));
+  line->addStretch();
+  made.body->addLayout(line);
+  made.body->addWidget(wrapped(binder, window.Label1));
+  auto* buttons = new QHBoxLayout;
+  buttons->addStretch();
+  auto* cancel = binder.bind(window.cmdCancel, new QPushButton);
+  cancel->setShortcut(QKeySequence(Qt::Key_Escape));
+  buttons->addWidget(cancel);
+  auto* apply = new QPushButton;
+  setRole(apply, "main");
+  buttons->addWidget(binder.bind(window.cmdApply, apply));
+  made.body->addLayout(buttons);
+  binder.bindWindow(window, made.widget);
+  return made.widget;
+}
+
+QWidget* aboutWindow(frmAbout& window, Binder& binder, QWidget* parent) {
+  const Shell made = shell(parent, 460);
+  auto* pictures = new QHBoxLayout;
+  pictures->addWidget(binder.bind(window.imgBanner, emblem({50, 25, 25})));
+  pictures->addWidget(bigLabel(fixedLabel(QStringLiteral("Verdalis"), "heading")));
+  pictures->addStretch();
+  pictures->addWidget(binder.bind(window.imgLogo, emblem({100})));
+  made.body->addLayout(pictures);
+  made.body->addWidget(binder.bind(window.lblVersion, fixedLabel({}, "title")));
+  made.body->addWidget(wrapped(binder, window.lblDisclaimer, "muted"));
+  made.body->addWidget(binder.bind(window.lblMoreInfo, fixedLabel({}, "title")));
+  made.body->addWidget(wrapped(binder, window.lblContact));
+  binder.bindWindow(window, made.widget);
+  // By keyboard it closes as any window does.
+  auto* close = new QPushButton(QObject::tr("Close"));
+  close->setShortcut(QKeySequence(Qt::Key_Escape));
+  close->setAutoDefault(false);
+  QObject::connect(close, &QPushButton::clicked, made.widget, [&window] { window.closeByUser(); });
+  auto* line = new QHBoxLayout;
+  line->addStretch();
+  line->addWidget(close);
+  made.body->addLayout(line);
+  return made.widget;
+}
+
+QWidget* efficiencyWindow(frmHelpEff& window, Binder& binder, QWidget* parent) {
+  const Shell made = shell(parent, 460);
+  auto* table = new QGridLayout;
+  table->setVerticalSpacing(6);
+  int row = 0;
+  for (const SystemEfficiency& system : frmHelpEff::efficiencies) {
+    table->addWidget(fixedLabel(plain(system.system)), row, 0);
+    auto* figure = fixedLabel(plain(system.efficiency), "figure");
+    figure->setAlignment(Qt::AlignRight);
+    table->addWidget(figure, row++, 1);
+  }
+  made.body->addLayout(table);
+  auto* line = new QHBoxLayout;
+  line->addStretch();
+  auto* close = binder.bind(window.Command2, new QPushButton);
+  close->setShortcut(QKeySequence(Qt::Key_Escape));
+  line->addWidget(close);
+  made.body->addLayout(line);
+  binder.bindWindow(window, made.widget);
+  return made.widget;
+}
+
+}  // namespace verdalis::desktop

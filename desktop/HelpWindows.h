@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QWidget>
+
+#include "desktop/Page.h"
+#include "screens/frmAbout.h"
+#include "screens/frmHelpEff.h"
+#include "screens/frmOptions.h"
+
+namespace verdalis::desktop {
+
+[[nodiscard]] QWidget* optionsWindow(frmOptions& window, Binder& binder, QWidget* parent);
+[[nodiscard]] QWidget* aboutWindow(frmAbout& window, Binder& binder, QWidget* parent);
+[[nodiscard]] QWidget* efficiencyWindow(frmHelpEff& window, Binder& binder, QWidget* parent);
+
+}  // namespace verdalis::desktop

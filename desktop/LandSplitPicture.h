@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QIcon>
+#include <QSize>
+#include <vector>
+
+#include "desktop/Theme.h"
+
+namespace verdalis::desktop {
+
+inline constexpr QSize landSplitPictureSize{64, 40};
+
+/// A field divided to scale, seen from above: one strip for each part, as wide as its percentage.
+[[nodiscard]] QIcon landSplitPicture(const std::vector<double>& percentages, Scheme scheme);
+
+}  // namespace verdalis::desktop

@@ -1,0 +1,311 @@
+#include "desktop/MainPaneView.h"
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QEvent>
+#include <QFrame>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QShortcut>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "desktop/LandSplitPicture.h"
+#include "engine/MakingSplits.h"
+
+namespace verdalis::desktop {
+namespace {
+
+constexpr int pageWidth = 1120;
+constexpr int rowHeight = 36;
+constexpr int visibleRows = cropFrameHolderHeight / cropRowHeight;
+
+/// Columns of the crop table.
+enum Column {
+  nameColumn,
+  priceColumn,
+  priceUnitColumn,
+  yieldColumn,
+  yieldUnitColumn,
+  costsColumn,
+  endColumn
+};
+constexpr std::array<int, endColumn> columnWidths{210, 110, 90, 120, 120, 150};
+
+void setColumns(QGridLayout* grid) {
+  grid->setContentsMargins(8, 0, 8, 0);
+  grid->setHorizontalSpacing(10);
+  for (int column = 0; column < endColumn; ++column) {
+    grid->setColumnMinimumWidth(column, columnWidths.at(static_cast<std::size_t>(column)));
+  }
+  grid->setColumnStretch(nameColumn, 1);
+}
+
+const FieldRow* rowOf(std::string_view control) {
+  for (const FieldRow& row : MainPane::fields()) {
+    if (row.control == control) return &row;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+MainPaneView::MainPaneView(MainPane& pane, Binder& binder) : pane_(pane), binder_(binder) {
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(0);
+  const Page scrolled = page(pageWidth);
+  auto* top = new QHBoxLayout;
+  top->setSpacing(12);
+  top->addWidget(farmCard(), 5);
+  top->addWidget(landCard(), 4);
+  scrolled.body->addLayout(top);
+  scrolled.body->addWidget(cropCard());
+  scrolled.body->addWidget(plantCard());
+  scrolled.body->addStretch();
+  layout->addWidget(scrolled.area, 1);
+  layout->addWidget(footer());
+  pane_.onRowsChanged = [this] { rebuildRows(); };
+  rebuildRows();
+  drawPictures();
+}
+
+QWidget* MainPaneView::farmCard() {
+  const Card farm = card(tr("Farm and water"));
+  auto* grid = new QGridLayout;
+  grid->setHorizontalSpacing(10);
+  grid->setVerticalSpacing(5);
+  grid->setColumnStretch(0, 1);
+  int line = 0;
+  const auto place = [&](std::string_view control, QWidget* field, const QString& unit) {
+    const FieldRow& row = *rowOf(control);
+    auto* label = fixedLabel(plain(row.label));
+    label->setBuddy(field);
+    field->setProperty("helpIndex", row.helpIndex);
+    grid->addWidget(label, line, 0);
+    grid->addWidget(field, line, 1);
+    grid->addWidget(fixedLabel(unit, "muted"), line, 2);
+    grid->addWidget(helpButton(binder_, pane_.cmdHelp, row.helpIndex, plain(row.label)), line, 3);
+    ++line;
+  };
+  const auto number = [&](TextBox& box) {
+    return binder_.bind(box, numberField(), plain(rowOf(box.name())->label));
+  };
+  const auto combo = [&](ComboBox& box) {
+    auto* widget = new QComboBox;
+    binder_.bind(box, widget, plain(rowOf(box.name())->label));
+    widget->setFixedWidth(numberField()->width());
+    return widget;
+  };
+  place("txtArea", number(pane_.txtArea), tr("acres"));
+  place("txtMax", number(pane_.txtMax), tr("inches"));
+  auto* volume = fixedLabel({}, "figure");
+  volume->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  volume->setMinimumHeight(numberField()->sizeHint().height());
+  binder_.bind(pane_.lblVolume, volume, plain(rowOf("lblVolume")->label));
+  place("lblVolume", volume, tr("ac-in"));
+  auto* rain = combo(pane_.txtAnnRain);
+  rain->lineEdit()->setAlignment(Qt::AlignRight);
+  place("txtAnnRain", rain, tr("inches"));
+  place("txtEff", number(pane_.txtEff), tr("%"));
+  place("txtSoil", combo(pane_.txtSoil), {});
+  farm.body->addLayout(grid);
+  farm.body->addStretch();
+  return farm.frame;
+}
+
+QWidget* MainPaneView::landCard() {
+  const FieldRow& row = *rowOf("Option1");
+  const Card land =
+      card(plain(row.label), helpButton(binder_, pane_.cmdHelp, row.helpIndex, plain(row.label)));
+  auto* group = new QButtonGroup(this);
+  auto* grid = new QGridLayout;
+  grid->setVerticalSpacing(8);
+  grid->setHorizontalSpacing(16);
+  for (std::size_t i = 0; i < pane_.Option1.size(); ++i) {
+    auto* button = new QRadioButton;
+    group->addButton(button);
+    binder_.bind(*pane_.Option1[i], button);
+    button->setIconSize(landSplitPictureSize);
+    button->setProperty("helpIndex", row.helpIndex);
+    landSplits_.push_back(button);
+    const int place = static_cast<int>(i);
+    grid->addWidget(button, place % 3, place / 3);
+  }
+  land.body->addLayout(grid);
+  land.body->addSpacing(4);
+  land.body->addWidget(binder_.bind(pane_.chkNoSplit, new QCheckBox));
+  land.body->addWidget(binder_.bind(pane_.Check1, new QCheckBox));
+  land.body->addStretch();
+  return land.frame;
+}
+
+QWidget* MainPaneView::cropCard() {
+  const Card crops = card(plain(pane_.cropBox.caption()));
+  binder_.bind(pane_.cropBox, crops.frame);
+  auto* heads = new QGridLayout;
+  setColumns(heads);
+  heads->addWidget(fixedLabel(tr("Crop"), "column"), 0, nameColumn);
+  const std::array<int, 3> headColumns{priceColumn, costsColumn, yieldColumn};
+  for (std::size_t i = 0; i < cropColumns.size(); ++i) {
+    const CropColumn& column = cropColumns.at(i);
+    auto* head = new QHBoxLayout;
+    head->addWidget(fixedLabel(plain(column.caption), "column"));
+    head->addWidget(helpButton(binder_, pane_.cmdHelp, column.helpIndex, plain(column.caption)));
+    head->addStretch();
+    const int span = headColumns.at(i) == costsColumn ? 1 : 2;
+    heads->addLayout(head, 0, headColumns.at(i), 1, span);
+  }
+  crops.body->addLayout(heads);
+
+  auto* line = new QHBoxLayout;
+  line->setSpacing(4);
+  rowsArea_ = new QScrollArea;
+  rowsArea_->setFrameShape(QFrame::NoFrame);
+  rowsArea_->setWidgetResizable(true);
+  rowsArea_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  rowsArea_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  binder_.bind(pane_.cropFrameHolder, rowsArea_);
+  rowsBar_ = new QScrollBar(Qt::Vertical);
+  binder_.bind(pane_.cropScroll, rowsBar_, tr("Crop list"));
+  line->addWidget(rowsArea_, 1);
+  line->addWidget(rowsBar_);
+  crops.body->addLayout(line);
+  binder_.alsoWatch(pane_.cropScroll, [this] { placeScroll(); });
+  // A row that the keyboard brings into sight moves the list, and the bar follows without a person's act.
+  connect(rowsArea_->verticalScrollBar(), &QScrollBar::valueChanged, this, [this](int value) {
+    const int range = rowsArea_->verticalScrollBar()->maximum();
+    if (range <= 0 || rowsBar_->isSliderDown()) return;
+    const QSignalBlocker quiet(rowsBar_);
+    rowsBar_->setValue(value * rowsBar_->maximum() / range);
+  });
+  return crops.frame;
+}
+
+QWidget* MainPaneView::plantCard() {
+  const Card plant = card();
+  auto* line = new QHBoxLayout;
+  line->setSpacing(12);
+  line->addWidget(fixedLabel(QString::fromLatin1(irrigationHeading), "heading"));
+  line->addWidget(binder_.bind(pane_.Command8, new QPushButton));
+  line->addWidget(helpButton(binder_, pane_.cmdHelp, 1, QString::fromLatin1(irrigationHeading)));
+  line->addStretch();
+  line->addWidget(binder_.bind(pane_.Command7, new QPushButton));
+  plant.body->addLayout(line);
+
+  auto* trends = new QWidget;
+  auto* lines = new QVBoxLayout(trends);
+  lines->setContentsMargins(0, 4, 0, 0);
+  lines->addWidget(fixedLabel(QString::fromLatin1(batchInstructions[0]), "muted"));
+  lines->addWidget(fixedLabel(QString::fromLatin1(batchInstructions[1]), "muted"));
+  plant.body->addWidget(trends);
+  binder_.bind(pane_.pnlBatchInstructions, trends);
+  plant.body->addWidget(fixedLabel(QString::fromLatin1(batchInstructions[2]), "muted"));
+  return plant.frame;
+}
+
+QWidget* MainPaneView::footer() {
+  auto* bar = new QFrame;
+  bar->setObjectName(QStringLiteral("footer"));
+  auto* line = new QHBoxLayout(bar);
+  line->setContentsMargins(24, 10, 24, 12);
+  line->setSpacing(10);
+  auto* keep = fixedLabel(tr("Options to keep:"));
+  auto* keepField = binder_.bind(pane_.txtArraySize, numberField(5), tr("Options to keep"));
+  keep->setBuddy(keepField);
+  line->addWidget(keep);
+  line->addWidget(keepField);
+  line->addWidget(binder_.bind(pane_.txtSize, numberField(5), tr("Size")));
+  line->addWidget(binder_.bind(pane_.cmdReturn, new QPushButton));
+  line->addStretch();
+  auto* number = fixedLabel({}, "muted");
+  binder_.bind(pane_.lblNumber, number);
+  line->addWidget(number);
+  auto* run = new QPushButton;
+  setRole(run, "main");
+  binder_.bind(pane_.Command1, run);
+  auto* runKey = new QShortcut(QKeySequence(Qt::Key_F5), this);
+  connect(runKey, &QShortcut::activated, this, [this] { pane_.Command1.click(); });
+  run->setToolTip(tr("Evaluate all combinations (F5)"));
+  line->addWidget(run);
+  return bar;
+}
+
+void MainPaneView::rebuildRows() {
+  delete rowsArea_->takeWidget();  // the controls of its rows may be gone by now
+  rows_ = new QWidget;
+  auto* lines = new QVBoxLayout(rows_);
+  lines->setContentsMargins(0, 0, 0, 0);
+  lines->setSpacing(0);
+  binder_.bind(pane_.cropFrame, rows_);
+  for (const auto& record : pane_.cr) {
+    auto* line = new QWidget;
+    line->setFixedHeight(rowHeight);
+    lines->addWidget(line);
+    binder_.bind(*record, line);
+    auto* grid = new QGridLayout(line);
+    setColumns(grid);
+    auto* tint = new QFrame;
+    setRole(tint, "tint");
+    grid->addWidget(binder_.bind(record->background, tint), 0, 0, 1, endColumn + 1);
+    const QString crop = plain(record->GetCrop());
+    grid->addWidget(binder_.bind(record->chkCrop, new QCheckBox), 0, nameColumn);
+    grid->addWidget(binder_.bind(record->txtPrice, numberField(), tr("Price of %1").arg(crop)), 0,
+                    priceColumn);
+    grid->addWidget(binder_.bind(record->lblPriceUnits, fixedLabel({}, "muted")), 0, priceUnitColumn);
+    grid->addWidget(binder_.bind(record->txtMaxYield, numberField(), tr("Maximum yield of %1").arg(crop)), 0,
+                    yieldColumn);
+    grid->addWidget(binder_.bind(record->lblYieldUnits, fixedLabel({}, "muted")), 0, yieldUnitColumn);
+    grid->addWidget(
+        binder_.bind(record->cmdInputCosts, new QPushButton, tr("Costs and returns of %1").arg(crop)), 0,
+        costsColumn);
+  }
+  lines->addStretch();
+  rowsArea_->setWidget(rows_);
+  const int shown = std::min(visibleRows, static_cast<int>(pane_.cr.size()));
+  rowsArea_->setFixedHeight(shown * rowHeight);
+  placeScroll();
+  orderRows();
+}
+
+void MainPaneView::orderRows() {
+  // Tab goes by the order of making, and the rows are made last.
+  QWidget* before = rowsArea_;
+  for (const auto& record : pane_.cr) {
+    for (const Control* control : record->controls()) {
+      QWidget* widget = binder_.widget(*control);
+      if (widget->focusPolicy() == Qt::NoFocus) continue;
+      setTabOrder(before, widget);
+      before = widget;
+    }
+  }
+}
+
+void MainPaneView::placeScroll() {
+  const ScrollBar& bar = pane_.cropScroll;
+  // Out of sight while all rows fit, without being hidden.
+  rowsBar_->setFixedWidth(bar.maximum() > 0 ? rowsBar_->sizeHint().width() : 0);
+  QScrollBar* inner = rowsArea_->verticalScrollBar();
+  if (bar.maximum() > 0)
+    inner->setValue(static_cast<int>(static_cast<qint64>(bar.value()) * inner->maximum() / bar.maximum()));
+}
+
+void MainPaneView::drawPictures() {
+  const Scheme scheme = schemeOf(QWidget::palette());
+  for (std::size_t i = 0; i < landSplits_.size(); ++i) {
+    landSplits_[i]->setIcon(landSplitPicture(landDivisions().at(i).percentages, scheme));
+  }
+}
+
+void MainPaneView::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) drawPictures();
+}
+
+}  // namespace verdalis::desktop

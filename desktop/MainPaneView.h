@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QWidget>
+#include <vector>
+
+#include "desktop/Page.h"
+#include "desktop/Theme.h"
+#include "screens/MainPane.h"
+
+class QButtonGroup;
+class QGridLayout;
+class QScrollBar;
+
+namespace verdalis::desktop {
+
+/// The main pane in the order a farmer thinks: the farm and its water, the land split, the crops, the pumping
+/// plant, and the button that starts the evaluation, which stays in sight below.
+class MainPaneView : public QWidget {
+  Q_OBJECT
+
+ public:
+  MainPaneView(MainPane& pane, Binder& binder);
+
+ protected:
+  void changeEvent(QEvent* event) override;
+
+ private:
+  [[nodiscard]] QWidget* farmCard();
+  [[nodiscard]] QWidget* landCard();
+  [[nodiscard]] QWidget* cropCard();
+  [[nodiscard]] QWidget* plantCard();
+  [[nodiscard]] QWidget* footer();
+  void rebuildRows();
+  void addRow(CropRecord& record, int line);
+  void orderRows();
+  void placeScroll();
+  void drawPictures();
+
+  MainPane& pane_;
+  Binder& binder_;
+  QScrollArea* rowsArea_ = nullptr;
+  QWidget* rows_ = nullptr;
+  QScrollBar* rowsBar_ = nullptr;
+  std::vector<QRadioButton*> landSplits_;
+};
+
+}  // namespace verdalis::desktop

@@ -1,0 +1,135 @@
+#include "desktop/MainWindow.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QFrame>
+#include <QLabel>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QSettings>
+#include <QShortcut>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+#include "desktop/CostViews.h"
+#include "desktop/CustomCropView.h"
+#include "desktop/MainPaneView.h"
+#include "desktop/ResultViews.h"
+#include "desktop/TrendViews.h"
+
+namespace verdalis::desktop {
+namespace {
+
+constexpr QSize smallest(1000, 660);
+constexpr QSize usual(1180, 820);
+constexpr const char* menuLetters = "flseth";  // of the menu bar
+
+}  // namespace
+
+MainWindow::MainWindow(frmMain& window, Binder& binder) : window_(window), binder_(binder) {
+  setMinimumSize(smallest);
+  addMenus();
+  auto* centre = new QWidget;
+  auto* layout = new QVBoxLayout(centre);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(0);
+  auto* band = new QFrame;
+  band->setObjectName(QStringLiteral("band"));
+  auto* bandLayout = new QVBoxLayout(band);
+  bandLayout->setContentsMargins(24, 8, 24, 8);
+  auto* info = new QLabel;
+  info->setProperty("role", "band");
+  info->setWordWrap(true);
+  bandLayout->addWidget(binder_.bind(window_.lblMainInfo, info, tr("Information")));
+  layout->addWidget(band);
+  stack_ = new QStackedWidget;
+  layout->addWidget(stack_, 1);
+  setCentralWidget(centre);
+
+  addPane(window_.pneMain, new MainPaneView(window_.pneMain, binder_));
+  addPane(window_.pneInputCosts, inputCostsView(window_.pneInputCosts, binder_));
+  addPane(window_.pneIrrigCosts, irrigCostsView(window_.pneIrrigCosts, binder_));
+  addPane(window_.pneResults, resultsView(window_.theResults, binder_, QString::fromLatin1(resultsHeading)));
+  addPane(window_.pneDetails, detailsView(window_.theDetails, binder_));
+  addPane(window_.pneSummary, summaryView(window_.pneSummary, binder_));
+  addPane(window_.pneCustomCrop, customCropView(window_.pneCustomCrop, binder_));
+  addPane(window_.trends.pneBatchSetup0, batchSetupView(window_.trends.pneBatchSetup0, binder_));
+  addPane(window_.trends.pneBatchSetup1, batchResultsView(window_.trends.pneBatchSetup1, binder_));
+
+  auto* help = new QShortcut(QKeySequence(Qt::Key_F1), this);
+  connect(help, &QShortcut::activated, this, &MainWindow::showHelpOfFocus);
+  restorePlace();
+  binder_.bindWindow(window_, this);
+}
+
+void MainWindow::addMenus() {
+  const auto menu = [&](MenuEntry& entry, const QString& title) {
+    QMenu* made = menuBar()->addMenu(title);
+    return binder_.bind(entry, made);
+  };
+  const auto add = [&](QMenu* to, MenuEntry& entry, const QKeySequence& keys = {}) {
+    QAction* action = to->addAction(widgetCaption(entry.caption()));
+    action->setShortcut(keys);
+    binder_.bind(entry, action);
+  };
+  MainMenus& menus = window_.menus;
+  QMenu* file = menu(menus.mnuFile, tr("&File"));
+  add(file, menus.mnuPrint, QKeySequence::Print);
+  file->addSeparator();
+  add(file, menus.mnuExit, QKeySequence(Qt::CTRL | Qt::Key_Q));
+  QMenu* location = menu(menus.mnuLocation, tr("&Location"));
+  add(location, menus.mnuPrairia);
+  add(location, menus.mnuTexas);
+  QAction* summary = menuBar()->addAction(tr("&Summary Table"));
+  binder_.bind(menus.mnuSummary, summary);
+  QMenu* edit = menu(menus.mnuEdit, tr("&Edit"));
+  add(edit, menus.mnuOptions);
+  QMenu* tools = menu(menus.mnuTools, tr("&Tools"));
+  add(tools, menus.mnuCustomCrop);
+  add(tools, menus.mnuEnableBatch);
+  add(tools, menus.mnuFallBatch);
+  QMenu* help = menu(menus.mnuAbout, tr("&Help"));
+  add(help, menus.mnuHelp);
+  add(help, menus.mnuAboutVDL);
+}
+
+void MainWindow::addPane(Frame& pane, QWidget* page) {
+  binder_.namePane(pane, page);
+  assignMnemonics(page, QLatin1String(menuLetters));
+  stack_->addWidget(page);
+  pane.watcher = [this] { showTopPane(); };
+}
+
+void MainWindow::showTopPane() {
+  if (window_.panes.history().empty()) return;
+  if (QWidget* page = binder_.widget(window_.panes.top())) stack_->setCurrentWidget(page);
+}
+
+QWidget* MainWindow::currentPage() const {
+  return stack_->currentWidget();
+}
+
+void MainWindow::showHelpOfFocus() {
+  const QWidget* widget = QApplication::focusWidget();
+  while (widget != nullptr && !widget->property("helpIndex").isValid())
+    widget = widget->parentWidget();
+  const int index = widget == nullptr ? -1 : widget->property("helpIndex").toInt();
+  const QString name = QStringLiteral("cmdHelp(%1)").arg(index);
+  if (auto* button = currentPage()->findChild<QPushButton*>(name)) {
+    button->click();
+  } else {
+    window_.menus.mnuHelp.click();
+  }
+}
+
+void MainWindow::restorePlace() {
+  resize(usual);
+  restoreGeometry(QSettings().value(QStringLiteral("place")).toByteArray());
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  QSettings().setValue(QStringLiteral("place"), saveGeometry());
+  QMainWindow::closeEvent(event);
+}
+
+}  // namespace verdalis::desktop

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QMainWindow>
+
+#include "desktop/Binder.h"
+#include "screens/main/frmMain.h"
+
+class QStackedWidget;
+
+namespace verdalis::desktop {
+
+/// The main window: the menu bar, the information band and the pane on top of the others.
+class MainWindow : public QMainWindow {
+  Q_OBJECT
+
+ public:
+  MainWindow(frmMain& window, Binder& binder);
+
+  /// The page of the pane on show.
+  [[nodiscard]] QWidget* currentPage() const;
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  void addMenus();
+  void addPane(Frame& pane, QWidget* page);
+  void showTopPane();
+  void showHelpOfFocus();
+  void restorePlace();
+
+  frmMain& window_;
+  Binder& binder_;
+  QStackedWidget* stack_;
+};
+
+/// Gives each button, switch and labelled field of a page a mnemonic that none of the others has.
+void assignMnemonics(QWidget* page, const QString& taken);
+
+}  // namespace verdalis::desktop

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+#include <span>
+#include <string_view>
+
+#include "desktop/Binder.h"
+#include "screens/FieldTable.h"
+#include "screens/modHelp.h"
+
+class QBoxLayout;
+class QFrame;
+class QGridLayout;
+class QLabel;
+class QScrollArea;
+class QVBoxLayout;
+class QWidget;
+
+namespace verdalis::desktop {
+
+/// The building blocks that all panes are laid out with.
+
+/// A caption of the program as plain text: a doubled ampersand is one.
+[[nodiscard]] QString plain(std::string_view caption);
+
+/// A label with a fixed text, in one of the style sheet's roles ("heading", "title", "column", "muted",
+/// "figure").
+[[nodiscard]] QLabel* fixedLabel(const QString& text, const char* role = nullptr);
+
+/// A group of a pane: a ground with a heading.
+struct Card {
+  QFrame* frame;
+  QVBoxLayout* body;
+};
+[[nodiscard]] Card card(const QString& heading = {}, QWidget* besideHeading = nullptr);
+
+/// A page that scrolls when the window is too small for it, with its contents centred.
+struct Page {
+  QScrollArea* area;
+  QVBoxLayout* body;
+};
+[[nodiscard]] Page page(int width);
+
+/// Gives a widget a role of the style sheet.
+void setRole(QWidget* widget, const char* role);
+
+/// A field for a number: right-aligned, as wide as `characters` digits.
+[[nodiscard]] QLineEdit* numberField(int characters = 10);
+
+/// The "?" button of an index on a pane, bound and named for what it explains.
+[[nodiscard]] QPushButton* helpButton(Binder& binder, const HelpButtons& buttons, int index,
+                                      const QString& what);
+
+}  // namespace verdalis::desktop

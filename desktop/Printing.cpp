@@ -1,0 +1,103 @@
+#include "desktop/Printing.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QFont>
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QPrintDialog>
+#include <QPrinter>
+
+#include "desktop/Binder.h"
+#include "text/RunTimeError.h"
+
+namespace verdalis::desktop {
+namespace {
+
+constexpr double pointsPerInch = 72;
+
+/// The font of a text, in units of a painter that counts in points.
+QFont fontOf(const PageFont& font) {
+  // The stops of the reports need a face as narrow as this one.
+  QFont result(QStringList{QStringLiteral("Liberation Sans"), QStringLiteral("Sans Serif")}, -1);
+  result.setPixelSize(static_cast<int>(font.size));
+  result.setBold(font.bold);
+  result.setItalic(font.italic);
+  result.setUnderline(font.underline);
+  result.setHintingPreference(QFont::PreferNoHinting);
+  return result;
+}
+
+class QtMetrics : public FontMetrics {
+ public:
+  [[nodiscard]] double width(const std::string& text, const PageFont& font) const override {
+    return QFontMetricsF(fontOf(font)).horizontalAdvance(qText(text));
+  }
+  [[nodiscard]] double ascent(const PageFont& font) const override {
+    return QFontMetricsF(fontOf(font)).ascent();
+  }
+  [[nodiscard]] double lineHeight(const PageFont& font) const override {
+    return QFontMetricsF(fontOf(font)).lineSpacing();
+  }
+};
+
+Paper paperOf(const QPrinter& printer) {
+  const QRectF sheet = printer.paperRect(QPrinter::Point);
+  Paper paper;
+  paper.width = sheet.width();
+  paper.height = sheet.height();
+  return paper;
+}
+
+/// The file of a further document: "report.pdf" becomes "report-2.pdf".
+QString numbered(const QString& file, int number) {
+  const QFileInfo info(file);
+  const QString suffix = info.suffix().isEmpty() ? QString() : QLatin1Char('.') + info.suffix();
+  return info.path() + QLatin1Char('/') + info.completeBaseName() + QStringLiteral("-%1").arg(number) +
+         suffix;
+}
+
+}  // namespace
+
+Printing::Printing() : metrics_(std::make_unique<QtMetrics>()) {}
+
+Printing::~Printing() = default;
+
+std::optional<int> Printing::askCopies() {
+  auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+  QPrintDialog dialog(printer.get(), QApplication::activeWindow());
+  dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
+  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+  const int copies = printer->copyCount();
+  printer->setCopyCount(1);  // each copy is a document of its own
+  file_ = programText(printer->outputFileName());
+  documents_ = 0;
+  printer_ = std::move(printer);
+  return copies;
+}
+
+std::unique_ptr<PageSurface> Printing::beginDocument() {
+  if (!printer_) return nullptr;
+  if (++documents_ > 1 && !file_.empty()) printer_->setOutputFileName(numbered(qText(file_), documents_));
+  auto layout = std::make_unique<PageLayout>(*metrics_, paperOf(*printer_));
+  layout->onEnd = [this](const PageLayout& done) { draw(done); };
+  return layout;
+}
+
+void Printing::draw(const PageLayout& layout) {
+  printer_->setFullPage(true);
+  QPainter painter;
+  if (!painter.begin(printer_.get())) {
+    throw RunTimeError(ErrorNumber::fileNotFound, "The report cannot be printed.");
+  }
+  painter.scale(printer_->resolution() / pointsPerInch, printer_->resolution() / pointsPerInch);
+  int page = 0;
+  for (const PlacedText& text : layout.texts()) {
+    for (; page < text.page; ++page)
+      printer_->newPage();
+    painter.setFont(fontOf(text.font));
+    painter.drawText(QPointF(text.x, text.y), qText(text.text));
+  }
+}
+
+}  // namespace verdalis::desktop

@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QWidget>
+
+#include "controls/services.h"
+#include "desktop/Printing.h"
+
+namespace verdalis::desktop {
+
+class HelpWindow;
+
+/// The platform's services, carried out with the toolkit.
+class QtServices : public MessageBoxService,
+                   public FileChooserService,
+                   public ClipboardService,
+                   public HelpService,
+                   public OpenFileService,
+                   public ClockService,
+                   public EventPumpService,
+                   public PrinterService {
+ public:
+  /// `helpFolder` holds the help topics.
+  explicit QtServices(const QString& helpFolder);
+  ~QtServices() override;
+
+  [[nodiscard]] Services services() { return {*this, *this, *this, *this, *this, *this, *this, *this}; }
+
+  /// The help window; made at the first use.
+  [[nodiscard]] HelpWindow& help();
+
+  MessageAnswer show(const Message& message) override;
+  std::optional<std::filesystem::path> chooseOpen(const FileQuestion& question) override;
+  std::optional<std::filesystem::path> chooseSave(const FileQuestion& question) override;
+  void clear() override;
+  void setText(const std::string& text) override;
+  [[nodiscard]] std::string text() const override;
+  void showTopic(const std::string& topic) override;
+  bool open(const std::filesystem::path& path) override;
+  [[nodiscard]] ClockTime now() const override;
+  void pump() override;
+  std::optional<int> askCopies() override;
+  std::unique_ptr<PageSurface> beginDocument() override;
+
+ private:
+  QString helpFolder_;
+  std::unique_ptr<HelpWindow> help_;
+  Printing printing_;
+};
+
+}  // namespace verdalis::desktop

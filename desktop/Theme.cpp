@@ -1,0 +1,151 @@
+#include "desktop/Theme.h"
+
+#include <QApplication>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusVariant>
+#include <QStyleFactory>
+
+namespace verdalis::desktop {
+namespace {
+
+constexpr int portalTimeout = 200;  // ms; a desktop without a portal must not hold the start up
+constexpr unsigned portalDark = 1;
+constexpr unsigned portalLight = 2;
+
+/// A value that came wrapped in one or more variants.
+QVariant unwrapped(QVariant value) {
+  while (value.canConvert<QDBusVariant>())
+    value = value.value<QDBusVariant>().variant();
+  return value;
+}
+
+QString styleSheet(Scheme scheme) {
+  const Accents colours = accents(scheme);
+  const QPalette base = palette(scheme);
+  QString sheet = QStringLiteral(R"(
+    QToolTip { color: @text; background: @card; border: 1px solid @line; padding: 4px; }
+    QFrame[role="card"] { background: @card; border: 1px solid @line; border-radius: 8px; }
+    QLabel[role="heading"] { font-weight: 600; color: @brand; }
+    QLabel[role="title"] { font-weight: 600; }
+    QLabel[role="column"] { color: @muted; font-weight: 600; }
+    QLabel[role="muted"] { color: @muted; }
+    QLabel[role="figure"] { font-weight: 600; }
+    QLabel[role="band"] { color: @muted; }
+    QFrame#band { background: @card; border: none; border-bottom: 1px solid @line; }
+    QLineEdit, QComboBox { background: @base; border: 1px solid @line; border-radius: 4px; padding: 4px 6px;
+                           min-height: 1.3em; selection-background-color: @brand; selection-color: @brandText; }
+    QLineEdit:focus, QComboBox:focus { border: 2px solid @brand; padding: 3px 5px; }
+    QLineEdit:disabled, QComboBox:disabled { background: @window; color: @disabled; border-color: @line; }
+    QLineEdit[failed="true"] { border: 2px solid @warning; padding: 3px 5px; }
+    QComboBox::drop-down { border: none; width: 24px; }
+    QComboBox::down-arrow { image: url(:/icons/arrow-@scheme.svg); width: 12px; height: 8px; }
+    QPushButton { background: @button; border: 1px solid @line; border-radius: 5px; padding: 6px 14px; }
+    QPushButton:hover { border-color: @brand; }
+    QPushButton:focus { border: 2px solid @brand; padding: 5px 13px; }
+    QPushButton:pressed { background: @line; }
+    QPushButton:disabled { color: @disabled; }
+    QPushButton[role="main"] { background: @brand; color: @brandText; border: 2px solid @brand; font-weight: 600;
+                               padding: 9px 26px; }
+    QPushButton[role="main"]:focus { border: 2px solid @text; }
+    QPushButton[role="help"] { border-radius: 10px; min-width: 18px; max-width: 18px; min-height: 18px;
+                               max-height: 18px; padding: 0; color: @muted; }
+    QPushButton[role="help"]:focus { padding: 0; color: @brand; }
+    QFrame[role="tint"] { background: @activeRow; border-radius: 4px; }
+    QFrame#footer { background: @card; border: none; border-top: 1px solid @line; }
+    QTableWidget { background: @base; gridline-color: @line; border: 1px solid @line; border-radius: 4px;
+                   selection-background-color: @brand; selection-color: @brandText; }
+    QScrollArea { border: none; background: transparent; }
+    QMenuBar { background: @window; }
+  )");
+  const auto put = [&](const char* name, const QColor& colour) {
+    sheet.replace(QLatin1Char('@') + QLatin1String(name) + QLatin1Char(';'),
+                  colour.name() + QLatin1Char(';'));
+  };
+  sheet.replace(QLatin1String("@scheme"), QLatin1String(scheme == Scheme::dark ? "dark" : "light"));
+  put("text", base.color(QPalette::WindowText));
+  put("window", base.color(QPalette::Window));
+  put("base", base.color(QPalette::Base));
+  put("button", base.color(QPalette::Button));
+  put("disabled", base.color(QPalette::Disabled, QPalette::Text));
+  put("brand", colours.brand);
+  put("brandText", colours.brandText);
+  put("card", colours.card);
+  put("line", colours.line);
+  put("muted", colours.muted);
+  put("warning", colours.warning);
+  put("activeRow", colours.activeRow);
+  return sheet;
+}
+
+}  // namespace
+
+Scheme schemeOf(const QPalette& palette) {
+  return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness()
+             ? Scheme::dark
+             : Scheme::light;
+}
+
+Scheme desktopScheme(const QPalette& platformPalette) {
+  const QDBusConnection bus = QDBusConnection::sessionBus();
+  if (bus.isConnected()) {
+    QDBusMessage call = QDBusMessage::createMethodCall(
+        QStringLiteral("org.freedesktop.portal.Desktop"), QStringLiteral("/org/freedesktop/portal/desktop"),
+        QStringLiteral("org.freedesktop.portal.Settings"), QStringLiteral("Read"));
+    call << QStringLiteral("org.freedesktop.appearance") << QStringLiteral("color-scheme");
+    const QDBusMessage reply = bus.call(call, QDBus::Block, portalTimeout);
+    if (reply.type() == QDBusMessage::ReplyMessage && !reply.arguments().isEmpty()) {
+      const unsigned preference = unwrapped(reply.arguments().constFirst()).toUInt();
+      if (preference == portalDark) return Scheme::dark;
+      if (preference == portalLight) return Scheme::light;
+    }
+  }
+  return schemeOf(platformPalette);
+}
+
+QPalette palette(Scheme scheme) {
+  const bool dark = scheme == Scheme::dark;
+  const Accents colours = accents(scheme);
+  const QColor text = dark ? QColor(0xE6E9E4) : QColor(0x1D2420);
+  const QColor window = dark ? QColor(0x1B1F1D) : QColor(0xF5F6F2);
+  const QColor base = dark ? QColor(0x151917) : QColor(0xFFFFFF);
+  const QColor button = dark ? QColor(0x2C332F) : QColor(0xFFFFFF);
+  const QColor disabled = dark ? QColor(0x77807A) : QColor(0x8A928C);
+  QPalette result;
+  result.setColor(QPalette::Window, window);
+  result.setColor(QPalette::WindowText, text);
+  result.setColor(QPalette::Base, base);
+  result.setColor(QPalette::AlternateBase, colours.card);
+  result.setColor(QPalette::Text, text);
+  result.setColor(QPalette::Button, button);
+  result.setColor(QPalette::ButtonText, text);
+  result.setColor(QPalette::BrightText, colours.warning);
+  result.setColor(QPalette::Highlight, colours.brand);
+  result.setColor(QPalette::HighlightedText, colours.brandText);
+  result.setColor(QPalette::Link, colours.brand);
+  result.setColor(QPalette::LinkVisited, colours.brand);
+  result.setColor(QPalette::PlaceholderText, colours.muted);
+  result.setColor(QPalette::ToolTipBase, colours.card);
+  result.setColor(QPalette::ToolTipText, text);
+  for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+    result.setColor(QPalette::Disabled, role, disabled);
+  }
+  return result;
+}
+
+Accents accents(Scheme scheme) {
+  if (scheme == Scheme::dark) {
+    return {QColor(0x7CC48A), QColor(0x10210F), QColor(0x232926), QColor(0x3D4641), QColor(0xA3ADA6),
+            QColor(0xFF8A70), QColor(0x2B332E), QColor(0x5E8F5A), QColor(0x6FB3D9)};
+  }
+  return {QColor(0x2E6B3A), QColor(0xFFFFFF), QColor(0xFFFFFF), QColor(0xD3D9D2), QColor(0x5C665F),
+          QColor(0xC0392B), QColor(0xF3F3F3), QColor(0x8DB87C), QColor(0x2F7FB0)};
+}
+
+void applyTheme(QApplication& application, Scheme scheme) {
+  QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  QApplication::setPalette(palette(scheme));
+  application.setStyleSheet(styleSheet(scheme));
+}
+
+}  // namespace verdalis::desktop

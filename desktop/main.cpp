@@ -1,0 +1,57 @@
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QDir>
+#include <QLocale>
+#include <QMessageBox>
+
+#include "cli/home.h"
+#include "desktop/Binder.h"
+#include "desktop/Desktop.h"
+#include "desktop/Theme.h"
+#include "text/RunTimeError.h"
+
+namespace {
+
+using namespace verdalis;
+
+/// The folder of the help topics: beside the program's own files once it is installed, in the source tree
+/// before.
+QString helpFolder() {
+  const QDir program(QCoreApplication::applicationDirPath());
+  for (const QString& folder : {program.filePath(QStringLiteral("help/HTML")),
+                                program.filePath(QStringLiteral("../share/verdalis/help/HTML"))}) {
+    if (QDir(folder).exists()) return folder;
+  }
+  return QStringLiteral(VERDALIS_SOURCE_HELP);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  QLocale::setDefault(QLocale::c());  // a point for decimals on every machine
+  QApplication application(argc, argv);
+  QApplication::setApplicationName(QStringLiteral("verdalis"));
+  QApplication::setApplicationVersion(QStringLiteral(VERDALIS_VERSION));
+  desktop::applyTheme(application, desktop::desktopScheme(QApplication::palette()));
+
+  QCommandLineParser parser;
+  parser.setApplicationDescription(
+      QStringLiteral("Plans crops and irrigation water for the most net return."));
+  parser.addHelpOption();
+  parser.addVersionOption();
+  const QCommandLineOption home(QStringLiteral("home"),
+                                QStringLiteral("The folder with crops/ and inputs.txt."),
+                                QStringLiteral("DIR"));
+  parser.addOption(home);
+  parser.process(application);
+  try {
+    const std::filesystem::path folder = parser.isSet(home)
+                                             ? std::filesystem::path(desktop::programText(parser.value(home)))
+                                             : homeFolder(homePlaces());
+    const desktop::Desktop program(folder, helpFolder());
+    return QApplication::exec();
+  } catch (const RunTimeError& error) {
+    QMessageBox::critical(nullptr, QStringLiteral("Verdalis"), desktop::qText(error.what()));
+    return 1;
+  }
+}
