@@ -9,6 +9,9 @@
 #include <QShortcut>
 #include <QTableWidget>
 #include <QVBoxLayout>
+#include <array>
+
+#include "desktop/Theme.h"
 
 namespace verdalis::desktop {
 namespace {
@@ -103,6 +106,91 @@ QWidget* inPane(QWidget* control) {
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(control);
   return pane;
+}
+
+QGridLayout* linesGrid() {
+  auto* lines = new QGridLayout;
+  lines->setHorizontalSpacing(16);
+  lines->setVerticalSpacing(5);
+  lines->setColumnStretch(0, 1);
+  return lines;
+}
+
+void addLine(QGridLayout* lines, Details& details, const Details::Line& entry, Binder& binder, double size) {
+  const int line = lines->rowCount();
+  lines->addWidget(big(fixedLabel(plain(entry.caption)), size), line, 0);
+  auto* value = big(number(size > 1 ? "figure" : nullptr), size);
+  lines->addWidget(binder.bind(details.*entry.value, value, plain(entry.caption)), line, 1);
+}
+
+void addClosing(QGridLayout* lines, Details& details, const Details::Block& block, Binder& binder) {
+  for (Label Details::*closing : block.closing) {
+    auto* label = number("figure");
+    label->setWordWrap(true);
+    lines->addWidget(binder.bind(details.*closing, label), lines->rowCount(), 0, 1, 2);
+  }
+}
+
+/// What the field is on the left, and what it costs and brings, in larger figures, on the right.
+QWidget* totalsCard(Details& details, const Details::Block& block, Binder& binder) {
+  constexpr std::size_t totals = 3;  // the last lines
+  const Card group = card(plain(block.caption));
+  auto* columns = new QHBoxLayout;
+  columns->setSpacing(60);
+  QGridLayout* field = linesGrid();
+  auto* money = new QVBoxLayout;
+  QGridLayout* figures = linesGrid();
+  figures->setVerticalSpacing(10);
+  const std::size_t first = block.lines.size() - totals;
+  for (std::size_t i = 0; i < block.lines.size(); ++i) {
+    addLine(i < first ? field : figures, details, block.lines[i], binder,
+            i < first ? 1.0 : (i + 1 == block.lines.size() ? 1.6 : 1.2));
+  }
+  addClosing(figures, details, block, binder);
+  money->addLayout(figures);
+  money->addStretch();
+  columns->addLayout(field, 1);
+  columns->addLayout(money, 1);
+  group.body->addLayout(columns);
+  return group.frame;
+}
+
+QWidget* blockCard(Details& details, const Details::Block& block, Binder& binder) {
+  const Card group = card(plain(block.caption));
+  QGridLayout* lines = linesGrid();
+  for (const Details::Line& entry : block.lines)
+    addLine(lines, details, entry, binder, 1);
+  addClosing(lines, details, block, binder);
+  group.body->addLayout(lines);
+  group.body->addStretch();
+  return group.frame;
+}
+
+/// Shows the heads of a table as the heads of its widget, which stay in view, and its colours, lighter on a
+/// dark ground.
+void showHeadsAndColours(const Grid& grid, QTableWidget* table) {
+  const QSignalBlocker quiet(table);
+  const bool dark = schemeOf(table->palette()) == Scheme::dark;
+  QStringList rows;
+  QStringList columns;
+  for (int row = 0; row < grid.rows(); ++row)
+    rows << qText(grid.cell(row, 0));
+  for (int column = 0; column < grid.columns(); ++column)
+    columns << qText(grid.cell(0, column)).replace(QLatin1String(" - "), QLatin1String("\n"));
+  table->setVerticalHeaderLabels(rows);
+  table->setHorizontalHeaderLabels(columns);
+  table->setRowHidden(0, true);
+  table->setColumnHidden(0, true);
+  for (int row = 1; row < grid.rows(); ++row) {
+    for (int column = 1; column < grid.columns(); ++column) {
+      const auto colour = grid.color(row, column);
+      if (!colour) continue;
+      const QColor own(static_cast<QRgb>(*colour));
+      table->item(row, column)->setForeground(dark ? QColor::fromHslF(own.hslHueF(), 0.6F, 0.72F) : own);
+      table->item(row, column)->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    }
+  }
+  table->resizeColumnsToContents();
 }
 
 }  // namespace
@@ -209,33 +297,13 @@ QWidget* detailsView(Details& details, Binder& binder) {
   layout->addWidget(scrolled.area, 1);
   auto* grid = new QGridLayout;
   grid->setSpacing(12);
-  int place = 0;
-  for (const Details::Block& block : Details::blocks()) {
-    const Card group = card(plain(block.caption));
-    auto* lines = new QGridLayout;
-    lines->setHorizontalSpacing(16);
-    lines->setVerticalSpacing(5);
-    lines->setColumnStretch(0, 1);
-    int line = 0;
-    for (const Details::Line& entry : block.lines) {
-      lines->addWidget(fixedLabel(plain(entry.caption)), line, 0);
-      lines->addWidget(binder.bind(details.*entry.value, number(), plain(entry.caption)), line, 1);
-      ++line;
-    }
-    for (Label Details::*closing : block.closing) {
-      auto* label = number("figure");
-      label->setWordWrap(true);
-      lines->addWidget(binder.bind(details.*closing, label), line++, 0, 1, 2);
-    }
-    group.body->addLayout(lines);
-    group.body->addStretch();
-    // The totals stand first, over the whole width; the other blocks side by side below.
-    if (place == 0) {
-      grid->addWidget(group.frame, 0, 0, 1, 2);
-    } else {
-      grid->addWidget(group.frame, 2 + (place - 1) / 2, (place - 1) % 2);
-    }
-    ++place;
+  // The totals over the whole width, the three large blocks side by side, the two short ones below.
+  constexpr std::array<std::array<int, 2>, 6> places{{{0, 0}, {2, 0}, {2, 1}, {3, 0}, {2, 2}, {3, 1}}};
+  const std::vector<Details::Block>& blocks = Details::blocks();
+  for (std::size_t i = 0; i < blocks.size() && i < places.size(); ++i) {
+    const auto [row, column] = places.at(i);
+    grid->addWidget(i == 0 ? totalsCard(details, blocks[i], binder) : blockCard(details, blocks[i], binder),
+                    row, column, 1, i == 0 ? 3 : 1);
   }
   const std::array<const char*, 2> captions{"General Production Costs:", "Irrigation Costs:"};
   const std::array<Label*, 2> figures{&details.lblBatchGeneralProductionCost,
@@ -250,8 +318,8 @@ QWidget* detailsView(Details& details, Binder& binder) {
     grid->addWidget(binder.bind(details.picBatch.at(i), static_cast<QWidget*>(override.frame)), 1,
                     static_cast<int>(i));
   }
-  grid->setColumnStretch(0, 1);
-  grid->setColumnStretch(1, 1);
+  for (int column = 0; column < 3; ++column)
+    grid->setColumnStretch(column, 1);
   scrolled.body->addLayout(grid);
   scrolled.body->addStretch();
   QHBoxLayout* buttons = footerOf(layout);
@@ -273,11 +341,14 @@ QWidget* summaryView(SummaryPane& pane, Binder& binder) {
   body->addWidget(big(fixedLabel(QObject::tr("Summary of Saved Options"), "heading"), 1.4));
   body->addWidget(binder.bind(pane.Label59, fixedLabel({})));
   auto* table = new QTableWidget;
-  table->horizontalHeader()->hide();
-  table->verticalHeader()->hide();
   table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-  table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  table->setSelectionMode(QAbstractItemView::NoSelection);
+  table->setFocusPolicy(Qt::StrongFocus);
   body->addWidget(binder.bind(pane.fgsummary, table, QObject::tr("Saved options")), 1);
+  // A click on a head counts for its column too.
+  QObject::connect(table->horizontalHeader(), &QHeaderView::sectionClicked, table,
+                   [&pane](int column) { pane.fgsummary.clickCell(0, column); });
+  binder.alsoWatch(pane.fgsummary, [&pane, table] { showHeadsAndColours(pane.fgsummary, table); });
   auto* space = new QWidget;
   body->addWidget(space);
   binder.alsoWatch(pane.fgsummary, [&pane, space] { space->setVisible(!pane.fgsummary.visible()); });
