@@ -323,21 +323,29 @@ QWidget* Binder::bind(Frame& control, QWidget* widget) {
 void Binder::bindWindow(Window& control, QWidget* widget) {
   name(control, widget, {});
   windows_.insert(widget, &control);
-  watch(control, [&control, widget] {
+  watch(control, [this, &control, widget] {
     widget->setWindowTitle(qText(control.caption()));
     if (widget->isVisible() == control.isOpen()) return;
-    widget->setVisible(control.isOpen());
-    if (control.isOpen()) {
-      widget->raise();
-      widget->activateWindow();
+    if (!control.isOpen()) {
+      widget->close();  // and not hidden alone: a closed window keeps its place
+      // Another window may be on its way. The help viewer alone does not keep the program running.
+      QTimer::singleShot(0, this, [this] {
+        const auto& windows = desk_.windows();
+        if (std::none_of(windows.begin(), windows.end(), [](const Window* one) { return one->isOpen(); }))
+          QCoreApplication::quit();
+      });
+      return;
     }
+    widget->show();
+    widget->raise();
+    widget->activateWindow();
   });
 }
 
 bool Binder::windowEvent(Window& window, QWidget* widget, QEvent* event) {
   switch (event->type()) {
     case QEvent::Close:
-      window.closeByUser();
+      if (window.isOpen()) window.closeByUser();
       if (window.isOpen()) {
         event->ignore();
         return true;

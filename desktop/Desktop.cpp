@@ -1,5 +1,7 @@
 #include "desktop/Desktop.h"
 
+#include <QApplication>
+
 #include "desktop/HelpWindows.h"
 #include "desktop/SmallWindows.h"
 
@@ -7,12 +9,23 @@ namespace verdalis::desktop {
 
 Desktop::Desktop(const std::filesystem::path& home, const QString& helpFolder)
     : services_(helpFolder), table_(services_.services()), program_(table_, home), binder_(program_.desk) {
-  program_.onMainCreated = [this](frmMain& window) { main_ = std::make_unique<MainWindow>(window, binder_); };
+  program_.onMainCreated = [this](frmMain& window) {
+    main_ = std::make_unique<MainWindow>(window, binder_);
+    endWith(window);
+  };
   program_.windows.onCreated = [this](Window& window) { showSecondary(window); };
   welcome_.reset(welcomeWindow(program_.welcome, binder_));
+  endWith(program_.welcome);
 }
 
 Desktop::~Desktop() = default;
+
+void Desktop::endWith(Window& window) {
+  // The help viewer and whatever else may still be open goes with the program.
+  binder_.alsoWatch(window, [this] {
+    if (program_.ended()) QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+  });
+}
 
 void Desktop::showSecondary(Window& window) {
   // The windows belong to the main one and go with it.

@@ -26,6 +26,7 @@ class Desktop : public QObject {
 
  private:
   void showSecondary(Window& window);
+  void endWith(Window& window);
 
   QtServices services_;
   Services table_;

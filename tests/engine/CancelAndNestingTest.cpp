@@ -14,7 +14,6 @@
 namespace verdalis::testing {
 namespace {
 
-using ::testing::ElementsAre;
 using ::testing::SizeIs;
 
 class DuringARun : public ::testing::Test {

@@ -61,9 +61,7 @@ TEST(CropCombinations, OfNoCropsAreNone) {
 }
 
 TEST(CropCombinations, AreTheCropsToThePowerOfTheFields) {
-  std::vector<std::string> names;
-  for (int i = 0; i < 10; ++i)
-    names.push_back("Crop " + std::to_string(i));
+  const std::vector<std::string> names(10, "Corn");
   EXPECT_EQ(makeCropCombos(cropsNamed(names), 4).Count(), 10'000U);
   EXPECT_EQ(makeCropCombos(cropsNamed({"A", "B", "C"}), 4).Count(), 81U);
 }
@@ -100,9 +98,8 @@ TEST(CropCombinations, TellANumberThatCannotBeCounted) {
 RC_GTEST_PROP(CropCombinations, AreAllSequencesInFallingOrderOfTheCropPositions, ()) {
   const int k = *rc::gen::inRange(1, 7);
   const auto n = static_cast<std::int16_t>(*rc::gen::inRange(1, 5));
-  std::vector<std::string> names;
-  for (int i = 0; i < k; ++i)
-    names.emplace_back(1, static_cast<char>('a' + i));
+  const std::vector<std::string> letters{"a", "b", "c", "d", "e", "f"};
+  const std::vector<std::string> names(letters.begin(), letters.begin() + k);
   const auto list = combos(names, n);
   std::size_t expected = 1;
   for (int i = 0; i < n; ++i)

@@ -16,7 +16,6 @@ namespace verdalis::testing {
 namespace {
 
 using ::testing::Contains;
-using ::testing::Each;
 using ::testing::ElementsAre;
 using ::testing::SizeIs;
 

@@ -78,6 +78,7 @@ TEST(SplitCollection, GoesThroughItsSplitsInOrder) {
 
 std::vector<std::uint64_t> bitsOf(const std::vector<double>& values) {
   std::vector<std::uint64_t> bits;
+  bits.reserve(values.size());
   for (const double value : values)
     bits.push_back(std::bit_cast<std::uint64_t>(value));
   return bits;

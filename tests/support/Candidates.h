@@ -48,6 +48,7 @@ inline void submit(BestMix& best, FieldCollection offered) {
 /// What stands in the places: the crop of the first field, or "-" for a placeholder.
 inline std::vector<std::string> namesIn(const std::vector<BestMix::Option>& options) {
   std::vector<std::string> names;
+  names.reserve(options.size());
   for (const auto& option : options)
     names.push_back(option->isNew ? "-" : option->Item(1)->theCrop->cropType);
   return names;
