@@ -200,8 +200,8 @@ QLabel* bigLabel(QLabel* label) {
 }
 
 void addShortcut(QWidget* view, const QKeySequence& keys, Button& button) {
+  // While the view is on show, wherever in the window the focus is.
   auto* shortcut = new QShortcut(keys, view);
-  shortcut->setContext(Qt::WidgetWithChildrenShortcut);
   QObject::connect(shortcut, &QShortcut::activated, view, [&button] {
     if (button.isReachable()) button.click();
   });

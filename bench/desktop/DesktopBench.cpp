@@ -1,0 +1,124 @@
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+#include <filesystem>
+
+#include "desktop/Desktop.h"
+#include "desktop/Theme.h"
+
+// What a person sees: the start up to the painted main pane, a key press up to the field painted with it, and
+// one option after the other. Without a screen: what the display adds comes on top.
+
+namespace {
+
+using namespace verdalis;
+
+/// The program on the example's saved farm, past the welcome window.
+class Shown {
+ public:
+  Shown() {
+    const std::filesystem::path home = folder_.path().toStdString();
+    std::filesystem::copy(VERDALIS_SOURCE_DIR "/crops", home / "crops",
+                          std::filesystem::copy_options::recursive);
+    std::filesystem::copy(VERDALIS_SOURCE_DIR "/examples/high-plains/inputs.txt", home / "inputs.txt");
+    desktop_ = std::make_unique<desktop::Desktop>(home, QStringLiteral(VERDALIS_SOURCE_DIR "/help/HTML"));
+  }
+
+  void start() {
+    desktop_->program().welcome.Command1.click();
+    window()->activateWindow();
+    QCoreApplication::processEvents();
+    static_cast<void>(window()->grab());
+  }
+
+  [[nodiscard]] QWidget* window() { return desktop_->mainWindow(); }
+
+  [[nodiscard]] QWidget* widget(const char* path) {
+    return desktop_->binder().widget(*desktop_->program().desk.find(path));
+  }
+
+ private:
+  QTemporaryDir folder_;
+  std::unique_ptr<desktop::Desktop> desktop_;
+};
+
+/// Of the windows alone: the process and the toolkit have been started.
+void mainPanePainted(benchmark::State& state) {
+  for (auto _ : state) {
+    Shown shown;
+    shown.start();
+  }
+}
+BENCHMARK(mainPanePainted)->Unit(benchmark::kMillisecond);
+
+/// A whole process up to the painted main pane, and its end.
+void processToMainPane(benchmark::State& state) {
+  for (auto _ : state) {
+    if (QProcess::execute(QCoreApplication::applicationFilePath(), {QStringLiteral("--start-only")}) != 0) {
+      state.SkipWithError("the process failed");
+      return;
+    }
+  }
+}
+BENCHMARK(processToMainPane)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+void keyPressToRepaint(benchmark::State& state) {
+  Shown shown;
+  shown.start();
+  QWidget* field = shown.widget("txtArea");
+  field->setFocus();
+  bool digit = false;
+  for (auto _ : state) {
+    digit = !digit;
+    QTest::sendKeyEvent(QTest::Click, field, digit ? Qt::Key_7 : Qt::Key_Backspace,
+                        digit ? QStringLiteral("7") : QString(), Qt::NoModifier);
+    field->repaint();
+    QCoreApplication::processEvents();
+  }
+}
+BENCHMARK(keyPressToRepaint)->Unit(benchmark::kMicrosecond);
+
+void nextOptionToRepaint(benchmark::State& state) {
+  Shown shown;
+  shown.start();
+  for (const char* crop : {"cr(1).chkCrop", "cr(5).chkCrop"})
+    QTest::keyClick(shown.widget(crop), Qt::Key_Space);
+  QTest::keyClick(shown.window(), Qt::Key_F5);
+  QWidget* page = shown.widget("theResults");
+  if (!page->isVisible()) {
+    state.SkipWithError("no options came");
+    return;
+  }
+  bool forward = false;
+  for (auto _ : state) {
+    forward = !forward;
+    QTest::mouseClick(shown.widget(forward ? "theResults.cmdAdvance" : "theResults.cmdPrevious"),
+                      Qt::LeftButton);
+    page->repaint();
+    QCoreApplication::processEvents();
+  }
+}
+BENCHMARK(nextOptionToRepaint)->Unit(benchmark::kMicrosecond);
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const QTemporaryDir settings;
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  qputenv("XDG_CONFIG_HOME", settings.path().toUtf8());
+  qputenv("XDG_RUNTIME_DIR", settings.path().toUtf8());
+  qputenv("QT_LOGGING_RULES", "*.warning=false;*.info=false");
+  QApplication application(argc, argv);
+  verdalis::desktop::applyTheme(application, verdalis::desktop::Scheme::light);
+  if (QCoreApplication::arguments().contains(QLatin1String("--start-only"))) {
+    Shown shown;
+    shown.start();
+    return 0;
+  }
+  benchmark::Initialize(&argc, argv);
+  benchmark::RunSpecifiedBenchmarks();
+  return 0;
+}

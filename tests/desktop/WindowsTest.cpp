@@ -1,0 +1,217 @@
+#include <QClipboard>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTableWidget>
+
+#include "tests/desktop/RunningDesktop.h"
+
+namespace verdalis::testing {
+namespace {
+
+/// The menus, the small windows, the yield grid and the trends, with the mouse and the keys.
+class Windows : public RunningDesktop {
+ protected:
+  /// Opens the entry's menu in the menu bar and clicks the entry.
+  void choose(Control& entry) {
+    QAction* wanted = desktop().binder().action(entry);
+    ASSERT_NE(wanted, nullptr) << entry.path();
+    auto* bar = window()->findChild<QMenuBar*>();
+    for (QAction* title : bar->actions()) {
+      QMenu* menu = title->menu();
+      if (menu == nullptr || !menu->actions().contains(wanted)) continue;
+      QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(title).center());
+      QTRY_VERIFY(menu->isVisible());
+      QTest::mouseMove(menu, menu->actionGeometry(wanted).center());
+      QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(wanted).center());
+      QTest::qWait(0);
+      return;
+    }
+    FAIL() << "in no menu: " << entry.path();
+  }
+
+  [[nodiscard]] QTableWidget* grid() { return widget<QTableWidget>("dgCustom"); }
+  [[nodiscard]] std::string cell(int row, int column) {
+    return program().main().pneCustomCrop.dgCustom.cell(row, column);
+  }
+  void key(Qt::Key wanted, Qt::KeyboardModifiers with = Qt::NoModifier) {
+    QTest::keyClick(grid(), wanted, with);
+  }
+
+  void openGrid() {
+    start();
+    choose(program().main().menus.mnuCustomCrop);
+    ASSERT_EQ(pane(), "pneCustomCrop");
+    program().main().pneCustomCrop.dgCustom.setSize(4, 4);
+    QTest::qWait(0);
+    const QTableWidgetItem* first = grid()->item(1, 1);
+    ASSERT_NE(first, nullptr);
+    grid()->setFocus();
+    QTest::mouseClick(grid()->viewport(), Qt::LeftButton, {}, grid()->visualItemRect(first).center());
+  }
+};
+
+TEST_F(Windows, TheOptionsTakeAFactorAndWarnOfALargeOne) {
+  start();
+  choose(program().main().menus.mnuOptions);
+  EXPECT_TRUE(widget("frmOptions")->isVisible());
+  EXPECT_EQ(widget<QLineEdit>("frmOptions.txtFineFactor")->text(), QStringLiteral("10"));
+  type("frmOptions.txtFineFactor", "11");
+  expectBox();
+  press("frmOptions.cmdApply");
+  ASSERT_EQ(boxes.size(), 1U);
+  EXPECT_EQ(boxes[0].substr(0, 8), "Caution|");
+  EXPECT_EQ(program().state.FineFactor, 11);
+  EXPECT_FALSE(widget("frmOptions")->isVisible());
+}
+
+TEST_F(Windows, TheOptionsRefuseWhatIsNoFactorAndStayOpen) {
+  start();
+  choose(program().main().menus.mnuOptions);
+  type("frmOptions.txtFineFactor", "x");
+  expectBox();
+  press("frmOptions.cmdApply");
+  ASSERT_EQ(boxes.size(), 1U);
+  EXPECT_EQ(boxes[0], "Error|Please enter a valid number");
+  EXPECT_EQ(program().state.FineFactor, 10);
+  EXPECT_TRUE(widget("frmOptions")->isVisible());
+}
+
+TEST_F(Windows, AnEscapeClosesTheOptionsAndChangesNothing) {
+  start();
+  choose(program().main().menus.mnuOptions);
+  type("frmOptions.txtFineFactor", "5");
+  ASSERT_TRUE(QTest::qWaitForWindowActive(widget("frmOptions")));
+  QTest::keyClick(widget("frmOptions.txtFineFactor"), Qt::Key_Escape);
+  QTRY_VERIFY(!widget("frmOptions")->isVisible());
+  EXPECT_EQ(program().state.FineFactor, 10);
+}
+
+TEST_F(Windows, AClickAnywhereClosesTheAboutWindow) {
+  start();
+  choose(program().main().menus.mnuAboutVDL);
+  QWidget* about = widget("frmAbout");
+  ASSERT_TRUE(about->isVisible());
+  EXPECT_TRUE(widget<QLabel>("frmAbout.lblVersion")->text().startsWith(QLatin1String("Version ")));
+  QTest::mouseClick(about, Qt::LeftButton, {}, QPoint(3, 3));
+  EXPECT_FALSE(about->isVisible());
+  EXPECT_TRUE(window()->isVisible());
+  choose(program().main().menus.mnuAboutVDL);
+  ASSERT_TRUE(about->isVisible());
+  QTest::mouseClick(about->childAt(widget("frmAbout.lblVersion")->geometry().center()), Qt::LeftButton);
+  EXPECT_FALSE(about->isVisible());
+}
+
+TEST_F(Windows, ANoteOpensByItsButtonAndClosesByEscape) {
+  start();
+  choose(program().main().menus.mnuCustomCrop);
+  press(program().main().pneCustomCrop.cmdHelp.buttons().front()->path());
+  QWidget* note = widget("frmHelp");
+  ASSERT_TRUE(note->isVisible());
+  EXPECT_TRUE(
+      widget<QLabel>("frmHelp.lblOutput")->text().startsWith(QLatin1String("Yield data may be entered")));
+  ASSERT_TRUE(QTest::qWaitForWindowActive(note));
+  QTest::keyClick(note, Qt::Key_Escape);
+  QTRY_VERIFY(!note->isVisible());
+}
+
+TEST_F(Windows, TheProgramEndsWithItsLastWindow) {
+  start();
+  choose(program().main().menus.mnuExit);
+  EXPECT_FALSE(window()->isVisible());
+  EXPECT_TRUE(program().ended());
+}
+
+TEST_F(Windows, TheProgramEndsWhenItsWindowIsClosedByItsFrame) {
+  start();
+  choose(program().main().menus.mnuOptions);
+  EXPECT_TRUE(window()->close());
+  EXPECT_FALSE(window()->isVisible());
+  EXPECT_TRUE(program().ended());
+}
+
+TEST_F(Windows, CharactersReturnAndBackspaceInTheYieldGrid) {
+  openGrid();
+  QTest::keyClicks(grid(), QStringLiteral("12.5"));
+  EXPECT_EQ(cell(1, 1), "12.5");
+  EXPECT_EQ(grid()->item(1, 1)->text(), QStringLiteral("12.5"));
+  key(Qt::Key_Backspace);
+  EXPECT_EQ(cell(1, 1), "12.");
+  key(Qt::Key_Return);
+  QTest::keyClicks(grid(), QStringLiteral("7"));
+  EXPECT_EQ(cell(1, 2), "7");
+  key(Qt::Key_Delete);
+  EXPECT_EQ(cell(1, 2), "");
+}
+
+TEST_F(Windows, TheArrowsMoveTheCellOfTheYieldGrid) {
+  openGrid();
+  key(Qt::Key_Down);
+  key(Qt::Key_Right);
+  QTest::keyClicks(grid(), QStringLiteral("3"));
+  EXPECT_EQ(cell(2, 2), "3");
+  key(Qt::Key_Up);
+  key(Qt::Key_Left);
+  QTest::keyClicks(grid(), QStringLiteral("4"));
+  EXPECT_EQ(cell(1, 1), "4");
+  for (int i = 0; i < 9; ++i)
+    key(Qt::Key_Down);
+  EXPECT_EQ(program().main().pneCustomCrop.dgCustom.row(), 3);
+}
+
+TEST_F(Windows, CopyCutAndPasteInTheYieldGrid) {
+  openGrid();
+  QTest::keyClicks(grid(), QStringLiteral("88"));
+  key(Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(QApplication::clipboard()->text(), QStringLiteral("88"));
+  key(Qt::Key_Right);
+  key(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(cell(1, 2), "88");
+  key(Qt::Key_X, Qt::ControlModifier);
+  EXPECT_EQ(cell(1, 2), "");
+  EXPECT_EQ(cell(1, 1), "88");
+}
+
+TEST_F(Windows, AVariableTrendFromTheToolsMenuToItsSecondStepAndBack) {
+  start();
+  typeFarm();
+  MainMenus& menus = program().main().menus;
+  expectBox();
+  choose(menus.mnuEnableBatch);
+  ASSERT_EQ(boxes.size(), 1U);
+  EXPECT_EQ(boxes[0].substr(0, boxes[0].find('|')), "Trend processing enabled");
+  choose(menus.mnuFallBatch);
+  BatchSetupPane& setup = program().main().trends.pneBatchSetup0;
+  ASSERT_EQ(pane(), setup.name());
+  tick(setup.optBatchVariable[3]->path());
+  EXPECT_TRUE(setup.optBatchVariable[3]->checked());
+  tick(setup.optBatchOption[0]->path());
+  type(setup.txtBatchMinimum[0].path(), "8");
+  type(setup.txtBatchMinimum[1].path(), "12");
+  press(setup.cmdBatchIt.path());
+  BatchResultsPane& results = program().main().trends.pneBatchSetup1;
+  ASSERT_EQ(pane(), results.name());
+  BatchResults& steps = results.theBatchResults;
+  auto* step = widget<QLabel>(steps.lblBatchDescription1.path());
+  auto* value = widget<QLabel>(steps.lblFreeBatchDescription.path());
+  EXPECT_TRUE(step->text().startsWith(QLatin1String("Step 1 of "))) << step->text().toStdString();
+  const QString first = value->text();
+  window()->activateWindow();
+  QTest::qWait(0);  // the pane is laid out
+  press(steps.cmdBatchStep[0].path());
+  EXPECT_TRUE(step->text().startsWith(QLatin1String("Step 2 of "))) << step->text().toStdString();
+  EXPECT_NE(value->text(), first);
+  press(steps.cmdBatchStep[1].path());
+  EXPECT_TRUE(step->text().startsWith(QLatin1String("Step 1 of ")));
+  EXPECT_EQ(value->text(), first);
+  widget(steps.cmdBatchStep[0].path())->setFocus();  // the keys work from there, too
+  QTest::keyClick(window(), Qt::Key_Escape);
+  EXPECT_EQ(pane(), setup.name());
+  QTest::keyClick(window(), Qt::Key_Escape);
+  EXPECT_EQ(pane(), "pneMain");
+}
+
+}  // namespace
+}  // namespace verdalis::testing

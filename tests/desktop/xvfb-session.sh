@@ -1,0 +1,138 @@
+#!/bin/sh
+# From the welcome window to a page of options in the built program, on a screen of its own and with keys alone,
+# as a person presses them: real windows, real focus, real shortcuts.
+#
+# usage: xvfb-session.sh PROGRAM CROPS
+set -eu
+
+skipped=77
+limit=300 # tenths of a second for every step, on however slow a machine
+
+for tool in xvfb-run xdotool; do
+  if ! command -v "$tool" >/dev/null; then
+    echo "skipped: $tool is missing"
+    exit $skipped
+  fi
+done
+
+if [ "${VERDALIS_XVFB_HOME:-}" = "" ]; then
+  VERDALIS_XVFB_HOME=$(mktemp -d)
+  export VERDALIS_XVFB_HOME
+  trap 'rm -rf "$VERDALIS_XVFB_HOME"' EXIT
+  mkdir -m 700 "$VERDALIS_XVFB_HOME/farm" "$VERDALIS_XVFB_HOME/config" "$VERDALIS_XVFB_HOME/run"
+  cp -r "$2" "$VERDALIS_XVFB_HOME/farm/crops"
+  status=0
+  env HOME="$VERDALIS_XVFB_HOME" XDG_CONFIG_HOME="$VERDALIS_XVFB_HOME/config" \
+    XDG_RUNTIME_DIR="$VERDALIS_XVFB_HOME/run" DBUS_SESSION_BUS_ADDRESS="unix:path=/nonexistent" \
+    QT_QPA_PLATFORM=xcb LC_ALL=C.UTF-8 \
+    xvfb-run -a -s "-screen 0 1280x1000x24" sh "$0" "$@" || status=$?
+  exit $status
+fi
+
+saved=$VERDALIS_XVFB_HOME/farm/inputs.txt
+"$1" --home "$VERDALIS_XVFB_HOME/farm" &
+program=$!
+
+fail() {
+  echo "FAILED: $1" >&2
+  kill "$program" 2>/dev/null || true
+  exit 1
+}
+
+# Calls a test until it holds.
+await() {
+  what=$1
+  shift
+  tries=0
+  until "$@"; do
+    tries=$((tries + 1))
+    [ $tries -lt $limit ] || fail "$what"
+    sleep 0.1
+  done
+}
+
+# The window with a title, as the variable `window`.
+find_window() {
+  window=$(xdotool search --onlyvisible --pid "$program" --name "^$1\$" 2>/dev/null | head -n 1)
+  [ -n "$window" ]
+}
+
+has_focus() {
+  xdotool windowfocus "$window" 2>/dev/null || true # no window manager gives the focus here
+  [ "$(xdotool getwindowfocus 2>/dev/null)" = "$window" ]
+}
+
+# What the window shows, in one number.
+picture() {
+  if command -v import >/dev/null; then
+    import -window "$window" -depth 8 rgb:- 2>/dev/null | cksum
+  else
+    echo "no import"
+  fi
+}
+
+# The picture has stayed the same for two looks, a while apart: the program waits for the next key.
+is_still() {
+  first=$(picture)
+  sleep 0.2
+  [ "$first" = "$(picture)" ]
+}
+
+press() {
+  xdotool key --delay 60 "$@"
+  sleep 0.2
+}
+
+is_saved() {
+  [ -s "$saved" ]
+}
+
+has_changed() {
+  ! command -v import >/dev/null || [ "$before" != "$(picture)" ]
+}
+
+has_ended() {
+  ! kill -0 "$program" 2>/dev/null
+}
+
+await "no welcome window" find_window "Welcome"
+await "the welcome window takes no focus" has_focus
+sleep 0.3
+press space # the focus is on the button that starts
+await "no main window" find_window "Verdalis.*"
+await "the main window takes no focus" has_focus
+await "the main window does not come to rest" is_still
+
+press alt+o # Total Acres
+xdotool type --delay 60 100
+press alt+a # Annual Gross Irrigation Amount
+xdotool type --delay 60 12
+press alt+n # Annual Rainfall
+xdotool type --delay 60 16
+press alt+7 # 75 - 25
+press alt+d # Load Default Values
+press alt+u # fallow for negative returns: on, and off again, which leaves the focus in front of the crops
+sleep 0.3
+press alt+u
+sleep 0.3
+press Tab Tab Tab Tab Tab # past the "?" of the columns to the first crop
+press space
+press Tab Tab Tab Tab # past its fields to the second
+press space
+await "the typed farm does not come to rest" is_still
+before=$(picture)
+press F5
+await "no inputs were saved: the options did not come" is_saved
+await "the window shows what it showed before" has_changed
+
+expected=$(printf '1\n100\n12\n85\n16')
+found=$(head -n 5 "$saved" | tr -d '\r')
+[ "$found" = "$expected" ] || fail "saved inputs: $(echo "$found" | tr '\n' ' ')"
+[ ! -n "${VERDALIS_XVFB_PICTURE:-}" ] || import -window "$window" "$VERDALIS_XVFB_PICTURE"
+
+press ctrl+q
+await "the program does not end" has_ended
+status=0
+wait "$program" || status=$?
+[ $status -eq 0 ] || fail "the program ended with $status"
+echo "passed"
