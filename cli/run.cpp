@@ -8,6 +8,7 @@
 #include "cli/EvaluateCommand.h"
 #include "cli/Messages.h"
 #include "cli/ScriptCommand.h"
+#include "cli/TrendCommand.h"
 
 namespace verdalis {
 namespace {
@@ -28,6 +29,8 @@ int dispatch(const std::vector<std::string>& args, std::istream& in, std::ostrea
 
   EvaluateRequest evaluateRequest;
   const CLI::App& evaluateCommand = addEvaluateCommand(app, evaluateRequest);
+  TrendRequest trendRequest;
+  const CLI::App& trendCommand = addTrendCommand(app, trendRequest);
   ScriptRequest scriptRequest;
   const CLI::App& scriptCommand = addScriptCommand(app, scriptRequest);
   for (CLI::App* command : app.get_subcommands({})) {
@@ -43,6 +46,7 @@ int dispatch(const std::vector<std::string>& args, std::istream& in, std::ostrea
     throw Refusal(std::string(error.what()) + "\nRun with --help for the commands and their options.");
   }
   if (evaluateCommand.parsed()) evaluate(evaluateRequest, out, messages);
+  if (trendCommand.parsed()) trend(trendRequest, out, messages);
   if (scriptCommand.parsed() && !replayScript(scriptRequest, in, out)) return failed;
   return done;
 }

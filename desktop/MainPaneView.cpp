@@ -100,14 +100,14 @@ QWidget* MainPaneView::farmCard() {
   const auto combo = [&](ComboBox& box) {
     auto* widget = new QComboBox;
     binder_.bind(box, widget, plain(rowOf(box.name())->label));
-    widget->setFixedWidth(numberField()->width());
+    widget->setFixedWidth(numberFieldSize().width());
     return widget;
   };
   place("txtArea", number(pane_.txtArea), tr("acres"));
   place("txtMax", number(pane_.txtMax), tr("inches"));
   auto* volume = fixedLabel({}, "figure");
   volume->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  volume->setMinimumHeight(numberField()->sizeHint().height());
+  volume->setMinimumHeight(numberFieldSize().height());
   binder_.bind(pane_.lblVolume, volume, plain(rowOf("lblVolume")->label));
   place("lblVolume", volume, tr("ac-in"));
   auto* rain = combo(pane_.txtAnnRain);

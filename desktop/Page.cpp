@@ -61,10 +61,16 @@ Page page(int width) {
   return {area, body};
 }
 
+QSize numberFieldSize(int characters) {
+  const QLineEdit field;
+  return {field.fontMetrics().horizontalAdvance(QLatin1Char('0')) * characters + 24,
+          field.sizeHint().height()};
+}
+
 QLineEdit* numberField(int characters) {
   auto* field = new QLineEdit;  // NOLINT: the layout that takes it owns it
   field->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  field->setFixedWidth(field->fontMetrics().horizontalAdvance(QLatin1Char('0')) * characters + 24);
+  field->setFixedWidth(numberFieldSize(characters).width());
   return field;
 }
 

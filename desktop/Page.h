@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QSize>
 #include <QString>
 #include <functional>
 #include <span>
@@ -47,6 +48,9 @@ void setRole(QWidget* widget, const char* role);
 
 /// A field for a number: right-aligned, as wide as `characters` digits.
 [[nodiscard]] QLineEdit* numberField(int characters = 10);
+
+/// The size of such a field.
+[[nodiscard]] QSize numberFieldSize(int characters = 10);
 
 /// The "?" button of an index on a pane, bound and named for what it explains.
 [[nodiscard]] QPushButton* helpButton(Binder& binder, const HelpButtons& buttons, int index,

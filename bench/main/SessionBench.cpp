@@ -32,7 +32,7 @@ void keyPress(benchmark::State& state, const char* name, const std::string& text
   auto& box = running.control<TextBox>(name);
   const std::string other = text + "5";
   bool odd = false;
-  for (auto _ : state) {
+  while (state.KeepRunning()) {
     odd = !odd;
     box.type(odd ? other : text);
   }
@@ -52,7 +52,7 @@ BENCHMARK_CAPTURE(keyPress, txtGPM, "txtGPM", "65")->Unit(benchmark::kMicrosecon
 void start(benchmark::State& state) {
   RunningProgram running;
   addExample(running);
-  for (auto _ : state)
+  while (state.KeepRunning())
     running.start();
   if (running.program->main().pneMain.txtArea.text() != "125") state.SkipWithError("the farm was not read");
 }
@@ -65,7 +65,7 @@ void generateOutput(benchmark::State& state) {
   running.start();
   for (const char* row : {"cr(1).chkCrop", "cr(2).chkCrop", "cr(5).chkCrop"})
     running.control<verdalis::CheckBox>(row).click();
-  for (auto _ : state) {
+  while (state.KeepRunning()) {
     running.press("Command1");
     running.press("theResults.Command1");
   }

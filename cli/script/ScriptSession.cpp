@@ -24,7 +24,7 @@ class ScriptError : public std::runtime_error {
 /// Takes the first word, and the one blank behind it, off the front of a text.
 std::string takeWord(std::string_view& rest) {
   const std::size_t blank = rest.find(' ');
-  const std::string word(rest.substr(0, blank));
+  std::string word(rest.substr(0, blank));
   rest.remove_prefix(blank == std::string_view::npos ? rest.size() : blank + 1);
   return word;
 }

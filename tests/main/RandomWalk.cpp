@@ -6,8 +6,6 @@
 namespace verdalis::testing {
 namespace {
 
-namespace fs = std::filesystem;
-
 constexpr int pumpsBeforeCancel = 15;  // a run that lasts longer is cancelled, as a person would
 constexpr std::size_t longestStory = 60;
 
@@ -105,7 +103,7 @@ void collect(const Frame& frame, std::vector<Control*>& found) {
 
 RandomWalk::RandomWalk() {
   running_.folder.write("values.txt", "50,60,70");
-  running_.folder.write("noise.txt", std::string("\0\xFF,,\n9\r\x01", 9));
+  running_.folder.write("noise.txt", std::string("\0\xFF,,\n9\r\x01", 8));
   running_.fakes.eventPump.onPump = [this] { duringARun(); };
   running_.start();
 }

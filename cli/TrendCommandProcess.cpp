@@ -1,0 +1,150 @@
+#include "cli/TrendCommandProcess.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "cli/textOptions.h"
+#include "text/RunTimeError.h"
+#include "text/numbers.h"
+#include "text/quote.h"
+#include "trend/TrendValues.h"
+#include "trend/TrendVariables.h"
+
+namespace verdalis {
+namespace {
+
+std::string variableNames(std::string_view separator) {
+  std::string names;
+  for (std::size_t i = 0; i < trendVariableCount; ++i) {
+    if (i > 0) names += separator;
+    names += std::to_string(i) + " is \"" + trendVariables().at(i).label + "\"";
+  }
+  return names;
+}
+
+std::int16_t variableIndex(const TrendProcessRequest& request, const std::string& option) {
+  if (!request.variable) throw Refusal("A trend needs a variable (" + option + " N): " + variableNames(", "));
+  const std::string& text = *request.variable;
+  if (text.size() == 1 && text[0] >= '0' && text[0] < '0' + static_cast<int>(trendVariableCount))
+    return static_cast<std::int16_t>(text[0] - '0');
+  throw Refusal(option + " " + quoteForMessage(text) + ": There is no such variable: " + variableNames(", ") +
+                ".");
+}
+
+/// The first row of exactly that name, else of the row that the name means ignoring case.
+std::optional<std::string> cropName(const std::string& name, TypedFarm& typed, const TrendInputs& inputs) {
+  if (GetCropIndex(inputs, name).found) return name;
+  const std::optional<std::size_t> row = typed.findRow(name);
+  if (!row) return std::nullopt;
+  const std::shared_ptr<Crop> crop = inputs.rowCrop(*row);
+  return crop ? std::optional(crop->cropType) : std::nullopt;
+}
+
+std::string cropOf(const TrendProcessRequest& request, const std::string& option, TypedFarm& typed,
+                   const TrendInputs& inputs) {
+  if (!request.crop) throw Refusal("This variable belongs to a crop (" + option + " NAME).");
+  if (std::optional<std::string> found = cropName(*request.crop, typed, inputs)) return *found;
+  std::string text = "There is no crop " + quoteForMessage(*request.crop) + ".";
+  const std::vector<std::string> crops = typed.cropNames();
+  for (std::size_t i = 0; i < crops.size(); ++i)
+    text += (i == 0 ? " The crops are " : ", ") + quoteForMessage(crops[i]);
+  throw Refusal(option + ": " + text + (crops.empty() ? "" : "."));
+}
+
+/// The pane itself reads a leading number; on the command line a text that is no plain number is a slip.
+void requireNumber(const std::string& option, const std::string& text) {
+  if (isNumeric(text) && text.find(',') == std::string::npos) return;
+  throw Refusal(option + " " + quoteForMessage(text) + ": Please enter a valid number");
+}
+
+struct ValuesOption {
+  std::string option;
+  TrendReading reading;
+  TrendValuesKind kind;
+};
+
+ValuesOption readRangeOptions(const TrendProcessRequest& request, const std::string& suffix) {
+  if (!request.from || !request.to || !request.steps) {
+    throw Refusal("A range of values needs all of --from" + suffix + " A, --to" + suffix + " B and --steps" +
+                  suffix + " N.");
+  }
+  requireNumber("--from" + suffix, *request.from);
+  requireNumber("--to" + suffix, *request.to);
+  requireNumber("--steps" + suffix, *request.steps);
+  return {"--from" + suffix, readRange({*request.from, *request.to, *request.steps}),
+          TrendValuesKind::automatic};
+}
+
+ValuesOption readValues(const TrendProcessRequest& request, const std::string& suffix) {
+  const bool range = request.from || request.to || request.steps;
+  if (int{range} + int{request.values.has_value()} + int{request.valuesFile.has_value()} != 1) {
+    throw Refusal("A trend needs its values in one way: --values" + suffix + " LIST, or --from" + suffix +
+                  " A --to" + suffix + " B --steps" + suffix + " N, or --values-file" + suffix + " FILE.");
+  }
+  if (range) return readRangeOptions(request, suffix);
+  if (request.values) return {"--values" + suffix, readValuesList(*request.values), TrendValuesKind::manual};
+  return {"--values-file" + suffix, readValuesFile(*request.valuesFile), TrendValuesKind::import};
+}
+
+/// Reads the values; those that no run could use, such as 1e999, are refused before the first run.
+ValuesOption checkValues(const TrendProcessRequest& request, const std::string& suffix, bool rain) {
+  try {
+    ValuesOption values = readValues(request, suffix);
+    if (!values.reading.refusal && rain) values.reading.refusal = refuseRain(values.reading.values);
+    for (const TrendValue& value : values.reading.values)
+      static_cast<void>(numberOf(value));
+    return values;
+  } catch (const RunTimeError& error) {
+    throw Refusal("The values of the trend" + (suffix.empty() ? "" : " process " + suffix) + ": " +
+                  error.what());
+  }
+}
+
+void keepTexts(const TrendProcessRequest& request, BatchProcess& process) {
+  if (request.from) {
+    process.variables_min = generalText(Val(*request.from));
+    process.variables_max = generalText(Val(*request.to));
+    process.variables_steps = generalText(Val(*request.steps));
+  }
+  if (request.values) process.variables_manual = *request.values;
+  if (request.valuesFile) process.inputfilename = *request.valuesFile;
+}
+
+}  // namespace
+
+void addTrendProcessOptions(CLI::App& command, const std::string& suffix, TrendProcessRequest& request) {
+  const bool first = suffix.empty();
+  const std::string of = first ? "" : " of the second process";
+  addTextOption(
+      command, "--variable" + suffix, "N", request.variable,
+      first ? "The variable that is varied:\n" + variableNames("\n") : "A fixed trend's second variable");
+  addTextOption(command, "--trend-crop" + suffix, "NAME", request.crop,
+                "The crop" + of + ", for the variables 0 to 2");
+  addTextOption(command, "--values" + suffix, "LIST", request.values,
+                "The values" + of + ", with commas between them");
+  addTextOption(command, "--from" + suffix, "A", request.from, "Or values" + of + " evenly from A ...");
+  addTextOption(command, "--to" + suffix, "B", request.to, "... to B ...");
+  addTextOption(command, "--steps" + suffix, "N", request.steps, "... N of them");
+  addTextOption(command, "--values-file" + suffix, "FILE", request.valuesFile,
+                "Or the values" + of + " from a file, with commas between them");
+}
+
+TrendProcess makeTrendProcess(const TrendProcessRequest& request, const std::string& suffix, TypedFarm& typed,
+                              const TrendInputs& inputs, const std::string& fallbackCrop) {
+  const std::int16_t variable = variableIndex(request, "--variable" + suffix);
+  TrendProcess result;
+  const bool ofCrop = trendVariable(variable).ofCrop;
+  ValuesOption values = checkValues(request, suffix, variable == rainVariable);
+  if (values.reading.refusal) throw Refusal(values.option + ": " + values.reading.refusal->text);
+  if (ofCrop) result.crop = cropOf(request, "--trend-crop" + suffix, typed, inputs);
+
+  BatchProcess& process = result.process;
+  process.VariableIndex = variable;
+  process.cropIndex = static_cast<double>(GetCropIndex(inputs, ofCrop ? result.crop : fallbackCrop).row);
+  process.variables_type = static_cast<std::int16_t>(values.kind);
+  keepTexts(request, process);
+  process.SetValueArray(std::move(values.reading.values));
+  return result;
+}
+
+}  // namespace verdalis

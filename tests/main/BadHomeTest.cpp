@@ -1,0 +1,195 @@
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <cstdint>
+#include <random>
+#include <string>
+
+#include "data/readFile.h"
+#include "tests/data/OrdinaryUser.h"
+#include "tests/main/RunningProgram.h"
+
+// Home folders that no program has left behind: whatever lies there, the start comes to an end and the main
+// pane can be used.
+
+namespace verdalis::testing {
+namespace {
+
+namespace fs = std::filesystem;
+
+class BadHome : public ::testing::Test {
+ protected:
+  RunningProgram running;
+
+  void saveInputs(const std::string& bytes) { running.folder.write("inputs.txt", bytes); }
+
+  /// Starts, and types a farm.
+  void expectUsable() {
+    EXPECT_TRUE(running.start().isOpen());
+    EXPECT_EQ(running.program->main().panes.top().name(), "pneMain");
+    auto& area = running.control<TextBox>("txtArea");
+    ASSERT_TRUE(area.isReachable());
+    area.type("100");
+    running.control<TextBox>("txtMax").type("10");
+    EXPECT_EQ(running.program->main().pneMain.lblVolume.caption(), "1,000");
+  }
+
+  void expectToldAndUsable(const std::string& part) {
+    expectUsable();
+    ASSERT_EQ(running.fakes.messageBox.log.size(), 1U);
+    EXPECT_EQ(running.fakes.messageBox.log[0].title, "Verdalis");
+    EXPECT_EQ(running.fakes.messageBox.log[0].icon, MessageIcon::critical);
+    EXPECT_NE(running.fakes.messageBox.log[0].text.find(part), std::string::npos)
+        << running.fakes.messageBox.log[0].text;
+  }
+
+  fs::path crops() const { return running.home() / "crops"; }
+};
+
+std::string noise(std::size_t size) {
+  std::mt19937_64 random(7);
+  std::string bytes(size, '\0');
+  for (std::size_t i = 0; i + 8 <= size; i += 8) {
+    const std::uint64_t word = random();
+    for (std::size_t k = 0; k < 8; ++k)
+      bytes[i + k] = static_cast<char>(word >> (8 * k));
+  }
+  return bytes;
+}
+
+/// Lines of a few characters, digits for the most part.
+std::string shortLines(std::size_t size) {
+  static const std::string alphabet = "0123456789.-eE\r\n\n, x";
+  std::string bytes = noise(size);
+  for (char& byte : bytes)
+    byte = alphabet[static_cast<unsigned char>(byte) % alphabet.size()];
+  return bytes;
+}
+
+constexpr std::size_t huge = 100'000'000;  // more than a file may have
+constexpr std::size_t large = 60'000'000;  // less
+
+static_assert(large < maxFileSize && maxFileSize < huge);
+
+TEST_F(BadHome, SavedInputsOf100MegabytesAreNotRead) {
+  saveInputs(noise(huge));
+  expectUsable();
+  EXPECT_FALSE(running.program->main().inputsLoaded());
+  EXPECT_EQ(running.program->main().pneMain.txtEff.text(), "85");
+  EXPECT_TRUE(running.fakes.messageBox.log.empty());
+}
+
+TEST_F(BadHome, NorAreThoseWithLines) {
+  saveInputs(shortLines(huge));
+  expectUsable();
+  EXPECT_FALSE(running.program->main().inputsLoaded());
+  EXPECT_EQ(running.program->main().pneMain.txtEff.text(), "85");
+}
+
+TEST_F(BadHome, LargeNoiseIsRead) {
+  saveInputs(noise(large));
+  expectUsable();
+}
+
+TEST_F(BadHome, LargeNoiseOfLinesIsRead) {
+  saveInputs(shortLines(large));
+  expectUsable();
+}
+
+TEST_F(BadHome, OneLineOfDigitsIsRead) {
+  saveInputs(std::string(large, '7'));
+  expectUsable();
+  EXPECT_FALSE(running.program->main().inputsLoaded());
+}
+
+TEST_F(BadHome, AFolderInPlaceOfTheSavedInputsStopsNoRun) {
+  fs::create_directory(running.home() / "inputs.txt");
+  running.start();
+  running.typeFarm();
+  running.press("Command1");
+  EXPECT_EQ(running.program->main().panes.top().name(), "pneResults");
+  EXPECT_TRUE(running.fakes.messageBox.log.empty());
+}
+
+TEST_F(BadHome, PipesKeepNobodyWaiting) {
+  ASSERT_EQ(::mkfifo((running.home() / "inputs.txt").c_str(), 0600), 0);
+  ASSERT_EQ(::mkfifo((crops() / "a.txt").c_str(), 0600), 0);
+  fs::create_directories(crops() / "soils");
+  ASSERT_EQ(::mkfifo((crops() / "soils" / "corn.txt").c_str(), 0600), 0);
+  expectUsable();
+  running.typeFarm();
+  running.press("Command1");
+  EXPECT_EQ(running.program->main().panes.top().name(), "pneResults");
+}
+
+TEST_F(BadHome, AFileInPlaceOfTheCropsIsTold) {
+  fs::remove_all(crops());
+  running.folder.write("crops", "CROP=Corn");
+  expectToldAndUsable(crops().string());
+}
+
+TEST_F(BadHome, ALinkToItselfInPlaceOfTheCropsIsTold) {
+  fs::remove_all(crops());
+  fs::create_symlink(crops(), crops());
+  expectToldAndUsable(crops().string());
+}
+
+TEST_F(BadHome, AnEmptyFolderOfCropsIsNoFault) {
+  fs::remove_all(crops());
+  fs::create_directory(crops());
+  expectUsable();
+  EXPECT_TRUE(running.fakes.messageBox.log.empty());
+}
+
+TEST_F(BadHome, FilesThatAreNoCropsArePassedOver) {
+  running.folder.write("crops/0.txt", noise(100'000));
+  running.folder.write("crops/1.txt", "CROP=Half a crop\r\n\r\nUNITS=");
+  running.folder.write("crops/custom/2.txt", "");
+  running.folder.write("crops/custom/3.txt", std::string(1'000'000, '='));
+  running.folder.write("crops/soils/corn.txt", noise(100'000));
+  expectUsable();
+  EXPECT_TRUE(running.fakes.messageBox.log.empty());
+  EXPECT_TRUE(running.program->main().pneMain.findCropByName("corn"));
+}
+
+TEST_F(BadHome, ANameOfManyBytesStandsInItsRow) {
+  const std::string name(50'000, 'n');
+  running.folder.write("crops/custom/long.txt",
+                       "CROP=" + name + "\r\n\r\nUNITS=" + name + "," + name +
+                           "\r\n\r\nANNUAL_RAIN=11,12\r\n\r\nEFF_IRRIG=0,1\r\n\r\nYIELD_VALUES=1,2,3,4\r\n");
+  expectUsable();
+  EXPECT_TRUE(running.program->main().pneMain.findCropByName(name));
+}
+
+TEST_F(BadHome, CropsThatMayNotBeReadAreTold) {
+  openToAll(running.folder);
+  fs::permissions(crops(), fs::perms::none);
+  const auto told = asOrdinaryUser([&] {
+    frmMain& main = running.start();
+    return main.isOpen() && running.fakes.messageBox.log.size() == 1 &&
+           running.fakes.messageBox.log[0].text.find("Permission denied") != std::string::npos;
+  });
+  if (!told) GTEST_SKIP() << "there is no ordinary user to be";
+  EXPECT_TRUE(*told);
+}
+
+TEST_F(BadHome, SavedInputsThatMayNotBeReadOrWrittenStopNothing) {
+  saveInputs("0\r\n77\r\n");
+  openToAll(running.folder);
+  fs::permissions(running.home() / "inputs.txt", fs::perms::none);
+  fs::permissions(running.home(), fs::perms::owner_read | fs::perms::owner_exec | fs::perms::others_read |
+                                      fs::perms::others_exec);
+  const auto ran = asOrdinaryUser([&] {
+    frmMain& main = running.start();
+    if (!main.pneMain.txtArea.text().empty()) return false;
+    running.typeFarm();
+    running.press("Command1");
+    return main.panes.top().name() == "pneResults" && running.fakes.messageBox.log.empty();
+  });
+  fs::permissions(running.home(), fs::perms::all);
+  if (!ran) GTEST_SKIP() << "there is no ordinary user to be";
+  EXPECT_TRUE(*ran);
+}
+
+}  // namespace
+}  // namespace verdalis::testing
