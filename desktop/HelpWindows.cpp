@@ -67,6 +67,7 @@ QWidget* optionsWindow(frmOptions& window, Binder& binder, QWidget* parent) {
   setRole(apply, "main");
   buttons->addWidget(binder.bind(window.cmdApply, apply));
   made.body->addLayout(buttons);
+  fitHeight(made.widget, 560);
   binder.bindWindow(window, made.widget);
   return made.widget;
 }
@@ -93,6 +94,7 @@ QWidget* aboutWindow(frmAbout& window, Binder& binder, QWidget* parent) {
   line->addStretch();
   line->addWidget(close);
   made.body->addLayout(line);
+  fitHeight(made.widget, 460);
   return made.widget;
 }
 

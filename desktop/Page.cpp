@@ -61,6 +61,12 @@ Page page(int width) {
   return {area, body};
 }
 
+void fitHeight(QWidget* window, int width) {
+  window->ensurePolished();
+  const int needed = window->layout()->totalHeightForWidth(width);
+  if (needed > 0) window->setMinimumHeight(needed);
+}
+
 QSize numberFieldSize(int characters) {
   const QLineEdit field;
   return {field.fontMetrics().horizontalAdvance(QLatin1Char('0')) * characters + 24,

@@ -49,6 +49,10 @@ void setRole(QWidget* widget, const char* role);
 /// A field for a number: right-aligned, as wide as `characters` digits.
 [[nodiscard]] QLineEdit* numberField(int characters = 10);
 
+/// Holds a window of wrapped texts at the height that they need at its width, whatever the size of the
+/// screen.
+void fitHeight(QWidget* window, int width);
+
 /// The size of such a field.
 [[nodiscard]] QSize numberFieldSize(int characters = 10);
 

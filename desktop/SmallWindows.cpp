@@ -64,6 +64,7 @@ QWidget* welcomeWindow(frmWelcome& window, Binder& binder) {
   layout->addWidget(wrapped(binder, window.lblDisclaimer, "muted"));
   layout->addStretch();
   start->setFocus();
+  fitHeight(widget, 560);
   binder.bindWindow(window, widget);
   return widget;
 }
