@@ -1,10 +1,10 @@
 #include "data/FileReader.h"
 
-#include <algorithm>
 #include <memory>
 #include <system_error>
 #include <utility>
 
+#include "data/listFiles.h"
 #include "data/readFile.h"
 #include "text/RunTimeError.h"
 #include "text/encoding.h"
@@ -18,28 +18,6 @@ namespace fs = std::filesystem;
 /// Cells of all tables that a soils file may ask for: a hundred of the largest ones. Without a bound a file
 /// of many short records that each ask for a large table could keep the start waiting for hours.
 constexpr long maxSoilCells = 100L * maxTableSide * maxTableSide;
-
-/// The files of a folder by name, ignoring case; folders are passed over.
-std::vector<fs::path> listFiles(const fs::path& folder) {
-  std::error_code error;
-  fs::directory_iterator entry(folder, error);
-  std::vector<std::pair<std::string, fs::path>> files;
-  for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
-    std::error_code ignored;
-    if (!entry->is_directory(ignored))
-      files.emplace_back(lowerCase(entry->path().filename().string()), entry->path());
-  }
-  if (error) {
-    throw RunTimeError(ErrorNumber::fileNotFound, "The folder of crop files " + folder.string() +
-                                                      " cannot be read: " + error.message() + ".");
-  }
-  std::sort(files.begin(), files.end());
-  std::vector<fs::path> paths;
-  paths.reserve(files.size());
-  for (auto& [name, path] : files)
-    paths.push_back(std::move(path));
-  return paths;
-}
 
 /// The entries of a comma separated list one after the other; an empty text has none.
 class ListReader {
@@ -143,7 +121,7 @@ bool FileReader::Initialize() {
   fileCollection.clear();
   cropCollection = {};
   fileDirectory = home_ / "crops";
-  fileCollection = listFiles(fileDirectory);
+  fileCollection = filesByName(fileDirectory);
   const std::size_t stockFiles = fileCollection.size();
   fileDirectory /= "custom";
   std::error_code error;
@@ -151,7 +129,7 @@ bool FileReader::Initialize() {
   // In a home folder that cannot be written there are no custom crops, and the stock crops are there all the
   // same.
   if (fs::is_directory(fileDirectory, error)) {
-    for (fs::path& path : listFiles(fileDirectory))
+    for (fs::path& path : filesByName(fileDirectory))
       fileCollection.push_back(std::move(path));
   }
 

@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include "desktop/FieldForm.h"
+#include "desktop/ResultViews.h"
 #include "screens/InputCostsTable.h"
 
 namespace verdalis::desktop {
@@ -30,12 +31,7 @@ PageWithButtons pageWithButtons() {
   layout->setSpacing(0);
   const Page scrolled = page(pageWidth);
   layout->addWidget(scrolled.area, 1);
-  auto* bar = new QFrame;
-  bar->setObjectName(QStringLiteral("footer"));
-  auto* buttons = new QHBoxLayout(bar);
-  buttons->setContentsMargins(24, 10, 24, 12);
-  buttons->setSpacing(10);
-  layout->addWidget(bar);
+  QHBoxLayout* buttons = footerOf(layout);
   return {widget, scrolled.body, buttons};
 }
 
