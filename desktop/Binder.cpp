@@ -20,6 +20,8 @@
 #include <QTimer>
 #include <algorithm>
 
+#include "desktop/Keys.h"
+
 namespace verdalis::desktop {
 namespace {
 
@@ -31,14 +33,6 @@ void markFailed(QLineEdit* field, bool failed) {
   field->setProperty("failed", failed);
   field->style()->unpolish(field);
   field->style()->polish(field);
-}
-
-/// Shows a caption. One that is shown already keeps the mnemonic that the layout has given it.
-void showCaption(QAbstractButton* widget, const std::string& caption) {
-  const QString wanted = qText(shownCaption(caption));
-  if (widget->text().remove(QLatin1Char('&')) != QString(wanted).remove(QLatin1Char('&'))) {
-    widget->setText(widgetCaption(caption));
-  }
 }
 
 /// Brings the list and the text of a combo box in line with its control.
@@ -67,7 +61,7 @@ void show(const OptionButton& control, QRadioButton* widget) {
   if (group != nullptr) group->setExclusive(false);
   widget->setChecked(control.checked());
   if (group != nullptr) group->setExclusive(true);
-  showCaption(widget, control.caption());
+  showCaption(widget, qText(shownCaption(control.caption())));
 }
 
 bool movesWithTheClick(const QObject* object) {
@@ -183,7 +177,7 @@ QCheckBox* Binder::bind(CheckBox& control, QCheckBox* widget) {
   watch(control, [&control, widget] {
     const QSignalBlocker quiet(widget);
     showState(control, widget);
-    showCaption(widget, control.caption());
+    showCaption(widget, qText(shownCaption(control.caption())));
     widget->setAccessibleName(qText(shownCaption(control.caption())));
     widget->setChecked(control.checked());
   });
@@ -214,7 +208,7 @@ QPushButton* Binder::bind(Button& control, QPushButton* widget, const QString& l
   watch(control, [&control, widget] {
     showState(control, widget);
     if (widget->property("ownCaption").toBool()) return;  // the layout shows it in its own way
-    showCaption(widget, control.caption());
+    showCaption(widget, qText(shownCaption(control.caption())));
   });
   connect(widget, &QPushButton::clicked, this, [&control] { control.click(); });
   return widget;

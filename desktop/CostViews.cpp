@@ -76,11 +76,11 @@ QWidget* inputCostsView(InputCostsPane& pane, Binder& binder) {
     return nullptr;
   };
   const auto groups = InputCostsPane::groups();
-  const auto group = [&](InputCostsGroup which) {
-    return form.group(groups[static_cast<std::size_t>(which)], which, rows);
+  const auto group = [&](InputCostsGroup which, CardWidth width = CardWidth::narrow) {
+    return form.group(groups[static_cast<std::size_t>(which)], which, rows, width);
   };
 
-  view.body->addWidget(group(generalGroup).frame);
+  view.body->addWidget(group(generalGroup, CardWidth::wide).frame);
   auto* columns = new QHBoxLayout;
   columns->setSpacing(12);
   auto* left = new QVBoxLayout;
@@ -113,7 +113,9 @@ QWidget* inputCostsView(InputCostsPane& pane, Binder& binder) {
   view.body->addLayout(columns);
   view.body->addStretch();
 
-  view.buttons->addWidget(binder.bind(pane.cmdDefault, new QPushButton));
+  auto* defaults = binder.bind(pane.cmdDefault, new QPushButton);
+  setHelp(defaults, pane.cmdHelp, 14);
+  view.buttons->addWidget(defaults);
   view.buttons->addWidget(helpButton(binder, pane.cmdHelp, 14, plain(pane.cmdDefault.caption())));
   view.buttons->addWidget(binder.bind(pane.Command13, new QPushButton));
   view.buttons->addStretch();

@@ -67,7 +67,7 @@ void YieldTableWidget::shade() {
       if (cell == nullptr) continue;
       cell->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
       if (row == 0 || column == 0) {
-        cell->setBackground(palette().color(QPalette::AlternateBase));
+        cell->setBackground(palette().color(QPalette::Window));
         continue;
       }
       const auto value = numberOf(grid_.cell(row, column));
@@ -79,8 +79,9 @@ void YieldTableWidget::shade() {
       // From straw to green; in the dark scheme from earth to green, so that the text stays readable.
       cell->setBackground(dark ? QColor::fromHsvF(static_cast<float>(0.10 + 0.24 * share), 0.55F,
                                                   static_cast<float>(0.20 + 0.20 * share))
-                               : QColor::fromHsvF(static_cast<float>(0.13 + 0.20 * share),
-                                                  static_cast<float>(0.12 + 0.33 * share), 0.97F));
+                               : QColor::fromHsvF(static_cast<float>(0.12 + 0.21 * share),
+                                                  static_cast<float>(0.10 + 0.26 * share),
+                                                  static_cast<float>(0.98 - 0.12 * share)));
     }
   }
 }
@@ -106,7 +107,8 @@ void YieldTableWidget::keyPressEvent(QKeyEvent* event) {
   }
   const QString typed = event->text();
   const bool command = (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0;
-  if (!command && !typed.isEmpty() && typed[0].isPrint()) {
+  // A character may take two units of the text.
+  if (!command && !typed.isEmpty() && (typed[0].isPrint() || typed[0].isSurrogate())) {
     grid_.typeCharacter(programText(typed));
     event->accept();
     return;
@@ -116,6 +118,7 @@ void YieldTableWidget::keyPressEvent(QKeyEvent* event) {
 
 QWidget* customCropView(CustomCropPane& pane, Binder& binder) {
   auto* view = new QWidget;
+  setHelp(view, pane.cmdHelp, 27);
   auto* layout = new QVBoxLayout(view);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
@@ -135,9 +138,12 @@ QWidget* customCropView(CustomCropPane& pane, Binder& binder) {
   const auto label = [&](std::string_view control, QWidget* field, int row, int column) {
     auto* text = fixedLabel(plain(fieldOf(control).label));
     text->setBuddy(field);
-    text->setToolTip(plain(fieldOf(control).note));
-    field->setToolTip(plain(fieldOf(control).note));
     grid->addWidget(text, row, column);
+  };
+  const auto note = [&](std::string_view control, int row) {
+    auto* text = fixedLabel(plain(fieldOf(control).note), "muted");
+    text->setWordWrap(true);
+    grid->addWidget(text, row, 6);
   };
   const auto list = [&](std::size_t index, int width) {
     ComboBox& control = pane.cboCustomGrid.at(index);
@@ -145,17 +151,20 @@ QWidget* customCropView(CustomCropPane& pane, Binder& binder) {
     widget->setMinimumWidth(width);
     return widget;
   };
-  auto* crops = list(0, 190);
+  auto* crops = list(0, 220);
   label("cboCustomGrid(0)", crops, 0, 0);
   grid->addWidget(crops, 0, 1);
   grid->addWidget(binder.bind(pane.cmdCustomGrid6, new QPushButton), 0, 2);
   auto* name = binder.bind(pane.txtCustom, new QLineEdit, plain(fieldOf("txtCustom(0)").label));
+  name->setPlaceholderText(plain(fieldOf("txtCustom(0)").note));
+  name->setToolTip(name->placeholderText());
   label("txtCustom(0)", name, 1, 0);
   grid->addWidget(name, 1, 1);
   auto* units = list(4, 140);
   label("cboCustomGrid(4)", units, 2, 0);
   grid->addWidget(units, 2, 1);
   auto* rain = new QHBoxLayout;
+  rain->setSpacing(8);
   auto* from = list(1, 70);
   auto* to = list(2, 70);
   rain->addWidget(from);
@@ -164,28 +173,33 @@ QWidget* customCropView(CustomCropPane& pane, Binder& binder) {
   rain->addStretch();
   label("cboCustomGrid(1)", from, 0, 4);
   grid->addLayout(rain, 0, 5);
+  note("cboCustomGrid(1)", 0);
   auto* water = new QHBoxLayout;
+  water->setSpacing(8);
   auto* most = list(3, 70);
   water->addWidget(most);
   water->addWidget(fixedLabel(plain(fieldOf("cboCustomGrid(3)").unit), "muted"));
   water->addSpacing(12);
   auto* size = binder.bind(pane.cmdCustomGrid0, new QPushButton);
-  size->setToolTip(plain(fieldOf("cmdCustomGrid(0)").note));
   water->addWidget(size);
   water->addStretch();
   label("cboCustomGrid(3)", most, 1, 4);
   grid->addLayout(water, 1, 5);
+  note("cboCustomGrid(3)", 1);
   auto* defaults = list(5, 190);
   label("cboCustomGrid(5)", defaults, 2, 4);
   grid->addWidget(defaults, 2, 5);
   grid->setColumnMinimumWidth(3, 24);
   grid->setColumnStretch(6, 1);
   form.body->addLayout(grid);
+  auto* notes = new QHBoxLayout;
+  notes->setSpacing(24);
   for (const std::string_view noted : {"cboCustomGrid(4)", "cmdCustomGrid(0)"}) {
-    auto* note = fixedLabel(plain(fieldOf(noted).note), "muted");
-    note->setWordWrap(true);
-    form.body->addWidget(note);
+    auto* text = fixedLabel(plain(fieldOf(noted).note), "muted");
+    text->setWordWrap(true);
+    notes->addWidget(text, 1);
   }
+  form.body->addLayout(notes);
   body->addWidget(form.frame);
 
   body->addWidget(fixedLabel(plain(fieldOf("dgCustom").label), "title"));
@@ -201,7 +215,7 @@ QWidget* customCropView(CustomCropPane& pane, Binder& binder) {
   auto* save = new QPushButton;
   setRole(save, "main");
   buttons->addWidget(binder.bind(pane.cmdCustomGrid2, save));
-  addShortcut(view, QKeySequence(Qt::Key_Escape), pane.cmdCustomGrid5);
+  addShortcut(binder, view, QKeySequence(Qt::Key_Escape), pane.cmdCustomGrid5);
   return view;
 }
 

@@ -45,8 +45,13 @@ QWidget* FieldForm::field(const FieldRow& row) {
       row.column.empty() ? text(row.label) : text(row.label) + QLatin1String(", ") + text(row.column);
   QWidget* widget = nullptr;
   if (auto* box = dynamic_cast<TextBox*>(control)) widget = binder_.bind(*box, numberField(9), label);
-  if (auto* combo = dynamic_cast<ComboBox*>(control)) widget = binder_.bind(*combo, new QComboBox, label);
-  if (widget != nullptr) widget->setProperty("helpIndex", row.helpIndex);
+  if (auto* combo = dynamic_cast<ComboBox*>(control)) {
+    auto* list = binder_.bind(*combo, new QComboBox, label);
+    list->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    list->setMinimumContentsLength(14);
+    widget = list;
+  }
+  if (widget != nullptr) setHelp(widget, help_, row.helpIndex);
   return widget;
 }
 
@@ -56,10 +61,12 @@ QWidget* FieldForm::unit(const FieldRow& row) {
   return label == nullptr ? nullptr : binder_.bind(*label, fixedLabel({}, "muted"));
 }
 
-Card FieldForm::group(const FieldGroup& group, int index, const std::vector<const FieldRow*>& rows) {
+Card FieldForm::group(const FieldGroup& group, int index, const std::vector<const FieldRow*>& rows,
+                      CardWidth width) {
   QWidget* help =
       group.helpIndex < 0 ? nullptr : helpButton(binder_, help_, group.helpIndex, text(group.heading));
   Card result = card(group.headingControl.empty() ? text(group.heading) : QString(), help);
+  setHelp(result.frame, help_, group.helpIndex);
   if (auto* heading =
           dynamic_cast<Label*>(group.headingControl.empty() ? nullptr : find(group.headingControl))) {
     auto* line = new QHBoxLayout;
@@ -70,9 +77,12 @@ Card FieldForm::group(const FieldGroup& group, int index, const std::vector<cons
   }
   auto* grid = new QGridLayout;
   grid->setHorizontalSpacing(8);
-  grid->setVerticalSpacing(7);
-  grid->setColumnStretch(0, 1);
+  grid->setVerticalSpacing(5);
   constexpr int lastColumn = 20;  // behind all fields
+  // Fields stand at the right edge of a narrow card, and near their labels in a wide one.
+  grid->setColumnStretch(width == CardWidth::wide ? lastColumn + 1 : 0, 1);
+  grid->setColumnMinimumWidth(0, width == CardWidth::wide ? 200 : 0);
+  if (!group.labelColumn.empty()) grid->addWidget(fixedLabel(text(group.labelColumn), "column"), 0, 0);
   const QHash<QString, int> heads = columnsOfHeads(index, rows);
   for (auto head = heads.cbegin(); head != heads.cend(); ++head) {
     grid->addWidget(fixedLabel(head.key(), "column"), 0, 1 + 2 * head.value(), 1, 2);

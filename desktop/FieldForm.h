@@ -9,6 +9,9 @@
 
 namespace verdalis::desktop {
 
+/// Whether a card takes the whole width of its pane.
+enum class CardWidth { narrow, wide };
+
 /// Lays the fields of a pane out from the rows that declare them: a card for each group, a line for each
 /// label, its fields in columns under their heads, units behind them, "?" buttons at the end.
 class FieldForm {
@@ -19,7 +22,8 @@ class FieldForm {
   std::function<QWidget*(const FieldRow&)> extra;
 
   /// A card with the fields of a group. `rows` are all rows of the pane.
-  [[nodiscard]] Card group(const FieldGroup& group, int index, const std::vector<const FieldRow*>& rows);
+  [[nodiscard]] Card group(const FieldGroup& group, int index, const std::vector<const FieldRow*>& rows,
+                           CardWidth width = CardWidth::narrow);
 
  private:
   [[nodiscard]] Control* find(std::string_view name) const;

@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "desktop/Keys.h"
 #include "desktop/LandSplitPicture.h"
 #include "desktop/ResultViews.h"
 #include "desktop/Theme.h"
@@ -67,6 +68,8 @@ QWidget* optionsWindow(frmOptions& window, Binder& binder, QWidget* parent) {
   setRole(apply, "main");
   buttons->addWidget(binder.bind(window.cmdApply, apply));
   made.body->addLayout(buttons);
+  addShortcut(binder, made.widget, QKeySequence(Qt::Key_F1), window.cmdHelp);
+  assignKeys(made.widget);
   fitHeight(made.widget, 560);
   binder.bindWindow(window, made.widget);
   return made.widget;

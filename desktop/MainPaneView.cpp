@@ -6,6 +6,7 @@
 #include <QEvent>
 #include <QFrame>
 #include <QGridLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -16,14 +17,15 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "desktop/Keys.h"
 #include "desktop/LandSplitPicture.h"
 #include "engine/MakingSplits.h"
 
 namespace verdalis::desktop {
 namespace {
 
-constexpr int pageWidth = 1120;
-constexpr int rowHeight = 36;
+constexpr int pageWidth = 1180;
+constexpr int rowHeight = 34;
 constexpr int visibleRows = cropFrameHolderHeight / cropRowHeight;
 
 /// Columns of the crop table.
@@ -36,14 +38,13 @@ enum Column {
   costsColumn,
   endColumn
 };
-constexpr std::array<int, endColumn> columnWidths{210, 110, 90, 120, 120, 150};
+constexpr std::array<int, endColumn> columnWidths{210, 116, 84, 116, 104, 196};
 
 void setColumns(QGridLayout* grid) {
   grid->setContentsMargins(8, 0, 8, 0);
   grid->setHorizontalSpacing(10);
-  for (int column = 0; column < endColumn; ++column) {
-    grid->setColumnMinimumWidth(column, columnWidths.at(static_cast<std::size_t>(column)));
-  }
+  grid->setVerticalSpacing(0);
+  holdColumns(grid, 1, columnWidths);
   grid->setColumnStretch(nameColumn, 1);
 }
 
@@ -87,7 +88,7 @@ QWidget* MainPaneView::farmCard() {
     const FieldRow& row = *rowOf(control);
     auto* label = fixedLabel(plain(row.label));
     label->setBuddy(field);
-    field->setProperty("helpIndex", row.helpIndex);
+    setHelp(field, pane_.cmdHelp, row.helpIndex);
     grid->addWidget(label, line, 0);
     grid->addWidget(field, line, 1);
     grid->addWidget(fixedLabel(unit, "muted"), line, 2);
@@ -124,6 +125,7 @@ QWidget* MainPaneView::landCard() {
   const FieldRow& row = *rowOf("Option1");
   const Card land =
       card(plain(row.label), helpButton(binder_, pane_.cmdHelp, row.helpIndex, plain(row.label)));
+  setHelp(land.frame, pane_.cmdHelp, row.helpIndex);
   auto* group = new QButtonGroup(this);
   auto* grid = new QGridLayout;
   grid->setVerticalSpacing(8);
@@ -133,7 +135,6 @@ QWidget* MainPaneView::landCard() {
     group->addButton(button);
     binder_.bind(*pane_.Option1[i], button);
     button->setIconSize(landSplitPictureSize);
-    button->setProperty("helpIndex", row.helpIndex);
     landSplits_.push_back(button);
     const int place = static_cast<int>(i);
     grid->addWidget(button, place % 3, place / 3);
@@ -151,11 +152,13 @@ QWidget* MainPaneView::cropCard() {
   binder_.bind(pane_.cropBox, crops.frame);
   auto* heads = new QGridLayout;
   setColumns(heads);
+  heads_ = heads;
   heads->addWidget(fixedLabel(tr("Crop"), "column"), 0, nameColumn);
   const std::array<int, 3> headColumns{priceColumn, costsColumn, yieldColumn};
   for (std::size_t i = 0; i < cropColumns.size(); ++i) {
     const CropColumn& column = cropColumns.at(i);
     auto* head = new QHBoxLayout;
+    head->setSpacing(6);
     head->addWidget(fixedLabel(plain(column.caption), "column"));
     head->addWidget(helpButton(binder_, pane_.cmdHelp, column.helpIndex, plain(column.caption)));
     head->addStretch();
@@ -165,7 +168,7 @@ QWidget* MainPaneView::cropCard() {
   crops.body->addLayout(heads);
 
   auto* line = new QHBoxLayout;
-  line->setSpacing(4);
+  line->setSpacing(0);
   rowsArea_ = new QScrollArea;
   rowsArea_->setFrameShape(QFrame::NoFrame);
   rowsArea_->setWidgetResizable(true);
@@ -193,7 +196,9 @@ QWidget* MainPaneView::plantCard() {
   auto* line = new QHBoxLayout;
   line->setSpacing(12);
   line->addWidget(fixedLabel(QString::fromLatin1(irrigationHeading), "heading"));
-  line->addWidget(binder_.bind(pane_.Command8, new QPushButton));
+  auto* open = binder_.bind(pane_.Command8, new QPushButton);
+  setHelp(open, pane_.cmdHelp, 1);
+  line->addWidget(open);
   line->addWidget(helpButton(binder_, pane_.cmdHelp, 1, QString::fromLatin1(irrigationHeading)));
   line->addStretch();
   line->addWidget(binder_.bind(pane_.Command7, new QPushButton));
@@ -221,8 +226,12 @@ QWidget* MainPaneView::footer() {
   keep->setBuddy(keepField);
   line->addWidget(keep);
   line->addWidget(keepField);
-  line->addWidget(binder_.bind(pane_.txtSize, numberField(5), tr("Size")));
-  line->addWidget(binder_.bind(pane_.cmdReturn, new QPushButton));
+  auto* size = binder_.bind(pane_.txtSize, numberField(5), tr("Size"));
+  auto* sorting = binder_.bind(pane_.cmdReturn, new QPushButton);
+  for (QWidget* inert : {static_cast<QWidget*>(size), static_cast<QWidget*>(sorting)}) {
+    inert->setToolTip(tr("Takes no part in the evaluation"));
+    line->addWidget(inert);
+  }
   line->addStretch();
   auto* number = fixedLabel({}, "muted");
   binder_.bind(pane_.lblNumber, number);
@@ -233,6 +242,7 @@ QWidget* MainPaneView::footer() {
   auto* runKey = new QShortcut(QKeySequence(Qt::Key_F5), this);
   connect(runKey, &QShortcut::activated, this, [this] { pane_.Command1.click(); });
   run->setToolTip(tr("Evaluate all combinations (F5)"));
+  run->setAccessibleDescription(runKey->key().toString());
   line->addWidget(run);
   return bar;
 }
@@ -246,30 +256,36 @@ void MainPaneView::rebuildRows() {
   binder_.bind(pane_.cropFrame, rows_);
   for (const auto& record : pane_.cr) {
     auto* line = new QWidget;
-    line->setFixedHeight(rowHeight);
+    line->setFixedHeight(scaled(rowHeight));
     lines->addWidget(line);
     binder_.bind(*record, line);
     auto* grid = new QGridLayout(line);
     setColumns(grid);
     auto* tint = new QFrame;
     setRole(tint, "tint");
-    grid->addWidget(binder_.bind(record->background, tint), 0, 0, 1, endColumn + 1);
+    grid->addWidget(binder_.bind(record->background, tint), 0, 0, 1, endColumn);
     const QString crop = plain(record->GetCrop());
-    grid->addWidget(binder_.bind(record->chkCrop, new QCheckBox), 0, nameColumn);
-    grid->addWidget(binder_.bind(record->txtPrice, numberField(), tr("Price of %1").arg(crop)), 0,
-                    priceColumn);
-    grid->addWidget(binder_.bind(record->lblPriceUnits, fixedLabel({}, "muted")), 0, priceUnitColumn);
-    grid->addWidget(binder_.bind(record->txtMaxYield, numberField(), tr("Maximum yield of %1").arg(crop)), 0,
-                    yieldColumn);
-    grid->addWidget(binder_.bind(record->lblYieldUnits, fixedLabel({}, "muted")), 0, yieldUnitColumn);
-    grid->addWidget(
-        binder_.bind(record->cmdInputCosts, new QPushButton, tr("Costs and returns of %1").arg(crop)), 0,
-        costsColumn);
+    const auto place = [&](QWidget* field, Column column, int help = -1) {
+      grid->addWidget(field, 0, column);
+      field->installEventFilter(this);
+      setHelp(field, pane_.cmdHelp, help);
+    };
+    place(binder_.bind(record->chkCrop, new QCheckBox), nameColumn);
+    place(binder_.bind(record->txtPrice, numberField(), tr("Price of %1").arg(crop)), priceColumn,
+          cropColumns[0].helpIndex);
+    place(binder_.bind(record->lblPriceUnits, fixedLabel({}, "muted")), priceUnitColumn);
+    place(binder_.bind(record->txtMaxYield, numberField(), tr("Maximum yield of %1").arg(crop)), yieldColumn,
+          cropColumns[2].helpIndex);
+    place(binder_.bind(record->lblYieldUnits, fixedLabel({}, "muted")), yieldUnitColumn);
+    place(binder_.bind(record->cmdInputCosts, new QPushButton, tr("Costs and returns of %1").arg(crop)),
+          costsColumn, cropColumns[1].helpIndex);
   }
   lines->addStretch();
   rowsArea_->setWidget(rows_);
+  rows_->setAutoFillBackground(false);  // the card is the ground
+  rowsArea_->viewport()->setAutoFillBackground(false);
   const int shown = std::min(visibleRows, static_cast<int>(pane_.cr.size()));
-  rowsArea_->setFixedHeight(shown * rowHeight);
+  rowsArea_->setFixedHeight(shown * scaled(rowHeight));
   placeScroll();
   orderRows();
 }
@@ -287,10 +303,48 @@ void MainPaneView::orderRows() {
   }
 }
 
+bool MainPaneView::eventFilter(QObject* object, QEvent* event) {
+  if (event->type() == QEvent::KeyPress) {
+    const auto* key = static_cast<QKeyEvent*>(event);
+    if (key->modifiers() == Qt::NoModifier && goThroughRows(object, key->key())) return true;
+  }
+  return QWidget::eventFilter(object, event);
+}
+
+bool MainPaneView::goThroughRows(const QObject* from, int key) {
+  const int pageStep = visibleRows - 1;
+  const int step = key == Qt::Key_Up         ? -1
+                   : key == Qt::Key_Down     ? 1
+                   : key == Qt::Key_PageUp   ? -pageStep
+                   : key == Qt::Key_PageDown ? pageStep
+                                             : 0;
+  if (step == 0) return false;
+  const auto columns = [](CropRecord& row) {
+    return std::array<Control*, 4>{&row.chkCrop, &row.txtPrice, &row.txtMaxYield, &row.cmdInputCosts};
+  };
+  const int last = static_cast<int>(pane_.cr.size()) - 1;
+  for (int i = 0; i <= last; ++i) {
+    const auto places = columns(*pane_.cr[static_cast<std::size_t>(i)]);
+    for (std::size_t column = 0; column < places.size(); ++column) {
+      if (binder_.widget(*places.at(column)) != from) continue;
+      CropRecord& row = *pane_.cr[static_cast<std::size_t>(std::clamp(i + step, 0, last))];
+      Control* target = columns(row).at(column);
+      // An unticked row takes the focus on its tick alone.
+      QWidget* widget = binder_.widget(target->isReachable() ? *target : row.chkCrop);
+      widget->setFocus(Qt::TabFocusReason);
+      rowsArea_->ensureWidgetVisible(widget, 0, 0);
+      return true;
+    }
+  }
+  return false;
+}
+
 void MainPaneView::placeScroll() {
   const ScrollBar& bar = pane_.cropScroll;
   // Out of sight while all rows fit, without being hidden.
-  rowsBar_->setFixedWidth(bar.maximum() > 0 ? rowsBar_->sizeHint().width() : 0);
+  const int width = bar.maximum() > 0 ? rowsBar_->sizeHint().width() : 0;
+  rowsBar_->setFixedWidth(width);
+  heads_->setContentsMargins(8, 0, 8 + width, 0);
   QScrollBar* inner = rowsArea_->verticalScrollBar();
   if (bar.maximum() > 0)
     inner->setValue(static_cast<int>(static_cast<qint64>(bar.value()) * inner->maximum() / bar.maximum()));

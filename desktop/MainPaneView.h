@@ -24,6 +24,9 @@ class MainPaneView : public QWidget {
  protected:
   void changeEvent(QEvent* event) override;
 
+  /// The keys that go through the crop rows.
+  bool eventFilter(QObject* object, QEvent* event) override;
+
  private:
   [[nodiscard]] QWidget* farmCard();
   [[nodiscard]] QWidget* landCard();
@@ -33,11 +36,13 @@ class MainPaneView : public QWidget {
   void rebuildRows();
   void addRow(CropRecord& record, int line);
   void orderRows();
+  [[nodiscard]] bool goThroughRows(const QObject* from, int key);
   void placeScroll();
   void drawPictures();
 
   MainPane& pane_;
   Binder& binder_;
+  QGridLayout* heads_ = nullptr;
   QScrollArea* rowsArea_ = nullptr;
   QWidget* rows_ = nullptr;
   QScrollBar* rowsBar_ = nullptr;

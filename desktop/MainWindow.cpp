@@ -13,6 +13,7 @@
 
 #include "desktop/CostViews.h"
 #include "desktop/CustomCropView.h"
+#include "desktop/Keys.h"
 #include "desktop/MainPaneView.h"
 #include "desktop/ResultViews.h"
 #include "desktop/TrendViews.h"
@@ -91,11 +92,13 @@ void MainWindow::addMenus() {
   QMenu* help = menu(menus.mnuAbout, tr("&Help"));
   add(help, menus.mnuHelp);
   add(help, menus.mnuAboutVDL);
+  for (QMenu* made : {file, location, edit, tools, help})
+    assignKeys(made);
 }
 
 void MainWindow::addPane(Frame& pane, QWidget* page) {
   binder_.namePane(pane, page);
-  assignMnemonics(page, QLatin1String(menuLetters));
+  assignKeys(page, QLatin1String(menuLetters));
   stack_->addWidget(page);
   pane.watcher = [this] { showTopPane(); };
 }
@@ -110,12 +113,9 @@ QWidget* MainWindow::currentPage() const {
 }
 
 void MainWindow::showHelpOfFocus() {
-  const QWidget* widget = QApplication::focusWidget();
-  while (widget != nullptr && !widget->property("helpIndex").isValid())
-    widget = widget->parentWidget();
-  const int index = widget == nullptr ? -1 : widget->property("helpIndex").toInt();
-  const QString name = QStringLiteral("cmdHelp(%1)").arg(index);
-  if (auto* button = currentPage()->findChild<QPushButton*>(name)) {
+  const QString name = helpOf(QApplication::focusWidget());
+  auto* button = name.isEmpty() ? nullptr : findChild<QPushButton*>(name);
+  if (button != nullptr && button->isVisible()) {
     button->click();
   } else {
     window_.menus.mnuHelp.click();

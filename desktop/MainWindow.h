@@ -34,7 +34,4 @@ class MainWindow : public QMainWindow {
   QStackedWidget* stack_;
 };
 
-/// Gives each button, switch and labelled field of a page a mnemonic that none of the others has.
-void assignMnemonics(QWidget* page, const QString& taken);
-
 }  // namespace verdalis::desktop

@@ -1,5 +1,6 @@
 #include "desktop/Page.h"
 
+#include <QApplication>
 #include <QFrame>
 #include <QGridLayout>
 #include <QLabel>
@@ -7,6 +8,9 @@
 #include <QPushButton>
 #include <QScrollArea>
 #include <QVBoxLayout>
+#include <algorithm>
+
+#include "desktop/Keys.h"
 
 namespace verdalis::desktop {
 
@@ -47,18 +51,33 @@ Page page(int width) {
   area->setFrameShape(QFrame::NoFrame);
   auto* ground = new QWidget;  // NOLINT: owned by the area
   auto* centring = new QHBoxLayout(ground);
-  centring->setContentsMargins(16, 14, 16, 16);
+  centring->setContentsMargins(24, 12, 24, 14);
   auto* content = new QWidget;  // NOLINT: owned by the ground
   content->setMaximumWidth(width);
   content->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
   centring->addStretch(1);
-  centring->addWidget(content, 100);
+  centring->addWidget(content, 1000);
   centring->addStretch(1);
   auto* body = new QVBoxLayout(content);
   body->setContentsMargins(0, 0, 0, 0);
   body->setSpacing(12);
   area->setWidget(ground);
   return {area, body};
+}
+
+int scaled(int pixels) {
+  constexpr int usualHeight = 15;  // of a line in the font that the lengths were chosen for
+  return pixels * std::max(QFontMetrics(QApplication::font()).height(), usualHeight) / usualHeight;
+}
+
+void holdColumns(QGridLayout* grid, int row, std::span<const int> widths) {
+  for (std::size_t i = 0; i < widths.size(); ++i) {
+    const int column = static_cast<int>(i);
+    grid->setColumnMinimumWidth(column, scaled(widths[i]));
+    auto* strut = new QWidget;  // NOLINT: the layout owns it
+    strut->setFixedHeight(0);
+    grid->addWidget(strut, row, column);
+  }
 }
 
 void fitHeight(QWidget* window, int width) {
@@ -80,16 +99,32 @@ QLineEdit* numberField(int characters) {
   return field;
 }
 
-QPushButton* helpButton(Binder& binder, const HelpButtons& buttons, int index, const QString& what) {
+namespace {
+
+Button* buttonOf(const HelpButtons& buttons, int index) {
   for (const auto& button : buttons.buttons()) {
-    if (button->name() != "cmdHelp(" + std::to_string(index) + ")") continue;
-    auto* widget = new QPushButton;  // NOLINT: the layout that takes it owns it
-    setRole(widget, "help");
-    binder.bind(*button, widget, QObject::tr("Help: %1").arg(what));
-    widget->setToolTip(QObject::tr("Help: %1").arg(what));
-    return widget;
+    if (button->name() == "cmdHelp(" + std::to_string(index) + ")") return button.get();
   }
   return nullptr;
+}
+
+}  // namespace
+
+void setHelp(QWidget* widget, const HelpButtons& buttons, int index) {
+  for (const HelpAction& action : helpActions()) {
+    if (action.index != index || (action.topic.empty() && action.note.text.empty())) continue;
+    setHelp(widget, buttonOf(buttons, index));
+  }
+}
+
+QPushButton* helpButton(Binder& binder, const HelpButtons& buttons, int index, const QString& what) {
+  Button* button = buttonOf(buttons, index);
+  if (button == nullptr) return nullptr;
+  auto* widget = new QPushButton;  // NOLINT: the layout that takes it owns it
+  setRole(widget, "help");
+  binder.bind(*button, widget, QObject::tr("Help: %1").arg(what));
+  widget->setToolTip(QObject::tr("Help: %1").arg(what));
+  return widget;
 }
 
 }  // namespace verdalis::desktop

@@ -43,6 +43,13 @@ struct Page {
 };
 [[nodiscard]] Page page(int width);
 
+/// A length that was chosen for the usual font size, in pixels, at the size that the desktop has set.
+[[nodiscard]] int scaled(int pixels);
+
+/// Makes all columns of a grid take part in its spacing, also those that stand empty in it: so grids with the
+/// same columns stand in line.
+void holdColumns(QGridLayout* grid, int row, std::span<const int> widths);
+
 /// Gives a widget a role of the style sheet.
 void setRole(QWidget* widget, const char* role);
 
@@ -55,6 +62,10 @@ void fitHeight(QWidget* window, int width);
 
 /// The size of such a field.
 [[nodiscard]] QSize numberFieldSize(int characters = 10);
+
+/// F1 on a widget, or on what stands inside it, opens what the "?" button of this index opens. One that
+/// opens nothing is passed over.
+void setHelp(QWidget* widget, const HelpButtons& buttons, int index);
 
 /// The "?" button of an index on a pane, bound and named for what it explains.
 [[nodiscard]] QPushButton* helpButton(Binder& binder, const HelpButtons& buttons, int index,

@@ -11,6 +11,7 @@
 #include <QVBoxLayout>
 #include <array>
 
+#include "desktop/Keys.h"
 #include "desktop/Theme.h"
 
 namespace verdalis::desktop {
@@ -18,7 +19,7 @@ namespace {
 
 constexpr int pageWidth = 1180;
 constexpr int rowHeight = 44;
-constexpr std::array<int, 9> columnWidths{84, 150, 130, 76, 76, 130, 124, 124, 100};
+constexpr std::array<int, 9> columnWidths{76, 96, 112, 60, 60, 112, 108, 108, 88};
 
 QLabel* big(QLabel* label, double factor) {
   QFont font = label->font();
@@ -35,27 +36,32 @@ QLabel* number(const char* role = nullptr) {
 
 void setColumns(QGridLayout* grid) {
   grid->setContentsMargins(10, 0, 10, 0);
-  grid->setHorizontalSpacing(12);
-  for (int column = 0; column < static_cast<int>(columnWidths.size()); ++column) {
-    grid->setColumnMinimumWidth(column, columnWidths.at(static_cast<std::size_t>(column)));
-  }
-  grid->setColumnStretch(1, 1);
+  grid->setHorizontalSpacing(10);
+  grid->setVerticalSpacing(0);
+  holdColumns(grid, grid->rowCount() + 1, columnWidths);
+  // All columns share what a wide window has to spare.
+  for (int column = 0; column + 1 < static_cast<int>(columnWidths.size()); ++column)
+    grid->setColumnStretch(column, 1);
 }
 
 QWidget* columnHeads() {
   auto* heads = new QWidget;
+  heads->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
   auto* grid = new QGridLayout(heads);
   setColumns(grid);
-  grid->setVerticalSpacing(0);
   const auto head = [&](const QString& text, int column, int row = 1, int span = 1, bool right = true) {
     auto* label = fixedLabel(text, "column");
     label->setWordWrap(true);
     label->setAlignment((right ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignBottom);
-    if (right && span == 1) label->setFixedWidth(columnWidths.at(static_cast<std::size_t>(column)));
     grid->addWidget(label, row, column, 1, span);
     return label;
   };
-  head(QString::fromLatin1(ResultColumns::land) + QObject::tr(" (acres)"), 0);
+  auto* land = new QVBoxLayout;
+  land->setSpacing(0);
+  land->addStretch();
+  for (const QString& line : {QString::fromLatin1(ResultColumns::land), QObject::tr("(acres)")})
+    land->addWidget(fixedLabel(line, "column"), 0, Qt::AlignRight);
+  grid->addLayout(land, 1, 0);
   head(QString::fromLatin1(ResultColumns::crop), 1, 1, 1, false);
   head(QString::fromLatin1(ResultColumns::yield), 2);
   head(QString::fromLatin1(ResultColumns::irrigation) + QLatin1Char(' ') +
@@ -72,22 +78,20 @@ QWidget* columnHeads() {
 
 QWidget* fieldRow(ResultHolder& row, Binder& binder) {
   auto* frame = new QFrame;
-  frame->setMinimumHeight(rowHeight);
+  frame->setMinimumHeight(scaled(rowHeight));
   auto* grid = new QGridLayout(frame);
   setColumns(grid);
   int column = 0;
   for (Label* label : {&row.lblAcres, &row.lblCrop, &row.lblYield, &row.lblGross, &row.lblNet, &row.lblTC,
                        &row.lblTR, &row.lblProfit}) {
     auto* widget = label == &row.lblProfit ? number("figure") : number();
-    if (label == &row.lblCrop) {
-      widget->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    } else {
-      widget->setFixedWidth(columnWidths.at(static_cast<std::size_t>(column)));
-    }
+    if (label == &row.lblCrop) widget->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    // What is longer than usual wraps, and never pushes the column out of line.
+    widget->setWordWrap(true);
     grid->addWidget(binder.bind(*label, widget), 0, column++);
   }
   auto* details = binder.bind(row.cmdDetails, new QPushButton);
-  details->setFixedWidth(columnWidths.back());
+  details->setFixedWidth(scaled(columnWidths.back()));
   grid->addWidget(details, 0, column);
   return binder.bind(row, frame);
 }
@@ -176,7 +180,7 @@ void showHeadsAndColours(const Grid& grid, QTableWidget* table) {
   for (int row = 0; row < grid.rows(); ++row)
     rows << qText(grid.cell(row, 0));
   for (int column = 0; column < grid.columns(); ++column)
-    columns << qText(grid.cell(0, column)).replace(QLatin1String(" - "), QLatin1String("\n"));
+    columns << qText(grid.cell(0, column)).replace(QLatin1String(" - "), QLatin1String(" -\n"));
   table->setVerticalHeaderLabels(rows);
   table->setHorizontalHeaderLabels(columns);
   table->setRowHidden(0, true);
@@ -199,12 +203,13 @@ QLabel* bigLabel(QLabel* label) {
   return big(label, 1.4);
 }
 
-void addShortcut(QWidget* view, const QKeySequence& keys, Button& button) {
+void addShortcut(Binder& binder, QWidget* view, const QKeySequence& keys, Button& button) {
   // While the view is on show, wherever in the window the focus is.
   auto* shortcut = new QShortcut(keys, view);
   QObject::connect(shortcut, &QShortcut::activated, view, [&button] {
     if (button.isReachable()) button.click();
   });
+  if (QWidget* shown = binder.widget(button)) shown->setAccessibleDescription(keys.toString());
 }
 
 QHBoxLayout* footerOf(QVBoxLayout* layout) {
@@ -235,6 +240,8 @@ QWidget* resultsView(Results& results, Binder& binder, const QString& heading) {
   auto* counter = big(fixedLabel({}, "title"), 1.2);
   counter->setAlignment(Qt::AlignCenter);
   counter->setMinimumWidth(130);
+  for (QWidget* pager : {previous, next})
+    desktop::setHelp(pager, &results.cmdHelp2);
   top->addWidget(previous);
   top->addWidget(binder.bind(results.lblCounter, counter));
   top->addWidget(next);
@@ -250,7 +257,7 @@ QWidget* resultsView(Results& results, Binder& binder, const QString& heading) {
   auto* profit = big(number("figure"), 1.6);
   total->addSpacing(12);
   total->addWidget(binder.bind(results.lblTotalProfit, profit, QObject::tr("Net return of the option")));
-  total->addSpacing(columnWidths.back() + 22);
+  total->addSpacing(scaled(columnWidths.back()) + 20);
   table.body->addSpacing(6);
   table.body->addLayout(total);
   scrolled.body->addWidget(table.frame);
@@ -263,7 +270,9 @@ QWidget* resultsView(Results& results, Binder& binder, const QString& heading) {
   auto* trendButtons = new QHBoxLayout;
   trendButtons->addWidget(smallHelp(binder, results.cmdHelp2, QObject::tr("Help: View Trend Results")));
   trendButtons->addStretch();
-  trendButtons->addWidget(binder.bind(results.cmdExcel, new QPushButton));
+  auto* excel = binder.bind(results.cmdExcel, new QPushButton);
+  setHelp(excel, &results.cmdHelp3);
+  trendButtons->addWidget(excel);
   trendButtons->addWidget(smallHelp(binder, results.cmdHelp3, QObject::tr("Help: Excel Output")));
   trend.body->addLayout(trendButtons);
   scrolled.body->addWidget(binder.bind(results.pnlBatchedVariables, static_cast<QWidget*>(trend.frame)));
@@ -271,7 +280,9 @@ QWidget* resultsView(Results& results, Binder& binder, const QString& heading) {
   auto* again = new QWidget;
   auto* againLine = new QHBoxLayout(again);
   againLine->setContentsMargins(0, 0, 0, 0);
-  againLine->addWidget(binder.bind(results.cmdBatchThis, new QPushButton));
+  auto* batchThis = binder.bind(results.cmdBatchThis, new QPushButton);
+  setHelp(batchThis, &results.cmdHelp);
+  againLine->addWidget(batchThis);
   againLine->addWidget(smallHelp(binder, results.cmdHelp, QObject::tr("Help: fixed trends")));
   againLine->addStretch();
   scrolled.body->addWidget(binder.bind(results.batchDisplay, again));
@@ -282,9 +293,9 @@ QWidget* resultsView(Results& results, Binder& binder, const QString& heading) {
   buttons->addStretch();
   buttons->addWidget(binder.bind(results.Command2, new QPushButton));
   buttons->addWidget(binder.bind(results.cmdSaveResult, new QPushButton));
-  addShortcut(view, QKeySequence(Qt::Key_Escape), results.Command1);
-  addShortcut(view, QKeySequence(Qt::ALT | Qt::Key_Left), results.cmdPrevious);
-  addShortcut(view, QKeySequence(Qt::ALT | Qt::Key_Right), results.cmdAdvance);
+  addShortcut(binder, view, QKeySequence(Qt::Key_Escape), results.Command1);
+  addShortcut(binder, view, QKeySequence(Qt::ALT | Qt::Key_Left), results.cmdPrevious);
+  addShortcut(binder, view, QKeySequence(Qt::ALT | Qt::Key_Right), results.cmdAdvance);
   return inPane(binder.bind(results, view));
 }
 
@@ -326,7 +337,7 @@ QWidget* detailsView(Details& details, Binder& binder) {
   buttons->addWidget(binder.bind(details.Command3, new QPushButton));
   buttons->addStretch();
   buttons->addWidget(binder.bind(details.Command2, new QPushButton));
-  addShortcut(view, QKeySequence(Qt::Key_Escape), details.Command3);
+  addShortcut(binder, view, QKeySequence(Qt::Key_Escape), details.Command3);
   return inPane(binder.bind(details, view));
 }
 
@@ -345,9 +356,14 @@ QWidget* summaryView(SummaryPane& pane, Binder& binder) {
   table->setSelectionMode(QAbstractItemView::NoSelection);
   table->setFocusPolicy(Qt::StrongFocus);
   body->addWidget(binder.bind(pane.fgsummary, table, QObject::tr("Saved options")), 1);
-  // A click on a head counts for its column too.
+  // The heads are cells of the grid: a click on one counts for its column.
   QObject::connect(table->horizontalHeader(), &QHeaderView::sectionClicked, table,
                    [&pane](int column) { pane.fgsummary.clickCell(0, column); });
+  QObject::connect(table->verticalHeader(), &QHeaderView::sectionClicked, table,
+                   [&pane](int row) { pane.fgsummary.clickCell(row, 0); });
+  table->horizontalHeader()->setSectionsClickable(true);
+  table->verticalHeader()->setSectionsClickable(true);
+  table->setCornerButtonEnabled(false);
   binder.alsoWatch(pane.fgsummary, [&pane, table] { showHeadsAndColours(pane.fgsummary, table); });
   auto* space = new QWidget;
   body->addWidget(space);
@@ -357,7 +373,7 @@ QWidget* summaryView(SummaryPane& pane, Binder& binder) {
   buttons->addWidget(binder.bind(pane.cmdCancel, new QPushButton));
   buttons->addStretch();
   buttons->addWidget(binder.bind(pane.cmdExcelSave, new QPushButton));
-  addShortcut(view, QKeySequence(Qt::Key_Escape), pane.cmdCancel);
+  addShortcut(binder, view, QKeySequence(Qt::Key_Escape), pane.cmdCancel);
   return view;
 }
 

@@ -26,7 +26,7 @@ namespace verdalis::desktop {
 /// The bar of buttons below a page, which stays in sight.
 [[nodiscard]] QHBoxLayout* footerOf(QVBoxLayout* layout);
 
-/// A key that presses a button while its page has the focus.
-void addShortcut(QWidget* view, const QKeySequence& keys, Button& button);
+/// A key that presses a button while its page is on show. The button is bound before.
+void addShortcut(Binder& binder, QWidget* view, const QKeySequence& keys, Button& button);
 
 }  // namespace verdalis::desktop

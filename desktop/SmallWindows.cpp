@@ -1,6 +1,8 @@
 #include "desktop/SmallWindows.h"
 
+#include <QApplication>
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLocale>
 #include <QProgressBar>
@@ -8,6 +10,9 @@
 #include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
+
+#include "desktop/Keys.h"
+#include "desktop/ResultViews.h"
 
 namespace verdalis::desktop {
 namespace {
@@ -64,6 +69,8 @@ QWidget* welcomeWindow(frmWelcome& window, Binder& binder) {
   layout->addWidget(wrapped(binder, window.lblDisclaimer, "muted"));
   layout->addStretch();
   start->setFocus();
+  addShortcut(binder, widget, QKeySequence(Qt::Key_F1), window.Command2);
+  assignKeys(widget);
   fitHeight(widget, 560);
   binder.bindWindow(window, widget);
   return widget;
@@ -88,6 +95,7 @@ QWidget* noteWindow(frmHelp& window, Binder& binder, QWidget* parent) {
   line->addStretch();
   line->addWidget(close);
   layout->addLayout(line);
+  assignKeys(widget);
   binder.bindWindow(window, widget);
   return widget;
 }
@@ -115,9 +123,12 @@ ProgressWindow::ProgressWindow(frmUpdating& window, Binder& binder, QWidget* par
   auto* line = new QHBoxLayout;
   line->addStretch();
   auto* cancel = button(binder, window.Command1);
-  cancel->setShortcut(QKeySequence(Qt::Key_Escape));
+  cancel->setToolTip(tr("Cancel the evaluation (Esc)"));
+  cancel->setAccessibleDescription(QStringLiteral("Esc"));
   line->addWidget(cancel);
   layout->addLayout(line);
+  assignKeys(this);
+  qApp->installEventFilter(this);
 
   binder.namePane(window, this);
   appearance_->setSingleShot(true);
@@ -165,6 +176,20 @@ void ProgressWindow::showProgress() {
     text += QStringLiteral(", ") + timeLeft(seconds / share - seconds);
   }
   steps_->setText(text);
+}
+
+bool ProgressWindow::eventFilter(QObject* object, QEvent* event) {
+  const bool isKey = event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress;
+  if (isKey && window_.isOpen() && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape &&
+      QApplication::activeModalWidget() == nullptr && QApplication::activePopupWidget() == nullptr) {
+    if (event->type() == QEvent::KeyPress) {
+      window_.Command1.click();
+      return true;
+    }
+    event->accept();  // a key press, and no shortcut of a pane
+    return true;
+  }
+  return QWidget::eventFilter(object, event);
 }
 
 void ProgressWindow::closeEvent(QCloseEvent* event) {

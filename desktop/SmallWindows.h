@@ -30,6 +30,9 @@ class ProgressWindow : public QWidget {
  protected:
   void closeEvent(QCloseEvent* event) override;
 
+  /// Escape cancels the run in whichever window of the program the focus is.
+  bool eventFilter(QObject* object, QEvent* event) override;
+
  private:
   void follow();
   void showProgress();

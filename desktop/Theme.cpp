@@ -40,6 +40,20 @@ QString styleSheet(Scheme scheme) {
     QLineEdit[failed="true"] { border: 2px solid @warning; padding: 3px 5px; }
     QComboBox::drop-down { border: none; width: 24px; }
     QComboBox::down-arrow { image: url(:/icons/arrow-@scheme.svg); width: 12px; height: 8px; }
+    QCheckBox::indicator, QRadioButton::indicator { width: 14px; height: 14px; background: @base;
+                                                    border: 1px solid @muted; }
+    QCheckBox::indicator { border-radius: 3px; }
+    QRadioButton::indicator { border-radius: 8px; }
+    QCheckBox::indicator:hover, QRadioButton::indicator:hover { border: 1px solid @brand; }
+    QCheckBox::indicator:focus, QRadioButton::indicator:focus { border: 2px solid @brand; width: 12px;
+                                                                height: 12px; }
+    QCheckBox::indicator:checked { background: @brand; border-color: @brand;
+                                   image: url(:/icons/check-@scheme.svg); }
+    QRadioButton::indicator:checked { background: @brand; border-color: @brand;
+                                      image: url(:/icons/dot-@scheme.svg); }
+    QCheckBox::indicator:disabled, QRadioButton::indicator:disabled { border-color: @line;
+                                                                      background: @window; }
+    QCheckBox:disabled, QRadioButton:disabled { color: @disabled; }
     QPushButton { background: @button; border: 1px solid @line; border-radius: 5px; padding: 6px 14px; }
     QPushButton:hover { border-color: @brand; }
     QPushButton:focus { border: 2px solid @brand; padding: 5px 13px; }

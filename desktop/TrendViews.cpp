@@ -16,7 +16,7 @@
 namespace verdalis::desktop {
 namespace {
 
-constexpr int pageWidth = 1120;
+constexpr int pageWidth = 1180;
 
 QString text(const char* fixed) {
   return QString::fromLatin1(fixed);
@@ -30,6 +30,7 @@ QLabel* wrapped(Binder& binder, Label& label, const char* role = nullptr) {
 
 QWidget* processes(BatchSetupPane& pane, Binder& binder) {
   const Card processCard = card();
+  setHelp(processCard.frame, pane.cmdHelp, 25);
   auto* line = new QHBoxLayout;
   line->setSpacing(10);
   auto* label = fixedLabel(text(BatchSetupTexts::trends), "title");
@@ -49,6 +50,7 @@ QWidget* processes(BatchSetupPane& pane, Binder& binder) {
 QWidget* cropStep(BatchSetupPane& pane, Binder& binder) {
   const Card step =
       card(QObject::tr("1  Which crop"), helpButton(binder, pane.cmdHelp, 26, QObject::tr("Crop selection")));
+  setHelp(step.frame, pane.cmdHelp, 26);
   auto* line = new QHBoxLayout;
   line->setSpacing(10);
   auto* label = fixedLabel(text(BatchSetupTexts::crop));
@@ -59,6 +61,7 @@ QWidget* cropStep(BatchSetupPane& pane, Binder& binder) {
   line->addWidget(crops);
   line->addWidget(wrapped(binder, pane.lblCropHint, "muted"), 1);
   step.body->addLayout(line);
+  step.body->addStretch();
   return step.frame;
 }
 
@@ -106,9 +109,11 @@ QWidget* valueFields(BatchSetupPane& pane, Binder& binder, std::size_t way) {
     labelled(BatchSetupTexts::minimum,
              binder.bind(pane.txtBatchMinimum[0], numberField(8), text(BatchSetupTexts::minimum)));
     line->addWidget(binder.bind(pane.lblgeneric24, fixedLabel({}, "muted")));
+    line->addSpacing(16);
     labelled(BatchSetupTexts::maximum,
              binder.bind(pane.txtBatchMinimum[1], numberField(8), text(BatchSetupTexts::maximum)));
     line->addWidget(binder.bind(pane.lblgeneric25, fixedLabel({}, "muted")));
+    line->addSpacing(16);
     auto* steps = binder.bind(pane.cboBatchSteps, new QComboBox, text(BatchSetupTexts::steps));
     steps->setFixedWidth(80);
     labelled(BatchSetupTexts::steps, steps);
@@ -138,7 +143,12 @@ QWidget* valueStep(BatchSetupPane& pane, Binder& binder, QWidget* owner) {
     step.body->addWidget(note);
     step.body->addWidget(valueFields(pane, binder, way));
   }
-  step.body->addWidget(wrapped(binder, pane.lblBatchPreview, "figure"));
+  auto* preview = new QHBoxLayout;
+  preview->setSpacing(10);
+  preview->addWidget(fixedLabel(QObject::tr("Values to run:"), "muted"), 0, Qt::AlignTop);
+  preview->addWidget(wrapped(binder, pane.lblBatchPreview, "figure"), 1);
+  step.body->addSpacing(4);
+  step.body->addLayout(preview);
   return step.frame;
 }
 
@@ -166,8 +176,8 @@ QWidget* batchSetupView(BatchSetupPane& pane, Binder& binder) {
   auto* run = new QPushButton;
   setRole(run, "main");
   buttons->addWidget(binder.bind(pane.cmdBatchIt, run));
-  addShortcut(view, QKeySequence(Qt::Key_Escape), pane.Command10);
-  addShortcut(view, QKeySequence(Qt::Key_F5), pane.cmdBatchIt);
+  addShortcut(binder, view, QKeySequence(Qt::Key_Escape), pane.Command10);
+  addShortcut(binder, view, QKeySequence(Qt::Key_F5), pane.cmdBatchIt);
   return view;
 }
 

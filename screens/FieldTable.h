@@ -75,6 +75,7 @@ struct FieldRow {
 /// A group of fields of a pane with its fixed texts.
 struct FieldGroup {
   std::string_view heading;
+  std::string_view labelColumn = {};     ///< The head of the column of labels; empty without one
   std::string_view headingControl = {};  ///< The label control that is its heading, where that is not fixed
   std::string_view frame = {};           ///< The frame that its fields stand in; empty for the pane itself
   std::string_view resultLabel = {};     ///< The fixed text in front of its figure

@@ -9,6 +9,7 @@ constexpr Limit::Cell none = std::nullopt;  // the crop is not tested
 
 constexpr std::array<FieldGroup, 7> paneGroups{{
     {.heading = "General Input Costs",
+     .labelColumn = "Input",
      .resultLabel = "General Input Costs Subtotal:",
      .resultControl = "lblGICTOTAL",
      .note = "*subtotal does not include inputs using optimal rates",

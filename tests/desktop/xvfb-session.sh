@@ -103,17 +103,17 @@ await "no main window" find_window "Verdalis.*"
 await "the main window takes no focus" has_focus
 await "the main window does not come to rest" is_still
 
-press alt+o # Total Acres
+press alt+a # Total Acres
 xdotool type --delay 60 100
-press alt+a # Annual Gross Irrigation Amount
+press alt+i # Annual Gross Irrigation Amount
 xdotool type --delay 60 12
-press alt+n # Annual Rainfall
+press alt+r # Annual Rainfall
 xdotool type --delay 60 16
 press alt+7 # 75 - 25
 press alt+d # Load Default Values
-press alt+u # fallow for negative returns: on, and off again, which leaves the focus in front of the crops
+press alt+w # fallow for negative returns: on, and off again, which leaves the focus in front of the crops
 sleep 0.3
-press alt+u
+press alt+w
 sleep 0.3
 press Tab Tab Tab Tab Tab # past the "?" of the columns to the first crop
 press space

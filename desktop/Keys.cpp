@@ -1,0 +1,156 @@
+#include "desktop/Keys.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QSet>
+#include <QShortcut>
+#include <QTableWidget>
+
+#include "controls/Control.h"
+#include "desktop/Binder.h"
+
+namespace verdalis::desktop {
+namespace {
+
+constexpr const char* letterProperty = "mnemonic";
+constexpr const char* helpProperty = "help";
+
+/// The first letter of a text that is free, which is then taken; nothing when there is none.
+QChar takeLetter(const QString& text, QSet<QChar>& used) {
+  for (const QChar character : text) {
+    const QChar letter = character.toLower();
+    if (!letter.isLetterOrNumber() || letter.unicode() > 'z' || used.contains(letter)) continue;
+    used.insert(letter);
+    return letter;
+  }
+  return {};
+}
+
+/// The text with the mark in front of a letter; the text as it stands without the letter.
+QString marked(QString text, QChar letter) {
+  const qsizetype place = letter.isNull() ? -1 : text.indexOf(letter, 0, Qt::CaseInsensitive);
+  return place < 0 ? text : text.insert(place, QLatin1Char('&'));
+}
+
+/// The letter for a text with which it says the most: that of a word's beginning before one from within.
+QChar takeBestLetter(const QString& text, QSet<QChar>& used) {
+  QString beginnings;
+  bool inWord = false;
+  for (const QChar character : text) {
+    if (character.isLetterOrNumber() && !inWord) beginnings += character;
+    inWord = character.isLetterOrNumber() || character == QLatin1Char('\'');
+  }
+  const QChar letter = takeLetter(beginnings, used);
+  return letter.isNull() ? takeLetter(text, used) : letter;
+}
+
+bool isRepeated(const QWidget* widget) {
+  const QString name = widget->objectName();
+  return name.startsWith(QLatin1String("cr(")) || name.contains(QLatin1String("rh("));
+}
+
+bool takesKey(const QWidget* widget) {
+  const bool control = qobject_cast<const QAbstractButton*>(widget) != nullptr ||
+                       qobject_cast<const QComboBox*>(widget) != nullptr ||
+                       qobject_cast<const QTableWidget*>(widget) != nullptr ||
+                       (qobject_cast<const QLineEdit*>(widget) != nullptr &&
+                        qobject_cast<const QComboBox*>(widget->parentWidget()) == nullptr);
+  return control && !widget->objectName().isEmpty() &&
+         !widget->objectName().startsWith(QLatin1String("qt_")) && !isRepeated(widget) &&
+         widget->property("role") != QLatin1String("help");
+}
+
+QLabel* labelOf(QWidget* page, const QWidget* field) {
+  for (QLabel* label : page->findChildren<QLabel*>()) {
+    if (label->buddy() == field) return label;
+  }
+  return nullptr;
+}
+
+void reach(QWidget* widget) {
+  if (auto* button = qobject_cast<QAbstractButton*>(widget)) {
+    button->setFocus(Qt::ShortcutFocusReason);
+    button->click();
+    return;
+  }
+  widget->setFocus(Qt::ShortcutFocusReason);
+  if (auto* field = qobject_cast<QLineEdit*>(widget)) field->selectAll();
+}
+
+/// A key that no text shows: the tool tip tells it.
+void addHiddenKey(QWidget* widget, QChar letter) {
+  const QKeySequence keys(QStringLiteral("Alt+Shift+") + letter.toUpper());
+  auto* shortcut = new QShortcut(keys, widget);  // NOLINT: owned by the widget
+  QObject::connect(shortcut, &QShortcut::activated, widget, [widget] { reach(widget); });
+  const QString shown = keys.toString(QKeySequence::NativeText);
+  widget->setAccessibleDescription(shown);
+  const QString tip = widget->toolTip().isEmpty() ? widget->accessibleName() : widget->toolTip();
+  widget->setToolTip(QStringLiteral("%1 (%2)").arg(tip, shown));
+}
+
+}  // namespace
+
+void assignKeys(QWidget* page, const QString& taken) {
+  QSet<QChar> used;
+  for (const QChar letter : taken)
+    used.insert(letter.toLower());
+  QList<QWidget*> controls;
+  for (QWidget* widget : page->findChildren<QWidget*>()) {
+    if (takesKey(widget)) controls.append(widget);
+  }
+  // The main button chooses first.
+  std::stable_partition(controls.begin(), controls.end(), [](const QWidget* widget) {
+    return widget->property("role") == QLatin1String("main");
+  });
+  QList<QWidget*> left;
+  for (QWidget* widget : controls) {
+    auto* button = qobject_cast<QAbstractButton*>(widget);
+    if (button != nullptr && !button->shortcut().isEmpty()) continue;
+    QLabel* label = button == nullptr ? labelOf(page, widget) : nullptr;
+    const QString text = button != nullptr ? button->text() : (label != nullptr ? label->text() : QString());
+    const QChar letter = takeBestLetter(text, used);
+    if (letter.isNull()) {
+      left.append(widget);
+    } else if (button != nullptr) {
+      button->setProperty(letterProperty, letter);
+      button->setText(marked(text, letter));
+    } else {
+      label->setTextFormat(Qt::AutoText);  // plain text takes no mark
+      label->setText(marked(text, letter));
+    }
+  }
+  QSet<QChar> usedWithShift;
+  for (QWidget* widget : left) {
+    if (!widget->accessibleDescription().isEmpty()) continue;  // it has keys of its own
+    const QChar letter = takeBestLetter(
+        widget->accessibleName() + QStringLiteral(" abcdefghijklmnopqrstuvwxyz"), usedWithShift);
+    if (!letter.isNull()) addHiddenKey(widget, letter);
+  }
+}
+
+void assignKeys(QMenu* menu) {
+  QSet<QChar> used;
+  for (QAction* action : menu->actions())
+    action->setText(marked(action->text(), takeBestLetter(action->text(), used)));
+}
+
+void showCaption(QAbstractButton* button, const QString& caption) {
+  QString wanted = marked(QString(caption).replace(QLatin1Char('&'), QLatin1String("&&")),
+                          button->property(letterProperty).toChar());
+  if (button->text() != wanted) button->setText(wanted);
+}
+
+void setHelp(QWidget* widget, const Control* button) {
+  if (button != nullptr) widget->setProperty(helpProperty, qText(button->path()));
+}
+
+QString helpOf(const QWidget* widget) {
+  while (widget != nullptr && !widget->property(helpProperty).isValid())
+    widget = widget->parentWidget();
+  return widget == nullptr ? QString() : widget->property(helpProperty).toString();
+}
+
+}  // namespace verdalis::desktop

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QString>
+
+class QAbstractButton;
+class QMenu;
+class QWidget;
+
+namespace verdalis {
+class Control;
+}
+
+namespace verdalis::desktop {
+
+/// Gives everything that a person can use on a page a key that nothing else on it has: a button, a switch or
+/// a labelled field the letter that is underlined in its text, pressed with Alt; whatever is left over a
+/// letter pressed with Alt and Shift, which its tool tip tells. The repeated rows go by Tab and the arrows,
+/// and F1 stands for the "?" buttons; they get none. `taken` are the letters of the menu bar.
+void assignKeys(QWidget* page, const QString& taken = {});
+
+/// Gives each entry of a menu a letter.
+void assignKeys(QMenu* menu);
+
+/// Shows a caption on a button with the letter that it has been given.
+void showCaption(QAbstractButton* button, const QString& caption);
+
+/// F1 on a widget, or on what stands inside it, opens what this "?" button opens.
+void setHelp(QWidget* widget, const Control* button);
+
+/// The name of the "?" button that F1 presses when the focus is on a widget; empty without one.
+[[nodiscard]] QString helpOf(const QWidget* widget);
+
+}  // namespace verdalis::desktop

@@ -1,0 +1,244 @@
+#include <QAbstractButton>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QShortcut>
+#include <QTableWidget>
+#include <map>
+#include <set>
+
+#include "desktop/HelpWindow.h"
+#include "desktop/Keys.h"
+#include "tests/desktop/RunningDesktop.h"
+
+namespace verdalis::testing {
+namespace {
+
+/// What the keyboard reaches, and with which keys.
+class Keys : public RunningDesktop {
+ protected:
+  /// The keys that lead to a widget; empty without any.
+  [[nodiscard]] static std::vector<QKeySequence> keysOf(QWidget* widget) {
+    std::vector<QKeySequence> keys;
+    if (const auto* button = qobject_cast<QAbstractButton*>(widget)) {
+      if (!button->shortcut().isEmpty()) keys.push_back(button->shortcut());
+    }
+    for (const QLabel* label : widget->window()->findChildren<QLabel*>()) {
+      if (label->buddy() == widget) keys.push_back(QKeySequence::mnemonic(label->text()));
+    }
+    for (const QShortcut* shortcut :
+         widget->findChildren<QShortcut*>(QString(), Qt::FindDirectChildrenOnly)) {
+      keys.push_back(shortcut->key());
+    }
+    if (keys.empty() && !widget->accessibleDescription().isEmpty())
+      keys.emplace_back(widget->accessibleDescription());
+    std::erase_if(keys, [](const QKeySequence& sequence) { return sequence.isEmpty(); });
+    return keys;
+  }
+
+  /// What a person can use on a page with a key of its own: no repeated rows, no "?" buttons.
+  [[nodiscard]] static std::vector<QWidget*> usableOn(QWidget* page) {
+    std::vector<QWidget*> usable;
+    for (QWidget* widget : page->findChildren<QWidget*>()) {
+      const bool field = qobject_cast<QLineEdit*>(widget) != nullptr &&
+                         qobject_cast<QComboBox*>(widget->parentWidget()) == nullptr;
+      const bool kind = field || qobject_cast<QAbstractButton*>(widget) != nullptr ||
+                        qobject_cast<QComboBox*>(widget) != nullptr ||
+                        qobject_cast<QTableWidget*>(widget) != nullptr;
+      const QString name = widget->objectName();
+      if (!kind || name.isEmpty() || name.startsWith(QLatin1String("qt_")) ||
+          name.startsWith(QLatin1String("cr(")) || name.contains(QLatin1String("rh(")) ||
+          widget->property("role") == QLatin1String("help")) {
+        continue;
+      }
+      usable.push_back(widget);
+    }
+    return usable;
+  }
+
+  /// Each has a key, and no two of those that can be in sight together have the same.
+  void expectKeys(QWidget* page, std::set<QString> taken = {}) {
+    std::map<QString, QWidget*> owners;
+    for (QWidget* widget : usableOn(page)) {
+      const std::vector<QKeySequence> keys = keysOf(widget);
+      EXPECT_FALSE(keys.empty()) << widget->objectName().toStdString();
+      for (const QKeySequence& key : keys) {
+        const QString text = key.toString();
+        EXPECT_EQ(taken.count(text), 0U) << text.toStdString() << " of a menu";
+        const auto [place, isNew] = owners.emplace(text, widget);
+        EXPECT_TRUE(isNew) << text.toStdString() << ": " << widget->objectName().toStdString() << " and "
+                           << place->second->objectName().toStdString();
+      }
+    }
+  }
+
+  [[nodiscard]] std::set<QString> menuKeys() {
+    std::set<QString> keys;
+    for (const QAction* title : window()->findChild<QMenuBar*>()->actions()) {
+      const QString key = QKeySequence::mnemonic(title->text()).toString();
+      EXPECT_FALSE(key.isEmpty()) << title->text().toStdString();
+      EXPECT_TRUE(keys.insert(key).second) << key.toStdString();
+    }
+    return keys;
+  }
+
+  void press(Qt::Key key, Qt::KeyboardModifiers with = Qt::NoModifier) {
+    QWidget* focus = QApplication::focusWidget();
+    QTest::keyClick(focus == nullptr ? window() : focus, key, with);
+    QTest::qWait(0);
+  }
+};
+
+TEST_F(Keys, EveryControlOfEveryPaneHasOne) {
+  start();
+  const std::set<QString> taken = menuKeys();
+  frmMain& main = program().main();
+  for (Frame* pane :
+       {static_cast<Frame*>(&main.pneMain), static_cast<Frame*>(&main.pneInputCosts),
+        static_cast<Frame*>(&main.pneIrrigCosts), &main.pneResults, &main.pneDetails,
+        static_cast<Frame*>(&main.pneSummary), static_cast<Frame*>(&main.pneCustomCrop),
+        static_cast<Frame*>(&main.trends.pneBatchSetup0), static_cast<Frame*>(&main.trends.pneBatchSetup1)}) {
+    SCOPED_TRACE(pane->name());
+    QWidget* page = desktop().binder().widget(*pane);
+    ASSERT_NE(page, nullptr);
+    EXPECT_FALSE(usableOn(page).empty());
+    expectKeys(page, taken);
+  }
+}
+
+TEST_F(Keys, EveryControlOfTheSmallWindowsHasOne) {
+  expectKeys(widget("frmWelcome"));
+  start();
+  program().windows.updating();
+  program().windows.help();
+  program().windows.options();
+  program().windows.about();
+  for (const char* name : {"frmUpdating", "frmHelp", "frmOptions", "frmAbout"}) {
+    SCOPED_TRACE(name);
+    expectKeys(widget(name));
+  }
+}
+
+TEST_F(Keys, EveryEntryOfAMenuHasOne) {
+  start();
+  for (const QAction* title : window()->findChild<QMenuBar*>()->actions()) {
+    if (title->menu() == nullptr) continue;
+    std::set<QString> seen;
+    for (const QAction* entry : title->menu()->actions()) {
+      if (entry->isSeparator()) continue;
+      const QString key = QKeySequence::mnemonic(entry->text()).toString();
+      EXPECT_FALSE(key.isEmpty()) << entry->text().toStdString();
+      EXPECT_TRUE(seen.insert(key).second) << entry->text().toStdString();
+    }
+  }
+}
+
+TEST_F(Keys, TheLetterLeadsToTheFieldOrPressesTheButton) {
+  start();
+  typeFarm();
+  for (const char* name :
+       {"txtArea", "txtMax", "txtAnnRain", "txtEff", "txtSoil", "txtArraySize", "txtSize"}) {
+    const std::vector<QKeySequence> keys = keysOf(widget(name));
+    ASSERT_FALSE(keys.empty()) << name;
+    widget("Command8")->setFocus();
+    const QKeyCombination combination = keys.front()[0];
+    QTest::keyClick(window(), combination.key(), combination.keyboardModifiers());
+    EXPECT_TRUE(widget(name)->hasFocus()) << name << ' ' << keys.front().toString().toStdString();
+  }
+  const QKeyCombination costs = keysOf(widget("Command8")).front()[0];
+  QTest::keyClick(window(), costs.key(), costs.keyboardModifiers());
+  QTRY_COMPARE(pane(), std::string("pneIrrigCosts"));  // the button is seen to go down first
+}
+
+TEST_F(Keys, TheSecondFieldOfALineHasAKeyThatItsToolTipTells) {
+  start();
+  typeFarm();
+  RunningDesktop::press("cr(1).cmdInputCosts");
+  ASSERT_EQ(pane(), "pneInputCosts");
+  QWidget* cost = widget("txtNitrogenCost");
+  const std::vector<QKeySequence> keys = keysOf(cost);
+  ASSERT_EQ(keys.size(), 1U);
+  EXPECT_TRUE(cost->toolTip().contains(keys[0].toString())) << cost->toolTip().toStdString();
+  widget("txtTillage")->setFocus();
+  QTest::keyClick(window(), keys[0][0].key(), keys[0][0].keyboardModifiers());
+  EXPECT_TRUE(cost->hasFocus());
+}
+
+TEST_F(Keys, AChangedCaptionKeepsItsLetter) {
+  start();
+  typeFarm();
+  const QKeySequence before = widget<QPushButton>("cmdDefault")->shortcut();
+  ASSERT_FALSE(before.isEmpty());
+  RunningDesktop::press("cr(1).cmdInputCosts");
+  EXPECT_TRUE(widget<QPushButton>("cmdDefault")
+                  ->text()
+                  .remove(QLatin1Char('&'))
+                  .contains(QLatin1String("Load Default Corn Values")));
+  EXPECT_EQ(widget<QPushButton>("cmdDefault")->shortcut(), before);
+  type("txtTillage", "");
+  QTest::keyClick(window(), before[0].key(), before[0].keyboardModifiers());
+  QTRY_COMPARE(widget<QLineEdit>("txtTillage")->text(), QStringLiteral("31.26"));
+}
+
+TEST_F(Keys, ArrowsGoThroughTheCropRows) {
+  start();
+  tick("cr(1).chkCrop");
+  tick("cr(3).chkCrop");
+  widget("cr(1).txtPrice")->setFocus(Qt::TabFocusReason);
+  QTest::qWait(0);
+  press(Qt::Key_Down);
+  EXPECT_TRUE(widget("cr(2).chkCrop")->hasFocus()) << "the price of a crop that is not ticked takes no focus";
+  press(Qt::Key_Down);
+  EXPECT_TRUE(widget("cr(3).chkCrop")->hasFocus());
+  press(Qt::Key_Up);
+  press(Qt::Key_Up);
+  EXPECT_TRUE(widget("cr(1).chkCrop")->hasFocus());
+  tick("cr(2).chkCrop");
+  widget("cr(1).txtPrice")->setFocus(Qt::TabFocusReason);
+  QTest::qWait(0);
+  press(Qt::Key_Down);
+  EXPECT_TRUE(widget("cr(2).txtPrice")->hasFocus());
+  press(Qt::Key_PageUp);
+  EXPECT_TRUE(widget("cr(0).chkCrop")->hasFocus());
+  press(Qt::Key_Up);
+  EXPECT_TRUE(widget("cr(0).chkCrop")->hasFocus()) << "the first row";
+  press(Qt::Key_PageDown);
+  EXPECT_TRUE(widget("cr(6).chkCrop")->hasFocus()) << "the last row";
+}
+
+TEST_F(Keys, F1ReachesEveryHelpButtonThatOpensSomething) {
+  start();
+  std::set<QString> reached;
+  for (const QWidget* widget : window()->findChildren<QWidget*>()) {
+    if (widget->focusPolicy() != Qt::NoFocus) reached.insert(desktop::helpOf(widget));
+  }
+  for (const QPushButton* button : window()->findChildren<QPushButton*>()) {
+    if (button->property("role") != QLatin1String("help")) continue;
+    // The soil's opens nothing; the two heads of the crop list and of the volume share a topic with a field.
+    if (button->objectName() == QLatin1String("cmdHelp(29)") ||
+        button->objectName() == QLatin1String("cmdHelp(5)")) {
+      continue;
+    }
+    EXPECT_EQ(reached.count(button->objectName()), 1U) << button->objectName().toStdString();
+  }
+}
+
+TEST_F(Keys, EscapeCancelsARunBeforeItLeavesThePane) {
+  start();
+  typeFarm();
+  program().windows.updating();
+  auto& bar = control<ProgressBar>("frmUpdating.ProgressBar");
+  desktop().binder().alsoWatch(bar, [&] {
+    if (bar.value() == 3) QTest::keyClick(window(), Qt::Key_Escape);
+  });
+  QTest::keyClick(window(), Qt::Key_F5);
+  EXPECT_EQ(pane(), "pneMain");
+  EXPECT_FALSE(program().windows.updating().isOpen());
+}
+
+}  // namespace
+}  // namespace verdalis::testing
