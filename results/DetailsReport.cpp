@@ -41,9 +41,11 @@ class DetailsReport {
                 time);
     totals();
     constexpr std::array<double, 7> stops = Stops::forCosts;
-    block("General Input Costs", generalCosts(), generalCostsAnAcre(field_), stops[1]);
-    block("Operation Costs", operationCosts(), applicationCostsAnAcre(field_), stops[2]);
-    // The lines first: the cost sets the pumping hours anew.
+    // The lines first, as on the screen: the sums set the seed rate and the pumping hours anew.
+    const std::vector<Pair> generalLines = generalCosts();
+    block("General Input Costs", generalLines, generalCostsAnAcre(field_), stops[1]);
+    const std::vector<Pair> operationLines = operationCosts();
+    block("Operation Costs", operationLines, applicationCostsAnAcre(field_), stops[2]);
     const std::vector<Pair> irrigationLines = irrigation();
     const double irrigationCosts =
         perAcre(field_.irrigCosts->getCosts(field_.Depth, field_.acres), field_.acres);

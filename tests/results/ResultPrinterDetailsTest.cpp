@@ -265,6 +265,20 @@ TEST_F(DetailsReportTest, TheFiguresAreThoseOfTheScreen) {
   EXPECT_THAT(operations, Contains("@3900 12 |" + details.lblTotalCosts.caption() + "|"));
 }
 
+TEST_F(DetailsReportTest, TheSeedRateIsThatOfTheScreenEvenWhereTheSumsFindAnother) {
+  // The optimal rate is found by the sums, which come after the line on the screen and on paper.
+  auto field = pricedField("Corn", "bu.,bushels");
+  field->theCrop->inputCosts.SeedOptimal = true;
+  field->theCrop->inputCosts.SeedRate = 111;
+  ProgramState state;
+  Desk desk;
+  Window window{desk, "frmMain", Frame::Scope::transparent};
+  Details details{window, "theDetails", state};
+  details.loadCosts(*field);
+  EXPECT_EQ(details.lblSPR.caption(), "111 seeds/acre");
+  EXPECT_THAT(printed(*field), Contains("@6700 9 |111 seeds/acre|"));
+}
+
 TEST_F(DetailsReportTest, TheOverridesOfATrendShowInTheTotals) {
   auto field = pricedField("Corn", "bu.,bushels");
   field->TotalCost = 0;
