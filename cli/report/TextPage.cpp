@@ -8,7 +8,7 @@ void TextPage::setCurrentX(double position) {
 }
 
 void TextPage::print(const std::string& text) {
-  if (text.empty()) return;
+  if (text.empty() && !placed_) return;
   if (placed_) text_ += '\t';
   text_ += text;
   placed_ = false;

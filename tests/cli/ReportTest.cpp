@@ -261,7 +261,21 @@ TEST(TextPage, PutsATabBeforeEachPieceAtANewPosition) {
   page.print("f");
   EXPECT_EQ(text, "");
   page.endDocument();
-  EXPECT_EQ(text, "ab\tc\td\n\n\te\n\nf\n");
+  EXPECT_EQ(text, "ab\tc\td\n\n\te\n\t\nf\n");
+}
+
+TEST(TextPage, AnEmptyPieceKeepsItsColumn) {
+  std::string text;
+  TextPage page([&](const std::string& bytes) { text = bytes; });
+  page.print("50 acres");
+  page.setCurrentX(1300);
+  page.print("");
+  page.setCurrentX(2600);
+  page.printLine("100.0 /ac");
+  page.print("");
+  page.printLine("");
+  page.endDocument();
+  EXPECT_EQ(text, "50 acres\t\t100.0 /ac\n\n");
 }
 
 class ScriptedPrintTest : public ReportTest {
