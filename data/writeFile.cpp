@@ -19,7 +19,9 @@ namespace fs = std::filesystem;
 /// A file that is being written. Until keep() it is removed again.
 class TemporaryFile {
  public:
-  TemporaryFile(const fs::path& beside, mode_t mode) : name_(beside.string() + ".XXXXXX") {
+  /// Its own name is short: that of the file may be as long as the file system takes.
+  TemporaryFile(const fs::path& beside, mode_t mode)
+      : name_((beside.parent_path() / ".saving-XXXXXX").string()) {
     descriptor_ = ::mkstemp(name_.data());
     if (descriptor_ >= 0 && ::fchmod(descriptor_, mode) != 0) close();
   }

@@ -53,6 +53,14 @@ class FullDisk {
   void (*handler_)(int) = nullptr;
 };
 
+TEST(WriteFile, TakesANameAsLongAsTheFileSystemDoes) {
+  const TemporaryFolder folder;
+  const std::string name(255, 'n');
+  writeFile(folder / name, "long");
+  EXPECT_EQ(folder.read(name), "long");
+  expectNotWritten(folder / (name + "n"));
+}
+
 TEST(WriteFile, MakesANewFile) {
   const TemporaryFolder folder;
   const std::string bytes("one\r\ntwo\n\0\xFF", 11);
