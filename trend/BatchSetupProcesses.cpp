@@ -80,7 +80,6 @@ void BatchSetupPane::showProcess(const BatchProcess& process) {
   lblBatchFile.setCaption(process.inputfilename);
   // The texts above have turned their own ways on.
   batchOptions.select(process.variables_type);
-  showCropUnits();
 }
 
 void BatchSetupPane::RefreshBatchButtons() {

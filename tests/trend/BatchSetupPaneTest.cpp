@@ -175,8 +175,10 @@ TEST_F(BatchSetupPaneTest, ABlankProcessShowsTheFirstRowsCropAndBlankFields) {
   EXPECT_EQ(setup.cboCrops.text(), "Corn");  // which the option does not hold
   EXPECT_EQ(setup.cboCrops.index(), -1);
   EXPECT_THAT(setup.lblCropHint.caption(), HasSubstr("no field with this crop"));
-  EXPECT_EQ(setup.lblgeneric24.caption(), "($ / bu.)");
-  EXPECT_EQ(setup.lblgeneric22.caption(), "(bushels / acre)");
+  // The name is no entry of the list, so nothing is chosen: the units stay those of the option's first crop.
+  EXPECT_EQ(setup.lblgeneric20.caption(), "($ / lb)");
+  EXPECT_EQ(setup.lblgeneric22.caption(), "(pounds / acre)");
+  EXPECT_EQ(setup.lblgeneric24.caption(), "($ / lb)");
   EXPECT_EQ(setup.txtBatchMinimum[0].text(), "");
   EXPECT_EQ(setup.txtBatchMinimum[1].text(), "");
   EXPECT_EQ(setup.cboBatchSteps.text(), "");
