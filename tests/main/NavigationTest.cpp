@@ -75,6 +75,22 @@ TEST_F(Navigation, ASummaryOpenedTwiceHoldsItsBackButton) {
   EXPECT_EQ(shown(), (Strings{"pneSummary", "pneSummary", "pneSummary", "pneSummary"}));
 }
 
+TEST_F(Navigation, TheSummaryOpenedOverTheTrendSetupGoesBackToIt) {
+  running.choose("mnuEnableBatch");
+  running.typeFarm();
+  running.choose("mnuFallBatch");
+  EXPECT_NE(main.lblMainInfo.caption(), main.strMainInfo);
+  running.choose("mnuSummary");
+  EXPECT_FALSE(running.control<Frame>("pneBatchSetup(0)").isShown());
+  running.press("cmdCancel(2)");
+  EXPECT_EQ(shown(), (Strings{"pneBatchSetup(0)", "pneSummary", "pneBatchSetup(0)"}));
+  EXPECT_TRUE(running.control<Button>("cmdBatchIt").isReachable());
+  for (const Frame* pane : main.panes.panes())
+    EXPECT_EQ(pane->isShown(), pane->name() == "pneBatchSetup(0)") << pane->name();
+  // The band has the main pane's text, although the trend setup had put its own there.
+  EXPECT_EQ(main.lblMainInfo.caption(), main.strMainInfo);
+}
+
 TEST_F(Navigation, TurningTrendsOffLeadsHomeFromAnywhere) {
   running.choose("mnuEnableBatch");
   running.typeFarm();
