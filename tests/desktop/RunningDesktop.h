@@ -8,6 +8,7 @@
 #include <QTest>
 #include <QTimer>
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -52,6 +53,11 @@ class RunningDesktop : public ::testing::Test {
   template <class Kind = QWidget>
   Kind* widget(const std::string& path) {
     return qobject_cast<Kind*>(desktop_->binder().widget(*program().desk.find(path)));
+  }
+
+  /// Whether something comes true within a while. (The toolkit's own waiting checks report to nobody here.)
+  [[nodiscard]] static bool comes(const std::function<bool()>& condition) {
+    return QTest::qWaitFor(condition, 3000);
   }
 
   void press(const std::string& path) { QTest::mouseClick(widget(path), Qt::LeftButton); }

@@ -23,7 +23,7 @@ class Windows : public RunningDesktop {
       QMenu* menu = title->menu();
       if (menu == nullptr || !menu->actions().contains(wanted)) continue;
       QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(title).center());
-      QTRY_VERIFY(menu->isVisible());
+      ASSERT_TRUE(comes([&] { return menu->isVisible(); }));
       QTest::mouseMove(menu, menu->actionGeometry(wanted).center());
       QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(wanted).center());
       QTest::qWait(0);
@@ -85,7 +85,7 @@ TEST_F(Windows, AnEscapeClosesTheOptionsAndChangesNothing) {
   type("frmOptions.txtFineFactor", "5");
   ASSERT_TRUE(QTest::qWaitForWindowActive(widget("frmOptions")));
   QTest::keyClick(widget("frmOptions.txtFineFactor"), Qt::Key_Escape);
-  QTRY_VERIFY(!widget("frmOptions")->isVisible());
+  ASSERT_TRUE(comes([&] { return !widget("frmOptions")->isVisible(); }));
   EXPECT_EQ(program().state.FineFactor, 10);
 }
 
@@ -114,7 +114,7 @@ TEST_F(Windows, ANoteOpensByItsButtonAndClosesByEscape) {
       widget<QLabel>("frmHelp.lblOutput")->text().startsWith(QLatin1String("Yield data may be entered")));
   ASSERT_TRUE(QTest::qWaitForWindowActive(note));
   QTest::keyClick(note, Qt::Key_Escape);
-  QTRY_VERIFY(!note->isVisible());
+  ASSERT_TRUE(comes([&] { return !note->isVisible(); }));
 }
 
 TEST_F(Windows, TheProgramEndsWithItsLastWindow) {
