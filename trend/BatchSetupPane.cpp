@@ -63,6 +63,7 @@ void BatchSetupPane::wire() {
     optBatchVariable[i]->onClick = [this, i] {
       SetVariableLabels(static_cast<double>(i));
       showCropHint();
+      showPreview();
     };
   }
   for (const auto& way : optBatchOption)
@@ -237,7 +238,9 @@ void BatchSetupPane::showCropHint() {
 
 void BatchSetupPane::showPreview() {
   try {
-    const TrendReading reading = readValues(true);
+    TrendReading reading = readValues(true);
+    if (!reading.refusal && getSelectedIndex(batchVariables) == rainVariable)
+      reading.refusal = refuseRain(reading.values);
     lblBatchPreview.setCaption(reading.refusal ? reading.refusal->text : describeValues(reading.values));
   } catch (const RunTimeError& error) {
     lblBatchPreview.setCaption(error.what());
@@ -261,7 +264,7 @@ void BatchSetupPane::chooseFile() {
 
 void BatchSetupPane::goBack() {
   if (const std::shared_ptr<Crop> crop = host_.rowCount() > 0 ? host_.rowCrop(0) : nullptr) {
-    // Only the first row's crop: the saved inputs that are read below undo what else a trend has changed.
+    // Only the first row's crop: another one keeps the production costs of the trend. Meant.
     crop->inputCosts.UseBatch = false;
     crop->inputCosts.BatchGeneralCosts = 0;
   }

@@ -80,6 +80,7 @@ void BatchSetupPane::showProcess(const BatchProcess& process) {
   lblBatchFile.setCaption(process.inputfilename);
   // The texts above have turned their own ways on.
   batchOptions.select(process.variables_type);
+  showCropHint();
 }
 
 void BatchSetupPane::RefreshBatchButtons() {

@@ -58,6 +58,13 @@ void addStep(const VariableTrendExport& trend, long step, FieldCollection& optio
   for (const auto& field : option)
     addField(trend, step, *field, text);
   addLine(text, "</table></td>");
+  if (option.Count() == 0) {
+    throw RunTimeError(
+        ErrorNumber::divisionByZero,
+        "Step " + std::to_string(step) + " has fewer than " + std::to_string(ranks) +
+            " options, and the table shows that many of each step. Keep more options, tick more "
+            "crops, or raise the iteration factor.");
+  }
   const double profit = perAcre(option.getProfit(), acresOf(option));
   addLine(text, "<td valign=top>" + formatNumber(profit, "$###,###,##0") + " /ac</td>");
   addLine(text, "</tr>");

@@ -151,7 +151,8 @@ TEST_F(Keys, TheLetterLeadsToTheFieldOrPressesTheButton) {
   }
   const QKeyCombination costs = keysOf(widget("Command8")).front()[0];
   QTest::keyClick(window(), costs.key(), costs.keyboardModifiers());
-  EXPECT_TRUE(comes([&] { return pane() == std::string("pneIrrigCosts"); }));  // the button is seen to go down first
+  EXPECT_TRUE(
+      comes([&] { return pane() == std::string("pneIrrigCosts"); }));  // the button is seen to go down first
 }
 
 TEST_F(Keys, TheSecondFieldOfALineHasAKeyThatItsToolTipTells) {

@@ -4,7 +4,12 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 #include <filesystem>
@@ -60,6 +65,24 @@ class RunningDesktop : public ::testing::Test {
     return QTest::qWaitFor(condition, 3000);
   }
 
+  /// Opens the entry's menu in the menu bar and clicks the entry.
+  void choose(Control& entry) {
+    QAction* wanted = desktop().binder().action(entry);
+    ASSERT_NE(wanted, nullptr) << entry.path();
+    auto* bar = window()->findChild<QMenuBar*>();
+    for (QAction* title : bar->actions()) {
+      QMenu* menu = title->menu();
+      if (menu == nullptr || !menu->actions().contains(wanted)) continue;
+      QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(title).center());
+      ASSERT_TRUE(comes([&] { return menu->isVisible(); }));
+      QTest::mouseMove(menu, menu->actionGeometry(wanted).center());
+      QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(wanted).center());
+      QTest::qWait(0);
+      return;
+    }
+    FAIL() << "in no menu: " << entry.path();
+  }
+
   void press(const std::string& path) { QTest::mouseClick(widget(path), Qt::LeftButton); }
 
   /// A check box or option button is pressed at its mark, not somewhere beside its text.
@@ -102,7 +125,26 @@ class RunningDesktop : public ::testing::Test {
     QTimer::singleShot(0, qApp, [this, key] { answerBox(key, 50); });
   }
 
-  std::vector<std::string> boxes;  ///< "title|text" of those that were answered
+  /// Presses a button of the message box that comes next, and keeps its title and text.
+  void expectAnswer(QMessageBox::StandardButton button) {
+    QTimer::singleShot(0, qApp, [this, button] { answerBox(button, 50); });
+  }
+
+  /// A key in the main window, which a box or a chooser may have left inactive.
+  void pressKey(Qt::Key wanted, Qt::KeyboardModifiers with = Qt::NoModifier) {
+    window()->activateWindow();
+    QTest::qWait(0);
+    QWidget* focus = window()->focusWidget();
+    QTest::keyClick(focus == nullptr ? window() : focus, wanted, with);
+  }
+
+  /// Answers the file chooser that comes next with a path, typed; an empty one cancels it.
+  void expectChooser(const QString& path) {
+    QTimer::singleShot(0, qApp, [this, path] { answerChooser(path, 50); });
+  }
+
+  std::vector<std::string> boxes;   ///< "title|text" of those that were answered
+  std::vector<std::string> titles;  ///< Of the choosers that were answered
 
  private:
   void answerBox(Qt::Key key, int tries) {
@@ -115,6 +157,34 @@ class RunningDesktop : public ::testing::Test {
     EXPECT_TRUE(box->textInteractionFlags().testFlag(Qt::TextSelectableByMouse));
     QTest::keyClick(box, key);
     if (box->isVisible()) box->close();
+  }
+
+  void answerBox(QMessageBox::StandardButton button, int tries) {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (box == nullptr) {
+      if (tries > 0) QTimer::singleShot(10, qApp, [this, button, tries] { answerBox(button, tries - 1); });
+      return;
+    }
+    boxes.push_back(box->windowTitle().toStdString() + "|" + box->text().toStdString());
+    ASSERT_NE(box->button(button), nullptr) << boxes.back();
+    QTest::mouseClick(box->button(button), Qt::LeftButton);
+  }
+
+  void answerChooser(const QString& path, int tries) {
+    auto* chooser = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    if (chooser == nullptr) {
+      if (tries > 0) QTimer::singleShot(10, qApp, [this, path, tries] { answerChooser(path, tries - 1); });
+      return;
+    }
+    titles.push_back(chooser->windowTitle().toStdString());
+    if (path.isEmpty()) {
+      chooser->reject();
+      return;
+    }
+    auto* name = chooser->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    name->setText(path);
+    QTest::keyClick(name, Qt::Key_Return);
+    if (chooser->isVisible()) chooser->reject();
   }
 
   QTimer guard_;

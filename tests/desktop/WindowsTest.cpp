@@ -2,8 +2,6 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMenu>
-#include <QMenuBar>
 #include <QTableWidget>
 
 #include "tests/desktop/RunningDesktop.h"
@@ -14,24 +12,6 @@ namespace {
 /// The menus, the small windows, the yield grid and the trends, with the mouse and the keys.
 class Windows : public RunningDesktop {
  protected:
-  /// Opens the entry's menu in the menu bar and clicks the entry.
-  void choose(Control& entry) {
-    QAction* wanted = desktop().binder().action(entry);
-    ASSERT_NE(wanted, nullptr) << entry.path();
-    auto* bar = window()->findChild<QMenuBar*>();
-    for (QAction* title : bar->actions()) {
-      QMenu* menu = title->menu();
-      if (menu == nullptr || !menu->actions().contains(wanted)) continue;
-      QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(title).center());
-      ASSERT_TRUE(comes([&] { return menu->isVisible(); }));
-      QTest::mouseMove(menu, menu->actionGeometry(wanted).center());
-      QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(wanted).center());
-      QTest::qWait(0);
-      return;
-    }
-    FAIL() << "in no menu: " << entry.path();
-  }
-
   [[nodiscard]] QTableWidget* grid() { return widget<QTableWidget>("dgCustom"); }
   [[nodiscard]] std::string cell(int row, int column) {
     return program().main().pneCustomCrop.dgCustom.cell(row, column);
