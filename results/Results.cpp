@@ -5,6 +5,7 @@
 #include "model/listIndex.h"
 #include "results/figures.h"
 #include "results/passOver.h"
+#include "text/RunTimeError.h"
 #include "text/numbers.h"
 
 namespace verdalis {
@@ -59,6 +60,10 @@ void Results::connect() {
 }
 
 const Results::Option& Results::option(std::int16_t number) const {
+  if (FieldCollection.empty()) {
+    throw RunTimeError(ErrorNumber::subscript,
+                       "There is no option yet. Press \"Generate Output\" on the main screen first.");
+  }
   return FieldCollection[listIndex(number, FieldCollection.size())];
 }
 

@@ -2,6 +2,7 @@
 
 #include "model/listIndex.h"
 #include "results/figures.h"
+#include "text/RunTimeError.h"
 #include "text/numbers.h"
 #include "trend/exportText.h"
 
@@ -50,6 +51,13 @@ void addField(const VariableTrendExport& trend, long step, Field& field, std::st
   addLine(text, line);
 }
 
+RunTimeError tooFewOptions(ErrorNumber number, long step) {
+  return {number,
+          "Step " + std::to_string(step) + " has fewer than " + std::to_string(ranks) +
+              " options, and the table shows that many of each step. Keep more options, tick more crops, "
+              "or raise the iteration factor."};
+}
+
 void addStep(const VariableTrendExport& trend, long step, FieldCollection& option, RowColours& colours,
              std::string& text) {
   addLine(text, "<tr bgcolor='" + colours.next() + "'><td>Step " + std::to_string(step) + "</td>");
@@ -58,13 +66,7 @@ void addStep(const VariableTrendExport& trend, long step, FieldCollection& optio
   for (const auto& field : option)
     addField(trend, step, *field, text);
   addLine(text, "</table></td>");
-  if (option.Count() == 0) {
-    throw RunTimeError(
-        ErrorNumber::divisionByZero,
-        "Step " + std::to_string(step) + " has fewer than " + std::to_string(ranks) +
-            " options, and the table shows that many of each step. Keep more options, tick more "
-            "crops, or raise the iteration factor.");
-  }
+  if (option.Count() == 0) throw tooFewOptions(ErrorNumber::divisionByZero, step);
   const double profit = perAcre(option.getProfit(), acresOf(option));
   addLine(text, "<td valign=top>" + formatNumber(profit, "$###,###,##0") + " /ac</td>");
   addLine(text, "</tr>");
@@ -89,7 +91,9 @@ void writeVariableTrend(const VariableTrendExport& trend, std::string& text) {
                       "</th><th>Net Return</th></tr>");
     for (std::size_t s = 0; s < trend.batches.size(); ++s) {
       const std::vector<BestMix::Option> options = trend.batches[s].returnCollection(true);
-      addStep(trend, static_cast<long>(s) + 1, *options[listIndex(rank, options.size())], colours, text);
+      const long step = static_cast<long>(s) + 1;
+      if (static_cast<std::size_t>(rank) > options.size()) throw tooFewOptions(ErrorNumber::subscript, step);
+      addStep(trend, step, *options[static_cast<std::size_t>(rank) - 1], colours, text);
     }
     addLine(text, "</table>");
   }
