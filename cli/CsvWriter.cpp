@@ -1,3 +1,5 @@
+#include "cli/CsvWriter.h"
+
 #include <cmath>
 #include <ostream>
 
@@ -22,32 +24,38 @@ std::string quoted(const std::string& text) {
   return result + '"';
 }
 
-std::string number(double value) {
+}  // namespace
+
+std::string csvNumber(double value) {
   return value == 0 && std::signbit(value) ? "-0" : generalText(value);
 }
 
-}  // namespace
+void writeCsvHead(std::ostream& out, std::string_view front) {
+  out << front << head << "\r\n";
+}
+
+void writeCsvRows(std::ostream& out, std::size_t number, const OptionResult& option, std::string_view front) {
+  std::size_t fieldNumber = 0;
+  for (const FieldResult& field : option.fields) {
+    out << front << number << ',' << ++fieldNumber << ',' << quoted(field.crop);
+    for (const double value : {field.acres, field.netDepth, field.grossDepth, field.yield}) {
+      out << ',' << csvNumber(value);
+    }
+    out << ',' << quoted(field.yieldUnit) << ',' << csvNumber(field.price) << ',' << csvNumber(field.maxYield)
+        << ',' << quoted(field.soil);
+    for (const double value :
+         {field.costs, field.returns, field.profit(), option.costs, option.returns, option.profit}) {
+      out << ',' << csvNumber(value);
+    }
+    out << "\r\n";
+  }
+}
 
 void writeCsv(std::ostream& out, const EvaluationResult& result) {
-  out << head << "\r\n";
-  std::size_t optionNumber = 0;
-  for (const OptionResult& option : result.options) {
-    ++optionNumber;
-    std::size_t fieldNumber = 0;
-    for (const FieldResult& field : option.fields) {
-      out << optionNumber << ',' << ++fieldNumber << ',' << quoted(field.crop);
-      for (const double value : {field.acres, field.netDepth, field.grossDepth, field.yield}) {
-        out << ',' << number(value);
-      }
-      out << ',' << quoted(field.yieldUnit) << ',' << number(field.price) << ',' << number(field.maxYield)
-          << ',' << quoted(field.soil);
-      for (const double value :
-           {field.costs, field.returns, field.profit(), option.costs, option.returns, option.profit}) {
-        out << ',' << number(value);
-      }
-      out << "\r\n";
-    }
-  }
+  writeCsvHead(out);
+  std::size_t number = 0;
+  for (const OptionResult& option : result.options)
+    writeCsvRows(out, ++number, option);
 }
 
 }  // namespace verdalis

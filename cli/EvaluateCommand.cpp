@@ -1,6 +1,7 @@
 #include "cli/EvaluateCommand.h"
 
 #include <sstream>
+#include <utility>
 
 #include "cli/EvaluationResult.h"
 #include "cli/Interrupt.h"
@@ -47,9 +48,10 @@ void evaluate(const EvaluateRequest& request, std::ostream& out, Messages& messa
   // All of the text is there before the first byte goes out, so that a failure leaves no part of a result
   // behind.
   std::ostringstream text;
+  text.exceptions(std::ios::badbit);  // no memory left
   optionsWriter(request.format)(text, result);
   reports.deliver();
-  deliver(text.str(), request.output, out);
+  deliver(std::move(text).str(), request.output, out);
 }
 
 }  // namespace verdalis

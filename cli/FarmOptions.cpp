@@ -31,12 +31,7 @@ void applyOption(const std::string& option, const std::string& value, Step step)
 
 std::size_t cropRow(TypedFarm& farm, std::string_view name) {
   if (const std::optional<std::size_t> row = farm.findRow(name)) return *row;
-  std::string text = "There is no crop " + quoteForMessage(name) + ".";
-  const std::vector<std::string> crops = farm.cropNames();
-  for (std::size_t i = 0; i < std::min(crops.size(), mostCropsToName); ++i) {
-    text += (i == 0 ? " The crops are " : ", ") + quoteForMessage(crops[i]);
-  }
-  throw Refusal(text + (crops.empty() ? " The library is empty." : "."));
+  throw Refusal(unknownCrop(farm, name));
 }
 
 std::pair<std::string, std::string> splitAssignment(const std::string& text, std::size_t sign) {
@@ -165,6 +160,15 @@ std::unique_ptr<TypedFarm> makeFarm(const FarmRequest& request, Messages& messag
                 [&] { farm->state().FineFactor = iterationFactor(*request.factor, messages); });
   }
   return farm;
+}
+
+std::string unknownCrop(TypedFarm& farm, std::string_view name) {
+  std::string text = "There is no crop " + quoteForMessage(name) + ".";
+  const std::vector<std::string> crops = farm.cropNames();
+  for (std::size_t i = 0; i < std::min(crops.size(), mostCropsToName); ++i) {
+    text += (i == 0 ? " The crops are " : ", ") + quoteForMessage(crops[i]);
+  }
+  return text + (crops.empty() ? " The library is empty." : ".");
 }
 
 void requireReady(const ScenarioInputs& inputs) {

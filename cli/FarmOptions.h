@@ -4,6 +4,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "cli/Messages.h"
@@ -32,6 +33,9 @@ void addFarmOptions(CLI::App& command, FarmRequest& request);
 /// The farm of the request, with everything put into its controls.
 /// \throws Refusal for a value that is not accepted, RunTimeError where the event of a control fails.
 [[nodiscard]] std::unique_ptr<TypedFarm> makeFarm(const FarmRequest& request, Messages& messages);
+
+/// What to tell of a name that no crop of the farm has, with the names that there are.
+[[nodiscard]] std::string unknownCrop(TypedFarm& farm, std::string_view name);
 
 /// \throws Refusal that names all that a run of the farm still needs.
 void requireReady(const ScenarioInputs& inputs);

@@ -1,62 +1,112 @@
+#include "cli/JsonWriter.h"
+
 #include <cmath>
 #include <nlohmann/json.hpp>
 #include <ostream>
+#include <string>
+#include <utility>
 
 #include "cli/OptionsWriter.h"
 
 namespace verdalis {
 namespace {
 
-using Json = nlohmann::ordered_json;
+constexpr int indent = 2;
 
-/// A whole number is written without a decimal point, as a person would; it is the same 64-bit float either
-/// way.
-Json number(double value) {
+/// A piece of the text; bytes that are no UTF-8 are replaced.
+std::string dump(const Json& value) {
+  return value.dump(indent, ' ', false, Json::error_handler_t::replace);
+}
+
+Json toJson(const FieldResult& field) {
+  return {{"acres", jsonNumber(field.acres)},
+          {"crop", field.crop},
+          {"netDepth", jsonNumber(field.netDepth)},
+          {"grossDepth", jsonNumber(field.grossDepth)},
+          {"yield", jsonNumber(field.yield)},
+          {"yieldUnit", field.yieldUnit},
+          {"price", jsonNumber(field.price)},
+          {"maxYield", jsonNumber(field.maxYield)},
+          {"soil", field.soil},
+          {"costs", jsonNumber(field.costs)},
+          {"return", jsonNumber(field.returns)},
+          {"production", jsonNumber(field.production)},
+          {"irrigation", jsonNumber(field.irrigation)},
+          {"hours", jsonNumber(field.hours)}};
+}
+
+}  // namespace
+
+Json jsonNumber(double value) {
   constexpr double exact = 1e15;
   const bool whole = std::fabs(value) < exact && value == std::trunc(value);
   if (whole && !(value == 0 && std::signbit(value))) return static_cast<std::int64_t>(value);
   return value;
 }
 
-Json toJson(const FieldResult& field) {
-  return {{"acres", number(field.acres)},
-          {"crop", field.crop},
-          {"netDepth", number(field.netDepth)},
-          {"grossDepth", number(field.grossDepth)},
-          {"yield", number(field.yield)},
-          {"yieldUnit", field.yieldUnit},
-          {"price", number(field.price)},
-          {"maxYield", number(field.maxYield)},
-          {"soil", field.soil},
-          {"costs", number(field.costs)},
-          {"return", number(field.returns)},
-          {"production", number(field.production)},
-          {"irrigation", number(field.irrigation)},
-          {"hours", number(field.hours)}};
-}
-
 Json toJson(const OptionResult& option) {
   Json fields = Json::array();
   for (const FieldResult& field : option.fields)
     fields.push_back(toJson(field));
-  return {{"profit", number(option.profit)},
-          {"costs", number(option.costs)},
-          {"return", number(option.returns)},
-          {"netVolume", number(option.netVolume)},
+  return {{"profit", jsonNumber(option.profit)},
+          {"costs", jsonNumber(option.costs)},
+          {"return", jsonNumber(option.returns)},
+          {"netVolume", jsonNumber(option.netVolume)},
           {"fields", std::move(fields)}};
 }
 
-}  // namespace
+void JsonStream::begin(std::string_view key, char open, char close) {
+  startEntry(key);
+  out_ << open;
+  open_.push_back({close});
+}
+
+void JsonStream::end() {
+  const Open ended = open_.back();
+  open_.pop_back();
+  if (!ended.empty) startLine();
+  out_ << ended.close;
+  if (open_.empty()) out_ << '\n';
+}
+
+void JsonStream::put(std::string_view key, const Json& value) {
+  startEntry(key);
+  const std::string text = dump(value);
+  std::size_t from = 0;
+  // Inside a text no line ends: there it is an escape.
+  for (std::size_t end = text.find('\n'); end != std::string::npos; end = text.find('\n', from)) {
+    out_ << std::string_view(text).substr(from, end - from);
+    startLine();
+    from = end + 1;
+  }
+  out_ << std::string_view(text).substr(from);
+}
+
+void JsonStream::startEntry(std::string_view key) {
+  if (open_.empty()) return;
+  if (!open_.back().empty) out_ << ',';
+  open_.back().empty = false;
+  startLine();
+  if (open_.back().close == '}') out_ << dump(key) << ": ";
+}
+
+void JsonStream::startLine() {
+  out_ << '\n' << std::string(indent * open_.size(), ' ');
+}
 
 void writeJson(std::ostream& out, const EvaluationResult& result) {
-  Json options = Json::array();
+  JsonStream json(out);
+  json.beginObject();
+  json.put("waterSplits", result.waterSplits);
+  json.put("cropCombinations", result.cropCombinations);
+  json.put("candidates", result.candidates());
+  json.put("efficiency", jsonNumber(result.efficiency));
+  json.put("seconds", jsonNumber(result.seconds));
+  json.beginList("options");
   for (const OptionResult& option : result.options)
-    options.push_back(toJson(option));
-  const Json json = {{"waterSplits", result.waterSplits}, {"cropCombinations", result.cropCombinations},
-                     {"candidates", result.candidates()}, {"efficiency", number(result.efficiency)},
-                     {"seconds", number(result.seconds)}, {"options", std::move(options)}};
-  constexpr int indent = 2;
-  out << json.dump(indent, ' ', false, Json::error_handler_t::replace) << '\n';
+    json.put(toJson(option));
+  json.end();
+  json.end();
 }
 
 }  // namespace verdalis

@@ -1,13 +1,14 @@
 #include "cli/TrendCommand.h"
 
 #include <charconv>
-#include <sstream>
+#include <ostream>
 #include <utility>
 
 #include "cli/Interrupt.h"
 #include "cli/OptionsWriter.h"
 #include "cli/Progress.h"
 #include "cli/TrendCommandFarm.h"
+#include "cli/TrendCommandText.h"
 #include "cli/TrendCommandWriter.h"
 #include "cli/output.h"
 #include "cli/textOptions.h"
@@ -23,11 +24,22 @@
 namespace verdalis {
 namespace {
 
+/// The spreadsheet export of a trend.
+struct Page {
+  std::string text;                   ///< As far as it came
+  std::optional<RunTimeError> error;  ///< What ended it
+};
+
+/// What a trend has found.
+struct Findings {
+  TrendResult result;
+  Page page;
+};
+
 /// The outcome of a trend, ready to be handed over.
 struct Outcome {
-  TrendResult result;
-  std::string page;                       ///< The spreadsheet export, as far as it came
-  std::optional<RunTimeError> pageError;  ///< What ended it
+  TextPieces text;
+  Page page;
 };
 
 /// The option of the request, from 1; 0 without one.
@@ -64,22 +76,28 @@ TrendedOption describeTrended(FieldCollection& option) {
   return result;
 }
 
-/// Fills the page; a failure leaves the lines before it.
+/// The page that `write` fills; a failure leaves the lines before it.
 template <class Write>
-void fillPage(Outcome& outcome, Write write) {
+Page makePage(Write write) {
+  Page page;
   try {
-    write(outcome.page);
+    write(page.text);
   } catch (const RunTimeError& error) {
-    outcome.pageError = error;
+    page.error = error;
   }
+  return page;
+}
+
+/// \throws Cancelled after a Ctrl+C.
+void stopIfAsked() {
+  if (Interrupt::requested()) throw Cancelled();
 }
 
 /// A trend of one farm.
 class TrendRun {
  public:
-  TrendRun(const TrendRequest& request, TypedFarm& typed, TrendFarm& farm, RunHooks& progress)
-      : request_(request), farm_(farm) {
-    farm_.listen(progress);
+  TrendRun(const TrendRequest& request, TypedFarm& typed, RunHooks& progress)
+      : request_(request), typed_(typed), farm_(typed, progress) {
     const std::shared_ptr<Crop> ticked = farm_.firstTickedCrop();
     const std::string fallback = ticked ? ticked->cropType : "";
     processes_.push_back(makeTrendProcess(request.processes[0], "", typed, farm_, fallback));
@@ -89,48 +107,48 @@ class TrendRun {
       farm_.trend().ProcessCollection.push_back(process.process);
   }
 
-  Outcome runVariable() {
+  Findings runVariable() {
     farm_.state().SelectedOption = std::make_shared<FieldCollection>();
     TrendExecution execution = makeExecution();
     farm_.state().TrendMode = true;
-    if (!execution.runVariable() || Interrupt::requested()) throw Cancelled();
+    if (!execution.runVariable()) throw Cancelled();
 
-    Outcome outcome;
-    describe(outcome.result);
+    Findings findings;
+    describeSteps(findings.result);
     if (request_.exportFile) {
-      fillPage(outcome, [&](std::string& page) {
+      findings.page = makePage([&](std::string& page) {
         TrendState& trend = farm_.trend();
         writeVariableTrend({trend.BatchCollection, trend.TrendValues, trend.TrendVariableName,
-                            trend.TrendVariableCrop, units(), farm_.txtEff(), farm_.now()},
+                            trend.TrendVariableCrop, units(), farm_.txtEff(), localTime()},
                            page);
       });
     }
-    return outcome;
+    return findings;
   }
 
-  Outcome runFixed(std::size_t number, Reports& reports) {
+  Findings runFixed(std::size_t number, Reports& reports) {
     refuseCombinations();
     const std::vector<Results::Option> options = farm_.evaluate();
-    Outcome outcome;
-    outcome.result.evaluation = describeRun({}, farm_.state(), 0);
-    reports.write(farm_.printer(), options);
+    Findings findings;
+    findings.result.evaluation = describeRun({}, farm_.state(), 0);
+    reports.write(typed_.printer(), options);
     selectOption(options, number);
     TrendExecution execution = makeExecution();
     farm_.state().TrendMode = true;
-    if (!execution.runFixed() || Interrupt::requested()) throw Cancelled();
+    if (!execution.runFixed()) throw Cancelled();
 
-    describe(outcome.result, farm_.trend());
+    describeCombinations(findings.result);
     if (request_.exportFile) {
-      fillPage(outcome, [&](std::string& page) {
+      findings.page = makePage([&](std::string& page) {
         const auto isTrended = [&](std::int16_t variable, const std::string& crop) {
           return farm_.isTrended(variable, crop);
         };
         writeFixedTrend({farm_.trend().TrendOptionArray, *farm_.state().SelectedOption, isTrended,
-                         farm_.txtEff(), farm_.now()},
+                         farm_.txtEff(), localTime()},
                         page);
       });
     }
-    return outcome;
+    return findings;
   }
 
  private:
@@ -164,13 +182,14 @@ class TrendRun {
   }
 
   /// Each step is described with the efficiency of its own run; the last one stays in force.
-  void describe(TrendResult& result) {
+  void describeSteps(TrendResult& result) {
     const double efficiency = EfficiencyFraction;
     result.variables = variablesOf(processes_);
     result.prefix = units()[0];
     result.suffix = units()[1];
     const TrendState& trend = farm_.trend();
     for (std::size_t i = 0; i < trend.BatchCollection.size(); ++i) {
+      stopIfAsked();
       TrendStep step{numberOf(trend.TrendValues.at(i)), farm_.runs().at(i)};
       EfficiencyFraction = step.result.efficiency;
       BestMix ranking = trend.BatchCollection[i].Copy();  // the export packs those that the trend has left
@@ -182,15 +201,17 @@ class TrendRun {
     EfficiencyFraction = efficiency;
   }
 
-  void describe(TrendResult& result, const TrendState& trend) const {
+  void describeCombinations(TrendResult& result) {
     result.fixed = true;
     result.variables = variablesOf(processes_);
     const auto valueOf = [&](std::size_t process, std::size_t i) {
       return numberOf(processes_[process].process.GetValueArray().at(i));
     };
+    const TrendState& trend = farm_.trend();
     const TrendOptionArray& grid = trend.TrendOptionArray;
     for (std::size_t i = 0; i < grid.rows(); ++i) {
       for (std::size_t j = 0; j < grid.columns(); ++j) {
+        stopIfAsked();
         std::vector<double> values{valueOf(0, i)};
         if (grid.dimensions() == 2) values.push_back(valueOf(1, j));
         FieldCollection option = grid.at(i, j)->Copy();
@@ -199,23 +220,44 @@ class TrendRun {
     }
     BestMix ranking = trend.BatchCollection.at(0).Copy();
     for (const auto& option : ranking.returnCollection(true)) {
+      stopIfAsked();
       if (option->Count() > 0) result.options.push_back(describeTrended(*option));
     }
   }
 
   const TrendRequest& request_;
-  TrendFarm& farm_;
+  TypedFarm& typed_;
+  TrendFarm farm_;
   std::vector<TrendProcess> processes_;
 };
 
-Outcome runTrend(const TrendRequest& request, std::size_t number, Reports& reports, Messages& messages) {
-  const Interrupt interrupt;
+Findings findTrend(const TrendRequest& request, std::size_t number, Reports& reports, Messages& messages) {
   const std::unique_ptr<TypedFarm> typed = makeFarm(request.farm, messages);
   requireReady(typed->inputs());
-  TrendFarm farm(request.farm, *typed);
-  Progress progress(asTerminal(messages.stream()), farm.state());
-  TrendRun run(request, *typed, farm, progress);
+  Progress progress(asTerminal(messages.stream()), typed->state());
+  TrendRun run(request, *typed, progress);
   return number == 0 ? run.runVariable() : run.runFixed(number, reports);
+}
+
+/// Fills the outcome. \throws Cancelled after a Ctrl+C, whenever it came.
+void runTrend(const TrendRequest& request, Reports& reports, Messages& messages, Outcome& outcome) {
+  const Interrupt interrupt;
+  Findings findings = findTrend(request, optionNumber(request.option), reports, messages);
+  std::ostream text(&outcome.text);
+  text.exceptions(std::ios::badbit);  // no memory left
+  writeTrend(text, findings.result, request.format);
+  outcome.page = std::move(findings.page);
+  stopIfAsked();
+}
+
+/// Hands a text over as deliver() does, which for standard output needs no more than a piece at a time.
+void deliverPieces(TextPieces& text, const std::optional<std::string>& file, std::ostream& out) {
+  if (file) {
+    deliver(text.join(), file, out);
+    return;
+  }
+  for (const std::string& piece : text.pieces())
+    deliver(piece, file, out);
 }
 
 }  // namespace
@@ -240,15 +282,13 @@ const CLI::App& addTrendCommand(CLI::App& app, TrendRequest& request) {
 void trend(const TrendRequest& request, std::ostream& out, Messages& messages) {
   requireKind(request);
   Reports reports(request.reports);
-  const std::size_t number = optionNumber(request.option);
-  const Outcome outcome = runTrend(request, number, reports, messages);
   // All of the text is there before the first byte goes out.
-  std::ostringstream text;
-  writeTrend(text, outcome.result, request.format);
+  Outcome outcome;
+  runTrend(request, reports, messages, outcome);
   reports.deliver();
-  if (request.exportFile) deliverToFile(encodeForExport(outcome.page), *request.exportFile);
-  deliver(text.str(), request.output, out);
-  if (outcome.pageError) throw RunTimeError(*outcome.pageError);
+  if (request.exportFile) deliverToFile(encodeForExport(outcome.page.text), *request.exportFile);
+  deliverPieces(outcome.text, request.output, out);
+  if (outcome.page.error) throw RunTimeError(*outcome.page.error);
 }
 
 }  // namespace verdalis

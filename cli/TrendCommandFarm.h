@@ -1,40 +1,30 @@
 #pragma once
 
 #include <memory>
-#include <sstream>
 #include <string>
 #include <vector>
 
 #include "cli/EvaluationResult.h"
-#include "cli/FarmOptions.h"
-#include "cli/Messages.h"
-#include "cli/TerminalServices.h"
+#include "cli/TypedFarm.h"
 #include "engine/RunHooks.h"
-#include "screens/main/Program.h"
 #include "trend/TrendHost.h"
 #include "trend/TrendState.h"
 
 namespace verdalis {
 
-/// A farm as its main window stands, with the trends of that window. Each run inside a trend is written down,
-/// with the efficiency that was in force. Nothing is saved, and nothing is told: what there is to tell of the
-/// farm is told where it is typed.
+/// A typed farm as its trends see it. Each run inside a trend is written down, with the efficiency that was
+/// in force.
 class TrendFarm final : public TrendInputs {
  public:
-  /// The farm of a request whose texts have been accepted; `typed` holds them as they ended in the controls.
-  TrendFarm(const FarmRequest& request, TypedFarm& typed);
+  /// `progress` hears how far each run is. Both must outlive this.
+  TrendFarm(TypedFarm& typed, RunHooks& progress) : typed_(typed), progress_(progress) {}
 
-  /// Hears of the progress of every run; it must outlive the runs.
-  void listen(RunHooks& progress);
+  [[nodiscard]] ProgramState& state() { return typed_.state(); }
+  [[nodiscard]] TrendState& trend() { return typed_.trends().trend; }
 
-  [[nodiscard]] ProgramState& state() { return program_.state; }
-  [[nodiscard]] TrendState& trend() { return main().trends.trend; }
-  [[nodiscard]] const ResultPrinter& printer() { return main().thePrinter; }
-  [[nodiscard]] ClockTime now() const { return platform_.now(); }
-
-  /// Presses the button that starts the evaluation. \returns the options of the results screen, placeholders
-  /// included. \throws Cancelled, RunTimeError
-  [[nodiscard]] const std::vector<Results::Option>& evaluate();
+  /// The evaluation that comes before a fixed trend. \returns the options of the results screen, placeholders
+  /// included. \throws Refusal, Cancelled, RunTimeError
+  [[nodiscard]] std::vector<Results::Option> evaluate();
 
   /// The first ticked row's crop; nullptr where none is ticked.
   [[nodiscard]] std::shared_ptr<Crop> firstTickedCrop();
@@ -55,20 +45,13 @@ class TrendFarm final : public TrendInputs {
   void setTxtAnnRain(const std::string& text) override { host().setTxtAnnRain(text); }
   [[nodiscard]] std::string txtArraySize() const override { return host().txtArraySize(); }
   BestMix RunScenario(const std::string& statusText) override;
-  RunHooks& hooks() override { return progress_ == nullptr ? host().hooks() : *progress_; }
+  RunHooks& hooks() override { return progress_; }
 
  private:
-  [[nodiscard]] frmMain& main() { return program_.main(); }
-  [[nodiscard]] TrendHost& host() const { return *host_; }
-  void take(const ScenarioInputs& inputs);
+  [[nodiscard]] TrendHost& host() const { return typed_.trendHost(); }
 
-  std::ostringstream untold_;
-  Messages messages_;
-  TerminalServices platform_;
-  Services services_;
-  Program program_;
-  TrendHost* host_ = nullptr;
-  RunHooks* progress_ = nullptr;
+  TypedFarm& typed_;
+  RunHooks& progress_;
   std::vector<EvaluationResult> runs_;
 };
 

@@ -1,8 +1,12 @@
 #include "cli/TrendCommandProcess.h"
 
-#include <algorithm>
+#include <unistd.h>
+
+#include <filesystem>
+#include <system_error>
 #include <utility>
 
+#include "cli/FarmOptions.h"
 #include "cli/textOptions.h"
 #include "text/RunTimeError.h"
 #include "text/numbers.h"
@@ -23,7 +27,9 @@ std::string variableNames(std::string_view separator) {
 }
 
 std::int16_t variableIndex(const TrendProcessRequest& request, const std::string& option) {
-  if (!request.variable) throw Refusal("A trend needs a variable (" + option + " N): " + variableNames(", "));
+  if (!request.variable) {
+    throw Refusal("A trend needs a variable (" + option + " N): " + variableNames(", ") + ".");
+  }
   const std::string& text = *request.variable;
   if (text.size() == 1 && text[0] >= '0' && text[0] < '0' + static_cast<int>(trendVariableCount))
     return static_cast<std::int16_t>(text[0] - '0');
@@ -44,17 +50,22 @@ std::string cropOf(const TrendProcessRequest& request, const std::string& option
                    const TrendInputs& inputs) {
   if (!request.crop) throw Refusal("This variable belongs to a crop (" + option + " NAME).");
   if (std::optional<std::string> found = cropName(*request.crop, typed, inputs)) return *found;
-  std::string text = "There is no crop " + quoteForMessage(*request.crop) + ".";
-  const std::vector<std::string> crops = typed.cropNames();
-  for (std::size_t i = 0; i < crops.size(); ++i)
-    text += (i == 0 ? " The crops are " : ", ") + quoteForMessage(crops[i]);
-  throw Refusal(option + ": " + text + (crops.empty() ? "" : "."));
+  throw Refusal(option + ": " + unknownCrop(typed, *request.crop));
 }
 
 /// The pane itself reads a leading number; on the command line a text that is no plain number is a slip.
 void requireNumber(const std::string& option, const std::string& text) {
   if (isNumeric(text) && text.find(',') == std::string::npos) return;
   throw Refusal(option + " " + quoteForMessage(text) + ": Please enter a valid number");
+}
+
+/// The reading would only ask for a file, not knowing that one was named.
+void requireReadable(const std::string& option, const std::string& file) {
+  std::error_code error;
+  const bool readable = std::filesystem::is_regular_file(file, error) && ::access(file.c_str(), R_OK) == 0;
+  if (readable && std::filesystem::file_size(file, error) != 0) return;
+  throw Refusal(option + ": Please select a file! The file " + file +
+                (readable ? " is empty." : " cannot be read."));
 }
 
 struct ValuesOption {
@@ -83,7 +94,9 @@ ValuesOption readValues(const TrendProcessRequest& request, const std::string& s
   }
   if (range) return readRangeOptions(request, suffix);
   if (request.values) return {"--values" + suffix, readValuesList(*request.values), TrendValuesKind::manual};
-  return {"--values-file" + suffix, readValuesFile(*request.valuesFile), TrendValuesKind::import};
+  const std::string option = "--values-file" + suffix;
+  requireReadable(option, *request.valuesFile);
+  return {option, readValuesFile(*request.valuesFile), TrendValuesKind::import};
 }
 
 /// Reads the values; those that no run could use, such as 1e999, are refused before the first run.

@@ -50,6 +50,18 @@ ProgramFiles withoutSaving(ProgramFiles files) {
   return files;
 }
 
+/// While it lives, a listener hears of the runs of a window.
+class Listening {
+ public:
+  Listening(frmMain& window, RunHooks& listener) : window_(window) { window_.runListener = &listener; }
+  Listening(const Listening&) = delete;
+  Listening& operator=(const Listening&) = delete;
+  ~Listening() { window_.runListener = nullptr; }
+
+ private:
+  frmMain& window_;
+};
+
 bool stands(const Control& control, const Frame& pane) {
   for (const Frame* frame = control.container(); frame != nullptr; frame = frame->container()) {
     if (frame == &pane) return true;
@@ -148,12 +160,16 @@ void TypedFarm::tickNoSplit() {
 }
 
 std::optional<std::vector<Results::Option>> TypedFarm::evaluate(RunHooks& progress) {
-  main().runListener = &progress;
+  const Listening listening(main(), progress);
   mainPane().Command1.click();
-  main().runListener = nullptr;
   refuseIfTold();
   if (state().CancelRequested) return std::nullopt;
   return main().theResults.FieldCollection;
+}
+
+BestMix TypedFarm::runForTrend(const std::string& statusText, RunHooks& progress) {
+  const Listening listening(main(), progress);
+  return trendHost().RunScenario(statusText);
 }
 
 }  // namespace verdalis

@@ -10,6 +10,8 @@
 #include "cli/TerminalServices.h"
 #include "engine/RunHooks.h"
 #include "screens/main/Program.h"
+#include "trend/TrendHost.h"
+#include "trend/TrendScreens.h"
 
 namespace verdalis {
 
@@ -58,6 +60,16 @@ class TypedFarm {
   /// the results screen, placeholders included; nothing after a cancel.
   /// \throws Refusal when something is missing, RunTimeError
   [[nodiscard]] std::optional<std::vector<Results::Option>> evaluate(RunHooks& progress);
+
+  /// The inputs as a trend writes its values into them. They keep what is written last.
+  [[nodiscard]] TrendHost& trendHost() { return main().trendHost; }
+
+  /// The trends of the main window: their processes, and what the last one has left.
+  [[nodiscard]] TrendScreens& trends() { return main().trends; }
+
+  /// One evaluation inside a trend, of what stands in the inputs now. `statusText` and how far it is go to
+  /// `progress`. \returns a ranking of size 0 after a cancel. \throws RunTimeError
+  [[nodiscard]] BestMix runForTrend(const std::string& statusText, RunHooks& progress);
 
  private:
   [[nodiscard]] frmMain& main() { return program_.main(); }

@@ -245,6 +245,17 @@ TEST(JsonWriter, IsOneObjectForReadingToo) {
 )");
 }
 
+/// It is written piece by piece.
+TEST(JsonWriter, WritesWhatADumpOfTheWholeWouldGive) {
+  EvaluationResult noFields = twoOptions();
+  noFields.options[0].fields.clear();
+  noFields.options[1].fields[0].crop = "two\nlines";
+  for (const EvaluationResult& result : {twoOptions(), noFields, EvaluationResult{}}) {
+    const std::string text = written(writeJson, result);
+    EXPECT_EQ(nlohmann::ordered_json::parse(text).dump(2) + '\n', text);
+  }
+}
+
 TEST(JsonWriter, SurvivesBytesThatAreNoText) {
   EvaluationResult result = twoOptions();
   result.options[0].fields[0].crop = "\xFF\xC3";

@@ -6,6 +6,7 @@
 #include <memory>
 #include <utility>
 
+#include "cli/FarmOptions.h"
 #include "cli/TrendCommandFarm.h"
 #include "tests/cli/CliRun.h"
 #include "text/encoding.h"
@@ -241,7 +242,8 @@ struct OwnTrend {
   std::ostringstream err;
   Messages messages{err};
   std::unique_ptr<TypedFarm> typed = makeFarm(request, messages);
-  TrendFarm farm{request, *typed};
+  RunHooks unheard;
+  TrendFarm farm{*typed, unheard};
   TrendExecution execution{farm, farm.state(), farm.trend(), "Plain"};
 };
 
@@ -254,7 +256,7 @@ TEST_F(TrendCommandTest, ExportsAVariableTrendAsItsWriterDoes) {
   TrendState& state = own.farm.trend();
   std::string text;
   writeVariableTrend(
-      {state.BatchCollection, state.TrendValues, "Crop Price", "Plain", {"$", "/ bu."}, "85", own.farm.now()},
+      {state.BatchCollection, state.TrendValues, "Crop Price", "Plain", {"$", "/ bu."}, "85", localTime()},
       text);
   ASSERT_THAT(text, HasSubstr("</html>"));
   EXPECT_EQ(bytesOf(file("trend.xls")), encodeForExport(text));
@@ -272,7 +274,7 @@ TEST_F(TrendCommandTest, ExportsAFixedTrendAsItsWriterDoes) {
   };
   std::string text;
   writeFixedTrend(
-      {own.farm.trend().TrendOptionArray, *own.farm.state().SelectedOption, isTrended, "85", own.farm.now()},
+      {own.farm.trend().TrendOptionArray, *own.farm.state().SelectedOption, isTrended, "85", localTime()},
       text);
   ASSERT_THAT(text, HasSubstr("</html>"));
   EXPECT_EQ(bytesOf(file("trend.xls")), encodeForExport(text));

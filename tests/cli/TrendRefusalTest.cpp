@@ -1,0 +1,315 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <cctype>
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "tests/cli/CliRun.h"
+
+// A trend that cannot be run says why, and leaves nothing behind.
+
+namespace verdalis::testing {
+namespace {
+
+using ::testing::AllOf;
+using ::testing::EndsWith;
+using ::testing::HasSubstr;
+using ::testing::StartsWith;
+using Args = std::vector<std::string>;
+
+/// One field of Plain on 100 acres: 50 of 100 bushels at $2.
+const Args plain{"--split", "5", "--crop", "Plain", "--price", "Plain=2", "--max-yield", "Plain=100"};
+
+const Args irrigationCosts{"--variable", "4"};
+const Args rain{"--variable", "5"};
+
+Args operator+(Args args, const Args& more) {
+  args.insert(args.end(), more.begin(), more.end());
+  return args;
+}
+
+Args ofPlain(const std::string& variable) {
+  return {"--variable", variable, "--trend-crop", "Plain"};
+}
+
+Args range(const std::string& from, const std::string& to, const std::string& steps) {
+  return {"--from", from, "--to", to, "--steps", steps};
+}
+
+class TrendRefusalTest : public ::testing::Test {
+ protected:
+  SmallHome home;
+
+  [[nodiscard]] std::string file(const std::string& name) const { return (home.folder() / name).string(); }
+
+  [[nodiscard]] CliResult trend(const Args& more) const {
+    Args args = home.arguments(plain + more);
+    args.front() = "trend";
+    return runCli(args);
+  }
+
+  /// Runs a trend that is to be exported; it must end with a message and without a result, and the files are
+  /// those that there were.
+  void expectEnd(int exitCode, const Args& more,
+                 const ::testing::Matcher<const std::string&>& message) const {
+    static_cast<void>(home.folder().write("trend.xls", "an export of before"));
+    const std::vector<std::string> before = home.folder().names();
+    const CliResult result = trend(more + Args{"--export", file("trend.xls")});
+    const std::string what = ::testing::PrintToString(more).substr(0, 300);
+    EXPECT_EQ(result.exitCode, exitCode) << what;
+    EXPECT_EQ(result.out, "") << what;
+    const std::string begin = "verdalis-cli: ";
+    ASSERT_THAT(result.err, AllOf(StartsWith(begin), EndsWith("\n"))) << what;
+    EXPECT_THAT(result.err.substr(begin.size(), result.err.size() - begin.size() - 1), message) << what;
+    EXPECT_EQ(home.folder().names(), before) << what;
+    EXPECT_EQ(bytesOf(file("trend.xls")), "an export of before") << what;
+  }
+  void expectRefused(const Args& more, const ::testing::Matcher<const std::string&>& message) const {
+    expectEnd(2, more, message);
+  }
+  void expectRunTimeError(const Args& more, const ::testing::Matcher<const std::string&>& message) const {
+    expectEnd(1, more, message);
+  }
+
+  /// A file of values is refused with this message, for both kinds of trend.
+  void expectFileRefused(const std::string& path,
+                         const ::testing::Matcher<const std::string&>& message) const {
+    expectRefused(irrigationCosts + Args{"--values-file", path}, message);
+    expectRefused(irrigationCosts + Args{"--values-file", path, "--option", "1"}, message);
+  }
+};
+
+TEST_F(TrendRefusalTest, AFileOfValuesThatCannotBeRead) {
+  const auto cannot = [](const std::string& path) {
+    return "--values-file: Please select a file! The file " + path + " cannot be read.";
+  };
+  expectFileRefused(file("none.txt"), cannot(file("none.txt")));
+  expectFileRefused(home.path(), cannot(home.path()));
+  expectFileRefused("", cannot(""));
+  expectFileRefused("/dev/zero", cannot("/dev/zero"));
+  expectRefused(
+      irrigationCosts + Args{"--values", "1", "--option", "1", "--variable2", "3", "--values-file2", "none"},
+      "--values-file2: Please select a file! The file none cannot be read.");
+}
+
+TEST_F(TrendRefusalTest, AFileOfValuesThatNobodyMayRead) {
+  if (::geteuid() == 0) GTEST_SKIP() << "root may read every file";
+  const auto secret = home.folder().write("secret.txt", "1,2");
+  std::filesystem::permissions(secret, std::filesystem::perms::none);
+  expectFileRefused(secret,
+                    "--values-file: Please select a file! The file " + secret.string() + " cannot be read.");
+}
+
+TEST_F(TrendRefusalTest, AFileWithoutValues) {
+  const std::string empty = home.folder().write("empty.txt", "");
+  expectFileRefused(empty, "--values-file: Please select a file! The file " + empty + " is empty.");
+  expectFileRefused(home.folder().write("lines.txt", "\r\n\n"), "--values-file: Please select a file!");
+}
+
+TEST_F(TrendRefusalTest, AFileWithAnEntryThatIsNoNumber) {
+  const auto entry = [](const std::string& place, const std::string& path, const std::string& what) {
+    return "--values-file: Entry " + place + " of the file " + path + what +
+           " Every entry must be a number, with commas only between the numbers, such as 2, 2.5, 3. The end "
+           "of a line does not separate them.";
+  };
+  const std::string word = home.folder().write("word.txt", "70, x,80");
+  expectFileRefused(word, entry("2", word, ", \"x\", is not a number."));
+  const std::string hole = home.folder().write("hole.txt", "70,,80");
+  expectFileRefused(hole, entry("2", hole, " is empty."));
+  const std::string large = home.folder().write("large.txt", "70,80,1e999");
+  expectFileRefused(large, entry("3", large, ", \"1e999\", is not a number."));
+}
+
+TEST_F(TrendRefusalTest, AFileThatIsNoText) {
+  std::string bytes;
+  for (int i = 0; i < 5000; ++i)
+    bytes += static_cast<char>(i * 7 % 256 == ',' ? 0 : i * 7 % 256);
+  const std::string binary = home.folder().write("binary", bytes);
+  expectFileRefused(binary, AllOf(StartsWith("--values-file: Entry 1 of the file " + binary + ", \""),
+                                  HasSubstr("is not a number.")));
+  const CliResult result = trend(irrigationCosts + Args{"--values-file", binary});
+  EXPECT_LT(result.err.size(), 1000U);  // a message, not the file
+  for (std::size_t i = 0; i + 1 < result.err.size(); ++i)
+    EXPECT_FALSE(std::iscntrl(static_cast<unsigned char>(result.err[i]))) << i;
+}
+
+TEST_F(TrendRefusalTest, AFileWithAMillionValues) {
+  std::string million;
+  for (int i = 0; i < 1'000'000; ++i)
+    million += i == 0 ? "12" : ",12";
+  const std::string path = home.folder().write("million.txt", million);
+  const Args values{"--values-file", path};
+  expectRefused(irrigationCosts + values,
+                "1,000,000 values with 100 options each are more than the 1,000,000 options that a variable "
+                "trend can keep. Use fewer values, or keep fewer options.");
+  expectRefused(irrigationCosts + values + Args{"--option", "1"},
+                "The values make 1,000,000 combinations, and a fixed trend can have at most 32,767. Use "
+                "fewer values.");
+  expectRefused(irrigationCosts + values + Args{"--option", "1", "--variable2", "4", "--values-file2", path},
+                "The values make 1,000,000,000,000 combinations, and a fixed trend can have at most 32,767. "
+                "Use fewer values.");
+  static_cast<void>(home.folder().write("million.txt", million + ",12"));
+  expectFileRefused(path,
+                    "--values-file: The file " + path + " has more than 1,000,000 values. Use fewer values.");
+}
+
+TEST_F(TrendRefusalTest, AFileThatIsTooLarge) {
+  const std::string path = home.folder().write("large.txt", "1,2");
+  std::filesystem::resize_file(path, (std::uintmax_t{32} << 20U) + 1);  // takes no room on the disk
+  expectFileRefused(path, "--values-file: The file " + path +
+                              " has more than 32 MB, which is too much for a list of trend values. Select "
+                              "a file with fewer values.");
+}
+
+TEST_F(TrendRefusalTest, AListWithoutNumbers) {
+  for (const std::string list : {"x", ",,", "nan", "inf", "1e999", "0x10"}) {
+    expectRefused(irrigationCosts + Args{"--values", list},
+                  "--values: The list \"" + list +
+                      "\" has no number in it. Enter numbers with commas between them, such as 2, 2.5, 3.");
+  }
+}
+
+TEST_F(TrendRefusalTest, NumbersThatAreTooLarge) {
+  const std::string tooLarge = " is too large to calculate with. Check the numbers that were entered.";
+  for (const Args& kind : {Args{}, Args{"--option", "1"}}) {
+    for (const std::string value : {"1e308", "-1e308"}) {
+      const Args values = Args{"--values", value} + kind;
+      expectRunTimeError(ofPlain("0") + values, "The return of a field" + tooLarge);
+      expectRunTimeError(ofPlain("1") + values, "The production cost of a field" + tooLarge);
+      expectRunTimeError(ofPlain("2") + values, "The return of a field" + tooLarge);
+    }
+  }
+  expectRunTimeError({"--variable", "3", "--values", "1e308"}, "The net water volume" + tooLarge);
+  expectRefused(irrigationCosts + range("-1e308", "1e308", "3"),
+                "The values of the trend: The distance of the trend values" + tooLarge);
+}
+
+TEST_F(TrendRefusalTest, TakesAZeroBelowZeroAndPassesOverHoles) {
+  const CliResult zero = trend(ofPlain("0") + Args{"--values", "-0", "--format", "csv"});
+  EXPECT_EQ(zero.exitCode, 0) << zero.err;
+  EXPECT_THAT(zero.out, HasSubstr("\r\n1,-0,,1,1,Plain,100,8.5,10,50,bu.,"));
+  const CliResult hole = trend(ofPlain("0") + Args{"--values", "1,,2", "--format", "csv"});
+  EXPECT_EQ(hole.exitCode, 0) << hole.err;
+  EXPECT_THAT(hole.out, AllOf(HasSubstr("\r\n1,1,,"), HasSubstr("\r\n2,2,,")));
+}
+
+TEST_F(TrendRefusalTest, AWrongRange) {
+  const std::string order = "--from: Please select a maximum value greater than the minimum value!";
+  expectRefused(irrigationCosts + range("2", "1", "3"), order);
+  expectRefused(irrigationCosts + range("2", "2", "3"), order);
+  expectRefused(irrigationCosts + range("-5", "0", "3"), order);
+  for (const std::string steps : {"0", "1", "1.5", "-3"}) {
+    expectRefused(irrigationCosts + range("1", "2", steps),
+                  "--from: The number of steps \"" + steps +
+                      "\" makes fewer than two values. Enter a whole number of 2 or more, such as 5.");
+  }
+  for (const std::string steps : {"1000001", "99999999999999999999", "1e300"}) {
+    expectRefused(irrigationCosts + range("1", "2", steps), "--from: The number of steps \"" + steps +
+                                                                "\" makes more than 1,000,000 values. Use "
+                                                                "fewer values.");
+  }
+  for (const std::string steps : {"", "x", "3 steps", "1e999", "1,000"}) {
+    expectRefused(irrigationCosts + range("1", "2", steps),
+                  "--steps \"" + steps + "\": Please enter a valid number");
+  }
+}
+
+TEST_F(TrendRefusalTest, RainfallOutOfTheTables) {
+  const std::string below =
+      "Values for Annual Rainfall cannot be below 11 inches.  Please modify the values.";
+  const std::string above = "Values for Annual Rainfall cannot exceed 21 inches.  Please modify the values.";
+  const std::string list = home.folder().write("rain.txt", "11,21,21.01");
+  for (const Args& kind : {Args{}, Args{"--option", "1"}}) {
+    expectRefused(rain + Args{"--values", "10.99"} + kind, "--values: " + below);
+    expectRefused(rain + Args{"--values", "-0"} + kind, "--values: " + below);
+    expectRefused(rain + Args{"--values", "21.01"} + kind, "--values: " + above);
+    expectRefused(rain + Args{"--values", "1e308"} + kind, "--values: " + above);
+    expectRefused(rain + range("10", "21", "3") + kind, "--from: " + below);
+    expectRefused(rain + range("11", "22", "3") + kind, "--from: " + above);
+    expectRefused(rain + Args{"--values-file", list} + kind, "--values-file: " + above);
+  }
+}
+
+TEST_F(TrendRefusalTest, AnOptionThatIsNotThere) {
+  const Args one = irrigationCosts + Args{"--values", "1,2"};
+  for (const std::string option : {"0", "-1", "", "1.0", "1x", " 1"}) {
+    expectRefused(one + Args{"--option", option},
+                  "--option \"" + option + "\": Options are counted 1, 2, 3 and so on.");
+  }
+  expectRefused(one + Args{"--option", "2"}, "--option 2: The evaluation has found 1 option.");
+  expectRefused(one + Args{"--option", "18446744073709551615"},
+                "--option 18446744073709551615: The evaluation has found 1 option.");
+}
+
+TEST_F(TrendRefusalTest, AVariableThatThereIsNot) {
+  const std::string names =
+      "0 is \"Crop Price\", 1 is \"General Production Costs\", 2 is \"Maximum Yield\", 3 is \"Irrigation "
+      "System Efficiency\", 4 is \"Irrigation Costs\", 5 is \"Annual Rainfall\".";
+  for (const std::string variable : {"6", "-1", "x", "", "1.0", "10"}) {
+    expectRefused({"--variable", variable, "--values", "1"},
+                  "--variable \"" + variable + "\": There is no such variable: " + names);
+  }
+  expectRefused({"--values", "1"}, "A trend needs a variable (--variable N): " + names);
+  const Args second = irrigationCosts + Args{"--values", "1", "--option", "1", "--values2", "1"};
+  expectRefused(second + Args{"--variable2", "6"}, "--variable2 \"6\": There is no such variable: " + names);
+  expectRefused(second, "A trend needs a variable (--variable2 N): " + names);
+}
+
+TEST_F(TrendRefusalTest, ACropThatThereIsNot) {
+  for (const std::string variable : {"0", "1", "2"}) {
+    const Args values{"--variable", variable, "--values", "1"};
+    expectRefused(values, "This variable belongs to a crop (--trend-crop NAME).");
+    expectRefused(values + Args{"--trend-crop", "Kale"},
+                  AllOf(StartsWith("--trend-crop: There is no crop \"Kale\". The crops are "),
+                        HasSubstr("\"Plain\""), EndsWith("\".")));
+    expectRefused(
+        irrigationCosts + Args{"--values", "1", "--option", "1", "--variable2", variable, "--values2", "1"},
+        "This variable belongs to a crop (--trend-crop2 NAME).");
+  }
+}
+
+TEST_F(TrendRefusalTest, TooManyCombinations) {
+  const std::string message = " combinations, and a fixed trend can have at most 32,767. Use fewer values.";
+  expectRefused(irrigationCosts + range("1", "2", "32768") + Args{"--option", "1"},
+                "The values make 32,768" + message);
+  expectRefused(
+      irrigationCosts + range("1", "2", "182") +
+          Args{"--option", "1", "--variable2", "3", "--from2", "50", "--to2", "90", "--steps2", "181"},
+      "The values make 32,942" + message);
+}
+
+TEST_F(TrendRefusalTest, AnExportThatCannotBeWritten) {
+  struct Place {
+    std::string path;
+    std::string why;
+  };
+  static_cast<void>(home.folder().write("a-file", ""));
+  std::vector<Place> places{{file("none/trend.xls"), ": No such file or directory.\n"},
+                            {file("a-file/trend.xls"), ": Not a directory.\n"},
+                            {home.path(), ": Is a directory.\n"},
+                            {"/proc/trend.xls", ""}};
+  if (::geteuid() != 0) {  // root may write everywhere
+    std::filesystem::create_directory(file("closed"));
+    std::filesystem::permissions(file("closed"),
+                                 std::filesystem::perms::owner_read | std::filesystem::perms::owner_exec);
+    places.push_back({file("closed/trend.xls"), ": Permission denied.\n"});
+  }
+  const std::vector<std::string> before = home.folder().names();
+  for (const Place& place : places) {
+    for (const Args& kind : {Args{}, Args{"--option", "1"}}) {
+      const CliResult result = trend(ofPlain("0") + Args{"--values", "1,2", "--export", place.path} + kind);
+      EXPECT_EQ(result.exitCode, 1) << place.path;
+      EXPECT_EQ(result.out, "") << place.path;
+      EXPECT_THAT(result.err, AllOf(StartsWith("verdalis-cli: The file " + place.path + " cannot be written"),
+                                    EndsWith(place.why)));
+      EXPECT_EQ(home.folder().names(), before) << place.path;
+    }
+  }
+}
+
+}  // namespace
+}  // namespace verdalis::testing

@@ -1,0 +1,168 @@
+#include <gtest/gtest.h>
+
+#include <nlohmann/json.hpp>
+#include <ostream>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "cli/OptionsWriter.h"
+#include "cli/TrendCommandText.h"
+#include "cli/TrendCommandWriter.h"
+
+// What becomes of a trend as text.
+
+namespace verdalis {
+namespace {
+
+using Ordered = nlohmann::ordered_json;
+
+OptionResult optionOf(double profit, const std::vector<std::string>& crops) {
+  OptionResult option;
+  option.profit = profit;
+  for (const std::string& crop : crops) {
+    FieldResult field;
+    field.acres = 62.5;
+    field.crop = crop;
+    field.yieldUnit = "bu.";
+    field.soil = "Silt Loam";
+    field.returns = profit;
+    option.fields.push_back(field);
+  }
+  return option;
+}
+
+TrendResult variableTrend() {
+  TrendResult trend;
+  trend.variables = {{"Crop Price", "Hay, \"wet\"\nor dry"}};
+  trend.prefix = "$";
+  TrendStep first{2.5, {}};
+  first.result.efficiency = 0.85;
+  first.result.options = {optionOf(30.25, {"Corn", "Hay, \"wet\"\nor dry"}), optionOf(-0.0, {})};
+  trend.steps = {first, {-0.0, {}}};
+  trend.steps.back().result.efficiency = 0.85;
+  return trend;
+}
+
+TrendResult fixedTrend() {
+  TrendResult trend;
+  trend.fixed = true;
+  trend.variables = {{"Crop Price", "Corn"}, {"Irrigation Costs", ""}};
+  const TrendedOption better{optionOf(20, {"Corn", "Corn"}),
+                             {{"Crop Price - Corn", 3, "$", "/ bu."}, {"Irrigation Costs", 0.5, "$", ""}}};
+  const TrendedOption worse{optionOf(10, {"Corn"}), {}};
+  trend.grid = {{{2, 0.5}, worse}, {{3, 0.5}, better}};
+  trend.options = {better, worse};
+  return trend;
+}
+
+std::string written(const TrendResult& trend, std::string_view format) {
+  std::ostringstream out;
+  writeTrend(out, trend, format);
+  return out.str();
+}
+
+/// JSON is written piece by piece; a dump of the whole must be the same text.
+void expectAsDumped(const std::string& text) {
+  EXPECT_EQ(Ordered::parse(text).dump(2) + '\n', text);
+}
+
+TEST(TrendWriter, WritesJsonAsADumpOfTheWhole) {
+  expectAsDumped(written(variableTrend(), "json"));
+  expectAsDumped(written(fixedTrend(), "json"));
+  TrendResult none = variableTrend();
+  none.steps.clear();
+  expectAsDumped(written(none, "json"));
+  none.fixed = true;
+  none.variables.clear();
+  expectAsDumped(written(none, "json"));
+}
+
+/// The options of a step and of a combination are those that an evaluation writes.
+TEST(TrendWriter, WritesOptionsAsAnEvaluationDoes) {
+  std::ostringstream json;
+  writeJson(json, variableTrend().steps.at(0).result);
+  const Ordered options = Ordered::parse(json.str())["options"];
+  EXPECT_EQ(Ordered::parse(written(variableTrend(), "json"))["steps"][0]["options"], options);
+
+  Ordered ofGrid = Ordered::parse(written(fixedTrend(), "json"))["grid"][1]["option"];
+  EXPECT_EQ(ofGrid["trend"].size(), 2U);
+  ofGrid.erase("trend");
+  EvaluationResult better;
+  better.options = {fixedTrend().options[0].option};
+  std::ostringstream other;
+  writeJson(other, better);
+  EXPECT_EQ(ofGrid, Ordered::parse(other.str())["options"][0]);
+}
+
+TEST(TrendWriter, WritesTheJsonOfAStep) {
+  TrendResult trend = variableTrend();
+  trend.steps = {{2.5, {}}, {3, {}}};
+  trend.steps[1].result.options = {optionOf(1.5, {})};
+  EXPECT_EQ(written(trend, "json"), R"({
+  "kind": "variable",
+  "variable": "Crop Price",
+  "crop": "Hay, \"wet\"\nor dry",
+  "steps": [
+    {
+      "value": 2.5,
+      "options": []
+    },
+    {
+      "value": 3,
+      "options": [
+        {
+          "profit": 1.5,
+          "costs": 0,
+          "return": 0,
+          "netVolume": 0,
+          "fields": []
+        }
+      ]
+    }
+  ]
+}
+)");
+}
+
+TEST(TrendWriter, WritesJsonOfBytesThatAreNoText) {
+  TrendResult trend = fixedTrend();
+  trend.variables[0].crop = "\xFF";
+  trend.options[0].trend[0].variable = "Crop Price - \xC3";
+  trend.options[0].option.fields[0].crop = "\xC3";
+  const Ordered json = Ordered::parse(written(trend, "json"));
+  EXPECT_EQ(json["variables"][0]["crop"], "\xEF\xBF\xBD");
+  EXPECT_EQ(json["options"][0]["trend"][0]["variable"], "Crop Price - \xEF\xBF\xBD");
+  EXPECT_EQ(json["options"][0]["fields"][0]["crop"], "\xEF\xBF\xBD");
+}
+
+TEST(TrendWriter, CountsTheOptionsOfEachStepInCsv) {
+  TrendResult trend = variableTrend();
+  trend.steps[0].result.options[1] = optionOf(5, {"Corn"});
+  trend.steps[1].result.options = {optionOf(7, {"Corn"})};
+  const std::string csv = written(trend, "csv");
+  const std::string corn = "Corn,62.5,0,0,0,bu.,0,0,Silt Loam,0,";
+  const std::string hay = "\"Hay, \"\"wet\"\"\nor dry\",62.5,0,0,0,bu.,0,0,Silt Loam,0,";
+  EXPECT_EQ(csv.substr(csv.find("\r\n") + 2), "1,2.5,,1,1," + corn + "30.25,30.25,0,0,30.25\r\n" +
+                                                  "1,2.5,,1,2," + hay + "30.25,30.25,0,0,30.25\r\n" +
+                                                  "1,2.5,,2,1," + corn + "5,5,0,0,5\r\n" + "2,-0,,1,1," +
+                                                  corn + "7,7,0,0,7\r\n");
+}
+
+TEST(TextPieces, JoinToWhatWasWritten) {
+  constexpr std::size_t size = TextPieces::pieceSize;
+  TextPieces pieces;
+  std::ostream out(&pieces);
+  out << std::string(size - 1, 'a') << 'b' << 'c' << std::string(2 * size, 'd') << 12.5 << std::flush;
+  EXPECT_TRUE(out.good());
+  EXPECT_EQ(pieces.pieces().size(), 4U);
+  for (const std::string& piece : pieces.pieces())
+    EXPECT_LE(piece.size(), size);
+  const std::string expected = std::string(size - 1, 'a') + "bc" + std::string(2 * size, 'd') + "12.5";
+  EXPECT_TRUE(pieces.join() == expected);
+  EXPECT_TRUE(pieces.pieces().empty());
+  EXPECT_EQ(pieces.join(), "");
+}
+
+}  // namespace
+}  // namespace verdalis
