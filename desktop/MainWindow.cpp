@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QSettings>
 #include <QShortcut>
 #include <QStackedWidget>
@@ -23,11 +24,13 @@ namespace {
 
 constexpr QSize smallest(1000, 660);
 constexpr QSize usual(1180, 820);
-constexpr const char* menuLetters = "flseth";  // of the menu bar
+constexpr const char* topicProperty = "topic";  // of a page, where nothing on it says more
+constexpr const char* menuLetters = "flseth";   // of the menu bar
 
 }  // namespace
 
-MainWindow::MainWindow(frmMain& window, Binder& binder) : window_(window), binder_(binder) {
+MainWindow::MainWindow(frmMain& window, Binder& binder, std::function<void(const QString&)> showTopic)
+    : window_(window), binder_(binder), showTopic_(std::move(showTopic)) {
   setMinimumSize(smallest);
   addMenus();
   auto* centre = new QWidget;
@@ -47,19 +50,22 @@ MainWindow::MainWindow(frmMain& window, Binder& binder) : window_(window), binde
   layout->addWidget(stack_, 1);
   setCentralWidget(centre);
 
-  addPane(window_.pneMain, new MainPaneView(window_.pneMain, binder_));
-  addPane(window_.pneInputCosts, inputCostsView(window_.pneInputCosts, binder_));
-  addPane(window_.pneIrrigCosts, irrigCostsView(window_.pneIrrigCosts, binder_));
-  addPane(window_.pneResults, resultsView(window_.theResults, binder_, QString::fromLatin1(resultsHeading)));
-  addPane(window_.pneDetails, detailsView(window_.theDetails, binder_));
-  addPane(window_.pneSummary, summaryView(window_.pneSummary, binder_));
-  addPane(window_.pneCustomCrop, customCropView(window_.pneCustomCrop, binder_));
-  addPane(window_.trends.pneBatchSetup0, batchSetupView(window_.trends.pneBatchSetup0, binder_));
-  addPane(window_.trends.pneBatchSetup1, batchResultsView(window_.trends.pneBatchSetup1, binder_));
+  addPane(window_.pneMain, new MainPaneView(window_.pneMain, binder_), "mainInput.htm");
+  addPane(window_.pneInputCosts, inputCostsView(window_.pneInputCosts, binder_), "inputcosts.htm");
+  addPane(window_.pneIrrigCosts, irrigCostsView(window_.pneIrrigCosts, binder_), "irrigationCosts.htm");
+  addPane(window_.pneResults, resultsView(window_.theResults, binder_, QString::fromLatin1(resultsHeading)),
+          "results.htm");
+  addPane(window_.pneDetails, detailsView(window_.theDetails, binder_), "details.htm");
+  addPane(window_.pneSummary, summaryView(window_.pneSummary, binder_), "summary.htm");
+  addPane(window_.pneCustomCrop, customCropView(window_.pneCustomCrop, binder_), "customcrops.htm");
+  TrendScreens& trends = window_.trends;
+  addPane(trends.pneBatchSetup0, batchSetupView(trends.pneBatchSetup0, binder_), "batchoption.htm");
+  addPane(trends.pneBatchSetup1, batchResultsView(trends.pneBatchSetup1, binder_), "batchoption.htm");
 
   auto* help = new QShortcut(QKeySequence(Qt::Key_F1), this);
   connect(help, &QShortcut::activated, this, &MainWindow::showHelpOfFocus);
   restorePlace();
+  binder_.widget(window_.pneMain.txtArea)->setFocus();  // the first thing that a farm needs
   binder_.bindWindow(window_, this);
 }
 
@@ -96,7 +102,8 @@ void MainWindow::addMenus() {
     assignKeys(made);
 }
 
-void MainWindow::addPane(Frame& pane, QWidget* page) {
+void MainWindow::addPane(Frame& pane, QWidget* page, const char* topic) {
+  page->setProperty(topicProperty, QString::fromLatin1(topic));
   binder_.namePane(pane, page);
   assignKeys(page, QLatin1String(menuLetters));
   stack_->addWidget(page);
@@ -118,12 +125,14 @@ void MainWindow::showHelpOfFocus() {
   if (button != nullptr && button->isVisible()) {
     button->click();
   } else {
-    window_.menus.mnuHelp.click();
+    showTopic_(currentPage()->property(topicProperty).toString());
   }
 }
 
 void MainWindow::restorePlace() {
-  resize(usual);
+  // With its frame it stands whole on the screen, whose end holds the button that runs.
+  constexpr QSize frame(12, 48);
+  resize(usual.boundedTo(screen()->availableSize() - frame).expandedTo(smallest));
   restoreGeometry(QSettings().value(QStringLiteral("place")).toByteArray());
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <functional>
 
 #include "desktop/Binder.h"
 #include "screens/main/frmMain.h"
@@ -14,7 +15,8 @@ class MainWindow : public QMainWindow {
   Q_OBJECT
 
  public:
-  MainWindow(frmMain& window, Binder& binder);
+  /// `showTopic` opens a help topic.
+  MainWindow(frmMain& window, Binder& binder, std::function<void(const QString&)> showTopic);
 
   /// The page of the pane on show.
   [[nodiscard]] QWidget* currentPage() const;
@@ -24,13 +26,14 @@ class MainWindow : public QMainWindow {
 
  private:
   void addMenus();
-  void addPane(Frame& pane, QWidget* page);
+  void addPane(Frame& pane, QWidget* page, const char* topic);
   void showTopPane();
   void showHelpOfFocus();
   void restorePlace();
 
   frmMain& window_;
   Binder& binder_;
+  std::function<void(const QString&)> showTopic_;
   QStackedWidget* stack_;
 };
 

@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
+#include <QIcon>
 #include <QLocale>
 #include <QMessageBox>
 
@@ -32,6 +33,7 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setApplicationName(QStringLiteral("verdalis"));
   QApplication::setApplicationVersion(QStringLiteral(VERDALIS_VERSION));
+  QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/verdalis.svg")));
   desktop::applyTheme(application, desktop::desktopScheme(QApplication::palette()));
 
   QCommandLineParser parser;

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QEventLoop>
 #include <QLocale>
 #include <QPushButton>
 #include <QTimer>
@@ -96,6 +97,37 @@ void photograph(Desktop& desktop, const Photographer& camera) {
   camera.take(window, QStringLiteral("trend-setup"));
   press("cmdBatchIt");
   camera.take(window, QStringLiteral("trend-results"));
+  press("theBatchResults.theResults.cmdBatchThis");
+  control<ComboBox>(desktop, "cboCrops").pick(0);
+  control<TextBox>(desktop, "txtBatchList").type("5, 6, 7.25");
+  press("cmdAddBatchProcess");
+  control<OptionButton>(desktop, "optBatchVariable(3)").click();
+  control<TextBox>(desktop, "txtBatchMinimum(0)").type("80");
+  control<TextBox>(desktop, "txtBatchMinimum(1)").type("90");
+  control<ComboBox>(desktop, "cboBatchSteps").pick(1);
+  camera.take(window, QStringLiteral("fixed-trend-setup"));
+  press("cmdBatchIt");
+  camera.take(window, QStringLiteral("fixed-trend-results"));
+  frmUpdating& progress = desktop.program().windows.updating();
+  progress.setTitle("Evaluating Scenarios");
+  progress.setMax(400);
+  for (int i = 0; i < 150; ++i)
+    progress.Update();
+  QEventLoop wait;
+  QTimer::singleShot(400, &wait, &QEventLoop::quit);
+  wait.exec();  // it appears when a run takes a while
+  camera.take(desktop.binder().widget(progress), QStringLiteral("progress"));
+  progress.closeByUser();
+  QTimer::singleShot(0, [&] {
+    if (QWidget* box = QApplication::activeModalWidget()) {
+      camera.take(box, QStringLiteral("message"));
+      box->close();
+    }
+  });
+  press("theBatchResults.theResults.cmdSaveResult");
+  control<MenuEntry>(desktop, "mnuCustomCrop").click();
+  press("cmdHelp(27)");
+  camera.take(desktop.binder().widget(desktop.program().windows.help()), QStringLiteral("note"));
   control<MenuEntry>(desktop, "mnuOptions").click();
   camera.take(desktop.binder().widget(desktop.program().windows.options()), QStringLiteral("options"));
   control<MenuEntry>(desktop, "mnuAboutVDL").click();
