@@ -67,7 +67,7 @@ void YieldTableWidget::shade() {
       if (cell == nullptr) continue;
       cell->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
       if (row == 0 || column == 0) {
-        cell->setBackground(palette().color(QPalette::Window));
+        cell->setBackground(desktop::palette(schemeOf(palette())).color(QPalette::Window));
         continue;
       }
       const auto value = numberOf(grid_.cell(row, column));
@@ -84,6 +84,11 @@ void YieldTableWidget::shade() {
                                                   static_cast<float>(0.98 - 0.12 * share)));
     }
   }
+}
+
+void YieldTableWidget::changeEvent(QEvent* event) {
+  QTableWidget::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) shade();
 }
 
 void YieldTableWidget::keyPressEvent(QKeyEvent* event) {

@@ -17,6 +17,7 @@ class YieldTableWidget : public QTableWidget {
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
   void shade();

@@ -1,5 +1,6 @@
 #include "desktop/ResultViews.h"
 
+#include <QEvent>
 #include <QFrame>
 #include <QGridLayout>
 #include <QHeaderView>
@@ -197,6 +198,24 @@ void showHeadsAndColours(const Grid& grid, QTableWidget* table) {
   table->resizeColumnsToContents();
 }
 
+/// Colours a table anew when the scheme changes.
+class Recolouring : public QObject {
+ public:
+  Recolouring(const Grid& grid, QTableWidget* table) : QObject(table), grid_(grid), table_(table) {
+    table->installEventFilter(this);
+  }
+
+ protected:
+  bool eventFilter(QObject* object, QEvent* event) override {
+    if (event->type() == QEvent::PaletteChange) showHeadsAndColours(grid_, table_);
+    return QObject::eventFilter(object, event);
+  }
+
+ private:
+  const Grid& grid_;
+  QTableWidget* table_;
+};
+
 }  // namespace
 
 QLabel* bigLabel(QLabel* label) {
@@ -365,6 +384,7 @@ QWidget* summaryView(SummaryPane& pane, Binder& binder) {
   table->verticalHeader()->setSectionsClickable(true);
   table->setCornerButtonEnabled(false);
   binder.alsoWatch(pane.fgsummary, [&pane, table] { showHeadsAndColours(pane.fgsummary, table); });
+  new Recolouring(pane.fgsummary, table);  // NOLINT: owned by the table
   auto* space = new QWidget;
   body->addWidget(space);
   binder.alsoWatch(pane.fgsummary, [&pane, space] { space->setVisible(!pane.fgsummary.visible()); });

@@ -96,6 +96,10 @@ QWidget* noteWindow(frmHelp& window, Binder& binder, QWidget* parent) {
   line->addWidget(close);
   layout->addLayout(line);
   assignKeys(widget);
+  binder.alsoWatch(window.lblOutput, [widget] {
+    fitHeight(widget, widget->minimumWidth());
+    widget->resize(widget->minimumSize());
+  });
   binder.bindWindow(window, widget);
   return widget;
 }

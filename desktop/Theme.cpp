@@ -5,6 +5,7 @@
 #include <QDBusMessage>
 #include <QDBusVariant>
 #include <QStyleFactory>
+#include <optional>
 
 namespace verdalis::desktop {
 namespace {
@@ -12,6 +13,19 @@ namespace {
 constexpr int portalTimeout = 200;  // ms; a desktop without a portal must not hold the start up
 constexpr unsigned portalDark = 1;
 constexpr unsigned portalLight = 2;
+
+const QString portalService = QStringLiteral("org.freedesktop.portal.Desktop");
+const QString portalPath = QStringLiteral("/org/freedesktop/portal/desktop");
+const QString portalSettings = QStringLiteral("org.freedesktop.portal.Settings");
+const QString appearanceSpace = QStringLiteral("org.freedesktop.appearance");
+const QString schemeKey = QStringLiteral("color-scheme");
+
+/// The scheme of a value of the portal; nothing where it states no preference.
+std::optional<Scheme> schemeOfValue(unsigned preference) {
+  if (preference == portalDark) return Scheme::dark;
+  if (preference == portalLight) return Scheme::light;
+  return std::nullopt;
+}
 
 /// A value that came wrapped in one or more variants.
 QVariant unwrapped(QVariant value) {
@@ -103,18 +117,29 @@ Scheme schemeOf(const QPalette& palette) {
 Scheme desktopScheme(const QPalette& platformPalette) {
   const QDBusConnection bus = QDBusConnection::sessionBus();
   if (bus.isConnected()) {
-    QDBusMessage call = QDBusMessage::createMethodCall(
-        QStringLiteral("org.freedesktop.portal.Desktop"), QStringLiteral("/org/freedesktop/portal/desktop"),
-        QStringLiteral("org.freedesktop.portal.Settings"), QStringLiteral("Read"));
-    call << QStringLiteral("org.freedesktop.appearance") << QStringLiteral("color-scheme");
+    QDBusMessage call =
+        QDBusMessage::createMethodCall(portalService, portalPath, portalSettings, QStringLiteral("Read"));
+    call << appearanceSpace << schemeKey;
     const QDBusMessage reply = bus.call(call, QDBus::Block, portalTimeout);
     if (reply.type() == QDBusMessage::ReplyMessage && !reply.arguments().isEmpty()) {
-      const unsigned preference = unwrapped(reply.arguments().constFirst()).toUInt();
-      if (preference == portalDark) return Scheme::dark;
-      if (preference == portalLight) return Scheme::light;
+      const auto scheme = schemeOfValue(unwrapped(reply.arguments().constFirst()).toUInt());
+      if (scheme) return *scheme;
     }
   }
   return schemeOf(platformPalette);
+}
+
+SchemeWatcher::SchemeWatcher(QApplication& application) : application_(application) {
+  // Where there is no portal nothing comes, and the scheme stays that of the start.
+  QDBusConnection::sessionBus().connect(portalService, portalPath, portalSettings,
+                                        QStringLiteral("SettingChanged"), this,
+                                        SLOT(settingChanged(QString, QString, QDBusVariant)));
+}
+
+void SchemeWatcher::settingChanged(const QString& space, const QString& key, const QDBusVariant& value) {
+  if (space != appearanceSpace || key != schemeKey) return;
+  const auto scheme = schemeOfValue(unwrapped(value.variant()).toUInt());
+  if (scheme && *scheme != schemeOf(QApplication::palette())) applyTheme(application_, *scheme);
 }
 
 QPalette palette(Scheme scheme) {

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QColor>
+#include <QDBusVariant>
+#include <QObject>
 #include <QPalette>
 #include <QString>
 
@@ -22,6 +24,21 @@ enum class Scheme { light, dark };
 
 /// Gives the program its style, its colours and its style sheet. May be called again when the scheme changes.
 void applyTheme(QApplication& application, Scheme scheme);
+
+/// Changes the program's colours when the desktop's settings portal tells another scheme.
+class SchemeWatcher : public QObject {
+  Q_OBJECT
+
+ public:
+  explicit SchemeWatcher(QApplication& application);
+
+ public slots:
+  /// What the portal tells of a setting.
+  void settingChanged(const QString& space, const QString& key, const QDBusVariant& value);
+
+ private:
+  QApplication& application_;
+};
 
 /// Colours beside those of the palette, chosen to be read on its window colour.
 struct Accents {

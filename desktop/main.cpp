@@ -50,6 +50,7 @@ int main(int argc, char** argv) {
     const std::filesystem::path folder = parser.isSet(home)
                                              ? std::filesystem::path(desktop::programText(parser.value(home)))
                                              : homeFolder(homePlaces());
+    const desktop::SchemeWatcher watcher(application);
     const desktop::Desktop program(folder, helpFolder());
     return QApplication::exec();
   } catch (const RunTimeError& error) {

@@ -1,7 +1,9 @@
 #include <QClipboard>
 #include <QComboBox>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QSettings>
 #include <QTableWidget>
 
 #include "tests/desktop/RunningDesktop.h"
@@ -95,6 +97,58 @@ TEST_F(Windows, ANoteOpensByItsButtonAndClosesByEscape) {
   ASSERT_TRUE(QTest::qWaitForWindowActive(note));
   QTest::keyClick(note, Qt::Key_Escape);
   ASSERT_TRUE(comes([&] { return !note->isVisible(); }));
+}
+
+TEST_F(Windows, TheSummaryShowsItsHeadsAndAsksAtAClickOnAny) {
+  start();
+  typeFarm();
+  press("Command1");
+  expectBox();
+  press("theResults.cmdSaveResult");
+  pressKey(Qt::Key_S, Qt::AltModifier);
+  ASSERT_TRUE(comes([&] { return pane() == "pneSummary"; }));
+  QTest::qWait(0);
+  auto* table = widget<QTableWidget>("fgsummary");
+  EXPECT_EQ(table->horizontalHeaderItem(2)->text().remove(QLatin1Char('\n')).toStdString(),
+            "Saved Option #1 -Field #2");
+  EXPECT_EQ(table->verticalHeaderItem(11)->text(), QStringLiteral("Net Return"));
+  EXPECT_TRUE(table->isRowHidden(0));
+  boxes.clear();
+  const auto click = [&](QHeaderView* heads, int section) {
+    expectAnswer(QMessageBox::No);
+    const int middle = heads->sectionViewportPosition(section) + heads->sectionSize(section) / 2;
+    const QPoint place = heads->orientation() == Qt::Horizontal ? QPoint(middle, heads->height() / 2)
+                                                                : QPoint(heads->width() / 2, middle);
+    QTest::mouseClick(heads->viewport(), Qt::LeftButton, {}, place);
+  };
+  click(table->horizontalHeader(), 1);
+  click(table->verticalHeader(), 3);
+  expectAnswer(QMessageBox::Yes);
+  QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, table->visualItemRect(table->item(4, 2)).center());
+  ASSERT_EQ(boxes.size(), 3U);
+  for (const std::string& box : boxes)
+    EXPECT_EQ(box, "Delete?|Do you want to delete this saved result?");
+  EXPECT_FALSE(table->isVisible()) << "the only option is gone";
+}
+
+TEST_F(Windows, TheWindowRemembersItsPlaceHoweverItIsClosed) {
+  start();
+  window()->resize(1100, 720);
+  choose(program().main().menus.mnuExit);
+  EXPECT_FALSE(window()->isVisible());
+  desktop::Desktop again(home(), QStringLiteral(VERDALIS_SOURCE_DIR "/help/HTML"));
+  again.program().welcome.Command1.click();
+  EXPECT_EQ(again.mainWindow()->size(), QSize(1100, 720));
+  again.mainWindow()->close();
+  QSettings().clear();
+}
+
+TEST_F(Windows, ANoteIsShownWhole) {
+  start();
+  choose(program().main().menus.mnuCustomCrop);
+  press(program().main().pneCustomCrop.cmdHelp.buttons().front()->path());
+  auto* text = widget<QLabel>("frmHelp.lblOutput");
+  EXPECT_GE(text->height(), text->heightForWidth(text->width()));
 }
 
 TEST_F(Windows, TheProgramEndsWithItsLastWindow) {
