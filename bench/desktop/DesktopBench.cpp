@@ -1,6 +1,7 @@
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
+#include <QClipboard>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
@@ -34,6 +35,7 @@ class Shown {
     static_cast<void>(window()->grab());
   }
 
+  [[nodiscard]] Program& program() { return desktop_->program(); }
   [[nodiscard]] QWidget* window() { return desktop_->mainWindow(); }
 
   [[nodiscard]] QWidget* widget(const char* path) {
@@ -102,6 +104,59 @@ void nextOptionToRepaint(benchmark::State& state) {
   }
 }
 BENCHMARK(nextOptionToRepaint)->Unit(benchmark::kMicrosecond);
+
+/// The custom crop editor with its largest grid: 33 rows of 24 yields.
+CustomCropPane& openLargestGrid(Shown& shown) {
+  shown.start();
+  frmMain& main = shown.program().main();
+  main.menus.mnuCustomCrop.click();
+  CustomCropPane& pane = main.pneCustomCrop;
+  pane.cboCustomGrid[1].pick(0);
+  pane.cboCustomGrid[2].pick(static_cast<int>(pane.cboCustomGrid[2].items().size()) - 1);
+  pane.cboCustomGrid[3].pick(static_cast<int>(pane.cboCustomGrid[3].items().size()) - 1);
+  pane.cmdCustomGrid0.click();
+  return pane;
+}
+
+QString numbersOfGrid(int rows, int columns) {
+  QString text;
+  for (int row = 0; row < rows; ++row) {
+    for (int column = 0; column < columns; ++column)
+      text += QString::number(row * 7 + column) + QLatin1Char(column + 1 < columns ? '\t' : '\n');
+  }
+  return text;
+}
+
+void keyPressInTheGridToRepaint(benchmark::State& state) {
+  Shown shown;
+  CustomCropPane& pane = openLargestGrid(shown);
+  QApplication::clipboard()->setText(numbersOfGrid(33, 24));
+  pane.cmdCustomGrid4.click();
+  QWidget* grid = shown.widget("dgCustom");
+  grid->setFocus();
+  bool digit = false;
+  for (auto _ : state) {
+    digit = !digit;
+    QTest::sendKeyEvent(QTest::Click, grid, digit ? Qt::Key_7 : Qt::Key_Backspace,
+                        digit ? QStringLiteral("7") : QString(), Qt::NoModifier);
+    grid->repaint();
+    QCoreApplication::processEvents();
+  }
+}
+BENCHMARK(keyPressInTheGridToRepaint)->Unit(benchmark::kMicrosecond);
+
+void pasteToRepaint(benchmark::State& state) {
+  Shown shown;
+  CustomCropPane& pane = openLargestGrid(shown);
+  QApplication::clipboard()->setText(numbersOfGrid(33, 24));
+  QWidget* grid = shown.widget("dgCustom");
+  for (auto _ : state) {
+    pane.cmdCustomGrid4.click();
+    grid->repaint();
+    QCoreApplication::processEvents();
+  }
+}
+BENCHMARK(pasteToRepaint)->Unit(benchmark::kMicrosecond);
 
 }  // namespace
 
