@@ -37,7 +37,7 @@ class JsonStream {
 
  private:
   struct Open {
-    char close;
+    char close = 0;
     bool empty = true;
   };
 

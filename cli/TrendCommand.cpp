@@ -62,6 +62,7 @@ void requireKind(const TrendRequest& request) {
 
 std::vector<TrendedVariable> variablesOf(const std::vector<TrendProcess>& processes) {
   std::vector<TrendedVariable> variables;
+  variables.reserve(processes.size());
   for (const TrendProcess& process : processes)
     variables.push_back({trendVariable(process.process.VariableIndex).label, process.crop});
   return variables;
