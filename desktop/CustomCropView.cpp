@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -127,8 +128,9 @@ QWidget* customCropView(CustomCropPane& pane, Binder& binder) {
   auto* layout = new QVBoxLayout(view);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(0);
-  auto* body = new QVBoxLayout;
-  body->setContentsMargins(24, 12, 24, 12);
+  const Page scrolled = page(QWIDGETSIZE_MAX / 2);
+  layout->addWidget(scrolled.area, 1);
+  QVBoxLayout* body = scrolled.body;
   body->setSpacing(10);
   auto* title = new QHBoxLayout;
   title->addWidget(bigLabel(fixedLabel(plain(CustomCropPane::title), "heading")));
@@ -208,9 +210,10 @@ QWidget* customCropView(CustomCropPane& pane, Binder& binder) {
   body->addWidget(form.frame);
 
   body->addWidget(fixedLabel(plain(fieldOf("dgCustom").label), "title"));
-  body->addWidget(new YieldTableWidget(pane.dgCustom, binder), 1);
+  auto* table = new YieldTableWidget(pane.dgCustom, binder);
+  table->setMinimumHeight(scaled(220));
+  body->addWidget(table, 1);
   body->addWidget(fixedLabel(plain(CustomCropPane::notice), "muted"));
-  layout->addLayout(body, 1);
 
   QHBoxLayout* buttons = footerOf(layout);
   buttons->addWidget(binder.bind(pane.cmdCustomGrid5, new QPushButton));

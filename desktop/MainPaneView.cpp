@@ -38,7 +38,7 @@ enum Column {
   costsColumn,
   endColumn
 };
-constexpr std::array<int, endColumn> columnWidths{210, 116, 84, 116, 104, 196};
+constexpr std::array<int, endColumn> columnWidths{200, 116, 84, 116, 104, 208};
 
 void setColumns(QGridLayout* grid) {
   grid->setContentsMargins(8, 0, 8, 0);

@@ -53,7 +53,7 @@ Page page(int width) {
   auto* centring = new QHBoxLayout(ground);
   centring->setContentsMargins(24, 12, 24, 14);
   auto* content = new QWidget;  // NOLINT: owned by the ground
-  content->setMaximumWidth(width);
+  content->setMaximumWidth(scaled(width));
   content->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
   centring->addStretch(1);
   centring->addWidget(content, 1000);
@@ -67,7 +67,9 @@ Page page(int width) {
 
 int scaled(int pixels) {
   constexpr int usualHeight = 15;  // of a line in the font that the lengths were chosen for
-  return pixels * std::max(QFontMetrics(QApplication::font()).height(), usualHeight) / usualHeight;
+  const int height = std::max(QFontMetrics(QApplication::font()).height(), usualHeight);
+  return static_cast<int>(
+      std::min<long long>(static_cast<long long>(pixels) * height / usualHeight, QWIDGETSIZE_MAX));
 }
 
 void holdColumns(QGridLayout* grid, int row, std::span<const int> widths) {

@@ -20,7 +20,7 @@ namespace {
 
 constexpr int pageWidth = 1180;
 constexpr int rowHeight = 44;
-constexpr std::array<int, 9> columnWidths{76, 96, 112, 60, 60, 112, 108, 108, 88};
+constexpr std::array<int, 9> columnWidths{76, 96, 112, 60, 60, 122, 108, 108, 88};
 
 QLabel* big(QLabel* label, double factor) {
   QFont font = label->font();
@@ -52,7 +52,6 @@ QWidget* columnHeads() {
   setColumns(grid);
   const auto head = [&](const QString& text, int column, int row = 1, int span = 1, bool right = true) {
     auto* label = fixedLabel(text, "column");
-    label->setWordWrap(true);
     label->setAlignment((right ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignBottom);
     grid->addWidget(label, row, column, 1, span);
     return label;
@@ -71,7 +70,9 @@ QWidget* columnHeads() {
       ->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);
   head(QString::fromLatin1(ResultColumns::gross), 3);
   head(QString::fromLatin1(ResultColumns::net), 4);
-  head(QString::fromLatin1(ResultColumns::costs), 5);
+  // In two lines: a label that wraps by itself would tell its height too late.
+  QString costs = QString::fromLatin1(ResultColumns::costs);
+  head(costs.replace(costs.lastIndexOf(QLatin1Char(' ')), 1, QLatin1Char('\n')), 5);
   head(QString::fromLatin1(ResultColumns::returns), 6);
   head(QString::fromLatin1(ResultColumns::netReturn), 7);
   return heads;
@@ -115,7 +116,7 @@ QWidget* inPane(QWidget* control) {
 
 QGridLayout* linesGrid() {
   auto* lines = new QGridLayout;
-  lines->setHorizontalSpacing(16);
+  lines->setHorizontalSpacing(8);
   lines->setVerticalSpacing(5);
   lines->setColumnStretch(0, 1);
   return lines;
@@ -326,7 +327,7 @@ QWidget* detailsView(Details& details, Binder& binder) {
   const Page scrolled = page(pageWidth);
   layout->addWidget(scrolled.area, 1);
   auto* grid = new QGridLayout;
-  grid->setSpacing(12);
+  grid->setSpacing(10);
   // The totals over the whole width, the three large blocks side by side, the two short ones below.
   constexpr std::array<std::array<int, 2>, 6> places{{{0, 0}, {2, 0}, {2, 1}, {3, 0}, {2, 2}, {3, 1}}};
   const std::vector<Details::Block>& blocks = Details::blocks();

@@ -40,6 +40,12 @@ class RunningDesktop : public ::testing::Test {
       box->close();
     });
     guard_.start(2000);
+    restart();
+  }
+
+  /// Begins anew at the welcome window.
+  void restart() {
+    desktop_.reset();
     desktop_ =
         std::make_unique<desktop::Desktop>(folder_.path(), QStringLiteral(VERDALIS_SOURCE_DIR "/help/HTML"));
   }

@@ -1,0 +1,143 @@
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QStyle>
+
+#include "desktop/Theme.h"
+#include "tests/desktop/RunningDesktop.h"
+
+namespace verdalis::testing {
+namespace {
+
+/// Whether what the panes show has its place, in the smallest window and in a large font.
+class Layout : public RunningDesktop {
+ protected:
+  /// Shows each pane as in use, and hands its name over.
+  void forEachPane(QSize size, const std::function<void(const std::string&)>& look) {
+    const auto shown = [&](const std::string& name) {
+      QTest::qWait(20);
+      ASSERT_EQ(pane(), name);
+      look(name);
+    };
+    start();
+    window()->resize(size);
+    typeFarm();
+    tick("Option1(4)");
+    tick("cr(2).chkCrop");
+    shown("pneMain");
+    press("cr(1).cmdInputCosts");
+    shown("pneInputCosts");
+    press("Command6");
+    tick("cr(0).chkCrop");
+    press("cr(0).cmdInputCosts");
+    shown("pneInputCosts");
+    press("Command6");
+    press("Command8");
+    shown("pneIrrigCosts");
+    press("Command9");
+    press("Command1");
+    shown("pneResults");
+    press("theResults.rh(0).cmdDetails");
+    shown("pneDetails");
+    press("theDetails.Command3");
+    expectBox();
+    press("theResults.cmdSaveResult");
+    choose(program().main().menus.mnuCustomCrop);
+    control<ComboBox>("cboCustomGrid(5)").pick(0);
+    shown("pneCustomCrop");
+    press("cmdCustomGrid(5)");
+    typeFarm();
+    program().state.TrendNoticeShown = true;
+    choose(program().main().menus.mnuEnableBatch);
+    choose(program().main().menus.mnuFallBatch);
+    type("txtBatchList", "4,5,6");
+    shown("pneBatchSetup(0)");
+    press("cmdBatchIt");
+    shown("pneBatchSetup(1)");
+    press("theBatchResults.theResults.cmdBatchThis");
+    type("txtBatchList", "4,5,6");
+    shown("pneBatchSetup(0)");
+    control<ComboBox>("cboCrops").pick(0);
+    press("cmdBatchIt");
+    shown("pneBatchSetup(1)");
+  }
+
+  /// The texts that have less room than they need.
+  void expectRoom(const std::string& pane) {
+    for (QWidget* child : window()->findChildren<QWidget*>()) {
+      if (!child->isVisible() || child->objectName().startsWith(QLatin1String("qt_"))) continue;
+      const std::string name =
+          pane + ": " + child->objectName().toStdString() + " (" + child->metaObject()->className() + ")";
+      if (const auto* label = qobject_cast<QLabel*>(child)) {
+        if (label->text().isEmpty()) continue;
+        if (label->wordWrap()) {
+          EXPECT_GE(label->height(), label->heightForWidth(label->width()))
+              << name << ' ' << label->text().toStdString();
+        } else {
+          EXPECT_GE(label->width(), label->sizeHint().width()) << name << ' ' << label->text().toStdString();
+          EXPECT_GE(label->height(), label->sizeHint().height())
+              << name << ' ' << label->text().toStdString();
+        }
+      } else if (const auto* button = qobject_cast<QAbstractButton*>(child)) {
+        if (button->text().isEmpty()) continue;
+        EXPECT_GE(button->width(), button->sizeHint().width()) << name << ' ' << button->text().toStdString();
+        EXPECT_GE(button->height(), button->sizeHint().height()) << name;
+      } else if (const auto* field = qobject_cast<QLineEdit*>(child)) {
+        if (qobject_cast<QComboBox*>(field->parentWidget()) != nullptr) continue;
+        const int shown = field->fontMetrics().horizontalAdvance(field->text());
+        EXPECT_GE(field->width(), shown + 8) << name << ' ' << field->text().toStdString();
+        EXPECT_GE(field->height(), field->sizeHint().height()) << name;
+      } else if (const auto* list = qobject_cast<QComboBox*>(child)) {
+        const int shown = list->fontMetrics().horizontalAdvance(list->currentText());
+        EXPECT_GE(list->width(), shown + 30) << name << ' ' << list->currentText().toStdString();
+      }
+    }
+  }
+
+  /// No page has to be moved sideways.
+  void expectNoSidewaysScrolling(const std::string& pane) {
+    for (QScrollArea* area : window()->findChildren<QScrollArea*>()) {
+      if (!area->isVisible()) continue;
+      EXPECT_EQ(area->horizontalScrollBar()->maximum(), 0) << pane;
+    }
+    EXPECT_LE(window()->width(), 1024) << pane;
+    EXPECT_LE(window()->height(), 700) << pane;
+  }
+};
+
+TEST_F(Layout, EverythingHasItsPlaceInTheSmallestWindow) {
+  forEachPane({1024, 700}, [this](const std::string& pane) {
+    expectRoom(pane);
+    expectNoSidewaysScrolling(pane);
+  });
+}
+
+/// The same with a font as people choose it who see badly.
+class LargeFont : public Layout {
+ protected:
+  LargeFont() {
+    before_ = QApplication::font();
+    QFont large = before_;
+    large.setPointSizeF(large.pointSizeF() * 1.5);
+    QApplication::setFont(large);
+    desktop::applyTheme(*qApp, desktop::Scheme::light);
+    restart();
+  }
+  ~LargeFont() override {
+    QApplication::setFont(before_);
+    desktop::applyTheme(*qApp, desktop::Scheme::light);
+  }
+
+ private:
+  QFont before_;
+};
+
+TEST_F(LargeFont, NothingIsClipped) {
+  forEachPane({1280, 800}, [this](const std::string& pane) { expectRoom(pane); });
+}
+
+}  // namespace
+}  // namespace verdalis::testing
