@@ -43,7 +43,7 @@ void TextBox::replace(const std::string& text) {
 }
 
 ComboBox::ComboBox(Frame& container, std::string name, Style style, std::vector<std::string> items,
-                   std::string text)
+                   const std::string& text)
     : Control(ControlKind::ComboBox, container, std::move(name)), style_(style), items_(std::move(items)) {
   replace(text);
 }

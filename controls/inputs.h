@@ -49,7 +49,7 @@ class ComboBox : public Control {
   enum class Style { list, freeText };
 
   ComboBox(Frame& container, std::string name, Style style, std::vector<std::string> items = {},
-           std::string text = {});
+           const std::string& text = {});
 
   [[nodiscard]] Style style() const { return style_; }
   [[nodiscard]] const std::string& text() const { return text_; }

@@ -272,7 +272,7 @@ QTableWidget* Binder::bind(Grid& control, QTableWidget* widget, const QString& l
       for (int column = 0; column < control.columns(); ++column) {
         QTableWidgetItem* item = widget->item(row, column);
         if (item == nullptr) {
-          item = new QTableWidgetItem;  // NOLINT: the table owns it
+          item = new QTableWidgetItem;
           widget->setItem(row, column, item);
         }
         item->setText(qText(control.cell(row, column)));

@@ -122,6 +122,112 @@ void YieldTableWidget::keyPressEvent(QKeyEvent* event) {
   QTableWidget::keyPressEvent(event);  // the arrows move the current cell, Tab leaves the grid
 }
 
+namespace {
+
+/// The fields over the grid: the crop on the left, the size of its table on the right.
+class CropForm {
+ public:
+  CropForm(CustomCropPane& pane, Binder& binder) : pane_(pane), binder_(binder), card_(card()) {
+    grid_ = new QGridLayout;
+    grid_->setHorizontalSpacing(10);
+    grid_->setVerticalSpacing(6);
+    card_.body->addLayout(grid_);
+    addCrop();
+    addSize();
+    addNotes();
+    grid_->setColumnMinimumWidth(3, 24);
+    grid_->setColumnStretch(6, 1);
+  }
+
+  [[nodiscard]] QWidget* frame() const { return card_.frame; }
+
+ private:
+  void addCrop() {
+    auto* crops = list(0, 220);
+    label("cboCustomGrid(0)", crops, 0, 0);
+    grid_->addWidget(crops, 0, 1);
+    grid_->addWidget(binder_.bind(pane_.cmdCustomGrid6, new QPushButton), 0, 2);
+    auto* name = binder_.bind(pane_.txtCustom, new QLineEdit, plain(fieldOf("txtCustom(0)").label));
+    name->setPlaceholderText(plain(fieldOf("txtCustom(0)").note));
+    name->setToolTip(name->placeholderText());
+    label("txtCustom(0)", name, 1, 0);
+    grid_->addWidget(name, 1, 1);
+    auto* units = list(4, 140);
+    label("cboCustomGrid(4)", units, 2, 0);
+    grid_->addWidget(units, 2, 1);
+  }
+
+  void addSize() {
+    auto* rain = line();
+    auto* from = list(1, 70);
+    rain->addWidget(from);
+    auto* to = list(2, 70);
+    rain->addWidget(fixedLabel(plain(fieldOf("cboCustomGrid(2)").label)));
+    rain->addWidget(to);
+    rain->addStretch();
+    label("cboCustomGrid(1)", from, 0, 4);
+    grid_->addLayout(rain, 0, 5);
+    note("cboCustomGrid(1)", 0);
+
+    auto* water = line();
+    auto* most = list(3, 70);
+    water->addWidget(most);
+    water->addWidget(fixedLabel(plain(fieldOf("cboCustomGrid(3)").unit), "muted"));
+    water->addSpacing(12);
+    water->addWidget(binder_.bind(pane_.cmdCustomGrid0, new QPushButton));
+    water->addStretch();
+    label("cboCustomGrid(3)", most, 1, 4);
+    grid_->addLayout(water, 1, 5);
+    note("cboCustomGrid(3)", 1);
+
+    auto* defaults = list(5, 190);
+    label("cboCustomGrid(5)", defaults, 2, 4);
+    grid_->addWidget(defaults, 2, 5);
+  }
+
+  void addNotes() {
+    auto* notes = new QHBoxLayout;
+    notes->setSpacing(24);
+    for (const std::string_view noted : {"cboCustomGrid(4)", "cmdCustomGrid(0)"})
+      notes->addWidget(noteOf(noted), 1);
+    card_.body->addLayout(notes);
+  }
+
+  static QHBoxLayout* line() {
+    auto* made = new QHBoxLayout;
+    made->setSpacing(8);
+    return made;
+  }
+
+  static QLabel* noteOf(std::string_view control) {
+    auto* text = fixedLabel(plain(fieldOf(control).note), "muted");
+    text->setWordWrap(true);
+    return text;
+  }
+
+  void note(std::string_view control, int row) { grid_->addWidget(noteOf(control), row, 6); }
+
+  void label(std::string_view control, QWidget* field, int row, int column) {
+    auto* text = fixedLabel(plain(fieldOf(control).label));
+    text->setBuddy(field);
+    grid_->addWidget(text, row, column);
+  }
+
+  QComboBox* list(std::size_t index, int width) {
+    ComboBox& control = pane_.cboCustomGrid.at(index);
+    auto* widget = binder_.bind(control, new QComboBox, plain(fieldOf(control.name()).label));
+    widget->setMinimumWidth(width);
+    return widget;
+  }
+
+  CustomCropPane& pane_;
+  Binder& binder_;
+  Card card_;
+  QGridLayout* grid_ = nullptr;
+};
+
+}  // namespace
+
 QWidget* customCropView(CustomCropPane& pane, Binder& binder) {
   auto* view = new QWidget;
   setHelp(view, pane.cmdHelp, 27);
@@ -137,78 +243,7 @@ QWidget* customCropView(CustomCropPane& pane, Binder& binder) {
   title->addWidget(helpButton(binder, pane.cmdHelp, 27, plain(CustomCropPane::title)));
   title->addStretch();
   body->addLayout(title);
-
-  const Card form = card();
-  auto* grid = new QGridLayout;
-  grid->setHorizontalSpacing(10);
-  grid->setVerticalSpacing(6);
-  const auto label = [&](std::string_view control, QWidget* field, int row, int column) {
-    auto* text = fixedLabel(plain(fieldOf(control).label));
-    text->setBuddy(field);
-    grid->addWidget(text, row, column);
-  };
-  const auto note = [&](std::string_view control, int row) {
-    auto* text = fixedLabel(plain(fieldOf(control).note), "muted");
-    text->setWordWrap(true);
-    grid->addWidget(text, row, 6);
-  };
-  const auto list = [&](std::size_t index, int width) {
-    ComboBox& control = pane.cboCustomGrid.at(index);
-    auto* widget = binder.bind(control, new QComboBox, plain(fieldOf(control.name()).label));
-    widget->setMinimumWidth(width);
-    return widget;
-  };
-  auto* crops = list(0, 220);
-  label("cboCustomGrid(0)", crops, 0, 0);
-  grid->addWidget(crops, 0, 1);
-  grid->addWidget(binder.bind(pane.cmdCustomGrid6, new QPushButton), 0, 2);
-  auto* name = binder.bind(pane.txtCustom, new QLineEdit, plain(fieldOf("txtCustom(0)").label));
-  name->setPlaceholderText(plain(fieldOf("txtCustom(0)").note));
-  name->setToolTip(name->placeholderText());
-  label("txtCustom(0)", name, 1, 0);
-  grid->addWidget(name, 1, 1);
-  auto* units = list(4, 140);
-  label("cboCustomGrid(4)", units, 2, 0);
-  grid->addWidget(units, 2, 1);
-  auto* rain = new QHBoxLayout;
-  rain->setSpacing(8);
-  auto* from = list(1, 70);
-  auto* to = list(2, 70);
-  rain->addWidget(from);
-  rain->addWidget(fixedLabel(plain(fieldOf("cboCustomGrid(2)").label)));
-  rain->addWidget(to);
-  rain->addStretch();
-  label("cboCustomGrid(1)", from, 0, 4);
-  grid->addLayout(rain, 0, 5);
-  note("cboCustomGrid(1)", 0);
-  auto* water = new QHBoxLayout;
-  water->setSpacing(8);
-  auto* most = list(3, 70);
-  water->addWidget(most);
-  water->addWidget(fixedLabel(plain(fieldOf("cboCustomGrid(3)").unit), "muted"));
-  water->addSpacing(12);
-  auto* size = binder.bind(pane.cmdCustomGrid0, new QPushButton);
-  water->addWidget(size);
-  water->addStretch();
-  label("cboCustomGrid(3)", most, 1, 4);
-  grid->addLayout(water, 1, 5);
-  note("cboCustomGrid(3)", 1);
-  auto* defaults = list(5, 190);
-  label("cboCustomGrid(5)", defaults, 2, 4);
-  grid->addWidget(defaults, 2, 5);
-  grid->setColumnMinimumWidth(3, 24);
-  grid->setColumnStretch(6, 1);
-  form.body->addLayout(grid);
-  auto* notes = new QHBoxLayout;
-  notes->setSpacing(24);
-  for (const std::string_view noted : {"cboCustomGrid(4)", "cmdCustomGrid(0)"}) {
-    auto* text = fixedLabel(plain(fieldOf(noted).note), "muted");
-    text->setWordWrap(true);
-    notes->addWidget(text, 1);
-  }
-  form.body->addLayout(notes);
-  body->addWidget(form.frame);
-
+  body->addWidget(CropForm(pane, binder).frame());
   body->addWidget(fixedLabel(plain(fieldOf("dgCustom").label), "title"));
   auto* table = new YieldTableWidget(pane.dgCustom, binder);
   table->setMinimumHeight(scaled(220));

@@ -41,7 +41,7 @@ HelpWindow::HelpWindow(const QString& folder) : folder_(folder) {
   setWindowTitle(tr("Verdalis Help"));
   resize(820, 680);
 
-  browser_ = new QTextBrowser(this);  // NOLINT: owned by the window
+  browser_ = new QTextBrowser(this);
   browser_->setObjectName(QStringLiteral("helpBrowser"));
   browser_->setAccessibleName(tr("Help topic"));
   browser_->setSearchPaths({folder_});
@@ -70,22 +70,22 @@ HelpWindow::HelpWindow(const QString& folder) : folder_(folder) {
   connect(browser_, &QTextBrowser::forwardAvailable, forward, &QAction::setEnabled);
   connect(home, &QAction::triggered, this, [this] { showTopic(QLatin1String(homeTopic)); });
 
-  searchText_ = new QLineEdit(this);  // NOLINT: owned by the window
+  searchText_ = new QLineEdit(this);
   searchText_->setObjectName(QStringLiteral("helpSearch"));
   searchText_->setAccessibleName(tr("Search the help"));
   searchText_->setPlaceholderText(tr("Search the help"));
   searchText_->setClearButtonEnabled(true);
   searchText_->setMaximumWidth(280);
-  auto* gap = new QWidget(bar);  // NOLINT: owned by the bar
+  auto* gap = new QWidget(bar);
   gap->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
   bar->addWidget(gap);
   bar->addWidget(searchText_);
   connect(searchText_, &QLineEdit::returnPressed, this, &HelpWindow::search);
-  auto* find = new QAction(this);  // NOLINT: owned by the window
+  auto* find = new QAction(this);
   find->setShortcut(QKeySequence::Find);
   addAction(find);
   connect(find, &QAction::triggered, searchText_, qOverload<>(&QWidget::setFocus));
-  auto* close = new QAction(this);  // NOLINT: owned by the window
+  auto* close = new QAction(this);
   close->setShortcut(QKeySequence(Qt::Key_Escape));
   addAction(close);
   connect(close, &QAction::triggered, this, &QWidget::close);

@@ -83,7 +83,7 @@ void reach(QWidget* widget) {
 /// A key that no text shows: the tool tip tells it.
 void addHiddenKey(QWidget* widget, QChar letter) {
   const QKeySequence keys(QStringLiteral("Alt+Shift+") + letter.toUpper());
-  auto* shortcut = new QShortcut(keys, widget);  // NOLINT: owned by the widget
+  auto* shortcut = new QShortcut(keys, widget);
   QObject::connect(shortcut, &QShortcut::activated, widget, [widget] { reach(widget); });
   const QString shown = keys.toString(QKeySequence::NativeText);
   widget->setAccessibleDescription(shown);

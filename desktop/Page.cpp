@@ -23,20 +23,20 @@ void setRole(QWidget* widget, const char* role) {
 }
 
 QLabel* fixedLabel(const QString& text, const char* role) {
-  auto* label = new QLabel(text);  // NOLINT: the layout that takes it owns it
+  auto* label = new QLabel(text);
   label->setTextFormat(Qt::PlainText);
   if (role != nullptr) setRole(label, role);
   return label;
 }
 
 Card card(const QString& heading, QWidget* besideHeading) {
-  auto* frame = new QFrame;  // NOLINT: the layout that takes it owns it
+  auto* frame = new QFrame;
   setRole(frame, "card");
-  auto* body = new QVBoxLayout(frame);  // NOLINT: owned by the frame
+  auto* body = new QVBoxLayout(frame);
   body->setContentsMargins(16, 12, 16, 14);
   body->setSpacing(8);
   if (!heading.isEmpty()) {
-    auto* line = new QHBoxLayout;  // NOLINT: owned by the body
+    auto* line = new QHBoxLayout;
     line->addWidget(fixedLabel(heading, "heading"));
     if (besideHeading != nullptr) line->addWidget(besideHeading);
     line->addStretch();
@@ -46,13 +46,13 @@ Card card(const QString& heading, QWidget* besideHeading) {
 }
 
 Page page(int width) {
-  auto* area = new QScrollArea;  // NOLINT: the stack that takes it owns it
+  auto* area = new QScrollArea;
   area->setWidgetResizable(true);
   area->setFrameShape(QFrame::NoFrame);
-  auto* ground = new QWidget;  // NOLINT: owned by the area
+  auto* ground = new QWidget;
   auto* centring = new QHBoxLayout(ground);
   centring->setContentsMargins(24, 12, 24, 14);
-  auto* content = new QWidget;  // NOLINT: owned by the ground
+  auto* content = new QWidget;
   content->setMaximumWidth(scaled(width));
   content->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
   centring->addStretch(1);
@@ -76,7 +76,7 @@ void holdColumns(QGridLayout* grid, int row, std::span<const int> widths) {
   for (std::size_t i = 0; i < widths.size(); ++i) {
     const int column = static_cast<int>(i);
     grid->setColumnMinimumWidth(column, scaled(widths[i]));
-    auto* strut = new QWidget;  // NOLINT: the layout owns it
+    auto* strut = new QWidget;
     strut->setFixedHeight(0);
     grid->addWidget(strut, row, column);
   }
@@ -95,7 +95,7 @@ QSize numberFieldSize(int characters) {
 }
 
 QLineEdit* numberField(int characters) {
-  auto* field = new QLineEdit;  // NOLINT: the layout that takes it owns it
+  auto* field = new QLineEdit;
   field->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   field->setFixedWidth(numberFieldSize(characters).width());
   return field;
@@ -122,7 +122,7 @@ void setHelp(QWidget* widget, const HelpButtons& buttons, int index) {
 QPushButton* helpButton(Binder& binder, const HelpButtons& buttons, int index, const QString& what) {
   Button* button = buttonOf(buttons, index);
   if (button == nullptr) return nullptr;
-  auto* widget = new QPushButton;  // NOLINT: the layout that takes it owns it
+  auto* widget = new QPushButton;
   setRole(widget, "help");
   binder.bind(*button, widget, QObject::tr("Help: %1").arg(what));
   widget->setToolTip(QObject::tr("Help: %1").arg(what));

@@ -385,7 +385,7 @@ QWidget* summaryView(SummaryPane& pane, Binder& binder) {
   table->verticalHeader()->setSectionsClickable(true);
   table->setCornerButtonEnabled(false);
   binder.alsoWatch(pane.fgsummary, [&pane, table] { showHeadsAndColours(pane.fgsummary, table); });
-  new Recolouring(pane.fgsummary, table);  // NOLINT: owned by the table
+  new Recolouring(pane.fgsummary, table);
   auto* space = new QWidget;
   body->addWidget(space);
   binder.alsoWatch(pane.fgsummary, [&pane, space] { space->setVisible(!pane.fgsummary.visible()); });

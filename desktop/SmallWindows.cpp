@@ -10,6 +10,7 @@
 #include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <cmath>
 
 #include "desktop/Keys.h"
 #include "desktop/ResultViews.h"
@@ -35,7 +36,7 @@ QPushButton* button(Binder& binder, Button& control, const char* role = nullptr)
 }
 
 QString timeLeft(double seconds) {
-  const int whole = static_cast<int>(std::min(seconds, 1e6) + 0.5);
+  const int whole = static_cast<int>(std::lround(std::min(seconds, 1e6)));
   if (whole < 60) return QObject::tr("about %1 s left").arg(std::max(whole, 1));
   return QObject::tr("about %1 min left").arg((whole + 30) / 60);
 }

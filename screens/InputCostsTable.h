@@ -74,7 +74,7 @@ struct InputCostsField {
 /// The default values of a field, for Corn, Wheat, Grain Sorghum, Sunflower, Soybeans, Alfalfa and Fallow.
 struct InputCostsDefault {
   TextBox InputCostsPane::*box = nullptr;
-  std::array<const char*, 7> texts;  ///< nullptr leaves the field as it is
+  std::array<const char*, 7> texts{};  ///< nullptr leaves the field as it is
 };
 
 [[nodiscard]] std::span<const InputCostsDefault> inputCostsDefaults();
