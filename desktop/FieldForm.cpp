@@ -17,6 +17,19 @@ QString text(std::string_view view) {
   return plain(view);
 }
 
+constexpr int lastColumn = 20;  // behind all fields
+
+/// The fields of a group by the lines in which they stand.
+std::vector<std::vector<const FieldRow*>> linesOf(int group, const std::vector<const FieldRow*>& rows) {
+  std::vector<std::vector<const FieldRow*>> lines;
+  for (const FieldRow* row : rows) {
+    if (row->group != group) continue;
+    if (lines.empty() || lines.back().front()->label != row->label) lines.emplace_back();
+    lines.back().push_back(row);
+  }
+  return lines;
+}
+
 /// For each column head of a group, the place in its line of the fields under it.
 QHash<QString, int> columnsOfHeads(int group, const std::vector<const FieldRow*>& rows) {
   QHash<QString, int> heads;
@@ -78,7 +91,6 @@ Card FieldForm::group(const FieldGroup& group, int index, const std::vector<cons
   auto* grid = new QGridLayout;
   grid->setHorizontalSpacing(8);
   grid->setVerticalSpacing(5);
-  constexpr int lastColumn = 20;  // behind all fields
   // Fields stand at the right edge of a narrow card, and near their labels in a wide one.
   grid->setColumnStretch(width == CardWidth::wide ? lastColumn + 1 : 0, 1);
   grid->setColumnMinimumWidth(0, width == CardWidth::wide ? 200 : 0);
@@ -88,34 +100,33 @@ Card FieldForm::group(const FieldGroup& group, int index, const std::vector<cons
     grid->addWidget(fixedLabel(head.key(), "column"), 0, 1 + 2 * head.value(), 1, 2);
   }
   int line = 0;
-  int place = 0;
-  const FieldRow* before = nullptr;
-  for (const FieldRow* row : rows) {
-    if (row->group != index) continue;
-    QWidget* widget = field(*row);
-    if (widget == nullptr) continue;
-    const bool newLine = before == nullptr || before->label != row->label;
-    place = newLine ? 0 : place + 1;
-    if (newLine) ++line;
-    const int column = 1 + 2 * heads.value(text(row->column), place);
-    if (newLine) {
-      auto* label = fixedLabel(text(row->label));
-      label->setBuddy(widget);
-      grid->addWidget(label, line, 0);
-      if (QWidget* behind = extra ? extra(*row) : nullptr) grid->addWidget(behind, line, lastColumn - 1);
-    }
-    grid->addWidget(widget, line, column);
-    if (QWidget* unitLabel = unit(*row)) grid->addWidget(unitLabel, line, column + 1);
-    if (row->helpIndex >= 0) {
-      if (QWidget* button = helpButton(binder_, help_, row->helpIndex, text(row->label))) {
-        grid->addWidget(button, line, lastColumn);
-      }
-    }
-    before = row;
-  }
+  for (const std::vector<const FieldRow*>& fields : linesOf(index, rows))
+    addLine(fields, heads, grid, ++line);
   result.body->addLayout(grid);
   addResult(group, result.body);
   return result;
+}
+
+void FieldForm::addLine(const std::vector<const FieldRow*>& fields, const QHash<QString, int>& heads,
+                        QGridLayout* grid, int line) {
+  auto* label = fixedLabel(text(fields.front()->label));
+  grid->addWidget(label, line, 0);
+  int place = 0;
+  for (const FieldRow* row : fields) {
+    QWidget* widget = field(*row);
+    if (widget == nullptr) continue;
+    if (label->buddy() == nullptr) label->setBuddy(widget);
+    const int column = 1 + 2 * heads.value(text(row->column), place++);
+    grid->addWidget(widget, line, column);
+    if (QWidget* unitLabel = unit(*row)) grid->addWidget(unitLabel, line, column + 1);
+  }
+  // What stands behind the fields comes behind them for Tab, too.
+  for (const FieldRow* row : fields) {
+    if (QWidget* behind = extra ? extra(*row) : nullptr) grid->addWidget(behind, line, lastColumn - 1);
+    if (row->helpIndex < 0) continue;
+    if (QWidget* button = helpButton(binder_, help_, row->helpIndex, text(row->label)))
+      grid->addWidget(button, line, lastColumn);
+  }
 }
 
 void FieldForm::addResult(const FieldGroup& group, QVBoxLayout* body) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <functional>
 #include <span>
 #include <string_view>
@@ -29,6 +30,8 @@ class FieldForm {
   [[nodiscard]] Control* find(std::string_view name) const;
   [[nodiscard]] QWidget* field(const FieldRow& row);
   [[nodiscard]] QWidget* unit(const FieldRow& row);
+  void addLine(const std::vector<const FieldRow*>& fields, const QHash<QString, int>& heads,
+               QGridLayout* grid, int line);
   void addResult(const FieldGroup& group, QVBoxLayout* body);
 
   Frame& pane_;

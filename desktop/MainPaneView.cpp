@@ -160,7 +160,8 @@ QWidget* MainPaneView::cropCard() {
     auto* head = new QHBoxLayout;
     head->setSpacing(6);
     head->addWidget(fixedLabel(plain(column.caption), "column"));
-    head->addWidget(helpButton(binder_, pane_.cmdHelp, column.helpIndex, plain(column.caption)));
+    beforeRows_ = helpButton(binder_, pane_.cmdHelp, column.helpIndex, plain(column.caption));
+    head->addWidget(beforeRows_);
     head->addStretch();
     const int span = headColumns.at(i) == costsColumn ? 1 : 2;
     heads->addLayout(head, 0, headColumns.at(i), 1, span);
@@ -171,6 +172,7 @@ QWidget* MainPaneView::cropCard() {
   line->setSpacing(0);
   rowsArea_ = new QScrollArea;
   rowsArea_->setFrameShape(QFrame::NoFrame);
+  rowsArea_->setFocusPolicy(Qt::NoFocus);
   rowsArea_->setWidgetResizable(true);
   rowsArea_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   rowsArea_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -292,7 +294,7 @@ void MainPaneView::rebuildRows() {
 
 void MainPaneView::orderRows() {
   // Tab goes by the order of making, and the rows are made last.
-  QWidget* before = rowsArea_;
+  QWidget* before = beforeRows_;
   for (const auto& record : pane_.cr) {
     for (const Control* control : record->controls()) {
       QWidget* widget = binder_.widget(*control);

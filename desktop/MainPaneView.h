@@ -43,6 +43,7 @@ class MainPaneView : public QWidget {
   MainPane& pane_;
   Binder& binder_;
   QGridLayout* heads_ = nullptr;
+  QWidget* beforeRows_ = nullptr;  ///< The last one that Tab stops at before the crop rows
   QScrollArea* rowsArea_ = nullptr;
   QWidget* rows_ = nullptr;
   QScrollBar* rowsBar_ = nullptr;

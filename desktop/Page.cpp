@@ -49,6 +49,7 @@ Page page(int width) {
   auto* area = new QScrollArea;
   area->setWidgetResizable(true);
   area->setFrameShape(QFrame::NoFrame);
+  area->setFocusPolicy(Qt::ClickFocus);  // Tab stops at the controls alone, which bring themselves into sight
   auto* ground = new QWidget;
   auto* centring = new QHBoxLayout(ground);
   centring->setContentsMargins(24, 12, 24, 14);

@@ -326,6 +326,7 @@ QWidget* detailsView(Details& details, Binder& binder) {
   layout->setSpacing(0);
   const Page scrolled = page(pageWidth);
   layout->addWidget(scrolled.area, 1);
+  scrolled.area->setFocusPolicy(Qt::StrongFocus);  // the keys scroll what has hardly a control
   auto* grid = new QGridLayout;
   grid->setSpacing(10);
   // The totals over the whole width, the three large blocks side by side, the two short ones below.

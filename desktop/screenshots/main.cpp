@@ -87,6 +87,11 @@ void photograph(Desktop& desktop, const Photographer& camera) {
   control<ComboBox>(desktop, "cboCustomGrid(5)").pick(0);
   camera.take(window, QStringLiteral("custom-crop"));
   press("cmdCustomGrid(5)");
+}
+
+void photographTrends(Desktop& desktop, const Photographer& camera) {
+  const auto press = [&](const char* path) { control<Button>(desktop, path).click(); };
+  MainWindow* window = desktop.mainWindow();
   typeFarm(desktop);
   desktop.program().state.TrendNoticeShown = true;
   control<MenuEntry>(desktop, "mnuEnableBatch").click();
@@ -108,6 +113,10 @@ void photograph(Desktop& desktop, const Photographer& camera) {
   camera.take(window, QStringLiteral("fixed-trend-setup"));
   press("cmdBatchIt");
   camera.take(window, QStringLiteral("fixed-trend-results"));
+}
+
+void photographSmallWindows(Desktop& desktop, const Photographer& camera) {
+  const auto press = [&](const char* path) { control<Button>(desktop, path).click(); };
   frmUpdating& progress = desktop.program().windows.updating();
   progress.setTitle("Evaluating Scenarios");
   progress.setMax(400);
@@ -149,6 +158,9 @@ int main(int argc, char** argv) {
   }
   applyTheme(application, arguments[2] == QLatin1String("dark") ? Scheme::dark : Scheme::light);
   Desktop desktop(programText(arguments[4]), QStringLiteral(VERDALIS_HELP));
-  photograph(desktop, Photographer(arguments[1], arguments[3]));
+  const Photographer camera(arguments[1], arguments[3]);
+  photograph(desktop, camera);
+  photographTrends(desktop, camera);
+  photographSmallWindows(desktop, camera);
   return 0;
 }

@@ -108,6 +108,22 @@ class Layout : public RunningDesktop {
   }
 };
 
+TEST_F(Layout, TabStopsAtControlsAlone) {
+  forEachPane({1180, 820}, [this](const std::string& pane) {
+    const QWidget* page = desktop().mainWindow()->currentPage();
+    int stops = 0;
+    for (const QWidget* next = page->nextInFocusChain(); next != page; next = next->nextInFocusChain()) {
+      if (!page->isAncestorOf(next) || !next->isVisible() || (next->focusPolicy() & Qt::TabFocus) == 0 ||
+          next->focusProxy() != nullptr || pane == "pneDetails") {
+        continue;
+      }
+      ++stops;
+      EXPECT_FALSE(next->objectName().isEmpty()) << pane << ' ' << next->metaObject()->className();
+    }
+    EXPECT_GT(stops, pane == "pneDetails" ? -1 : 2) << pane;
+  });
+}
+
 TEST_F(Layout, EverythingHasItsPlaceInTheSmallestWindow) {
   forEachPane({1024, 700}, [this](const std::string& pane) {
     expectRoom(pane);

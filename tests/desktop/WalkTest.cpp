@@ -129,5 +129,22 @@ TEST_F(Walk, TheTabOrderFollowsTheReadingOrder) {
   EXPECT_NE(place("Command1"), static_cast<long>(order.size()));
 }
 
+TEST_F(Walk, TheTabOrderOfAFormGoesAlongItsLines) {
+  start();
+  typeFarm();
+  QTest::mouseClick(widget("cr(1).cmdInputCosts"), Qt::LeftButton);
+  ASSERT_EQ(pane(), "pneInputCosts");
+  window()->activateWindow();
+  widget("txtNitrogenApplied")->setFocus(Qt::TabFocusReason);
+  for (const char* next : {"txtNitrogenCost", "chkNOptimal", "cmdHelp(22)", "txtPApplied", "txtPCost",
+                           "chkPOptimal", "cmdHelp(23)", "txtSeedRate", "txtSeedCost", "chkSeedOptimal",
+                           "cmdHelp(24)", "txtHerbicide", "txtInsecticide"}) {
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QTest::qWait(0);
+    ASSERT_NE(QApplication::focusWidget(), nullptr);
+    EXPECT_EQ(QApplication::focusWidget()->objectName(), QString::fromUtf8(next));
+  }
+}
+
 }  // namespace
 }  // namespace verdalis::testing
