@@ -27,6 +27,12 @@ constexpr QSize usual(1180, 820);
 constexpr const char* topicProperty = "topic";  // of a page, where nothing on it says more
 constexpr const char* menuLetters = "flseth";   // of the menu bar
 
+/// Whether Tab stops at a widget that is more than a way to the help.
+bool takesWork(const QWidget* widget) {
+  return (widget->focusPolicy() & Qt::TabFocus) != 0 && widget->isVisible() && widget->isEnabled() &&
+         !widget->objectName().isEmpty() && widget->property("role") != QLatin1String("help");
+}
+
 }  // namespace
 
 MainWindow::MainWindow(frmMain& window, Binder& binder, std::function<void(const QString&)> showTopic)
@@ -112,7 +118,14 @@ void MainWindow::addPane(Frame& pane, QWidget* page, const char* topic) {
 
 void MainWindow::showTopPane() {
   if (window_.panes.history().empty()) return;
-  if (QWidget* page = binder_.widget(window_.panes.top())) stack_->setCurrentWidget(page);
+  QWidget* page = binder_.widget(window_.panes.top());
+  if (page == nullptr || page == stack_->currentWidget()) return;
+  stack_->setCurrentWidget(page);
+  // The "?" buttons come first for Tab, but nobody opens a pane for them.
+  QWidget* first = page->nextInFocusChain();
+  while (first != page && !(page->isAncestorOf(first) && takesWork(first)))
+    first = first->nextInFocusChain();
+  if (first != page) first->setFocus();
 }
 
 QWidget* MainWindow::currentPage() const {

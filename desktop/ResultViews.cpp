@@ -4,6 +4,7 @@
 #include <QFrame>
 #include <QGridLayout>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
@@ -199,22 +200,35 @@ void showHeadsAndColours(const Grid& grid, QTableWidget* table) {
   table->resizeColumnsToContents();
 }
 
-/// Colours a table anew when the scheme changes.
-class Recolouring : public QObject {
+/// The table of saved options: a key does on the current cell what a click does, and the colours follow the
+/// scheme.
+class SavedOptionsTable : public QTableWidget {
  public:
-  Recolouring(const Grid& grid, QTableWidget* table) : QObject(table), grid_(grid), table_(table) {
-    table->installEventFilter(this);
+  explicit SavedOptionsTable(Grid& grid) : grid_(grid) {
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setFocusPolicy(Qt::StrongFocus);
+    setCornerButtonEnabled(false);
+    setToolTip(QObject::tr("A click, Space or Delete removes an option, after a question"));
   }
 
  protected:
-  bool eventFilter(QObject* object, QEvent* event) override {
-    if (event->type() == QEvent::PaletteChange) showHeadsAndColours(grid_, table_);
-    return QObject::eventFilter(object, event);
+  void keyPressEvent(QKeyEvent* event) override {
+    const bool presses = event->key() == Qt::Key_Space || event->key() == Qt::Key_Delete;
+    if (presses && currentColumn() > 0) {
+      grid_.clickCell(currentRow(), currentColumn());
+    } else {
+      QTableWidget::keyPressEvent(event);
+    }
+  }
+
+  void changeEvent(QEvent* event) override {
+    QTableWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) showHeadsAndColours(grid_, this);
   }
 
  private:
-  const Grid& grid_;
-  QTableWidget* table_;
+  Grid& grid_;
 };
 
 }  // namespace
@@ -372,10 +386,7 @@ QWidget* summaryView(SummaryPane& pane, Binder& binder) {
   body->setSpacing(10);
   body->addWidget(big(fixedLabel(QObject::tr("Summary of Saved Options"), "heading"), 1.4));
   body->addWidget(binder.bind(pane.Label59, fixedLabel({})));
-  auto* table = new QTableWidget;
-  table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-  table->setSelectionMode(QAbstractItemView::NoSelection);
-  table->setFocusPolicy(Qt::StrongFocus);
+  auto* table = new SavedOptionsTable(pane.fgsummary);
   body->addWidget(binder.bind(pane.fgsummary, table, QObject::tr("Saved options")), 1);
   // The heads are cells of the grid: a click on one counts for its column.
   QObject::connect(table->horizontalHeader(), &QHeaderView::sectionClicked, table,
@@ -384,9 +395,7 @@ QWidget* summaryView(SummaryPane& pane, Binder& binder) {
                    [&pane](int row) { pane.fgsummary.clickCell(row, 0); });
   table->horizontalHeader()->setSectionsClickable(true);
   table->verticalHeader()->setSectionsClickable(true);
-  table->setCornerButtonEnabled(false);
   binder.alsoWatch(pane.fgsummary, [&pane, table] { showHeadsAndColours(pane.fgsummary, table); });
-  new Recolouring(pane.fgsummary, table);
   auto* space = new QWidget;
   body->addWidget(space);
   binder.alsoWatch(pane.fgsummary, [&pane, space] { space->setVisible(!pane.fgsummary.visible()); });

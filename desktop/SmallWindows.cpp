@@ -185,7 +185,9 @@ void ProgressWindow::showProgress() {
 
 bool ProgressWindow::eventFilter(QObject* object, QEvent* event) {
   const bool isKey = event->type() == QEvent::ShortcutOverride || event->type() == QEvent::KeyPress;
-  if (isKey && window_.isOpen() && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape &&
+  // A window that a cancelled trend has left open has nothing more to cancel.
+  if (isKey && window_.isOpen() && !window_.isCancelled() &&
+      static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape &&
       QApplication::activeModalWidget() == nullptr && QApplication::activePopupWidget() == nullptr) {
     if (event->type() == QEvent::KeyPress) {
       window_.Command1.click();

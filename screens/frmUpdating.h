@@ -26,8 +26,14 @@ class frmUpdating : public Window {
   /// The number of steps; the bar starts at 0.
   void setMax(double steps);
 
+  /// Whether a cancel has been asked for that no run has taken yet.
+  [[nodiscard]] bool isCancelled() const { return state_.CancelRequested; }
+
   /// One step is done.
   void Update();
+
+ private:
+  const ProgramState& state_;
 };
 
 /// Keeps the progress window above all others, or takes it out of that layer. Moves, sizes and activates

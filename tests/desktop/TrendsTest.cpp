@@ -218,5 +218,22 @@ TEST_F(Trends, ACancelledTrendStaysOnTheSetup) {
   EXPECT_EQ(pane(), "pneMain");
 }
 
+TEST_F(Trends, EscapeGoesBackAgainAfterACancelledFixedTrendThatLeavesItsWindowOpen) {
+  openFixedTrend();
+  pick(setup().cboCrops, "Corn");
+  type(setup().txtBatchList.path(), "5,6,7,8");
+  program().windows.updating();
+  auto& bar = control<ProgressBar>("frmUpdating.ProgressBar");
+  desktop().binder().alsoWatch(bar, [&] {
+    if (bar.value() == 2) QTest::keyClick(window(), Qt::Key_Escape);
+  });
+  press(setup().cmdBatchIt.path());
+  EXPECT_EQ(pane(), setup().name());
+  EXPECT_TRUE(program().windows.updating().isOpen());
+  EXPECT_TRUE(program().state.CancelRequested);
+  pressKey(Qt::Key_Escape);
+  EXPECT_EQ(pane(), "pneResults");
+}
+
 }  // namespace
 }  // namespace verdalis::testing

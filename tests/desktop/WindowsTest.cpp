@@ -131,6 +131,29 @@ TEST_F(Windows, TheSummaryShowsItsHeadsAndAsksAtAClickOnAny) {
   EXPECT_FALSE(table->isVisible()) << "the only option is gone";
 }
 
+TEST_F(Windows, ASavedOptionIsRemovedByKeyboardToo) {
+  start();
+  typeFarm();
+  press("Command1");
+  expectBox();
+  press("theResults.cmdSaveResult");
+  pressKey(Qt::Key_S, Qt::AltModifier);
+  ASSERT_TRUE(comes([&] { return pane() == "pneSummary"; }));
+  auto* table = widget<QTableWidget>("fgsummary");
+  table->setFocus(Qt::TabFocusReason);
+  QTest::qWait(0);
+  boxes.clear();
+  pressKey(Qt::Key_Left);
+  expectAnswer(QMessageBox::No);
+  pressKey(Qt::Key_Space);
+  ASSERT_EQ(boxes.size(), 1U);
+  EXPECT_TRUE(table->isVisible());
+  expectAnswer(QMessageBox::Yes);
+  pressKey(Qt::Key_Delete);
+  ASSERT_EQ(boxes.size(), 2U);
+  EXPECT_FALSE(table->isVisible());
+}
+
 TEST_F(Windows, TheWindowRemembersItsPlaceHoweverItIsClosed) {
   start();
   window()->resize(1100, 720);
