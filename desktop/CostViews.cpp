@@ -9,31 +9,10 @@
 #include <QVBoxLayout>
 
 #include "desktop/FieldForm.h"
-#include "desktop/ResultViews.h"
 #include "screens/InputCostsTable.h"
 
 namespace verdalis::desktop {
 namespace {
-
-constexpr int pageWidth = 1180;
-
-/// A page whose buttons stay in sight below it.
-struct PageWithButtons {
-  QWidget* widget;
-  QVBoxLayout* body;
-  QHBoxLayout* buttons;
-};
-
-PageWithButtons pageWithButtons() {
-  auto* widget = new QWidget;
-  auto* layout = new QVBoxLayout(widget);
-  layout->setContentsMargins(0, 0, 0, 0);
-  layout->setSpacing(0);
-  const Page scrolled = page(pageWidth);
-  layout->addWidget(scrolled.area, 1);
-  QHBoxLayout* buttons = footerOf(layout);
-  return {widget, scrolled.body, buttons};
-}
 
 template <class Field>
 std::vector<const FieldRow*> rowsOf(std::span<const Field> fields) {
@@ -59,10 +38,7 @@ QPushButton* backButton(Binder& binder, Button& button) {
 
 QWidget* inputCostsView(InputCostsPane& pane, Binder& binder) {
   const PageWithButtons view = pageWithButtons();
-  auto* header = fixedLabel({}, "heading");
-  QFont big = header->font();
-  big.setPointSizeF(big.pointSizeF() * 1.4);
-  header->setFont(big);
+  auto* header = sizedLabel(fixedLabel({}, "heading"));
   view.body->addWidget(binder.bind(pane.lblHeader, header));
 
   FieldForm form(pane, binder, pane.cmdHelp);
@@ -126,11 +102,7 @@ QWidget* inputCostsView(InputCostsPane& pane, Binder& binder) {
 
 QWidget* irrigCostsView(IrrigCostsPane& pane, Binder& binder) {
   const PageWithButtons view = pageWithButtons();
-  auto* title = fixedLabel(plain(IrrigCostsPane::title), "heading");
-  QFont big = title->font();
-  big.setPointSizeF(big.pointSizeF() * 1.4);
-  title->setFont(big);
-  view.body->addWidget(title);
+  view.body->addWidget(sizedLabel(fixedLabel(plain(IrrigCostsPane::title), "heading")));
   FieldForm form(pane, binder, pane.cmdHelp);
   const auto rows = rowsOf(IrrigCostsPane::fields());
   const auto groups = IrrigCostsPane::groups();

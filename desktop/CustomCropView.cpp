@@ -8,11 +8,10 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "desktop/ResultViews.h"
+#include "desktop/Keys.h"
 #include "desktop/Theme.h"
 #include "text/numbers.h"
 
@@ -229,17 +228,13 @@ class CropForm {
 }  // namespace
 
 QWidget* customCropView(CustomCropPane& pane, Binder& binder) {
-  auto* view = new QWidget;
-  setHelp(view, pane.cmdHelp, 27);
-  auto* layout = new QVBoxLayout(view);
-  layout->setContentsMargins(0, 0, 0, 0);
-  layout->setSpacing(0);
-  const Page scrolled = page(QWIDGETSIZE_MAX / 2);
-  layout->addWidget(scrolled.area, 1);
-  QVBoxLayout* body = scrolled.body;
+  constexpr int anyWidth = QWIDGETSIZE_MAX / 2;  // the grid takes what there is
+  const PageWithButtons view = pageWithButtons(anyWidth);
+  setHelp(view.widget, pane.cmdHelp, 27);
+  QVBoxLayout* body = view.body;
   body->setSpacing(10);
   auto* title = new QHBoxLayout;
-  title->addWidget(bigLabel(fixedLabel(plain(CustomCropPane::title), "heading")));
+  title->addWidget(sizedLabel(fixedLabel(plain(CustomCropPane::title), "heading")));
   title->addWidget(helpButton(binder, pane.cmdHelp, 27, plain(CustomCropPane::title)));
   title->addStretch();
   body->addLayout(title);
@@ -250,16 +245,15 @@ QWidget* customCropView(CustomCropPane& pane, Binder& binder) {
   body->addWidget(table, 1);
   body->addWidget(fixedLabel(plain(CustomCropPane::notice), "muted"));
 
-  QHBoxLayout* buttons = footerOf(layout);
-  buttons->addWidget(binder.bind(pane.cmdCustomGrid5, new QPushButton));
-  buttons->addStretch();
-  buttons->addWidget(binder.bind(pane.cmdCustomGrid3, new QPushButton));
-  buttons->addWidget(binder.bind(pane.cmdCustomGrid4, new QPushButton));
+  view.buttons->addWidget(binder.bind(pane.cmdCustomGrid5, new QPushButton));
+  view.buttons->addStretch();
+  view.buttons->addWidget(binder.bind(pane.cmdCustomGrid3, new QPushButton));
+  view.buttons->addWidget(binder.bind(pane.cmdCustomGrid4, new QPushButton));
   auto* save = new QPushButton;
   setRole(save, "main");
-  buttons->addWidget(binder.bind(pane.cmdCustomGrid2, save));
-  addShortcut(binder, view, QKeySequence(Qt::Key_Escape), pane.cmdCustomGrid5);
-  return view;
+  view.buttons->addWidget(binder.bind(pane.cmdCustomGrid2, save));
+  addShortcut(binder, view.widget, QKeySequence(Qt::Key_Escape), pane.cmdCustomGrid5);
+  return view.widget;
 }
 
 }  // namespace verdalis::desktop

@@ -8,7 +8,6 @@
 
 #include "desktop/Keys.h"
 #include "desktop/LandSplitPicture.h"
-#include "desktop/ResultViews.h"
 #include "desktop/Theme.h"
 
 namespace verdalis::desktop {
@@ -46,7 +45,7 @@ QLabel* emblem(const std::vector<double>& percentages) {
 
 QWidget* optionsWindow(frmOptions& window, Binder& binder, QWidget* parent) {
   const Shell made = shell(parent, 560);
-  made.body->addWidget(bigLabel(fixedLabel(QString::fromLatin1(frmOptions::heading), "heading")));
+  made.body->addWidget(sizedLabel(fixedLabel(QString::fromLatin1(frmOptions::heading), "heading")));
   auto* line = new QHBoxLayout;
   auto* label = fixedLabel({}, "title");
   auto* field = binder.bind(window.txtFineFactor, numberField(6), plain(window.Label2.caption()));
@@ -79,7 +78,7 @@ QWidget* aboutWindow(frmAbout& window, Binder& binder, QWidget* parent) {
   const Shell made = shell(parent, 460);
   auto* pictures = new QHBoxLayout;
   pictures->addWidget(binder.bind(window.imgBanner, emblem({50, 25, 25})));
-  pictures->addWidget(bigLabel(fixedLabel(QStringLiteral("Verdalis"), "heading")));
+  pictures->addWidget(sizedLabel(fixedLabel(QStringLiteral("Verdalis"), "heading")));
   pictures->addStretch();
   pictures->addWidget(binder.bind(window.imgLogo, emblem({100})));
   made.body->addLayout(pictures);

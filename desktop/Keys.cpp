@@ -137,6 +137,15 @@ void assignKeys(QMenu* menu) {
     action->setText(marked(action->text(), takeBestLetter(action->text(), used)));
 }
 
+void addShortcut(Binder& binder, QWidget* view, const QKeySequence& keys, Button& button) {
+  // While the view is on show, wherever in the window the focus is.
+  auto* shortcut = new QShortcut(keys, view);
+  QObject::connect(shortcut, &QShortcut::activated, view, [&button] {
+    if (button.isReachable()) button.click();
+  });
+  if (QWidget* shown = binder.widget(button)) shown->setAccessibleDescription(keys.toString());
+}
+
 void showCaption(QAbstractButton* button, const QString& caption) {
   QString wanted = marked(QString(caption).replace(QLatin1Char('&'), QLatin1String("&&")),
                           button->property(letterProperty).toChar());

@@ -6,11 +6,16 @@ class QAbstractButton;
 class QMenu;
 class QWidget;
 
+class QKeySequence;
+
 namespace verdalis {
+class Button;
 class Control;
-}
+}  // namespace verdalis
 
 namespace verdalis::desktop {
+
+class Binder;
 
 /// Gives everything that a person can use on a page a key that nothing else on it has: a button, a switch or
 /// a labelled field the letter that is underlined in its text, pressed with Alt; whatever is left over a
@@ -20,6 +25,9 @@ void assignKeys(QWidget* page, const QString& taken = {});
 
 /// Gives each entry of a menu a letter.
 void assignKeys(QMenu* menu);
+
+/// A key that presses a button while its page is on show. The button is bound before.
+void addShortcut(Binder& binder, QWidget* view, const QKeySequence& keys, Button& button);
 
 /// Shows a caption on a button with the letter that it has been given.
 void showCaption(QAbstractButton* button, const QString& caption);

@@ -24,7 +24,6 @@
 namespace verdalis::desktop {
 namespace {
 
-constexpr int pageWidth = 1180;
 constexpr int rowHeight = 34;
 constexpr int visibleRows = cropFrameHolderHeight / cropRowHeight;
 

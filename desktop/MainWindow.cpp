@@ -14,9 +14,11 @@
 
 #include "desktop/CostViews.h"
 #include "desktop/CustomCropView.h"
+#include "desktop/DetailsView.h"
 #include "desktop/Keys.h"
 #include "desktop/MainPaneView.h"
 #include "desktop/ResultViews.h"
+#include "desktop/SummaryView.h"
 #include "desktop/TrendViews.h"
 
 namespace verdalis::desktop {

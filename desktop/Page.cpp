@@ -66,6 +66,48 @@ Page page(int width) {
   return {area, body};
 }
 
+PageWithButtons pageWithButtons(int width) {
+  auto* widget = new QWidget;
+  auto* layout = new QVBoxLayout(widget);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(0);
+  const Page scrolled = page(width);
+  layout->addWidget(scrolled.area, 1);
+  QHBoxLayout* buttons = footerOf(layout);
+  return {widget, scrolled.area, scrolled.body, buttons};
+}
+
+QHBoxLayout* footerOf(QVBoxLayout* layout) {
+  auto* bar = new QFrame;
+  bar->setObjectName(QStringLiteral("footer"));
+  auto* buttons = new QHBoxLayout(bar);
+  buttons->setContentsMargins(24, 10, 24, 12);
+  buttons->setSpacing(10);
+  layout->addWidget(bar);
+  return buttons;
+}
+
+QWidget* inPane(QWidget* control) {
+  auto* pane = new QWidget;
+  auto* layout = new QVBoxLayout(pane);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(control);
+  return pane;
+}
+
+QLabel* sizedLabel(QLabel* label, double factor) {
+  QFont font = label->font();
+  font.setPointSizeF(font.pointSizeF() * factor);
+  label->setFont(font);
+  return label;
+}
+
+QLabel* figureLabel(const char* role) {
+  auto* label = fixedLabel({}, role);
+  label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  return label;
+}
+
 int scaled(int pixels) {
   constexpr int usualHeight = 15;  // of a line in the font that the lengths were chosen for
   const int height = std::max(QFontMetrics(QApplication::font()).height(), usualHeight);

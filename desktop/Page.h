@@ -13,6 +13,7 @@
 class QBoxLayout;
 class QFrame;
 class QGridLayout;
+class QHBoxLayout;
 class QLabel;
 class QScrollArea;
 class QVBoxLayout;
@@ -49,6 +50,30 @@ struct Page {
 /// Makes all columns of a grid take part in its spacing, also those that stand empty in it: so grids with the
 /// same columns stand in line.
 void holdColumns(QGridLayout* grid, int row, std::span<const int> widths);
+
+/// The width of a page's contents in a window that leaves more.
+inline constexpr int pageWidth = 1180;
+
+/// A page whose buttons stay in sight below it.
+struct PageWithButtons {
+  QWidget* widget;
+  QScrollArea* area;
+  QVBoxLayout* body;
+  QHBoxLayout* buttons;
+};
+[[nodiscard]] PageWithButtons pageWithButtons(int width = pageWidth);
+
+/// The bar of buttons below a page, which stays in sight.
+[[nodiscard]] QHBoxLayout* footerOf(QVBoxLayout* layout);
+
+/// The page of a pane that holds one composite control.
+[[nodiscard]] QWidget* inPane(QWidget* control);
+
+/// A label in a multiple of the usual font size; that of a page's heading without another one.
+QLabel* sizedLabel(QLabel* label, double factor = 1.4);
+
+/// A label for a figure: right-aligned.
+[[nodiscard]] QLabel* figureLabel(const char* role = nullptr);
 
 /// Gives a widget a role of the style sheet.
 void setRole(QWidget* widget, const char* role);

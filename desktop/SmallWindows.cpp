@@ -13,7 +13,6 @@
 #include <cmath>
 
 #include "desktop/Keys.h"
-#include "desktop/ResultViews.h"
 
 namespace verdalis::desktop {
 namespace {

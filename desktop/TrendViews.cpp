@@ -11,12 +11,11 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 
+#include "desktop/Keys.h"
 #include "desktop/ResultViews.h"
 
 namespace verdalis::desktop {
 namespace {
-
-constexpr int pageWidth = 1180;
 
 QString text(const char* fixed) {
   return QString::fromLatin1(fixed);
@@ -155,30 +154,24 @@ QWidget* valueStep(BatchSetupPane& pane, Binder& binder, QWidget* owner) {
 }  // namespace
 
 QWidget* batchSetupView(BatchSetupPane& pane, Binder& binder) {
-  auto* view = new QWidget;
-  auto* layout = new QVBoxLayout(view);
-  layout->setContentsMargins(0, 0, 0, 0);
-  layout->setSpacing(0);
-  const Page scrolled = page(pageWidth);
-  layout->addWidget(scrolled.area, 1);
-  scrolled.body->addWidget(wrapped(binder, pane.lblgeneric16));
-  scrolled.body->addWidget(processes(pane, binder));
+  const PageWithButtons view = pageWithButtons();
+  view.body->addWidget(wrapped(binder, pane.lblgeneric16));
+  view.body->addWidget(processes(pane, binder));
   auto* top = new QHBoxLayout;
   top->setSpacing(12);
   top->addWidget(cropStep(pane, binder), 2);
-  top->addWidget(variableStep(pane, binder, view), 3);
-  scrolled.body->addLayout(top);
-  scrolled.body->addWidget(valueStep(pane, binder, view));
-  scrolled.body->addStretch();
-  QHBoxLayout* buttons = footerOf(layout);
-  buttons->addWidget(binder.bind(pane.Command10, new QPushButton));
-  buttons->addStretch();
+  top->addWidget(variableStep(pane, binder, view.widget), 3);
+  view.body->addLayout(top);
+  view.body->addWidget(valueStep(pane, binder, view.widget));
+  view.body->addStretch();
+  view.buttons->addWidget(binder.bind(pane.Command10, new QPushButton));
+  view.buttons->addStretch();
   auto* run = new QPushButton;
   setRole(run, "main");
-  buttons->addWidget(binder.bind(pane.cmdBatchIt, run));
-  addShortcut(binder, view, QKeySequence(Qt::Key_Escape), pane.Command10);
-  addShortcut(binder, view, QKeySequence(Qt::Key_F5), pane.cmdBatchIt);
-  return view;
+  view.buttons->addWidget(binder.bind(pane.cmdBatchIt, run));
+  addShortcut(binder, view.widget, QKeySequence(Qt::Key_Escape), pane.Command10);
+  addShortcut(binder, view.widget, QKeySequence(Qt::Key_F5), pane.cmdBatchIt);
+  return view.widget;
 }
 
 QWidget* batchResultsView(BatchResultsPane& pane, Binder& binder) {
@@ -190,7 +183,7 @@ QWidget* batchResultsView(BatchResultsPane& pane, Binder& binder) {
   auto* head = new QWidget;
   auto* headLayout = new QVBoxLayout(head);
   headLayout->setContentsMargins(24, 12, 24, 0);
-  headLayout->addWidget(binder.bind(pane.batchTitle, bigLabel(fixedLabel({}, "heading"))));
+  headLayout->addWidget(binder.bind(pane.batchTitle, sizedLabel(fixedLabel({}, "heading"))));
   const Card steps = card();
   auto* line = new QHBoxLayout;
   line->setSpacing(12);
