@@ -1,6 +1,8 @@
 #include "cli/TrendCommand.h"
 
+#include <algorithm>
 #include <charconv>
+#include <functional>
 #include <ostream>
 #include <utility>
 
@@ -97,8 +99,8 @@ void stopIfAsked() {
 /// A trend of one farm.
 class TrendRun {
  public:
-  TrendRun(const TrendRequest& request, TypedFarm& typed, RunHooks& progress)
-      : request_(request), typed_(typed), farm_(typed, progress) {
+  TrendRun(const TrendRequest& request, TypedFarm& typed, RunHooks& progress, Messages& messages)
+      : request_(request), typed_(typed), messages_(messages), farm_(typed, progress) {
     const std::shared_ptr<Crop> ticked = farm_.firstTickedCrop();
     const std::string fallback = ticked ? ticked->cropType : "";
     processes_.push_back(makeTrendProcess(request.processes[0], "", typed, farm_, fallback));
@@ -109,6 +111,11 @@ class TrendRun {
   }
 
   Findings runVariable() {
+    tellOfIdleCrops([this](const TrendProcess& process) {
+      return typed_.trendHost().isActive(static_cast<std::size_t>(process.process.cropIndex))
+                 ? ""
+                 : " is not ticked, so its values change nothing.";
+    });
     farm_.state().SelectedOption = std::make_shared<FieldCollection>();
     TrendExecution execution = makeExecution();
     farm_.state().TrendMode = true;
@@ -134,6 +141,12 @@ class TrendRun {
     findings.result.evaluation = describeRun({}, farm_.state(), 0);
     reports.write(typed_.printer(), options);
     selectOption(options, number);
+    const std::vector<std::string> crops = farm_.state().SelectedOption->getCrops();
+    tellOfIdleCrops([&](const TrendProcess& process) {
+      return std::find(crops.begin(), crops.end(), process.crop) != crops.end()
+                 ? ""
+                 : " has no field in this option, so its values change nothing.";
+    });
     TrendExecution execution = makeExecution();
     farm_.state().TrendMode = true;
     if (!execution.runFixed()) throw Cancelled();
@@ -155,6 +168,22 @@ class TrendRun {
  private:
   [[nodiscard]] UnitsPair units() const {
     return GetVariableUnits(farm_, processes_[0].process.VariableIndex, processes_[0].process.cropIndex);
+  }
+
+  /// Tells of crops that were named for nothing. `why` says what is with the crop of a process; nothing where
+  /// its values count.
+  void tellOfIdleCrops(const std::function<std::string(const TrendProcess&)>& why) {
+    for (std::size_t i = 0; i < processes_.size(); ++i) {
+      const TrendProcess& process = processes_[i];
+      const TrendVariable& variable = trendVariable(process.process.VariableIndex);
+      const std::string option = i == 0 ? "--trend-crop: " : "--trend-crop2: ";
+      if (!variable.ofCrop && request_.processes[i].crop) {
+        messages_.tell(option + "\"" + variable.label + "\" belongs to no crop, so the name takes no part.");
+      }
+      if (!variable.ofCrop) continue;
+      const std::string reason = why(process);
+      if (!reason.empty()) messages_.tell(option + process.crop + reason);
+    }
   }
 
   TrendExecution makeExecution() {
@@ -228,6 +257,7 @@ class TrendRun {
 
   const TrendRequest& request_;
   TypedFarm& typed_;
+  Messages& messages_;
   TrendFarm farm_;
   std::vector<TrendProcess> processes_;
 };
@@ -236,7 +266,7 @@ Findings findTrend(const TrendRequest& request, std::size_t number, Reports& rep
   const std::unique_ptr<TypedFarm> typed = makeFarm(request.farm, messages);
   requireReady(typed->inputs());
   Progress progress(asTerminal(messages.stream()), typed->state());
-  TrendRun run(request, *typed, progress);
+  TrendRun run(request, *typed, progress, messages);
   return number == 0 ? run.runVariable() : run.runFixed(number, reports);
 }
 

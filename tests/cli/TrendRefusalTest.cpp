@@ -311,5 +311,25 @@ TEST_F(TrendRefusalTest, AnExportThatCannotBeWritten) {
   }
 }
 
+/// A trend that runs, and tells on standard error that a crop was named for nothing.
+TEST_F(TrendRefusalTest, ACropThatIsNamedForNothingIsTold) {
+  const auto told = [this](const Args& more) {
+    const CliResult result = trend(more + Args{"--values", "1,2"});
+    EXPECT_EQ(result.exitCode, 0);
+    EXPECT_NE(result.out, "");
+    return result.err;
+  };
+  EXPECT_EQ(told(ofPlain("0")), "");
+  EXPECT_EQ(
+      told(irrigationCosts + Args{"--trend-crop", "Plain"}),
+      "verdalis-cli: --trend-crop: \"Irrigation Costs\" belongs to no crop, so the name takes no part.\n");
+  EXPECT_EQ(told({"--variable", "1", "--trend-crop", "Fallow"}),
+            "verdalis-cli: --trend-crop: Fallow is not ticked, so its values change nothing.\n");
+  EXPECT_EQ(
+      told(ofPlain("0") +
+           Args{"--option", "1", "--variable2", "1", "--trend-crop2", "Fallow", "--values2", "3"}),
+      "verdalis-cli: --trend-crop2: Fallow has no field in this option, so its values change nothing.\n");
+}
+
 }  // namespace
 }  // namespace verdalis::testing
