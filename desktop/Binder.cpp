@@ -158,9 +158,11 @@ QComboBox* Binder::bind(ComboBox& control, QComboBox* widget, const QString& lab
   name(control, widget, label);
   widget->setEditable(control.style() == ComboBox::Style::freeText);
   widget->setInsertPolicy(QComboBox::NoInsert);
+  widget->setFocusPolicy(Qt::StrongFocus);  // the wheel would give it the focus, and then turn its value
   if (widget->isEditable()) {
     widget->setCompleter(nullptr);  // it would change the case of what is typed
     widget->lineEdit()->setAccessibleName(label);
+    widget->lineEdit()->setFocusPolicy(Qt::StrongFocus);
     connect(widget->lineEdit(), &QLineEdit::textEdited, this,
             [&control](const QString& text) { control.type(programText(text)); });
   }

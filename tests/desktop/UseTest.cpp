@@ -217,6 +217,15 @@ TEST_F(Use, TheWheelChangesNothingInAFieldWithoutTheFocus) {
   EXPECT_EQ(soil->currentText(), QStringLiteral("Silt Loam"));
 }
 
+TEST_F(Use, TheWheelGivesNoFieldTheFocus) {
+  start();
+  for (const QWidget* field : window()->findChildren<QWidget*>()) {
+    if (field->inherits("QComboBox") || field->inherits("QLineEdit")) {
+      EXPECT_NE(field->focusPolicy(), Qt::WheelFocus) << field->objectName().toStdString();
+    }
+  }
+}
+
 TEST_F(Use, FreeTextKeepsTheCaseThatWasTyped) {
   start();
   type("txtSoil", "silt loam");
