@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QRegularExpression>
 #include <QWheelEvent>
 
 #include "desktop/HelpWindow.h"
@@ -157,6 +158,36 @@ TEST_F(Use, AShortRunShowsNoProgressWindow) {
   press("Command1");
   QTest::qWait(400);
   EXPECT_FALSE(seen);
+}
+
+TEST_F(Use, ALongRunShowsItsProgressAndBlocksNothing) {
+  start();
+  typeFarm();
+  program().windows.updating();
+  QWidget* progress = widget("frmUpdating");
+  auto& bar = control<ProgressBar>("frmUpdating.ProgressBar");
+  desktop().binder().alsoWatch(bar, [&] {
+    if (bar.value() != 3) return;
+    QTest::qWait(500);  // as long as a step of a large farm
+    EXPECT_TRUE(progress->isVisible());
+    EXPECT_FALSE(progress->isModal());
+    EXPECT_TRUE(window()->isEnabled());
+    const QStringList texts = [&] {
+      QStringList found;
+      for (const QLabel* label : progress->findChildren<QLabel*>())
+        found << label->text();
+      return found;
+    }();
+    EXPECT_FALSE(
+        texts.filter(QRegularExpression(QStringLiteral("^Step [0-9,]+ of [0-9,]+, [0-9]+ %"))).isEmpty())
+        << texts.join(QLatin1Char('|')).toStdString();
+    type("txtArea", "200");  // the main window takes what is typed; the run keeps its own inputs
+    QTest::mouseClick(widget("frmUpdating.Command1"), Qt::LeftButton);
+  });
+  press("Command1");
+  EXPECT_EQ(pane(), "pneMain");
+  EXPECT_FALSE(progress->isVisible());
+  EXPECT_EQ(program().main().pneMain.txtArea.text(), "200");
 }
 
 TEST_F(Use, KeyboardAloneLeadsFromTheStartToTheOptions) {
