@@ -8,6 +8,7 @@
 #include <QSet>
 #include <QShortcut>
 #include <QTableWidget>
+#include <algorithm>
 
 #include "controls/Control.h"
 #include "desktop/Binder.h"
@@ -29,19 +30,26 @@ QChar takeLetter(const QString& text, QSet<QChar>& used) {
   return {};
 }
 
-/// The text with the mark in front of a letter; the text as it stands without the letter.
+bool beginsWord(const QString& text, qsizetype place) {
+  return place == 0 || !(text[place - 1].isLetterOrNumber() || text[place - 1] == QLatin1Char('\''));
+}
+
+/// The text with the mark in front of a letter, at the beginning of a word where there is one; the text as it
+/// stands without the letter.
 QString marked(QString text, QChar letter) {
-  const qsizetype place = letter.isNull() ? -1 : text.indexOf(letter, 0, Qt::CaseInsensitive);
-  return place < 0 ? text : text.insert(place, QLatin1Char('&'));
+  const qsizetype first = letter.isNull() ? -1 : text.indexOf(letter, 0, Qt::CaseInsensitive);
+  if (first < 0) return text;
+  qsizetype place = first;
+  while (place >= 0 && !beginsWord(text, place))
+    place = text.indexOf(letter, place + 1, Qt::CaseInsensitive);
+  return text.insert(place < 0 ? first : place, QLatin1Char('&'));
 }
 
 /// The letter for a text with which it says the most: that of a word's beginning before one from within.
 QChar takeBestLetter(const QString& text, QSet<QChar>& used) {
   QString beginnings;
-  bool inWord = false;
-  for (const QChar character : text) {
-    if (character.isLetterOrNumber() && !inWord) beginnings += character;
-    inWord = character.isLetterOrNumber() || character == QLatin1Char('\'');
+  for (qsizetype i = 0; i < text.size(); ++i) {
+    if (beginsWord(text, i)) beginnings += text[i];
   }
   const QChar letter = takeLetter(beginnings, used);
   return letter.isNull() ? takeLetter(text, used) : letter;
@@ -147,8 +155,8 @@ void addShortcut(Binder& binder, QWidget* view, const QKeySequence& keys, Button
 }
 
 void showCaption(QAbstractButton* button, const QString& caption) {
-  QString wanted = marked(QString(caption).replace(QLatin1Char('&'), QLatin1String("&&")),
-                          button->property(letterProperty).toChar());
+  const QString wanted = marked(QString(caption).replace(QLatin1Char('&'), QLatin1String("&&")),
+                                button->property(letterProperty).toChar());
   if (button->text() != wanted) button->setText(wanted);
 }
 

@@ -102,7 +102,7 @@ QWidget* resultsView(Results& results, Binder& binder, const QString& heading) {
   counter->setAlignment(Qt::AlignCenter);
   counter->setMinimumWidth(130);
   for (QWidget* pager : {previous, next})
-    desktop::setHelp(pager, &results.cmdHelp2);
+    setHelp(pager, &results.cmdHelp2);
   top->addWidget(previous);
   top->addWidget(binder.bind(results.lblCounter, counter));
   top->addWidget(next);
