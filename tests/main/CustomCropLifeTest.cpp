@@ -168,6 +168,49 @@ TEST_F(CustomCropLife, TheSixtiethCropIsSavedWithoutAFurtherMessage) {
   EXPECT_EQ(rowNames().size(), 60U);
 }
 
+// The file of a custom crop under a new name: a file of its own, or the old file.
+TEST_F(CustomCropLife, YesWritesANewFileAndNoTheOldOne) {
+  const std::string rest =
+      "\r\n\r\nUNITS=lb,pounds\r\n\r\nANNUAL_RAIN=11,12\r\n\r\nEFF_IRRIG=0,1\r\n\r\n"
+      "YIELD_VALUES=10,,30,\r\n";
+  running.choose("mnuCustomCrop");
+  running.control<ComboBox>("cboCustomGrid(1)").pick(2);
+  running.control<ComboBox>("cboCustomGrid(2)").pick(0);
+  running.control<ComboBox>("cboCustomGrid(3)").pick(1);
+  running.control<ComboBox>("cboCustomGrid(4)").pick(1);
+  running.press("cmdCustomGrid(0)");
+  running.control<TextBox>("txtCustom(0)").type("Oats");
+  running.fakes.clipboard.contents = "10\r\n30\r\n";
+  running.press("cmdCustomGrid(4)");
+  running.press("cmdCustomGrid(2)");
+  EXPECT_EQ(running.folder.names("crops/custom"), Strings{"Oats.txt"});
+  EXPECT_EQ(running.folder.read("crops/custom/Oats.txt"), "CROP=Oats" + rest);
+
+  running.choose("mnuCustomCrop");
+  running.control<ComboBox>("cboCustomGrid(0)").pick(1);
+  running.control<ComboBox>("cboCustomGrid(4)").pick(1);
+  running.control<TextBox>("txtCustom(0)").type("Rye");
+  running.fakes.messageBox.answers = {MessageAnswer::yes};
+  running.press("cmdCustomGrid(2)");
+  EXPECT_EQ(running.folder.names("crops/custom"), (Strings{"Oats.txt", "Rye.txt"}));
+  EXPECT_EQ(running.folder.read("crops/custom/Oats.txt"), "CROP=Oats" + rest);
+  EXPECT_EQ(running.folder.read("crops/custom/Rye.txt"), "CROP=Rye" + rest);
+
+  running.control<TextBox>("txtCustom(0)").type("Teff");
+  running.fakes.messageBox.answers = {MessageAnswer::no};
+  running.press("cmdCustomGrid(2)");
+  EXPECT_EQ(running.folder.names("crops/custom"), (Strings{"Oats.txt", "Rye.txt"}));
+  EXPECT_EQ(running.folder.read("crops/custom/Oats.txt"), "CROP=Teff" + rest);
+  EXPECT_EQ(running.folder.read("crops/custom/Rye.txt"), "CROP=Rye" + rest);
+
+  // Cancel writes nothing.
+  running.control<TextBox>("txtCustom(0)").type("Millet");
+  running.fakes.messageBox.answers = {MessageAnswer::cancel};
+  running.press("cmdCustomGrid(2)");
+  EXPECT_EQ(running.folder.names("crops/custom"), (Strings{"Oats.txt", "Rye.txt"}));
+  EXPECT_EQ(running.folder.read("crops/custom/Oats.txt"), "CROP=Teff" + rest);
+}
+
 class OtherWindows : public CustomCropLife {};
 
 TEST_F(OtherWindows, OptionsSetTheFactorAndCloseByAClickOnTheMainWindow) {
