@@ -96,6 +96,7 @@ void photographTrends(Desktop& desktop, const Photographer& camera) {
   desktop.program().state.TrendNoticeShown = true;
   control<MenuEntry>(desktop, "mnuEnableBatch").click();
   control<MenuEntry>(desktop, "mnuFallBatch").click();
+  control<ComboBox>(desktop, "cboCrops").pick(1);
   control<TextBox>(desktop, "txtBatchMinimum(0)").type("3");
   control<TextBox>(desktop, "txtBatchMinimum(1)").type("7");
   control<ComboBox>(desktop, "cboBatchSteps").pick(3);
