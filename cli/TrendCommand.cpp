@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <charconv>
-#include <functional>
 #include <ostream>
 #include <utility>
 
@@ -111,10 +110,8 @@ class TrendRun {
   }
 
   Findings runVariable() {
-    tellOfIdleCrops([this](const TrendProcess& process) {
-      return typed_.trendHost().isActive(static_cast<std::size_t>(process.process.cropIndex))
-                 ? ""
-                 : " is not ticked, so its values change nothing.";
+    tellOfIdleCrops("is not ticked", [this](const TrendProcess& process) {
+      return !typed_.trendHost().isActive(static_cast<std::size_t>(process.process.cropIndex));
     });
     farm_.state().SelectedOption = std::make_shared<FieldCollection>();
     TrendExecution execution = makeExecution();
@@ -142,10 +139,8 @@ class TrendRun {
     reports.write(typed_.printer(), options);
     selectOption(options, number);
     const std::vector<std::string> crops = farm_.state().SelectedOption->getCrops();
-    tellOfIdleCrops([&](const TrendProcess& process) {
-      return std::find(crops.begin(), crops.end(), process.crop) != crops.end()
-                 ? ""
-                 : " has no field in this option, so its values change nothing.";
+    tellOfIdleCrops("has no field in this option", [&](const TrendProcess& process) {
+      return std::find(crops.begin(), crops.end(), process.crop) == crops.end();
     });
     TrendExecution execution = makeExecution();
     farm_.state().TrendMode = true;
@@ -170,9 +165,9 @@ class TrendRun {
     return GetVariableUnits(farm_, processes_[0].process.VariableIndex, processes_[0].process.cropIndex);
   }
 
-  /// Tells of crops that were named for nothing. `why` says what is with the crop of a process; nothing where
-  /// its values count.
-  void tellOfIdleCrops(const std::function<std::string(const TrendProcess&)>& why) {
+  /// Tells of crops that were named for nothing: those of no variable, and those that are idle.
+  template <class IsIdle>
+  void tellOfIdleCrops(const char* why, IsIdle isIdle) {
     for (std::size_t i = 0; i < processes_.size(); ++i) {
       const TrendProcess& process = processes_[i];
       const TrendVariable& variable = trendVariable(process.process.VariableIndex);
@@ -180,9 +175,10 @@ class TrendRun {
       if (!variable.ofCrop && request_.processes[i].crop) {
         messages_.tell(option + "\"" + variable.label + "\" belongs to no crop, so the name takes no part.");
       }
-      if (!variable.ofCrop) continue;
-      const std::string reason = why(process);
-      if (!reason.empty()) messages_.tell(option + process.crop + reason);
+      if (variable.ofCrop && isIdle(process)) {
+        messages_.tell(option + quoteForMessage(process.crop) + " " + why +
+                       ", so its values change nothing.");
+      }
     }
   }
 

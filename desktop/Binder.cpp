@@ -61,7 +61,7 @@ void show(const OptionButton& control, QRadioButton* widget) {
   if (group != nullptr) group->setExclusive(false);
   widget->setChecked(control.checked());
   if (group != nullptr) group->setExclusive(true);
-  showCaption(widget, qText(shownCaption(control.caption())));
+  showCaption(widget, control.caption());
 }
 
 bool movesWithTheClick(const QObject* object) {
@@ -179,7 +179,7 @@ QCheckBox* Binder::bind(CheckBox& control, QCheckBox* widget) {
   watch(control, [&control, widget] {
     const QSignalBlocker quiet(widget);
     showState(control, widget);
-    showCaption(widget, qText(shownCaption(control.caption())));
+    showCaption(widget, control.caption());
     widget->setAccessibleName(qText(shownCaption(control.caption())));
     widget->setChecked(control.checked());
   });
@@ -210,7 +210,7 @@ QPushButton* Binder::bind(Button& control, QPushButton* widget, const QString& l
   watch(control, [&control, widget] {
     showState(control, widget);
     if (widget->property("ownCaption").toBool()) return;  // the layout shows it in its own way
-    showCaption(widget, qText(shownCaption(control.caption())));
+    showCaption(widget, control.caption());
   });
   connect(widget, &QPushButton::clicked, this, [&control] { control.click(); });
   return widget;

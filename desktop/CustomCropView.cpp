@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <array>
 
 #include "desktop/Keys.h"
 #include "desktop/Theme.h"
@@ -166,7 +167,6 @@ class CropForm {
     rain->addStretch();
     label("cboCustomGrid(1)", from, 0, 4);
     grid_->addLayout(rain, 0, 5);
-    note("cboCustomGrid(1)", 0);
 
     auto* water = line();
     auto* most = list(3, 70);
@@ -177,7 +177,6 @@ class CropForm {
     water->addStretch();
     label("cboCustomGrid(3)", most, 1, 4);
     grid_->addLayout(water, 1, 5);
-    note("cboCustomGrid(3)", 1);
 
     auto* defaults = list(5, 190);
     label("cboCustomGrid(5)", defaults, 2, 4);
@@ -185,10 +184,16 @@ class CropForm {
   }
 
   void addNotes() {
-    auto* notes = new QHBoxLayout;
-    notes->setSpacing(24);
-    for (const std::string_view noted : {"cboCustomGrid(4)", "cmdCustomGrid(0)"})
-      notes->addWidget(noteOf(noted), 1);
+    auto* notes = new QGridLayout;
+    notes->setHorizontalSpacing(24);
+    notes->setVerticalSpacing(2);
+    constexpr std::array<std::string_view, 4> noted{"cboCustomGrid(4)", "cboCustomGrid(1)",
+                                                    "cmdCustomGrid(0)", "cboCustomGrid(3)"};
+    for (std::size_t i = 0; i < noted.size(); ++i) {
+      auto* text = fixedLabel(plain(fieldOf(noted.at(i)).note), "muted");
+      text->setWordWrap(true);
+      notes->addWidget(text, static_cast<int>(i / 2), static_cast<int>(i % 2));
+    }
     card_.body->addLayout(notes);
   }
 
@@ -197,14 +202,6 @@ class CropForm {
     made->setSpacing(8);
     return made;
   }
-
-  static QLabel* noteOf(std::string_view control) {
-    auto* text = fixedLabel(plain(fieldOf(control).note), "muted");
-    text->setWordWrap(true);
-    return text;
-  }
-
-  void note(std::string_view control, int row) { grid_->addWidget(noteOf(control), row, 6); }
 
   void label(std::string_view control, QWidget* field, int row, int column) {
     auto* text = fixedLabel(plain(fieldOf(control).label));
@@ -215,7 +212,7 @@ class CropForm {
   QComboBox* list(std::size_t index, int width) {
     ComboBox& control = pane_.cboCustomGrid.at(index);
     auto* widget = binder_.bind(control, new QComboBox, plain(fieldOf(control.name()).label));
-    widget->setMinimumWidth(width);
+    widget->setMinimumWidth(scaled(width));
     return widget;
   }
 

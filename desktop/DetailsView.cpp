@@ -62,6 +62,7 @@ QWidget* totalsCard(Details& details, const Details::Block& block, Binder& binde
 
 QWidget* blockCard(Details& details, const Details::Block& block, Binder& binder) {
   const Card group = card(plain(block.caption));
+  group.body->setContentsMargins(12, 12, 12, 14);  // three of them stand side by side in the smallest window
   QGridLayout* lines = linesGrid();
   for (const Details::Line& entry : block.lines)
     addLine(lines, details, entry, binder, 1);
@@ -74,8 +75,11 @@ QWidget* blockCard(Details& details, const Details::Block& block, Binder& binder
 }  // namespace
 
 QWidget* detailsView(Details& details, Binder& binder) {
-  const PageWithButtons view = pageWithButtons(pageWidth);
-  view.area->setFocusPolicy(Qt::StrongFocus);  // the keys scroll what has hardly a control
+  const PageWithButtons view = pageWithButtons();
+  // The keys scroll what has hardly a control.
+  view.area->setFocusPolicy(Qt::StrongFocus);
+  view.area->setObjectName(QStringLiteral("detailsPage"));
+  view.area->setAccessibleName(QObject::tr("Details of the field"));
   auto* grid = new QGridLayout;
   grid->setSpacing(10);
   // The totals over the whole width, the three large blocks side by side, the two short ones below.

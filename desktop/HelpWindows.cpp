@@ -1,5 +1,6 @@
 #include "desktop/HelpWindows.h"
 
+#include <QEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -20,26 +21,29 @@ struct Shell {
 
 Shell shell(QWidget* parent, int width) {
   auto* widget = new QWidget(parent, Qt::Dialog);
-  widget->setFixedWidth(width);
+  widget->setFixedWidth(scaled(width));
   auto* body = new QVBoxLayout(widget);
   body->setContentsMargins(24, 20, 24, 18);
   body->setSpacing(12);
   return {widget, body};
 }
 
-QLabel* wrapped(Binder& binder, Label& label, const char* role = nullptr) {
-  auto* widget = fixedLabel({}, role);
-  widget->setWordWrap(true);
-  return binder.bind(label, widget);
-}
+/// A picture that stands for the divided farm, as the program's emblem, in the colours of the scheme.
+class Emblem : public QLabel {
+ public:
+  explicit Emblem(std::vector<double> percentages) : percentages_(std::move(percentages)) { draw(); }
 
-/// A picture that stands for the divided farm, as the program's emblem.
-QLabel* emblem(const std::vector<double>& percentages) {
-  auto* picture = new QLabel;
-  const Scheme scheme = schemeOf(picture->palette());
-  picture->setPixmap(landSplitPicture(percentages, scheme).pixmap(landSplitPictureSize));
-  return picture;
-}
+ protected:
+  void changeEvent(QEvent* event) override {
+    QLabel::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) draw();
+  }
+
+ private:
+  void draw() { setPixmap(landSplitPicture(percentages_, schemeOf(palette())).pixmap(landSplitPictureSize)); }
+
+  std::vector<double> percentages_;
+};
 
 }  // namespace
 
@@ -69,7 +73,7 @@ QWidget* optionsWindow(frmOptions& window, Binder& binder, QWidget* parent) {
   made.body->addLayout(buttons);
   addShortcut(binder, made.widget, QKeySequence(Qt::Key_F1), window.cmdHelp);
   assignKeys(made.widget);
-  fitHeight(made.widget, 560);
+  fitHeight(made.widget, made.widget->width());
   binder.bindWindow(window, made.widget);
   return made.widget;
 }
@@ -77,10 +81,10 @@ QWidget* optionsWindow(frmOptions& window, Binder& binder, QWidget* parent) {
 QWidget* aboutWindow(frmAbout& window, Binder& binder, QWidget* parent) {
   const Shell made = shell(parent, 460);
   auto* pictures = new QHBoxLayout;
-  pictures->addWidget(binder.bind(window.imgBanner, emblem({50, 25, 25})));
+  pictures->addWidget(binder.bind(window.imgBanner, new Emblem({50, 25, 25})));
   pictures->addWidget(sizedLabel(fixedLabel(QStringLiteral("Verdalis"), "heading")));
   pictures->addStretch();
-  pictures->addWidget(binder.bind(window.imgLogo, emblem({100})));
+  pictures->addWidget(binder.bind(window.imgLogo, new Emblem({100})));
   made.body->addLayout(pictures);
   made.body->addWidget(binder.bind(window.lblVersion, fixedLabel({}, "title")));
   made.body->addWidget(wrapped(binder, window.lblDisclaimer, "muted"));
@@ -96,7 +100,7 @@ QWidget* aboutWindow(frmAbout& window, Binder& binder, QWidget* parent) {
   line->addStretch();
   line->addWidget(close);
   made.body->addLayout(line);
-  fitHeight(made.widget, 460);
+  fitHeight(made.widget, made.widget->width());
   return made.widget;
 }
 

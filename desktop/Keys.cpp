@@ -154,9 +154,8 @@ void addShortcut(Binder& binder, QWidget* view, const QKeySequence& keys, Button
   if (QWidget* shown = binder.widget(button)) shown->setAccessibleDescription(keys.toString());
 }
 
-void showCaption(QAbstractButton* button, const QString& caption) {
-  const QString wanted = marked(QString(caption).replace(QLatin1Char('&'), QLatin1String("&&")),
-                                button->property(letterProperty).toChar());
+void showCaption(QAbstractButton* button, const std::string& caption) {
+  const QString wanted = marked(widgetCaption(caption), button->property(letterProperty).toChar());
   if (button->text() != wanted) button->setText(wanted);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <string>
 
 class QAbstractButton;
 class QMenu;
@@ -29,8 +30,8 @@ void assignKeys(QMenu* menu);
 /// A key that presses a button while its page is on show. The button is bound before.
 void addShortcut(Binder& binder, QWidget* view, const QKeySequence& keys, Button& button);
 
-/// Shows a caption on a button with the letter that it has been given.
-void showCaption(QAbstractButton* button, const QString& caption);
+/// Shows a caption of the program on a button, with the letter that the button has been given.
+void showCaption(QAbstractButton* button, const std::string& caption);
 
 /// F1 on a widget, or on what stands inside it, opens what this "?" button opens.
 void setHelp(QWidget* widget, const Control* button);

@@ -59,18 +59,17 @@ const FieldRow* rowOf(std::string_view control) {
 MainPaneView::MainPaneView(MainPane& pane, Binder& binder) : pane_(pane), binder_(binder) {
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
-  layout->setSpacing(0);
-  const Page scrolled = page(pageWidth);
+  const PageWithButtons view = pageWithButtons();
+  layout->addWidget(view.widget);
   auto* top = new QHBoxLayout;
   top->setSpacing(12);
   top->addWidget(farmCard(), 5);
   top->addWidget(landCard(), 4);
-  scrolled.body->addLayout(top);
-  scrolled.body->addWidget(cropCard());
-  scrolled.body->addWidget(plantCard());
-  scrolled.body->addStretch();
-  layout->addWidget(scrolled.area, 1);
-  layout->addWidget(footer());
+  view.body->addLayout(top);
+  view.body->addWidget(cropCard());
+  view.body->addWidget(plantCard());
+  view.body->addStretch();
+  fillFooter(view.buttons);
   pane_.onRowsChanged = [this] { rebuildRows(); };
   rebuildRows();
   drawPictures();
@@ -105,8 +104,7 @@ QWidget* MainPaneView::farmCard() {
   };
   place("txtArea", number(pane_.txtArea), tr("acres"));
   place("txtMax", number(pane_.txtMax), tr("inches"));
-  auto* volume = fixedLabel({}, "figure");
-  volume->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  auto* volume = figureLabel("figure");
   volume->setMinimumHeight(numberFieldSize().height());
   binder_.bind(pane_.lblVolume, volume, plain(rowOf("lblVolume")->label));
   place("lblVolume", volume, tr("ac-in"));
@@ -216,12 +214,7 @@ QWidget* MainPaneView::plantCard() {
   return plant.frame;
 }
 
-QWidget* MainPaneView::footer() {
-  auto* bar = new QFrame;
-  bar->setObjectName(QStringLiteral("footer"));
-  auto* line = new QHBoxLayout(bar);
-  line->setContentsMargins(24, 10, 24, 12);
-  line->setSpacing(10);
+void MainPaneView::fillFooter(QHBoxLayout* line) {
   auto* keep = fixedLabel(tr("Options to keep:"));
   auto* keepField = binder_.bind(pane_.txtArraySize, numberField(5), tr("Options to keep"));
   keep->setBuddy(keepField);
@@ -245,7 +238,6 @@ QWidget* MainPaneView::footer() {
   run->setToolTip(tr("Evaluate all combinations (F5)"));
   run->setAccessibleDescription(runKey->key().toString());
   line->addWidget(run);
-  return bar;
 }
 
 void MainPaneView::rebuildRows() {
@@ -268,16 +260,16 @@ void MainPaneView::rebuildRows() {
     const QString crop = plain(record->GetCrop());
     const auto place = [&](QWidget* field, Column column, int help = -1) {
       grid->addWidget(field, 0, column);
-      field->installEventFilter(this);
+      field->installEventFilter(this);  // the arrows
       setHelp(field, pane_.cmdHelp, help);
     };
     place(binder_.bind(record->chkCrop, new QCheckBox), nameColumn);
     place(binder_.bind(record->txtPrice, numberField(), tr("Price of %1").arg(crop)), priceColumn,
           cropColumns[0].helpIndex);
-    place(binder_.bind(record->lblPriceUnits, fixedLabel({}, "muted")), priceUnitColumn);
+    grid->addWidget(binder_.bind(record->lblPriceUnits, fixedLabel({}, "muted")), 0, priceUnitColumn);
     place(binder_.bind(record->txtMaxYield, numberField(), tr("Maximum yield of %1").arg(crop)), yieldColumn,
           cropColumns[2].helpIndex);
-    place(binder_.bind(record->lblYieldUnits, fixedLabel({}, "muted")), yieldUnitColumn);
+    grid->addWidget(binder_.bind(record->lblYieldUnits, fixedLabel({}, "muted")), 0, yieldUnitColumn);
     place(binder_.bind(record->cmdInputCosts, new QPushButton, tr("Costs and returns of %1").arg(crop)),
           costsColumn, cropColumns[1].helpIndex);
   }
@@ -307,7 +299,8 @@ void MainPaneView::orderRows() {
 bool MainPaneView::eventFilter(QObject* object, QEvent* event) {
   if (event->type() == QEvent::KeyPress) {
     const auto* key = static_cast<QKeyEvent*>(event);
-    if (key->modifiers() == Qt::NoModifier && goThroughRows(object, key->key())) return true;
+    const bool plainKey = (key->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    if (plainKey && goThroughRows(object, key->key())) return true;
   }
   return QWidget::eventFilter(object, event);
 }
@@ -333,7 +326,6 @@ bool MainPaneView::goThroughRows(const QObject* from, int key) {
       // An unticked row takes the focus on its tick alone.
       QWidget* widget = binder_.widget(target->isReachable() ? *target : row.chkCrop);
       widget->setFocus(Qt::TabFocusReason);
-      rowsArea_->ensureWidgetVisible(widget, 0, 0);
       return true;
     }
   }

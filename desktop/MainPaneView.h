@@ -9,6 +9,7 @@
 
 class QButtonGroup;
 class QGridLayout;
+class QHBoxLayout;
 class QScrollBar;
 
 namespace verdalis::desktop {
@@ -32,7 +33,7 @@ class MainPaneView : public QWidget {
   [[nodiscard]] QWidget* landCard();
   [[nodiscard]] QWidget* cropCard();
   [[nodiscard]] QWidget* plantCard();
-  [[nodiscard]] QWidget* footer();
+  void fillFooter(QHBoxLayout* line);
   void rebuildRows();
   void addRow(CropRecord& record, int line);
   void orderRows();

@@ -7,6 +7,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScreen>
+#include <QScrollArea>
 #include <QSettings>
 #include <QShortcut>
 #include <QStackedWidget>
@@ -70,6 +71,8 @@ MainWindow::MainWindow(frmMain& window, Binder& binder, std::function<void(const
   addPane(trends.pneBatchSetup0, batchSetupView(trends.pneBatchSetup0, binder_), "batchoption.htm");
   addPane(trends.pneBatchSetup1, batchResultsView(trends.pneBatchSetup1, binder_), "batchoption.htm");
 
+  // However the focus has come to a field, by a letter, an arrow or after a failed test: it is in sight.
+  connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { bringIntoSight(now); });
   auto* help = new QShortcut(QKeySequence(Qt::Key_F1), this);
   connect(help, &QShortcut::activated, this, &MainWindow::showHelpOfFocus);
   restorePlace();
@@ -123,6 +126,9 @@ void MainWindow::showTopPane() {
   QWidget* page = binder_.widget(window_.panes.top());
   if (page == nullptr || page == stack_->currentWidget()) return;
   stack_->setCurrentWidget(page);
+  // A page that was in use before has the focus where it was.
+  const QWidget* last = page->focusWidget();
+  if (last != nullptr && takesWork(last)) return;
   // The "?" buttons come first for Tab, but nobody opens a pane for them.
   QWidget* first = page->nextInFocusChain();
   while (first != page && !(page->isAncestorOf(first) && takesWork(first)))
@@ -132,6 +138,13 @@ void MainWindow::showTopPane() {
 
 QWidget* MainWindow::currentPage() const {
   return stack_->currentWidget();
+}
+
+void MainWindow::bringIntoSight(QWidget* focus) const {
+  if (focus == nullptr || !isAncestorOf(focus)) return;
+  for (QWidget* above = focus->parentWidget(); above != nullptr; above = above->parentWidget()) {
+    if (auto* area = qobject_cast<QScrollArea*>(above)) area->ensureWidgetVisible(focus, 0, scaled(12));
+  }
 }
 
 void MainWindow::showHelpOfFocus() {

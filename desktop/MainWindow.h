@@ -28,6 +28,7 @@ class MainWindow : public QMainWindow {
   void addMenus();
   void addPane(Frame& pane, QWidget* page, const char* topic);
   void showTopPane();
+  void bringIntoSight(QWidget* focus) const;
   void showHelpOfFocus();
   void restorePlace();
 

@@ -29,6 +29,12 @@ QLabel* fixedLabel(const QString& text, const char* role) {
   return label;
 }
 
+QLabel* wrapped(Binder& binder, Label& label, const char* role) {
+  auto* widget = fixedLabel({}, role);
+  widget->setWordWrap(true);
+  return binder.bind(label, widget);
+}
+
 Card card(const QString& heading, QWidget* besideHeading) {
   auto* frame = new QFrame;
   setRole(frame, "card");
@@ -156,10 +162,11 @@ Button* buttonOf(const HelpButtons& buttons, int index) {
 }  // namespace
 
 void setHelp(QWidget* widget, const HelpButtons& buttons, int index) {
-  for (const HelpAction& action : helpActions()) {
-    if (action.index != index || (action.topic.empty() && action.note.text.empty())) continue;
-    setHelp(widget, buttonOf(buttons, index));
-  }
+  const auto& actions = helpActions();
+  const auto action =
+      std::find_if(actions.begin(), actions.end(), [&](const HelpAction& one) { return one.index == index; });
+  const bool opens = action != actions.end() && !(action->topic.empty() && action->note.text.empty());
+  if (opens) setHelp(widget, buttonOf(buttons, index));
 }
 
 QPushButton* helpButton(Binder& binder, const HelpButtons& buttons, int index, const QString& what) {

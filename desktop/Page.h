@@ -10,7 +10,6 @@
 #include "screens/FieldTable.h"
 #include "screens/modHelp.h"
 
-class QBoxLayout;
 class QFrame;
 class QGridLayout;
 class QHBoxLayout;
@@ -30,6 +29,9 @@ namespace verdalis::desktop {
 /// "figure").
 [[nodiscard]] QLabel* fixedLabel(const QString& text, const char* role = nullptr);
 
+/// A label of the program whose text wraps.
+[[nodiscard]] QLabel* wrapped(Binder& binder, Label& label, const char* role = nullptr);
+
 /// A group of a pane: a ground with a heading.
 struct Card {
   QFrame* frame;
@@ -37,7 +39,8 @@ struct Card {
 };
 [[nodiscard]] Card card(const QString& heading = {}, QWidget* besideHeading = nullptr);
 
-/// A page that scrolls when the window is too small for it, with its contents centred.
+/// A page that scrolls when the window is too small for it, with its contents centred. `width` is the most
+/// that they take, in pixels at the usual font size.
 struct Page {
   QScrollArea* area;
   QVBoxLayout* body;
@@ -48,13 +51,14 @@ struct Page {
 [[nodiscard]] int scaled(int pixels);
 
 /// Makes all columns of a grid take part in its spacing, also those that stand empty in it: so grids with the
-/// same columns stand in line.
+/// same columns stand in line. `widths` are their least widths, in pixels at the usual font size; `row` is
+/// one that nothing else uses.
 void holdColumns(QGridLayout* grid, int row, std::span<const int> widths);
 
-/// The width of a page's contents in a window that leaves more.
+/// The most that a page's contents are wide in a window that leaves more: pixels at the usual font size.
 inline constexpr int pageWidth = 1180;
 
-/// A page whose buttons stay in sight below it.
+/// A page, as wide as page() says, whose buttons stay in sight below it.
 struct PageWithButtons {
   QWidget* widget;
   QScrollArea* area;

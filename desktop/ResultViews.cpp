@@ -4,7 +4,6 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QScrollArea>
 #include <QVBoxLayout>
 #include <array>
 
@@ -14,7 +13,7 @@ namespace verdalis::desktop {
 namespace {
 
 constexpr int rowHeight = 44;
-constexpr std::array<int, 9> columnWidths{76, 96, 112, 60, 60, 122, 108, 108, 88};
+constexpr std::array<int, 9> columnWidths{74, 92, 108, 58, 58, 120, 106, 106, 86};
 
 void setColumns(QGridLayout* grid) {
   grid->setContentsMargins(10, 0, 10, 0);
@@ -89,10 +88,10 @@ QPushButton* smallHelp(Binder& binder, Button& button, const QString& what) {
 }  // namespace
 
 QWidget* resultsView(Results& results, Binder& binder, const QString& heading) {
-  const PageWithButtons view = pageWithButtons(pageWidth);
+  const PageWithButtons view = pageWithButtons();
 
   auto* top = new QHBoxLayout;
-  if (!heading.isEmpty()) top->addWidget(sizedLabel(fixedLabel(heading, "heading"), 1.4));
+  if (!heading.isEmpty()) top->addWidget(sizedLabel(fixedLabel(heading, "heading")));
   top->addStretch();
   auto* previous = binder.bind(results.cmdPrevious, new QPushButton, QObject::tr("Previous option"));
   auto* next = binder.bind(results.cmdAdvance, new QPushButton, QObject::tr("Next option"));
@@ -100,7 +99,7 @@ QWidget* resultsView(Results& results, Binder& binder, const QString& heading) {
   next->setToolTip(QObject::tr("Next option (Alt+Right)"));
   auto* counter = sizedLabel(fixedLabel({}, "title"), 1.2);
   counter->setAlignment(Qt::AlignCenter);
-  counter->setMinimumWidth(130);
+  counter->setMinimumWidth(scaled(130));
   for (QWidget* pager : {previous, next})
     setHelp(pager, &results.cmdHelp2);
   top->addWidget(previous);

@@ -22,12 +22,6 @@ constexpr int repaintEvery = 33;  // ms
 constexpr int guessAfter = 1000;  // ms; before that a time left would be a guess in the dark
 constexpr int barSteps = 1000;
 
-QLabel* wrapped(Binder& binder, Label& label, const char* role = nullptr) {
-  auto* widget = fixedLabel({}, role);
-  widget->setWordWrap(true);
-  return binder.bind(label, widget);
-}
-
 QPushButton* button(Binder& binder, Button& control, const char* role = nullptr) {
   auto* widget = new QPushButton;
   if (role != nullptr) setRole(widget, role);
@@ -44,15 +38,11 @@ QString timeLeft(double seconds) {
 
 QWidget* welcomeWindow(frmWelcome& window, Binder& binder) {
   auto* widget = new QWidget;
-  widget->setMinimumWidth(560);
+  widget->setMinimumWidth(scaled(560));
   auto* layout = new QVBoxLayout(widget);
   layout->setContentsMargins(32, 28, 32, 28);
   layout->setSpacing(14);
-  auto* title = fixedLabel(QStringLiteral("Verdalis"), "heading");
-  QFont font = title->font();
-  font.setPointSizeF(font.pointSizeF() * 2.4);
-  title->setFont(font);
-  layout->addWidget(title);
+  layout->addWidget(sizedLabel(fixedLabel(QStringLiteral("Verdalis"), "heading"), 2.4));
   auto* start = button(binder, window.Command1, "main");
   layout->addWidget(start);
   layout->addWidget(button(binder, window.Command4));
@@ -71,14 +61,14 @@ QWidget* welcomeWindow(frmWelcome& window, Binder& binder) {
   start->setFocus();
   addShortcut(binder, widget, QKeySequence(Qt::Key_F1), window.Command2);
   assignKeys(widget);
-  fitHeight(widget, 560);
+  fitHeight(widget, scaled(560));
   binder.bindWindow(window, widget);
   return widget;
 }
 
 QWidget* noteWindow(frmHelp& window, Binder& binder, QWidget* parent) {
   auto* widget = new QWidget(parent, Qt::Tool);
-  widget->setMinimumWidth(420);
+  widget->setMinimumWidth(scaled(420));
   auto* layout = new QVBoxLayout(widget);
   layout->setContentsMargins(20, 18, 20, 16);
   layout->setSpacing(14);
@@ -112,7 +102,7 @@ ProgressWindow::ProgressWindow(frmUpdating& window, Binder& binder, QWidget* par
       appearance_(new QTimer(this)),
       repaint_(new QTimer(this)) {
   setAttribute(Qt::WA_ShowWithoutActivating);
-  setMinimumWidth(420);
+  setMinimumWidth(scaled(420));
   setWindowTitle(QStringLiteral("Verdalis"));
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(20, 18, 20, 16);

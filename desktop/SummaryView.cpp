@@ -82,7 +82,7 @@ QWidget* summaryView(SummaryPane& pane, Binder& binder) {
   auto* body = new QVBoxLayout;
   body->setContentsMargins(24, 16, 24, 16);
   body->setSpacing(10);
-  body->addWidget(sizedLabel(fixedLabel(QObject::tr("Summary of Saved Options"), "heading"), 1.4));
+  body->addWidget(sizedLabel(fixedLabel(QObject::tr("Summary of Saved Options"), "heading")));
   body->addWidget(binder.bind(pane.Label59, fixedLabel({})));
   auto* table = new SavedOptionsTable(pane.fgsummary);
   body->addWidget(binder.bind(pane.fgsummary, table, QObject::tr("Saved options")), 1);

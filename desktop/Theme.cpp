@@ -67,6 +67,8 @@ QString styleSheet(Scheme scheme) {
                                       image: url(:/icons/dot-@scheme.svg); }
     QCheckBox::indicator:disabled, QRadioButton::indicator:disabled { border-color: @line;
                                                                       background: @window; }
+    QCheckBox::indicator:checked:disabled, QRadioButton::indicator:checked:disabled { background: @disabled;
+                                                                                      border-color: @disabled; }
     QCheckBox:disabled, QRadioButton:disabled { color: @disabled; }
     QPushButton { background: @button; border: 1px solid @line; border-radius: 5px; padding: 6px 14px; }
     QPushButton:hover { border-color: @brand; }
@@ -129,7 +131,8 @@ Scheme desktopScheme(const QPalette& platformPalette) {
   return schemeOf(platformPalette);
 }
 
-SchemeWatcher::SchemeWatcher(QApplication& application) : application_(application) {
+SchemeWatcher::SchemeWatcher(QApplication& application, Scheme platform)
+    : application_(application), platform_(platform) {
   // Where there is no portal nothing comes, and the scheme stays that of the start.
   QDBusConnection::sessionBus().connect(portalService, portalPath, portalSettings,
                                         QStringLiteral("SettingChanged"), this,
@@ -138,8 +141,8 @@ SchemeWatcher::SchemeWatcher(QApplication& application) : application_(applicati
 
 void SchemeWatcher::settingChanged(const QString& space, const QString& key, const QDBusVariant& value) {
   if (space != appearanceSpace || key != schemeKey) return;
-  const auto scheme = schemeOfValue(unwrapped(value.variant()).toUInt());
-  if (scheme && *scheme != schemeOf(QApplication::palette())) applyTheme(application_, *scheme);
+  const Scheme scheme = schemeOfValue(unwrapped(value.variant()).toUInt()).value_or(platform_);
+  if (scheme != schemeOf(QApplication::palette())) applyTheme(application_, scheme);
 }
 
 QPalette palette(Scheme scheme) {

@@ -25,12 +25,15 @@ enum class Scheme { light, dark };
 /// Gives the program its style, its colours and its style sheet. May be called again when the scheme changes.
 void applyTheme(QApplication& application, Scheme scheme);
 
-/// Changes the program's colours when the desktop's settings portal tells another scheme.
+/// Changes the program's colours when the desktop's settings portal tells another scheme. Without a portal
+/// nothing happens.
 class SchemeWatcher : public QObject {
   Q_OBJECT
 
  public:
-  explicit SchemeWatcher(QApplication& application);
+  /// `platform` is the scheme of the palette that the platform had set, for a desktop without a preference.
+  /// The application must outlive this.
+  SchemeWatcher(QApplication& application, Scheme platform);
 
  public slots:
   /// What the portal tells of a setting.
@@ -38,6 +41,7 @@ class SchemeWatcher : public QObject {
 
  private:
   QApplication& application_;
+  Scheme platform_;
 };
 
 /// Colours beside those of the palette, chosen to be read on its window colour.

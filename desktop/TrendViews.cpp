@@ -8,7 +8,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QScrollArea>
 #include <QVBoxLayout>
 
 #include "desktop/Keys.h"
@@ -21,12 +20,6 @@ QString text(const char* fixed) {
   return QString::fromLatin1(fixed);
 }
 
-QLabel* wrapped(Binder& binder, Label& label, const char* role = nullptr) {
-  auto* widget = fixedLabel({}, role);
-  widget->setWordWrap(true);
-  return binder.bind(label, widget);
-}
-
 QWidget* processes(BatchSetupPane& pane, Binder& binder) {
   const Card processCard = card();
   setHelp(processCard.frame, pane.cmdHelp, 25);
@@ -34,7 +27,7 @@ QWidget* processes(BatchSetupPane& pane, Binder& binder) {
   line->setSpacing(10);
   auto* label = fixedLabel(text(BatchSetupTexts::trends), "title");
   auto* list = binder.bind(pane.cboBatches, new QComboBox, text(BatchSetupTexts::trends));
-  list->setMinimumWidth(80);
+  list->setMinimumWidth(scaled(80));
   label->setBuddy(list);
   line->addWidget(label);
   line->addWidget(list);
@@ -54,7 +47,7 @@ QWidget* cropStep(BatchSetupPane& pane, Binder& binder) {
   line->setSpacing(10);
   auto* label = fixedLabel(text(BatchSetupTexts::crop));
   auto* crops = binder.bind(pane.cboCrops, new QComboBox, text(BatchSetupTexts::crop));
-  crops->setMinimumWidth(220);
+  crops->setMinimumWidth(scaled(220));
   label->setBuddy(crops);
   line->addWidget(label);
   line->addWidget(crops);
@@ -114,7 +107,7 @@ QWidget* valueFields(BatchSetupPane& pane, Binder& binder, std::size_t way) {
     line->addWidget(binder.bind(pane.lblgeneric25, fixedLabel({}, "muted")));
     line->addSpacing(16);
     auto* steps = binder.bind(pane.cboBatchSteps, new QComboBox, text(BatchSetupTexts::steps));
-    steps->setFixedWidth(80);
+    steps->setFixedWidth(scaled(80));
     labelled(BatchSetupTexts::steps, steps);
   } else if (way == 1) {
     line->addWidget(binder.bind(pane.cmdOpenBatch, new QPushButton));

@@ -34,6 +34,7 @@ int main(int argc, char** argv) {
   QApplication::setApplicationName(QStringLiteral("verdalis"));
   QApplication::setApplicationVersion(QStringLiteral(VERDALIS_VERSION));
   QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/verdalis.svg")));
+  const desktop::Scheme platform = desktop::schemeOf(QApplication::palette());
   desktop::applyTheme(application, desktop::desktopScheme(QApplication::palette()));
 
   QCommandLineParser parser;
@@ -50,7 +51,7 @@ int main(int argc, char** argv) {
     const std::filesystem::path folder = parser.isSet(home)
                                              ? std::filesystem::path(desktop::programText(parser.value(home)))
                                              : homeFolder(homePlaces());
-    const desktop::SchemeWatcher watcher(application);
+    const desktop::SchemeWatcher watcher(application, platform);
     const desktop::Desktop program(folder, helpFolder());
     return QApplication::exec();
   } catch (const RunTimeError& error) {

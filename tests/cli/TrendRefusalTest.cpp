@@ -324,11 +324,11 @@ TEST_F(TrendRefusalTest, ACropThatIsNamedForNothingIsTold) {
       told(irrigationCosts + Args{"--trend-crop", "Plain"}),
       "verdalis-cli: --trend-crop: \"Irrigation Costs\" belongs to no crop, so the name takes no part.\n");
   EXPECT_EQ(told({"--variable", "1", "--trend-crop", "Fallow"}),
-            "verdalis-cli: --trend-crop: Fallow is not ticked, so its values change nothing.\n");
+            "verdalis-cli: --trend-crop: \"Fallow\" is not ticked, so its values change nothing.\n");
   EXPECT_EQ(
       told(ofPlain("0") +
            Args{"--option", "1", "--variable2", "1", "--trend-crop2", "Fallow", "--values2", "3"}),
-      "verdalis-cli: --trend-crop2: Fallow has no field in this option, so its values change nothing.\n");
+      "verdalis-cli: --trend-crop2: \"Fallow\" has no field in this option, so its values change nothing.\n");
 }
 
 }  // namespace

@@ -1,10 +1,9 @@
 #include <QClipboard>
 #include <QComboBox>
-#include <QElapsedTimer>
-#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 #include <QTableWidget>
+#include <algorithm>
 #include <fstream>
 #include <iterator>
 
@@ -207,11 +206,14 @@ TEST_F(CustomCrop, TheShadesFollowTheYieldsInBothSchemes) {
   pickByLetter(5, Qt::Key_C, "Corn");
   const auto ground = [&](int row, int column) { return grid()->item(row, column)->background().color(); };
   std::vector<QColor> low;
-  for (const auto scheme : {desktop::Scheme::light, desktop::Scheme::dark}) {
-    desktop::SchemeWatcher(*qApp).settingChanged(QStringLiteral("org.freedesktop.appearance"),
-                                                 QStringLiteral("color-scheme"),
-                                                 QDBusVariant(scheme == desktop::Scheme::dark ? 1U : 2U));
+  desktop::SchemeWatcher watcher(*qApp, desktop::Scheme::light);
+  const auto prefer = [&](unsigned value) {
+    watcher.settingChanged(QStringLiteral("org.freedesktop.appearance"), QStringLiteral("color-scheme"),
+                           QDBusVariant(value));
     QTest::qWait(0);
+  };
+  for (const auto scheme : {desktop::Scheme::light, desktop::Scheme::dark}) {
+    prefer(scheme == desktop::Scheme::dark ? 1 : 2);
     EXPECT_EQ(desktop::schemeOf(QApplication::palette()), scheme);
     low.push_back(ground(1, 1));
     EXPECT_NE(ground(1, 1), ground(25, 11));
@@ -219,7 +221,8 @@ TEST_F(CustomCrop, TheShadesFollowTheYieldsInBothSchemes) {
     EXPECT_EQ(ground(0, 3), ground(3, 0)) << "the heads";
     EXPECT_NE(ground(0, 3), ground(1, 3));
   }
-  desktop::applyTheme(*qApp, desktop::Scheme::light);
+  prefer(0);
+  EXPECT_EQ(desktop::schemeOf(QApplication::palette()), desktop::Scheme::light) << "no preference";
   EXPECT_LT(low[1].lightness() + 100, low[0].lightness()) << "the shades of the dark scheme are dark";
 }
 

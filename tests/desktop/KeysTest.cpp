@@ -1,5 +1,4 @@
 #include <QAbstractButton>
-#include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -11,7 +10,6 @@
 #include <map>
 #include <set>
 
-#include "desktop/HelpWindow.h"
 #include "desktop/Keys.h"
 #include "tests/desktop/RunningDesktop.h"
 
@@ -61,7 +59,7 @@ class Keys : public RunningDesktop {
   }
 
   /// Each has a key, and no two of those that can be in sight together have the same.
-  void expectKeys(QWidget* page, std::set<QString> taken = {}) {
+  void expectKeys(QWidget* page, const std::set<QString>& taken = {}) {
     std::map<QString, QWidget*> owners;
     for (QWidget* widget : usableOn(page)) {
       const std::vector<QKeySequence> keys = keysOf(widget);
@@ -209,6 +207,45 @@ TEST_F(Keys, ArrowsGoThroughTheCropRows) {
   EXPECT_TRUE(widget("cr(0).chkCrop")->hasFocus()) << "the first row";
   press(Qt::Key_PageDown);
   EXPECT_TRUE(widget("cr(6).chkCrop")->hasFocus()) << "the last row";
+}
+
+TEST_F(Keys, TheFocusIsAlwaysInSight) {
+  start();
+  window()->resize(window()->minimumSize());
+  QTest::qWait(0);
+  const auto inSight = [] { return !QApplication::focusWidget()->visibleRegion().isEmpty(); };
+  widget("cr(0).chkCrop")->setFocus(Qt::TabFocusReason);
+  QTest::qWait(0);
+  for (int i = 0; i < 6; ++i) {
+    press(Qt::Key_Down);
+    EXPECT_TRUE(inSight()) << i;
+  }
+  EXPECT_TRUE(widget("cr(6).chkCrop")->hasFocus());
+  const QKeyCombination acres = keysOf(widget("txtArea")).front()[0];
+  QTest::keyClick(window(), acres.key(), acres.keyboardModifiers());
+  ASSERT_TRUE(widget("txtArea")->hasFocus());
+  EXPECT_TRUE(inSight());
+}
+
+TEST_F(Keys, APaneThatIsComeBackToHasTheFocusWhereItWas) {
+  start();
+  typeFarm();
+  widget("cr(5).cmdInputCosts")->setFocus(Qt::TabFocusReason);
+  QTest::qWait(0);
+  press(Qt::Key_Space);
+  ASSERT_EQ(pane(), "pneInputCosts");
+  EXPECT_EQ(window()->focusWidget(), widget("txtNitrogenApplied")) << "the first field, and no \"?\"";
+  QTest::keyClick(window(), Qt::Key_Escape);
+  ASSERT_TRUE(comes([&] { return pane() == "pneMain"; }));
+  EXPECT_EQ(window()->focusWidget(), widget("cr(5).cmdInputCosts"));
+  QTest::keyClick(window(), Qt::Key_F5);
+  ASSERT_EQ(pane(), "pneResults");
+  RunningDesktop::press("theResults.rh(1).cmdDetails");
+  ASSERT_EQ(pane(), "pneDetails");
+  EXPECT_EQ(window()->focusWidget()->objectName(), QStringLiteral("detailsPage")) << "the keys scroll";
+  QTest::keyClick(window(), Qt::Key_Escape);
+  ASSERT_EQ(pane(), "pneResults");
+  EXPECT_EQ(window()->focusWidget(), widget("theResults.rh(1).cmdDetails"));
 }
 
 TEST_F(Keys, F1ReachesEveryHelpButtonThatOpensSomething) {

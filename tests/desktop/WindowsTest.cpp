@@ -3,6 +3,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QScopeGuard>
 #include <QSettings>
 #include <QTableWidget>
 
@@ -155,6 +156,7 @@ TEST_F(Windows, ASavedOptionIsRemovedByKeyboardToo) {
 }
 
 TEST_F(Windows, TheWindowRemembersItsPlaceHoweverItIsClosed) {
+  const QScopeGuard forget([] { QSettings().clear(); });
   start();
   window()->resize(1100, 720);
   choose(program().main().menus.mnuExit);
@@ -163,7 +165,6 @@ TEST_F(Windows, TheWindowRemembersItsPlaceHoweverItIsClosed) {
   again.program().welcome.Command1.click();
   EXPECT_EQ(again.mainWindow()->size(), QSize(1100, 720));
   again.mainWindow()->close();
-  QSettings().clear();
 }
 
 TEST_F(Windows, ANoteIsShownWhole) {
