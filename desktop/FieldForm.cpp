@@ -69,7 +69,7 @@ QWidget* FieldForm::field(const FieldRow& row) {
 }
 
 QWidget* FieldForm::unit(const FieldRow& row) {
-  if (row.unitControl.empty()) return fixedLabel(text(row.unit), "muted");
+  if (row.unitControl.empty()) return fixedLabel(text(row.unit.empty() ? row.unitHint : row.unit), "muted");
   auto* label = dynamic_cast<Label*>(find(row.unitControl));
   return label == nullptr ? nullptr : binder_.bind(*label, fixedLabel({}, "muted"));
 }

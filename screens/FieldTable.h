@@ -66,6 +66,7 @@ struct FieldRow {
   std::string_view column = {};       ///< The head of its column
   std::string_view unit = {};         ///< The fixed text behind it
   std::string_view unitControl = {};  ///< The label control behind it, where the unit is not fixed
+  std::string_view unitHint = {};     ///< Its unit for the eye, where it has neither of these
   std::string_view testLabel = {};    ///< Begins the messages of its test
   Limit limit = {};
   int helpIndex = -1;               ///< The "?" button beside it; -1 for none

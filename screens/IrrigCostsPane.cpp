@@ -91,6 +91,7 @@ constexpr std::array<IrrigCostsField, 8> paneFields{{
     {.row = {.control = "txtRepairsPerAcre",
              .group = costGroup,
              .label = "Repairs and Maintenance",
+             .unitHint = "/ ac-in",
              .testLabel = "Repairs and Maintenance",
              .limit = Limit(0.99),
              .helpIndex = 8,
