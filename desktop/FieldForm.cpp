@@ -69,7 +69,8 @@ QWidget* FieldForm::field(const FieldRow& row) {
 }
 
 QWidget* FieldForm::unit(const FieldRow& row) {
-  if (row.unitControl.empty()) return fixedLabel(text(row.unit.empty() ? row.unitHint : row.unit), "muted");
+  const std::string_view fixed = row.unit.empty() ? row.unitHint : row.unit;
+  if (row.unitControl.empty()) return fixed.empty() ? nullptr : fixedLabel(text(fixed), "muted");
   auto* label = dynamic_cast<Label*>(find(row.unitControl));
   return label == nullptr ? nullptr : binder_.bind(*label, fixedLabel({}, "muted"));
 }
@@ -117,8 +118,12 @@ void FieldForm::addLine(const std::vector<const FieldRow*>& fields, const QHash<
     if (widget == nullptr) continue;
     if (label->buddy() == nullptr) label->setBuddy(widget);
     const int column = 1 + 2 * heads.value(text(row->column), place++);
-    grid->addWidget(widget, line, column);
-    if (QWidget* unitLabel = unit(*row)) grid->addWidget(unitLabel, line, column + 1);
+    if (QWidget* unitLabel = unit(*row)) {
+      grid->addWidget(widget, line, column);
+      grid->addWidget(unitLabel, line, column + 1);
+    } else {
+      grid->addWidget(widget, line, column, 1, 2, Qt::AlignLeft);  // and takes the room of its unit
+    }
   }
   // What stands behind the fields comes behind them for Tab, too.
   for (const FieldRow* row : fields) {
