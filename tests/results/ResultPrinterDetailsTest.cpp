@@ -14,7 +14,6 @@ namespace {
 using namespace testing;
 using ::testing::Contains;
 using ::testing::ElementsAreArray;
-using ::testing::IsEmpty;
 using ::testing::Not;
 using ::testing::SizeIs;
 

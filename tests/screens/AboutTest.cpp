@@ -56,6 +56,7 @@ TEST_F(SmallWindows, AboutClosesWhenItLosesTheActivation) {
 
 TEST_F(SmallWindows, TheEfficienciesAreThoseOfTheSystems) {
   std::vector<std::string> rows;
+  rows.reserve(frmHelpEff::efficiencies.size());
   for (const SystemEfficiency& row : frmHelpEff::efficiencies)
     rows.push_back(std::string(row.system) + ": " + std::string(row.efficiency));
   EXPECT_EQ(

@@ -46,6 +46,7 @@ class CustomCropEditor : public ::testing::Test {
   /// The texts of a row, the head included.
   std::vector<std::string> rowOf(int row) {
     std::vector<std::string> texts;
+    texts.reserve(static_cast<std::size_t>(grid().columns()));
     for (int column = 0; column < grid().columns(); ++column)
       texts.push_back(grid().cell(row, column));
     return texts;
