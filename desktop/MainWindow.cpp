@@ -80,6 +80,11 @@ MainWindow::MainWindow(frmMain& window, Binder& binder, std::function<void(const
   binder_.bindWindow(window_, this);
 }
 
+MainWindow::~MainWindow() {
+  // The focus moves once more while the widgets go, when this is no main window any more.
+  disconnect(qApp, nullptr, this, nullptr);
+}
+
 void MainWindow::addMenus() {
   const auto menu = [&](MenuEntry& entry, const QString& title) {
     QMenu* made = menuBar()->addMenu(title);

@@ -18,6 +18,8 @@ class MainWindow : public QMainWindow {
   /// `showTopic` opens a help topic.
   MainWindow(frmMain& window, Binder& binder, std::function<void(const QString&)> showTopic);
 
+  ~MainWindow() override;
+
   /// The page of the pane on show.
   [[nodiscard]] QWidget* currentPage() const;
 
