@@ -53,11 +53,14 @@ await() {
 
 # The window with a title, as the variable `window`.
 find_window() {
+  title=$1
   window=$(xdotool search --onlyvisible --pid "$program" --name "^$1\$" 2>/dev/null | head -n 1)
   [ -n "$window" ]
 }
 
+# Looks for the window each time: the first one found may have been gone before it came to stay.
 has_focus() {
+  find_window "$title" || return 1
   xdotool windowfocus "$window" 2>/dev/null || true # no window manager gives the focus here
   [ "$(xdotool getwindowfocus 2>/dev/null)" = "$window" ]
 }
