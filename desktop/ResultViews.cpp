@@ -125,16 +125,19 @@ QWidget* resultsView(Results& results, Binder& binder, const QString& heading) {
     view.body->addWidget(fixedLabel(QString::fromLatin1(note), "muted"));
 
   const Card trend = card();
+  auto* trendLine = new QHBoxLayout;
+  auto* descriptions = new QVBoxLayout;
   for (Label& line : results.lblBatchDescriptions)
-    trend.body->addWidget(binder.bind(line, fixedLabel({}, "title")));
-  auto* trendButtons = new QHBoxLayout;
-  trendButtons->addWidget(smallHelp(binder, results.cmdHelp2, QObject::tr("Help: View Trend Results")));
-  trendButtons->addStretch();
+    descriptions->addWidget(binder.bind(line, fixedLabel({}, "title")));
+  trendLine->addLayout(descriptions);
+  trendLine->addSpacing(8);
+  trendLine->addWidget(smallHelp(binder, results.cmdHelp2, QObject::tr("Help: View Trend Results")));
+  trendLine->addStretch();
   auto* excel = binder.bind(results.cmdExcel, new QPushButton);
   setHelp(excel, &results.cmdHelp3);
-  trendButtons->addWidget(excel);
-  trendButtons->addWidget(smallHelp(binder, results.cmdHelp3, QObject::tr("Help: Excel Output")));
-  trend.body->addLayout(trendButtons);
+  trendLine->addWidget(excel);
+  trendLine->addWidget(smallHelp(binder, results.cmdHelp3, QObject::tr("Help: Excel Output")));
+  trend.body->addLayout(trendLine);
   view.body->addWidget(binder.bind(results.pnlBatchedVariables, static_cast<QWidget*>(trend.frame)));
 
   auto* again = new QWidget;
