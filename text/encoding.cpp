@@ -82,6 +82,17 @@ std::optional<char> windowsByte(char32_t character) {
   return static_cast<char>(0x80 + (found - windowsCharacters.begin()));
 }
 
+/// The small letter of a capital letter that Windows-1252 holds; every other character as it is.
+char32_t lowerLetter(char32_t character) {
+  constexpr char32_t multiplicationSign = 0xD7;
+  constexpr char32_t capitalYDiaeresis = 0x178;
+  const bool capital = (character >= U'A' && character <= U'Z') ||
+                       (character >= U'\u00C0' && character <= U'\u00DE' && character != multiplicationSign);
+  if (capital) return character + 0x20;
+  if (character == U'\u0152' || character == U'\u0160' || character == U'\u017D') return character + 1;
+  return character == capitalYDiaeresis ? U'\u00FF' : character;
+}
+
 }  // namespace
 
 bool isUtf8(std::string_view bytes) {
@@ -121,9 +132,18 @@ std::string encodeForExport(std::string_view utf8) {
 }
 
 std::string lowerCase(std::string_view text) {
-  std::string result(text);
-  for (char& c : result) {
-    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+  std::string result;
+  result.reserve(text.size());
+  std::size_t pos = 0;
+  while (pos < text.size()) {
+    const std::size_t start = pos;
+    const auto character = nextCharacter(text, pos);
+    if (!character) pos = start + 1;
+    if (character && lowerLetter(*character) != *character) {
+      appendUtf8(result, lowerLetter(*character));
+    } else {
+      result += text.substr(start, pos - start);
+    }
   }
   return result;
 }

@@ -18,7 +18,8 @@ namespace verdalis {
 /// else the UTF-8 as it stands. Bytes that are no UTF-8 come back unchanged.
 [[nodiscard]] std::string encodeForExport(std::string_view utf8);
 
-/// Lower case of the letters A to Z; all other characters stay.
+/// Lower case of the letters of Windows-1252, which the farm's files are made of; all other characters and
+/// bytes that are no UTF-8 stay. The same in every locale.
 [[nodiscard]] std::string lowerCase(std::string_view text);
 
 }  // namespace verdalis

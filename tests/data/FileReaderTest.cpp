@@ -53,6 +53,13 @@ TEST(FileReader, SortsByNameIgnoringCase) {
             (Names{"10", "9", "_x", "Aa", "alfa", "BEANS", "corn", "Corn2", "Zinnia", "Fallow"}));
 }
 
+TEST(FileReader, SortsLettersWithAccentsIgnoringCaseToo) {
+  const CropLibrary library;
+  for (const char* name : {"\xC3\x89-1", "\xC3\xA9", "\xC3\x89-3", "\xC3\xA9-2"})  // É-1 é É-3 é-2
+    library.stock(name, smallCrop(name));
+  EXPECT_EQ(library.names(), (Names{"\xC3\xA9", "\xC3\x89-1", "\xC3\xA9-2", "\xC3\x89-3", "Fallow"}));
+}
+
 TEST(FileReader, TakesEveryFileWhateverItsName) {
   const CropLibrary library;
   library.stock(".hidden", smallCrop("Hidden"));

@@ -71,6 +71,15 @@ TEST(SoilsFile, IsFoundByTheNameInLowerCase) {
   }
 }
 
+TEST(SoilsFile, IsFoundByANameWithAccents) {
+  for (const char* name : {"\xC3\x96L", "\xC3\xB6l", "\xD6L"}) {  // the last as Windows-1252 writes ÖL
+    const CropLibrary library;
+    library.stock("a.txt", smallCrop(name));
+    library.soils("\xC3\xB6l.txt", soil("ulysses", 7, 1));
+    EXPECT_EQ(yieldOf(library.read().cropCollection.Item(1)->soil_ulysses), 7) << name;
+  }
+}
+
 TEST(SoilsFile, IsNotFoundByTheNameOfTheCropFile) {
   const CropLibrary library;
   library.stock("corn.txt", smallCrop("Maize"));

@@ -116,10 +116,18 @@ TEST(EncodeForExport, KeepsWhatIsNoUtf8) {
   EXPECT_EQ(encodeForExport(bytes(u8"é") + "\xC3"), bytes(u8"é") + "\xC3");
 }
 
-TEST(LowerCase, ChangesTheLettersAToZAlone) {
+TEST(LowerCase, ChangesTheLettersOfWindows1252) {
   EXPECT_EQ(lowerCase("Grain Sorghum @[`{ AZaz09"), "grain sorghum @[`{ azaz09");
-  EXPECT_EQ(lowerCase(bytes(u8"ÉÄÜ İ")), bytes(u8"ÉÄÜ İ"));
+  EXPECT_EQ(lowerCase(bytes(u8"ÀÖØÞ ŠŒŽŸ")), bytes(u8"àöøþ šœžÿ"));
   EXPECT_EQ(lowerCase(""), "");
+}
+
+TEST(LowerCase, LeavesEverythingElse) {
+  for (const char8_t* text : {u8"×÷ßàþÿ", u8"š œ ž ƒ", u8"İΩЖ", u8"¿¾½", u8"🌽", u8"10 €"}) {
+    EXPECT_EQ(lowerCase(bytes(text)), bytes(text));
+  }
+  EXPECT_EQ(lowerCase("\xC9 A\xC3"), "\xC9 a\xC3");
+  EXPECT_EQ(lowerCase(bytes(u8"É") + "\xE2\x82 B"), bytes(u8"é") + "\xE2\x82 b");
 }
 
 TEST(QuoteForMessage, ShowsTheTextOnOneLine) {
