@@ -101,7 +101,7 @@ class Details : public Frame {
 
   /// Fills the screen from a copy of the field, and hands the field itself on to onFieldLoaded.
   /// \throws RunTimeError (divisionByZero, overflow) for a figure that cannot be calculated; the labels
-  /// before it are filled by then.
+  /// before it are filled by then, so the screen is shown when this has returned.
   void loadCosts(const Field& field);
 
   /// A field is on show: it can be printed.

@@ -230,8 +230,8 @@ void frmMain::wireOptions(Results& results) {
   results.onSaveOption = [this](const Results::Option& option) { summaryResults.push_back(option); };
   results.onBatchThis = [this](const Results::Option&) { trends.ShowBatchScreen(); };
   results.onDetails = [this](const std::shared_ptr<Field>& field) {
+    theDetails.loadCosts(*field);  // a field that it cannot price leaves the options on show
     showPane(pneDetails);
-    theDetails.loadCosts(*field);
   };
   results.onHelpTopic = [this](const std::string& topic) { showHelpTopic(services_.help, topic); };
   results.onHelpNote = [this](const std::string& text, const std::string& title, int height) {

@@ -232,6 +232,25 @@ TEST_F(TrendWindow, DetailsOfATrendResultLeadBackToIt) {
                                         "pneDetails", "pneBatchSetup(1)", "pneBatchSetup(0)", "pneMain"}));
 }
 
+// With other production costs in their place alfalfa needs no life of stand, until its lines are to be shown.
+TEST_F(TrendWindow, DetailsThatCannotBeWorkedOutLeaveTheOptionsOnShow) {
+  running.control<CheckBox>("cr(1).chkCrop").click();
+  runVariable(0, 1, "300, 400");
+  ASSERT_EQ(shown("rh(0).lblCrop"), "Alfalfa");
+  std::vector<Message>& log = running.fakes.messageBox.log;
+  log.clear();
+  running.press(std::string(result) + ".rh(0).cmdDetails");
+  ASSERT_EQ(log.size(), 1U);
+  EXPECT_EQ(log[0].title, "Verdalis");
+  EXPECT_EQ(log[0].icon, MessageIcon::critical);
+  EXPECT_EQ(log[0].text.rfind("The life of stand is 0 years", 0), 0U);
+  EXPECT_EQ(pane(), "pneBatchSetup(1)");
+  EXPECT_FALSE(main.pneDetails.isShown());
+  EXPECT_FALSE(main.menus.mnuPrint.enabled());
+  goBack();
+  EXPECT_EQ(pane(), "pneMain");
+}
+
 TEST_F(TrendWindow, IrrigationCostsOfATrendAreInTheDetails) {
   runVariable(1, 4, "2, 3");
   running.press(std::string(result) + ".rh(0).cmdDetails");
