@@ -123,6 +123,9 @@ class TrendRun {
     if (request_.exportFile) {
       findings.page = makePage([&](std::string& page) {
         TrendState& trend = farm_.trend();
+        // In the window the first step is on show before anything can be exported, which packs its ranking
+        // once more.
+        static_cast<void>(trend.BatchCollection.at(0).returnCollection(true));
         writeVariableTrend({trend.BatchCollection, trend.TrendValues, trend.TrendVariableName,
                             trend.TrendVariableCrop, units(), farm_.txtEff(), localTime()},
                            page);
