@@ -4,6 +4,7 @@
 #include <cmath>
 #include <functional>
 #include <limits>
+#include <utility>
 
 #include "engine/CandidateBuilder.h"
 #include "engine/SplitSearch.h"
@@ -60,6 +61,9 @@ std::vector<std::vector<Property>> byLevel(const FieldTables& tables, Property P
 
 std::optional<std::vector<KeptCandidate>> FastSearch::run() {
   const auto splitCount = static_cast<std::size_t>(inputs_.depths.Count());
+  // The first water split begins before anything is priced: a cancel at it comes before any error.
+  if (splitCount > 0 && !pulse_.step()) return std::nullopt;
+  isFirstStepTaken_ = splitCount > 0;
   if (!tables_.price(pulse_)) return std::nullopt;
   if (inputs_.combinations.Count() == 0) {
     return stepOver(splitCount) ? std::optional(std::vector<KeptCandidate>()) : std::nullopt;
@@ -75,9 +79,13 @@ std::optional<std::vector<KeptCandidate>> FastSearch::run() {
   return kept.ranked();
 }
 
+bool FastSearch::step() {
+  return std::exchange(isFirstStepTaken_, false) || pulse_.step();
+}
+
 bool FastSearch::stepOver(std::size_t count) {
   while (count-- > 0) {
-    if (!pulse_.step()) return false;
+    if (!step()) return false;
   }
   return true;
 }
@@ -214,7 +222,7 @@ bool FastSearch::searchSplits(KeptCandidates& kept) {
     for (std::ptrdiff_t i = 0; i < count; ++i) {
       const BoundedSplit entry = splits_.back();
       splits_.pop_back();
-      if (!pulse_.step()) return false;
+      if (!step()) return false;
       if (!isOut(entry) && !search.search(entry.split, inputs_.depths.levelNumbers(entry.split)))
         return false;
     }

@@ -96,6 +96,7 @@ class FastSearch {
   [[nodiscard]] double exactBound(std::size_t split) const;
   [[nodiscard]] double roughBound(double bound) const;
   [[nodiscard]] bool searchSplits(KeptCandidates& kept);
+  [[nodiscard]] bool step();
   [[nodiscard]] bool stepOver(std::size_t count);
 
   const SearchInputs& inputs_;
@@ -104,6 +105,7 @@ class FastSearch {
   double slack_ = 0;
   double lowerBound_ = 0;             ///< A profit that the last place reaches in the end
   std::vector<BoundedSplit> splits_;  ///< Those that are not passed over yet
+  bool isFirstStepTaken_ = false;     ///< The progress has moved on for a split that is still to come
 };
 
 }  // namespace verdalis

@@ -52,6 +52,16 @@ TEST_F(DuringARun, CancelWithinTheFirstWaterSplitGivesNothing) {
   expectCancelled(*farm, farm->run());
 }
 
+TEST_F(DuringARun, CancelAtTheFirstWaterSplitComesBeforeAnyError) {
+  const auto farm = cornAndWheatFarm();
+  farm->inputs.txtAnnRain = "25";
+  EXPECT_THROW(static_cast<void>(farm->run()), RunTimeError);
+  const auto cancelled = cornAndWheatFarm();
+  cancelled->inputs.txtAnnRain = "25";
+  cancelled->hooks.onUpdate = [&](int) { cancelled->state.CancelRequested = true; };
+  expectCancelled(*cancelled, cancelled->run());
+}
+
 TEST_F(DuringARun, CancelFromAnEarlierRunOrBeforeTheSearchDoesNotCount) {
   const auto farm = cornAndWheatFarm();
   farm->state.CancelRequested = true;
