@@ -55,7 +55,8 @@ void ScrollBar::setMaximum(int maximum) {
 }
 
 void ScrollBar::scroll(int value) {
-  act([&] { setValue(value); });
+  const bool moves = std::clamp(value, 0, maximum_) != value_;
+  act([&] { setValue(value); }, moves);
 }
 
 }  // namespace verdalis

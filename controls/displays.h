@@ -88,7 +88,7 @@ class ScrollBar : public Control {
   int smallStep = 1;
   int largeStep = 1;
 
-  /// A person moves it; beyond the ends it stops there.
+  /// A person moves it; beyond the ends it stops there. Where it stands already, the focus stays away.
   void scroll(int value);
   std::function<void()> onChange;
 

@@ -77,6 +77,8 @@ TEST_F(Displays, ScrollBarStopsAtItsEnds) {
   bar.scroll(5);
   EXPECT_TRUE(take().empty());
   bar.setMaximum(300);
+  bar.scroll(-1);
+  EXPECT_EQ(desk.focus(), nullptr) << "it has not moved";
   bar.scroll(100);
   bar.scroll(100);
   bar.scroll(1000);
