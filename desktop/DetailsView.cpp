@@ -90,18 +90,18 @@ QWidget* detailsView(Details& details, Binder& binder) {
     grid->addWidget(i == 0 ? totalsCard(details, blocks[i], binder) : blockCard(details, blocks[i], binder),
                     row, column, 1, i == 0 ? 3 : 1);
   }
-  const std::array<const char*, 2> captions{"General Production Costs:", "Irrigation Costs:"};
   const std::array<Label*, 2> figures{&details.lblBatchGeneralProductionCost,
                                       &details.lblBatchIrrigationCosts};
-  for (std::size_t i = 0; i < captions.size(); ++i) {
+  for (std::size_t i = 0; i < figures.size(); ++i) {
     const Card override = card();
     auto* line = new QHBoxLayout;
-    line->addWidget(fixedLabel(QString::fromLatin1(captions.at(i)), "title"));
+    line->addWidget(fixedLabel(plain(details.picBatch.at(i).caption()), "title"));
     line->addWidget(binder.bind(*figures.at(i), fixedLabel({}, "figure")));
     line->addStretch();
     override.body->addLayout(line);
+    // Above the costs that it takes the place of.
     grid->addWidget(binder.bind(details.picBatch.at(i), static_cast<QWidget*>(override.frame)), 1,
-                    static_cast<int>(i));
+                    i == 0 ? 0 : 2);
   }
   for (int column = 0; column < 3; ++column)
     grid->setColumnStretch(column, 1);

@@ -107,13 +107,15 @@ void photographTrends(Desktop& desktop, const Photographer& camera) {
   control<ComboBox>(desktop, "cboCrops").pick(0);
   control<TextBox>(desktop, "txtBatchList").type("5, 6, 7.25");
   press("cmdAddBatchProcess");
-  control<OptionButton>(desktop, "optBatchVariable(3)").click();
-  control<TextBox>(desktop, "txtBatchMinimum(0)").type("80");
-  control<TextBox>(desktop, "txtBatchMinimum(1)").type("90");
+  control<OptionButton>(desktop, "optBatchVariable(4)").click();
+  control<TextBox>(desktop, "txtBatchMinimum(0)").type("2");
+  control<TextBox>(desktop, "txtBatchMinimum(1)").type("4");
   control<ComboBox>(desktop, "cboBatchSteps").pick(1);
   camera.take(window, QStringLiteral("fixed-trend-setup"));
   press("cmdBatchIt");
   camera.take(window, QStringLiteral("fixed-trend-results"));
+  press("theBatchResults.theResults.rh(0).cmdDetails");
+  camera.take(window, QStringLiteral("trend-details"));
 }
 
 void photographSmallWindows(Desktop& desktop, const Photographer& camera) {
