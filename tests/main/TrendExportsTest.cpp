@@ -34,6 +34,21 @@ const std::string variableTitle =
     "<table><tr><td colspan=12 align=center><h2><strong>The output below shows the top results from each "
     "option.</strong></h2><hr></td></tr></table>\n";
 
+/// What a fixed trend over the price of corn tells of its one field, but for the efficiency, which may be
+/// trended, too.
+const std::string cornField =
+    R"(<table><tr><td><b>Field Information for fixed trend execution</b></td></tr></table>
+<table><tr><td></td></tr></table>
+<table bgcolor='#CCFFFF' border=1><tr><td colspan='2'><b>Field split #1</b></td></tr>
+<tr><td>Crop:</td><td>Corn</td></tr>
+<tr><td>Acres:</td><td>100 acres</td></tr>
+<tr><td>Gross Irrigation</td><td>12.0 inches</td></tr>
+<tr><td>Total Production Costs:</td><td>$0.00 /ac</td></tr>
+<tr><td>Maximum Yield:</td><td>200.0 bu./ac</td></tr>
+<tr><td>Annual Rainfall:</td><td>16.0 inches</td></tr>
+<tr><td>Irrigation Costs:</td><td>$0.00 /ac</td></tr>
+)";
+
 std::string rankHead(const std::string& rank) {
   return "<table border=1>\n<tr><th colspan=12 align=center><h2>" + rank +
          " Best Options for Corn Crop Price Variable-Irrigation Trend Process</h2></th></tr>\n<tr "
@@ -161,17 +176,7 @@ TEST_F(TrendExports, AFixedTrendOfOneVariable) {
 </tr>
 </table></td></tr>
 </table>
-<table><tr><td><b>Field Information for fixed trend execution</b></td></tr></table>
-<table><tr><td></td></tr></table>
-<table bgcolor='#CCFFFF' border=1><tr><td colspan='2'><b>Field split #1</b></td></tr>
-<tr><td>Crop:</td><td>Corn</td></tr>
-<tr><td>Acres:</td><td>100 acres</td></tr>
-<tr><td>Gross Irrigation</td><td>12.0 inches</td></tr>
-<tr><td>Total Production Costs:</td><td>$0.00 /ac</td></tr>
-<tr><td>Maximum Yield:</td><td>200.0 bu./ac</td></tr>
-<tr><td>Annual Rainfall:</td><td>16.0 inches</td></tr>
-<tr><td>Irrigation Costs:</td><td>$0.00 /ac</td></tr>
-<tr><td>Irrigation System Efficiency:</td><td>100%</td></tr>
+)" + cornField + R"(<tr><td>Irrigation System Efficiency:</td><td>100%</td></tr>
 </table>
 </body>
 </html>
@@ -210,17 +215,7 @@ TEST_F(TrendExports, AFixedTrendOfTwoVariables) {
 </tr>
 </table></td></tr>
 </table>
-<table><tr><td><b>Field Information for fixed trend execution</b></td></tr></table>
-<table><tr><td></td></tr></table>
-<table bgcolor='#CCFFFF' border=1><tr><td colspan='2'><b>Field split #1</b></td></tr>
-<tr><td>Crop:</td><td>Corn</td></tr>
-<tr><td>Acres:</td><td>100 acres</td></tr>
-<tr><td>Gross Irrigation</td><td>12.0 inches</td></tr>
-<tr><td>Total Production Costs:</td><td>$0.00 /ac</td></tr>
-<tr><td>Maximum Yield:</td><td>200.0 bu./ac</td></tr>
-<tr><td>Annual Rainfall:</td><td>16.0 inches</td></tr>
-<tr><td>Irrigation Costs:</td><td>$0.00 /ac</td></tr>
-</table>
+)" + cornField + R"(</table>
 </body>
 </html>
 )");
