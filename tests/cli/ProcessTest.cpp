@@ -245,6 +245,9 @@ class OnTerminal {
     if (master_ >= 0) ::close(master_);
   }
 
+  /// Whether the system has given a terminal; a container may have none.
+  [[nodiscard]] bool runs() const { return child_ > 0; }
+
   /// Waits for the end.
   CliResult finish() {
     while (read()) {
@@ -273,6 +276,7 @@ class OnTerminal {
 TEST(Process, AShortRunShowsNoProgressOnATerminal) {
   const SmallHome home;
   OnTerminal run(plainFarm(home, {"--format", "csv"}));
+  if (!run.runs()) GTEST_SKIP() << "the system has no terminals: /dev/pts is not mounted";
   const CliResult result = run.finish();
   EXPECT_EQ(result.exitCode, 0);
   EXPECT_EQ(result.err, "");
