@@ -9,7 +9,7 @@
 #include "cli/Messages.h"
 #include "cli/TerminalServices.h"
 #include "engine/RunHooks.h"
-#include "screens/main/Program.h"
+#include "main/Program.h"
 #include "trend/TrendHost.h"
 #include "trend/TrendScreens.h"
 

@@ -16,14 +16,11 @@ target_compile_options(verdalis_flags INTERFACE
 target_include_directories(verdalis_flags INTERFACE ${CMAKE_SOURCE_DIR})
 set(CMAKE_CXX_EXTENSIONS OFF)
 
-# verdalis_layer(NAME [FOLDER folder] [LINKS layer...] [LIBS target...])
-# A static library verdalis_NAME of all sources in the folder of that name, or in another one.
+# verdalis_layer(NAME [LINKS layer...] [LIBS target...])
+# A static library verdalis_NAME of all sources in the folder of that name.
 function(verdalis_layer name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "FOLDER" "LINKS;LIBS")
-  if(NOT arg_FOLDER)
-    set(arg_FOLDER ${name})
-  endif()
-  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/${arg_FOLDER}/*.cpp ${CMAKE_SOURCE_DIR}/${arg_FOLDER}/*.h)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "LINKS;LIBS")
+  file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/${name}/*.cpp ${CMAKE_SOURCE_DIR}/${name}/*.h)
   add_library(verdalis_${name} STATIC ${sources})
   set_target_properties(verdalis_${name} PROPERTIES LINKER_LANGUAGE CXX)
   target_link_libraries(verdalis_${name} PUBLIC verdalis_flags ${arg_LIBS})

@@ -7,7 +7,7 @@
 #include "desktop/Binder.h"
 #include "desktop/MainWindow.h"
 #include "desktop/QtServices.h"
-#include "screens/main/Program.h"
+#include "main/Program.h"
 
 namespace verdalis::desktop {
 

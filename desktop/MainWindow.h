@@ -4,7 +4,7 @@
 #include <functional>
 
 #include "desktop/Binder.h"
-#include "screens/main/frmMain.h"
+#include "main/frmMain.h"
 
 class QStackedWidget;
 

@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include "cli/script/ScriptServices.h"
-#include "screens/main/Program.h"
+#include "main/Program.h"
 
 namespace verdalis {
 

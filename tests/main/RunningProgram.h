@@ -5,7 +5,7 @@
 
 #include "controls/displays.h"
 #include "controls/inputs.h"
-#include "screens/main/Program.h"
+#include "main/Program.h"
 #include "tests/support/FakeServices.h"
 #include "tests/support/TemporaryFolder.h"
 

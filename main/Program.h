@@ -4,10 +4,10 @@
 
 #include "controls/services.h"
 #include "engine/ProgramState.h"
+#include "main/ProgramFiles.h"
+#include "main/SecondaryWindows.h"
+#include "main/frmMain.h"
 #include "screens/frmWelcome.h"
-#include "screens/main/ProgramFiles.h"
-#include "screens/main/SecondaryWindows.h"
-#include "screens/main/frmMain.h"
 
 namespace verdalis {
 

@@ -11,6 +11,11 @@
 #include "engine/BestMix.h"
 #include "engine/ProgramState.h"
 #include "engine/RunHooks.h"
+#include "main/MainMenus.h"
+#include "main/MainTrendHost.h"
+#include "main/PaneStack.h"
+#include "main/ProgramFiles.h"
+#include "main/SecondaryWindows.h"
 #include "results/Details.h"
 #include "results/ResultPrinter.h"
 #include "results/Results.h"
@@ -19,11 +24,6 @@
 #include "screens/InputCostsPane.h"
 #include "screens/IrrigCostsPane.h"
 #include "screens/MainPane.h"
-#include "screens/main/MainMenus.h"
-#include "screens/main/MainTrendHost.h"
-#include "screens/main/PaneStack.h"
-#include "screens/main/ProgramFiles.h"
-#include "screens/main/SecondaryWindows.h"
 #include "trend/TrendScreens.h"
 
 namespace verdalis {

@@ -1,4 +1,4 @@
-#include "screens/main/Program.h"
+#include "main/Program.h"
 
 #include <algorithm>
 #include <utility>

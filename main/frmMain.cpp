@@ -1,4 +1,4 @@
-#include "screens/main/frmMain.h"
+#include "main/frmMain.h"
 
 #include <utility>
 
@@ -6,7 +6,7 @@
 #include "data/StockDefaults.h"
 #include "data/writeFile.h"
 #include "engine/RunScenario.h"
-#include "screens/main/SavedInputsControls.h"
+#include "main/SavedInputsControls.h"
 #include "screens/modInputTest.h"
 #include "text/RunTimeError.h"
 #include "text/encoding.h"

@@ -1,8 +1,8 @@
-#include "screens/main/MainTrendHost.h"
+#include "main/MainTrendHost.h"
 
 #include <utility>
 
-#include "screens/main/frmMain.h"
+#include "main/frmMain.h"
 
 namespace verdalis {
 

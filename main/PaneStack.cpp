@@ -1,4 +1,4 @@
-#include "screens/main/PaneStack.h"
+#include "main/PaneStack.h"
 
 namespace verdalis {
 namespace {

@@ -1,6 +1,6 @@
-#include "screens/main/SavedInputsControls.h"
+#include "main/SavedInputsControls.h"
 
-#include "screens/main/frmMain.h"
+#include "main/frmMain.h"
 
 namespace verdalis {
 
