@@ -5,8 +5,8 @@
 #include <charconv>
 #include <utility>
 
-#include "cli/home.h"
 #include "cli/textOptions.h"
+#include "data/home.h"
 #include "data/readFile.h"
 #include "engine/MakingSplits.h"
 #include "screens/fineFactor.h"

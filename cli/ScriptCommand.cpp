@@ -5,9 +5,9 @@
 #include <istream>
 #include <ostream>
 
-#include "cli/home.h"
 #include "cli/script/ScriptSession.h"
 #include "cli/textOptions.h"
+#include "data/home.h"
 #include "text/RunTimeError.h"
 
 namespace verdalis {

@@ -5,7 +5,7 @@
 #include <QLocale>
 #include <QMessageBox>
 
-#include "cli/home.h"
+#include "data/home.h"
 #include "desktop/Binder.h"
 #include "desktop/Desktop.h"
 #include "desktop/Theme.h"

@@ -1,4 +1,4 @@
-#include "cli/home.h"
+#include "data/home.h"
 
 #include <unistd.h>
 

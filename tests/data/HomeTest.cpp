@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "cli/home.h"
+#include "data/home.h"
 #include "tests/support/Errors.h"
 #include "tests/support/TemporaryFolder.h"
 
