@@ -13,7 +13,7 @@
 #include "controls/displays.h"
 #include "controls/inputs.h"
 #include "controls/services.h"
-#include "screens/CustomCropFile.h"
+#include "data/CustomCropFile.h"
 #include "screens/modHelp.h"
 
 namespace verdalis {

@@ -1,7 +1,5 @@
 #include "screens/modInputTest.h"
 
-#include <algorithm>
-
 #include "text/RunTimeError.h"
 #include "text/numbers.h"
 
@@ -60,13 +58,6 @@ void showInputError(const std::string& message, TextBox& control, MessageBoxServ
     throw;
   }
   control.desk().moveFocus(control);
-}
-
-std::string RemoveIllegals(std::string_view name) {
-  std::string legal(name);
-  std::erase_if(legal,
-                [](char c) { return std::string_view("*?/\\:|<>\"").find(c) != std::string_view::npos; });
-  return legal;
 }
 
 void emptyZeroTexts(Frame& window) {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 
 #include "controls/inputs.h"
 #include "controls/services.h"
@@ -17,9 +16,6 @@ void testInput(TextBox* control, double limit, const std::string& label, Message
 /// Tells the message, takes the last edit of the field back where there is one, and gives the field the
 /// focus.
 void showInputError(const std::string& message, TextBox& control, MessageBoxService& messageBox);
-
-/// The name without the nine characters that a file name cannot have.
-[[nodiscard]] std::string RemoveIllegals(std::string_view name);
 
 /// Empties the text fields and combos with free text, of the whole window, whose text is exactly "0". A
 /// run-time error of a change that follows is passed over.

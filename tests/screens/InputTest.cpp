@@ -162,13 +162,6 @@ TEST_F(InputTest, NoTextRaisesAnError) {
   });
 }
 
-TEST(RemoveIllegals, TakesTheNineCharactersOut) {
-  EXPECT_EQ(RemoveIllegals("a*b?c/d\\e:f|g<h>i\"j"), "abcdefghij");
-  EXPECT_EQ(RemoveIllegals("*?/\\:|<>\"*?/\\:|<>\""), "");
-  EXPECT_EQ(RemoveIllegals(""), "");
-  EXPECT_EQ(RemoveIllegals("Dry Beans (2).txt 'x' \xC3\xA9"), "Dry Beans (2).txt 'x' \xC3\xA9");
-}
-
 class ZeroTexts : public InputTest {
  protected:
   Frame pane{window, "pneOther"};

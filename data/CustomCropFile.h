@@ -66,6 +66,9 @@ struct CustomCropItems {
 /// range that is no number stays empty.
 [[nodiscard]] std::string customCropText(const CustomCropItems& items);
 
+/// The name without the nine characters that a file name cannot have.
+[[nodiscard]] std::string RemoveIllegals(std::string_view name);
+
 /// The path of a new crop's file: its name without what a file name cannot have. A name of nothing else gives
 /// the file ".txt".
 [[nodiscard]] std::filesystem::path customCropPath(const std::filesystem::path& folder,

@@ -1,4 +1,4 @@
-#include "screens/CustomCropFile.h"
+#include "data/CustomCropFile.h"
 
 #include <algorithm>
 #include <utility>
@@ -6,7 +6,6 @@
 #include "data/FileReader.h"
 #include "data/listFiles.h"
 #include "data/readFile.h"
-#include "screens/modInputTest.h"
 #include "text/RunTimeError.h"
 #include "text/numbers.h"
 
@@ -148,6 +147,13 @@ std::string customCropText(const CustomCropItems& items) {
   addItem("EFF_IRRIG=", inchesFromTo("0", items.maxIrrigation));
   addItem("YIELD_VALUES=", items.values);
   return text;
+}
+
+std::string RemoveIllegals(std::string_view name) {
+  std::string legal(name);
+  std::erase_if(legal,
+                [](char c) { return std::string_view("*?/\\:|<>\"").find(c) != std::string_view::npos; });
+  return legal;
 }
 
 fs::path customCropPath(const fs::path& folder, const std::string& name) {
