@@ -8,7 +8,7 @@
 #include "cli/textOptions.h"
 #include "data/home.h"
 #include "data/readFile.h"
-#include "engine/MakingSplits.h"
+#include "model/LandDivision.h"
 #include "screens/fineFactor.h"
 #include "text/RunTimeError.h"
 #include "text/numbers.h"

@@ -19,7 +19,7 @@
 
 #include "desktop/Keys.h"
 #include "desktop/LandSplitPicture.h"
-#include "engine/MakingSplits.h"
+#include "model/LandDivision.h"
 
 namespace verdalis::desktop {
 namespace {

@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <cmath>
 #include <utility>
+#include <vector>
 
+#include "model/LandDivision.h"
 #include "model/checked.h"
 
 namespace verdalis {
@@ -95,18 +97,6 @@ class SplitEnumerator {
 };
 
 }  // namespace
-
-const std::array<LandDivision, 6>& landDivisions() {
-  static const std::array<LandDivision, 6> divisions{{
-      {"50 - 50", {50, 50}},
-      {"75 - 25", {75, 25}},
-      {"33 - 33 - 33", {33, 33, 33}},
-      {"50 - 25 - 25", {50, 25, 25}},
-      {"25 - 25 - 25 - 25", {25, 25, 25, 25}},
-      {"100 ", {100}},
-  }};
-  return divisions;
-}
 
 Split getLandSplit(const LandSplitButtons& Option1) {
   for (std::size_t i = 0; i < Option1.size(); ++i) {

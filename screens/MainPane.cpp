@@ -4,6 +4,7 @@
 #include <limits>
 #include <utility>
 
+#include "model/LandDivision.h"
 #include "screens/modInputTest.h"
 #include "text/RunTimeError.h"
 #include "text/encoding.h"

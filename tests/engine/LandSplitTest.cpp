@@ -6,10 +6,11 @@
 
 #include "engine/MakingSplits.h"
 #include "engine/Split.h"
+#include "model/LandDivision.h"
 #include "tests/support/Errors.h"
 
-// A split as a list of numbers, the six land divisions, and the conversions from shares to acres, volumes and
-// depths.
+// A split as a list of numbers, the choice of a land division, and the conversions from shares to acres,
+// volumes and depths.
 
 namespace verdalis::testing {
 namespace {
@@ -51,22 +52,6 @@ TEST(Split, CopyIsIndependent) {
   copy.addSplit(3);
   copy.splits[0] = 9;
   EXPECT_THAT(split.getSplits(), ElementsAre(1, 2));
-}
-
-TEST(LandDivisions, AreTheSixOfTheOptionButtons) {
-  const auto& divisions = landDivisions();
-  EXPECT_EQ(divisions[0].caption, "50 - 50");
-  EXPECT_THAT(divisions[0].percentages, ElementsAre(50, 50));
-  EXPECT_EQ(divisions[1].caption, "75 - 25");
-  EXPECT_THAT(divisions[1].percentages, ElementsAre(75, 25));
-  EXPECT_EQ(divisions[2].caption, "33 - 33 - 33");
-  EXPECT_THAT(divisions[2].percentages, ElementsAre(33, 33, 33));
-  EXPECT_EQ(divisions[3].caption, "50 - 25 - 25");
-  EXPECT_THAT(divisions[3].percentages, ElementsAre(50, 25, 25));
-  EXPECT_EQ(divisions[4].caption, "25 - 25 - 25 - 25");
-  EXPECT_THAT(divisions[4].percentages, ElementsAre(25, 25, 25, 25));
-  EXPECT_EQ(divisions[5].caption, "100 ");
-  EXPECT_THAT(divisions[5].percentages, ElementsAre(100));
 }
 
 TEST(LandDivisions, AreChosenByTheButtonThatIsOn) {

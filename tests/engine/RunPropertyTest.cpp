@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "engine/MakingSplits.h"
+#include "model/LandDivision.h"
 #include "tests/support/PlainFarm.h"
 #include "tests/support/RandomFarm.h"
 #include "tests/support/Run.h"

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "engine/MakingSplits.h"
+#include "model/LandDivision.h"
 
 namespace verdalis::reference {
 namespace {
