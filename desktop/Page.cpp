@@ -11,6 +11,7 @@
 #include <algorithm>
 
 #include "desktop/Keys.h"
+#include "screens/modHelp.h"
 
 namespace verdalis::desktop {
 

@@ -6,9 +6,9 @@
 #include <span>
 #include <string_view>
 
+#include "controls/HelpButtons.h"
 #include "desktop/Binder.h"
 #include "screens/FieldTable.h"
-#include "screens/modHelp.h"
 
 class QFrame;
 class QGridLayout;

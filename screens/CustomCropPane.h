@@ -10,11 +10,11 @@
 #include <vector>
 
 #include "controls/Grid.h"
+#include "controls/HelpButtons.h"
 #include "controls/displays.h"
 #include "controls/inputs.h"
 #include "controls/services.h"
 #include "data/CustomCropFile.h"
-#include "screens/modHelp.h"
 
 namespace verdalis {
 

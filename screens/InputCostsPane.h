@@ -6,12 +6,12 @@
 #include <span>
 #include <string>
 
+#include "controls/HelpButtons.h"
 #include "controls/displays.h"
 #include "controls/inputs.h"
 #include "controls/services.h"
 #include "model/Crop.h"
 #include "screens/FieldTable.h"
-#include "screens/modHelp.h"
 
 namespace verdalis {
 

@@ -6,12 +6,12 @@
 #include <string>
 #include <string_view>
 
+#include "controls/HelpButtons.h"
 #include "controls/displays.h"
 #include "controls/inputs.h"
 #include "controls/services.h"
 #include "model/IrrigationCosts.h"
 #include "screens/FieldTable.h"
-#include "screens/modHelp.h"
 
 namespace verdalis {
 

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "controls/HelpButtons.h"
 #include "controls/displays.h"
 #include "controls/inputs.h"
 #include "controls/services.h"
@@ -15,7 +16,6 @@
 #include "model/IrrigationCosts.h"
 #include "screens/CropRecord.h"
 #include "screens/FieldTable.h"
-#include "screens/modHelp.h"
 
 namespace verdalis {
 

@@ -92,14 +92,4 @@ void openWithShell(Desk& desk, Services& services, const std::filesystem::path& 
        MessageIcon::none, MessageButtons::ok});
 }
 
-HelpButtons::HelpButtons(Frame& container, const std::vector<int>& indices) {
-  for (const int index : indices) {
-    auto button = std::make_unique<Button>(container, "cmdHelp(" + std::to_string(index) + ")", "?");
-    button->onClick = [this, index] {
-      if (onHelp) onHelp(index);
-    };
-    buttons_.push_back(std::move(button));
-  }
-}
-
 }  // namespace verdalis

@@ -2,7 +2,6 @@
 
 #include <filesystem>
 #include <functional>
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -51,18 +50,5 @@ void showHelpNote(frmHelp& window, const std::string& text, const std::string& t
 
 /// Opens a file with the desktop's program for it. Where that fails the user is told.
 void openWithShell(Desk& desk, Services& services, const std::filesystem::path& path);
-
-/// Some of the "?" buttons, on the pane that they stand on. A press raises `onHelp` with the index.
-class HelpButtons {
- public:
-  HelpButtons(Frame& container, const std::vector<int>& indices);
-
-  std::function<void(int)> onHelp;
-
-  [[nodiscard]] const std::vector<std::unique_ptr<Button>>& buttons() const { return buttons_; }
-
- private:
-  std::vector<std::unique_ptr<Button>> buttons_;
-};
 
 }  // namespace verdalis

@@ -8,11 +8,11 @@
 #include <string>
 #include <vector>
 
+#include "controls/HelpButtons.h"
 #include "controls/displays.h"
 #include "controls/inputs.h"
 #include "controls/services.h"
 #include "engine/ProgramState.h"
-#include "screens/modHelp.h"
 #include "trend/BatchProcess.h"
 #include "trend/TrendHost.h"
 #include "trend/TrendState.h"
