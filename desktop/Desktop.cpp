@@ -2,7 +2,7 @@
 
 #include <QApplication>
 
-#include "desktop/HelpWindows.h"
+#include "desktop/Dialogs.h"
 #include "desktop/SmallWindows.h"
 
 namespace verdalis::desktop {

@@ -9,7 +9,7 @@
 #include <QUrl>
 
 #include "desktop/Binder.h"
-#include "desktop/HelpWindow.h"
+#include "desktop/HelpViewer.h"
 
 namespace verdalis::desktop {
 namespace {
@@ -63,8 +63,8 @@ QtServices::QtServices(const QString& helpFolder) : helpFolder_(helpFolder) {}
 
 QtServices::~QtServices() = default;
 
-HelpWindow& QtServices::help() {
-  if (!help_) help_ = std::make_unique<HelpWindow>(helpFolder_);
+HelpViewer& QtServices::help() {
+  if (!help_) help_ = std::make_unique<HelpViewer>(helpFolder_);
   return *help_;
 }
 

@@ -9,7 +9,7 @@
 
 namespace verdalis::desktop {
 
-class HelpWindow;
+class HelpViewer;
 
 /// The platform's services, carried out with the toolkit.
 class QtServices : public MessageBoxService,
@@ -28,7 +28,7 @@ class QtServices : public MessageBoxService,
   [[nodiscard]] Services services() { return {*this, *this, *this, *this, *this, *this, *this, *this}; }
 
   /// The help window; made at the first use.
-  [[nodiscard]] HelpWindow& help();
+  [[nodiscard]] HelpViewer& help();
 
   MessageAnswer show(const Message& message) override;
   std::optional<std::filesystem::path> chooseOpen(const FileQuestion& question) override;
@@ -45,7 +45,7 @@ class QtServices : public MessageBoxService,
 
  private:
   QString helpFolder_;
-  std::unique_ptr<HelpWindow> help_;
+  std::unique_ptr<HelpViewer> help_;
   Printing printing_;
 };
 

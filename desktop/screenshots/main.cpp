@@ -9,7 +9,7 @@
 #include <iostream>
 
 #include "desktop/Desktop.h"
-#include "desktop/HelpWindow.h"
+#include "desktop/HelpViewer.h"
 #include "desktop/Theme.h"
 
 namespace {

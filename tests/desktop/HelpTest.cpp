@@ -12,7 +12,7 @@
 #include <QTextDocument>
 #include <QToolBar>
 
-#include "desktop/HelpWindow.h"
+#include "desktop/HelpViewer.h"
 #include "screens/modHelp.h"
 
 namespace verdalis::testing {
@@ -78,7 +78,7 @@ class Help : public ::testing::Test {
     QTest::keyClick(field, Qt::Key_Return);
   }
 
-  desktop::HelpWindow help_{helpFolder};
+  desktop::HelpViewer help_{helpFolder};
 };
 
 TEST_F(Help, EveryTopicOpensWhateverTheCaseOfItsFile) {
@@ -237,7 +237,7 @@ TEST_F(Help, TheHomeTopicComesBackAfterASearchOnIt) {
 }
 
 TEST(HelpWithoutItsFolder, ShowsNothing) {
-  desktop::HelpWindow help(QStringLiteral("/nonexistent/help"));
+  desktop::HelpViewer help(QStringLiteral("/nonexistent/help"));
   help.showTopic(QStringLiteral("index.htm"));
   EXPECT_FALSE(help.isVisible());
 }

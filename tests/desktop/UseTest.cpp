@@ -7,7 +7,7 @@
 #include <QRegularExpression>
 #include <QWheelEvent>
 
-#include "desktop/HelpWindow.h"
+#include "desktop/HelpViewer.h"
 #include "model/EfficiencyFraction.h"
 #include "tests/desktop/RunningDesktop.h"
 

@@ -1,4 +1,4 @@
-#include "desktop/HelpWindow.h"
+#include "desktop/HelpViewer.h"
 
 #include <QAction>
 #include <QDir>
@@ -36,7 +36,7 @@ QString resultEntry(const QString& file, const QString& title, const QString& te
 
 }  // namespace
 
-HelpWindow::HelpWindow(const QString& folder) : folder_(folder) {
+HelpViewer::HelpViewer(const QString& folder) : folder_(folder) {
   setObjectName(QStringLiteral("helpViewer"));
   setWindowTitle(tr("Verdalis Help"));
   resize(820, 680);
@@ -80,7 +80,7 @@ HelpWindow::HelpWindow(const QString& folder) : folder_(folder) {
   gap->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
   bar->addWidget(gap);
   bar->addWidget(searchText_);
-  connect(searchText_, &QLineEdit::returnPressed, this, &HelpWindow::search);
+  connect(searchText_, &QLineEdit::returnPressed, this, &HelpViewer::search);
   auto* find = new QAction(this);
   find->setShortcut(QKeySequence::Find);
   addAction(find);
@@ -91,7 +91,7 @@ HelpWindow::HelpWindow(const QString& folder) : folder_(folder) {
   connect(close, &QAction::triggered, this, &QWidget::close);
 }
 
-QString HelpWindow::fileOf(const QString& topic) const {
+QString HelpViewer::fileOf(const QString& topic) const {
   const QString wanted = topic.section(QLatin1Char('#'), 0, 0);
   const QStringList files =
       QDir(folder_).entryList({QStringLiteral("*.htm"), QStringLiteral("*.html")}, QDir::Files);
@@ -101,7 +101,7 @@ QString HelpWindow::fileOf(const QString& topic) const {
   return {};
 }
 
-void HelpWindow::showTopic(const QString& topic) {
+void HelpViewer::showTopic(const QString& topic) {
   const QString file = fileOf(topic);
   if (file.isEmpty()) return;
   QUrl url = QUrl::fromLocalFile(QDir(folder_).absoluteFilePath(file));
@@ -112,7 +112,7 @@ void HelpWindow::showTopic(const QString& topic) {
   activateWindow();
 }
 
-void HelpWindow::search() {
+void HelpViewer::search() {
   const QString wanted = searchText_->text().trimmed();
   if (wanted.isEmpty()) return;
   QString results;

@@ -1,4 +1,4 @@
-#include "desktop/HelpWindows.h"
+#include "desktop/Dialogs.h"
 
 #include <QEvent>
 #include <QGridLayout>

@@ -9,11 +9,11 @@ class QTextBrowser;
 namespace verdalis::desktop {
 
 /// The help viewer: the topics of a folder of HTML pages, with back, forward, home and search.
-class HelpWindow : public QMainWindow {
+class HelpViewer : public QMainWindow {
   Q_OBJECT
 
  public:
-  explicit HelpWindow(const QString& folder);
+  explicit HelpViewer(const QString& folder);
 
   /// Shows a topic such as "mainInput.htm#TotalAcres", whatever the case of its file name. One that is
   /// missing shows nothing.
