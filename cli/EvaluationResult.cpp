@@ -6,23 +6,23 @@
 namespace verdalis {
 namespace {
 
-FieldResult describeField(const Field& kept) {
+FieldResult describeField(const Field& kept, double efficiency) {
   Field field = kept.Copy();  // pricing leaves its traces in the field, and the option may be used further
   const Crop& crop = *field.theCrop;
   FieldResult result;
   result.acres = field.acres;
   result.crop = crop.cropType;
   result.netDepth = field.Depth;
-  result.grossDepth = grossFromNet(field.Depth);
+  result.grossDepth = grossFromNet(field.Depth, efficiency);
   result.yield = crop.Yield;
   result.yieldUnit = crop.priceUnits();
   result.price = crop.price;
   result.maxYield = crop.maxYield;
   result.soil = crop.soilName;
-  result.costs = field.getCosts();
+  result.costs = field.getCosts(efficiency);
   result.returns = field.getReturn();
-  result.production = field.getProductionCosts();
-  result.irrigation = field.irrigCosts->Copy().getCosts(field.Depth, field.acres);
+  result.production = field.getProductionCosts(efficiency);
+  result.irrigation = field.irrigCosts->price(field.Depth, field.acres, efficiency).cost;
   result.hours = kept.irrigCosts->hours;
   return result;
 }
@@ -36,14 +36,14 @@ double OptionResult::acres() const {
   return sum;
 }
 
-OptionResult describeOption(FieldCollection& option) {
+OptionResult describeOption(FieldCollection& option, double efficiency) {
   OptionResult result;
-  result.profit = option.getProfit();
-  result.costs = option.getCosts();
+  result.profit = option.getProfit(efficiency);
+  result.costs = option.getCosts(efficiency);
   result.returns = option.getReturn();
   result.netVolume = option.getVolume();
   for (const auto& field : option)
-    result.fields.push_back(describeField(*field));
+    result.fields.push_back(describeField(*field, efficiency));
   return result;
 }
 
@@ -55,7 +55,7 @@ EvaluationResult describeRun(const std::vector<std::shared_ptr<FieldCollection>>
   result.efficiency = EfficiencyFraction;
   result.seconds = seconds;
   for (const auto& option : options) {
-    if (option->Count() > 0) result.options.push_back(describeOption(*option));
+    if (option->Count() > 0) result.options.push_back(describeOption(*option, result.efficiency));
   }
   return result;
 }

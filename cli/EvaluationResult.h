@@ -55,9 +55,9 @@ struct EvaluationResult {
   [[nodiscard]] std::uint64_t candidates() const { return waterSplits * cropCombinations; }
 };
 
-/// An option with the efficiency in force, which is that of the run that found it.
+/// An option; `efficiency` is that of the run that found it, as a fraction.
 /// \throws RunTimeError as its pricing does
-[[nodiscard]] OptionResult describeOption(FieldCollection& option);
+[[nodiscard]] OptionResult describeOption(FieldCollection& option, double efficiency);
 
 /// The last run with its options, as far as they hold fields.
 /// \throws RunTimeError as the pricing of an option does

@@ -70,7 +70,7 @@ std::vector<TrendedVariable> variablesOf(const std::vector<TrendProcess>& proces
 }
 
 TrendedOption describeTrended(FieldCollection& option) {
-  TrendedOption result{describeOption(option), {}};
+  TrendedOption result{describeOption(option, EfficiencyFraction), {}};
   for (std::size_t i = 0; i < option.theVariable.size(); ++i) {
     result.trend.push_back({option.theVariable[i], option.theValue.at(i), option.theUnits.at(i).at(0),
                             option.theUnits.at(i).at(1)});
@@ -210,9 +210,8 @@ class TrendRun {
     farm_.state().SelectedOption = options[number - 1];
   }
 
-  /// Each step is described with the efficiency of its own run; the last one stays in force.
+  /// Each step is described with the efficiency of its own run.
   void describeSteps(TrendResult& result) {
-    const double efficiency = EfficiencyFraction;
     result.variables = variablesOf(processes_);
     result.prefix = units()[0];
     result.suffix = units()[1];
@@ -220,14 +219,13 @@ class TrendRun {
     for (std::size_t i = 0; i < trend.BatchCollection.size(); ++i) {
       stopIfAsked();
       TrendStep step{numberOf(trend.TrendValues.at(i)), farm_.runs().at(i)};
-      EfficiencyFraction = step.result.efficiency;
       BestMix ranking = trend.BatchCollection[i].Copy();  // the export packs those that the trend has left
       for (const auto& option : ranking.returnCollection(true)) {
-        if (option->Count() > 0) step.result.options.push_back(describeOption(*option));
+        if (option->Count() > 0)
+          step.result.options.push_back(describeOption(*option, step.result.efficiency));
       }
       result.steps.push_back(std::move(step));
     }
-    EfficiencyFraction = efficiency;
   }
 
   void describeCombinations(TrendResult& result) {

@@ -41,11 +41,11 @@ void BestMix::setSize(std::int16_t size) {
     bestArray_.push_back(placeholder());
 }
 
-void BestMix::submit(FieldCollection& candidate) {
+void BestMix::submit(FieldCollection& candidate, double efficiency) {
   if (bestArray_.empty()) {
     throw RunTimeError(ErrorNumber::subscript, "There is no place to keep an option in.");
   }
-  const double profit = candidate.getProfit();
+  const double profit = candidate.getProfit(efficiency);
   std::size_t place = bestArray_.size() - 1;
   if (bestArray_[place]->isNew || bestArray_[place]->getProfit() <= profit) {
     // The candidate climbs from the last place while the entry above is a placeholder or gives way to it.

@@ -29,7 +29,7 @@ class BestMix {
 
   /// Offers a candidate; a copy of it enters if it is good enough.
   /// \throws RunTimeError (subscript) without places, or what the pricing of the candidate throws.
-  void submit(FieldCollection& candidate);
+  void submit(FieldCollection& candidate, double efficiency = EfficiencyFraction);
 
   /// Does nothing: duplicates are removed by returnCollection().
   void ridDuplicates() {}

@@ -19,17 +19,19 @@ CandidateBuilder::CandidateBuilder(const SearchInputs& inputs) : inputs_(inputs)
 FieldCollection& CandidateBuilder::build(const Split& depths, const std::vector<std::size_t>& crops) {
   candidate_.TotalCost = 0;
   for (std::size_t k = 0; k < candidate_.mCol.size(); ++k) {
-    plant(*candidate_.mCol[k], *inputs_.combinations.crops()[crops[k]], depths.getSplits()[k],
-          inputs_.irrigationCosts);
+    plant(*candidate_.mCol[k], *inputs_.combinations.crops()[crops[k]], depths.getSplits()[k]);
   }
   return candidate_;
 }
 
-void CandidateBuilder::plant(Field& field, const Crop& crop, double depth,
-                             const IrrigationCosts& irrigationCosts) {
+double netDepthOf(const Crop& crop, double depth) {
+  return cropKind(crop.cropType) == CropKind::fallow ? 0 : depth;
+}
+
+void CandidateBuilder::plant(Field& field, const Crop& crop, double depth) const {
   *field.theCrop = crop;
-  *field.irrigCosts = irrigationCosts;
-  field.Depth = cropKind(crop.cropType) == CropKind::fallow ? 0 : depth;
+  *field.irrigCosts = inputs_.irrigationCosts;
+  field.Depth = netDepthOf(crop, depth);
   field.TotalCost = 0;
   field.TotalReturn = 0;
   double netDepth = field.Depth;  // setYield limits what it is handed to the table; the field keeps its own

@@ -18,13 +18,14 @@ class CandidateBuilder {
   /// \throws RunTimeError when a yield cannot be looked up.
   FieldCollection& build(const Split& depths, const std::vector<std::size_t>& crops);
 
-  /// Plants a field whose acres and rain are set, and looks its yield up. A Fallow field gets no water.
-  /// \throws RunTimeError when the yield cannot be looked up.
-  static void plant(Field& field, const Crop& crop, double depth, const IrrigationCosts& irrigationCosts);
-
  private:
+  void plant(Field& field, const Crop& crop, double depth) const;
+
   const SearchInputs& inputs_;
   FieldCollection candidate_;
 };
+
+/// The net depth (inches) that a crop gets of a share of the water: none for Fallow.
+[[nodiscard]] double netDepthOf(const Crop& crop, double depth);
 
 }  // namespace verdalis

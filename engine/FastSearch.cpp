@@ -127,7 +127,7 @@ bool FastSearch::raiseErrorsOf(std::size_t split) {
     }
     if (std::isfinite(returns - costs)) continue;
     CandidateBuilder builder(inputs_);
-    builder.build(inputs_.depths.Item(static_cast<long>(split) + 1), crops).getProfit();
+    builder.build(inputs_.depths.Item(static_cast<long>(split) + 1), crops).getProfit(inputs_.efficiency);
   }
   return true;
 }

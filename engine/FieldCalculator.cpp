@@ -22,7 +22,7 @@ std::optional<std::vector<BestMix::Option>> makeOptions(const std::vector<KeptCa
     if (options.size() % optionsPerTurn == 0 && !pulse.turn()) return std::nullopt;
     inputs.combinations.positions(inputs.combinations.Count() - 1 - candidate.digits, crops);
     FieldCollection& built = builder.build(inputs.depths.Item(static_cast<long>(candidate.split) + 1), crops);
-    static_cast<void>(built.getProfit());  // the copy carries the costs that this works out
+    static_cast<void>(built.getProfit(inputs.efficiency));  // the copy carries the costs that this works out
     options.push_back(std::make_shared<FieldCollection>(built.Copy()));
   }
   while (options.size() < static_cast<std::size_t>(inputs.size)) {
@@ -39,7 +39,7 @@ std::optional<BestMix> search(const SearchInputs& inputs, RunPulse& pulse, BestM
   const auto options = makeOptions(*kept, inputs, pulse);
   if (!options) return std::nullopt;
   best.SetBestArray(*options);
-  best.LowEnd = options->back()->getProfit();
+  best.LowEnd = options->back()->getProfit(inputs.efficiency);
   return best;
 }
 

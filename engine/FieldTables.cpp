@@ -6,6 +6,7 @@
 #include <limits>
 
 #include "engine/CandidateBuilder.h"
+#include "model/PricedField.h"
 #include "text/RunTimeError.h"
 
 namespace verdalis {
@@ -13,12 +14,10 @@ namespace {
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
 
-PricedRow::Price priceOf(Field& field, const Crop& crop, double depth,
-                         const IrrigationCosts& irrigationCosts) {
+PricedRow::Price priceOf(const FieldPlan& plan, const Crop& crop, const SearchInputs& inputs) {
   try {
-    CandidateBuilder::plant(field, crop, depth, irrigationCosts);
-    const double cost = field.getCosts();
-    return {field.getReturn(), cost};
+    const PricedField priced = priceField(plan, crop, inputs.irrigationCosts, inputs.efficiency);
+    return {priced.returns, priced.costs};
   } catch (const RunTimeError&) {
     // The search prices the first candidate that has this field once more, and so meets the error in its
     // place.
@@ -127,11 +126,8 @@ bool FieldTables::price(RunPulse& pulse) {
 void FieldTables::priceRow(double acres, double depth) {
   PricedRow row;
   row.prices.reserve(cropCount());
-  Field field;
-  field.acres = acres;
-  field.annualRain = inputs_.rain;
   for (const auto& crop : inputs_.combinations.crops()) {
-    row.prices.push_back(priceOf(field, *crop, depth, inputs_.irrigationCosts));
+    row.prices.push_back(priceOf({acres, netDepthOf(*crop, depth), inputs_.rain}, *crop, inputs_));
   }
   summarise(row);
   if (row.isComplete) {

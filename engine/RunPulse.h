@@ -4,7 +4,6 @@
 
 #include "engine/ProgramState.h"
 #include "engine/RunHooks.h"
-#include "model/EfficiencyFraction.h"
 
 namespace verdalis {
 
@@ -39,15 +38,10 @@ class RunPulse {
   static constexpr std::chrono::milliseconds interval{5};
   static constexpr unsigned stepsPerTurn = 16;
 
-  bool goOn() {
-    // A run that is started while this one pumps events sets an efficiency of its own.
-    EfficiencyFraction = efficiency_;
-    return !state_.CancelRequested;
-  }
+  [[nodiscard]] bool goOn() const { return !state_.CancelRequested; }
 
   ProgramState& state_;
   RunHooks& hooks_;
-  double efficiency_ = EfficiencyFraction;
   Clock::time_point lastPump_ = Clock::now();
   unsigned steps_ = 0;
 };

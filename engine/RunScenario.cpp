@@ -2,11 +2,11 @@
 
 #include <string_view>
 
+#include "engine/CandidateBuilder.h"
+#include "engine/EfficiencyInForce.h"
 #include "engine/FieldCalculator.h"
 #include "engine/MakingCropCombos.h"
 #include "engine/MakingSplits.h"
-#include "model/CropKind.h"
-#include "model/EfficiencyFraction.h"
 #include "model/checked.h"
 #include "text/numbers.h"
 
@@ -56,8 +56,12 @@ void useSoil(Crop& crop, std::string_view currentSoil) {
 /// the plant.
 class NoSplitCandidates {
  public:
-  NoSplitCandidates(double acres, double netVolume, double rain, const IrrigationCosts& plant)
-      : acres_(acres), rain_(rain), plant_(std::make_shared<IrrigationCosts>(plant.Copy())) {
+  NoSplitCandidates(double acres, double netVolume, double rain, const IrrigationCosts& plant,
+                    double efficiency)
+      : acres_(acres),
+        rain_(rain),
+        efficiency_(efficiency),
+        plant_(std::make_shared<IrrigationCosts>(plant.Copy())) {
     if (acres == 0) {
       throw RunTimeError(
           ErrorNumber::divisionByZero,
@@ -74,13 +78,13 @@ class NoSplitCandidates {
     field->theCrop = crop;
     field->acres = acres_;
     field->annualRain = rain_;
-    field->Depth = cropKind(crop->cropType) == CropKind::fallow ? 0 : depth_;
+    field->Depth = netDepthOf(*crop, depth_);
     double depth = field->Depth;  // setYield limits what it is handed to the table; the field keeps its own
     crop->setYield(depth, rain_);
     field->irrigCosts = plant_;
     FieldCollection candidate;
     candidate.Add(std::move(field));
-    best.submit(candidate);
+    best.submit(candidate, efficiency_);
 
     leaveResults(cropAtStart, *crop, libraryCrop);
     tempIrrigationCosts.hours = plant_->hours;
@@ -102,6 +106,7 @@ class NoSplitCandidates {
 
   double acres_;
   double rain_;
+  double efficiency_;
   double depth_ = 0;
   std::shared_ptr<IrrigationCosts> plant_;
 };
@@ -125,17 +130,17 @@ CropScenario returnCrops(const ScenarioInputs& inputs, const CropScenario& libra
 
 BestMix RunScenario(const ScenarioInputs& inputs, const CropScenario& library,
                     const std::shared_ptr<IrrigationCosts>& tempIrrigationCosts, ProgramState& state,
-                    RunHooks& hooks, const std::string& description) {
-  EfficiencyFraction = Val(inputs.txtEff) / 100;
+                    RunHooks& callerHooks, const std::string& description) {
+  const double efficiency = Val(inputs.txtEff) / 100;
+  EfficiencyInForce hooks(efficiency, callerHooks);
   hooks.showProgress("Evaluating Possible Combinations");
 
   const double acres = Val(inputs.txtArea);
   const Split landSplit = percentToAcres(getLandSplit(inputs.Option1), acres);
   state.landSplit = landSplit;
   const std::int16_t n = landSplit.Count();
-  const double netVolume =
-      checked(numberUnder("Calculated Gross Water Volume:", inputs.lblVolume) * EfficiencyFraction,
-              "The net water volume");
+  const double netVolume = checked(
+      numberUnder("Calculated Gross Water Volume:", inputs.lblVolume) * efficiency, "The net water volume");
   const SplitCollection depths = volumesToDepths(
       makeWaterSplits(n, netVolume, numberUnder("Total Acres:", inputs.txtArea), state), landSplit);
   const CropScenario crops = returnCrops(inputs, library);
@@ -150,13 +155,13 @@ BestMix RunScenario(const ScenarioInputs& inputs, const CropScenario& library,
   // A run's inputs are those at its start: the plant may be edited while the run pumps events.
   const IrrigationCosts plant = tempIrrigationCosts->Copy();
   std::optional<BestMix> best =
-      evaluateCombinations({depths, combinations, landSplit, rain, size, plant}, state, hooks);
+      evaluateCombinations({depths, combinations, landSplit, rain, size, plant, efficiency}, state, hooks);
   if (!best || state.CancelRequested) {
     state.TrendCancelled = state.TrendMode;
     return {};
   }
   if (inputs.chkNoSplit) {
-    NoSplitCandidates noSplit(acres, netVolume, rain, plant);
+    NoSplitCandidates noSplit(acres, netVolume, rain, plant, efficiency);
     for (long i = 1; i <= crops.Count(); ++i) {
       noSplit.submit(*combinations.crops()[static_cast<std::size_t>(i) - 1], *crops.Item(i),
                      *tempIrrigationCosts, *best);

@@ -17,6 +17,7 @@ struct SearchInputs {
   double rain;                           ///< Annual rainfall, inches
   std::int16_t size;                     ///< Options to keep
   const IrrigationCosts& irrigationCosts;
+  double efficiency;  ///< Irrigation efficiency as a fraction
 };
 
 }  // namespace verdalis

@@ -1,5 +1,6 @@
 #include "model/Crop.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <memory>
@@ -32,6 +33,11 @@ int rainColumn(double annualRain) {
   return rounded >= 0 && rounded <= std::numeric_limits<int>::max() ? static_cast<int>(rounded) : -1;
 }
 
+/// \throws RunTimeError (overflow); the message is made only then, for this is called for every price.
+double checkedYield(double yield, const std::string& cropType) {
+  return std::isfinite(yield) ? yield : checked(yield, "The yield of " + cropType);
+}
+
 }  // namespace
 
 std::string Crop::yieldToString() const {
@@ -42,11 +48,8 @@ void Crop::setYieldTable(const YieldTable& table) {
   yieldTable = std::make_shared<const YieldTable>(table);
 }
 
-void Crop::setYield(double& Depth, double annualRain) {
-  if (cropKind(cropType) == CropKind::fallow) {
-    Yield = 0;
-    return;
-  }
+double Crop::yieldAt(double Depth, double annualRain) const {
+  if (cropKind(cropType) == CropKind::fallow) return 0;
   if (!yieldTable) {
     throw RunTimeError(ErrorNumber::subscript, "The crop " + cropType + " has no yield table.");
   }
@@ -74,14 +77,15 @@ void Crop::setYield(double& Depth, double annualRain) {
   // Whether the table counts as absolute is asked of this very cell, not of the table: meant, also where a
   // dry corner of an absolute table holds a cell of 1 or less.
   const double scale = y1 > 1.0 ? normalFactor : maxYield;
-  if (y0 == y1) {
-    Yield = y0 * scale;
-  } else {
-    // Just under a whole inch lo lies above Depth, so t is a small negative number: meant.
-    const double t = (Depth - lo) / (hi - lo);
-    Yield = (y0 + t * (y1 - y0)) * scale;
-  }
-  checked(Yield, "The yield of " + cropType);
+  if (y0 == y1) return checkedYield(y0 * scale, cropType);
+  // Just under a whole inch lo lies above Depth, so t is a small negative number: meant.
+  const double t = (Depth - lo) / (hi - lo);
+  return checkedYield((y0 + t * (y1 - y0)) * scale, cropType);
+}
+
+void Crop::setYield(double& Depth, double annualRain) {
+  Yield = yieldAt(Depth, annualRain);
+  if (cropKind(cropType) != CropKind::fallow) Depth = std::min(Depth, getMaxIrrigation());
 }
 
 void Crop::setNormal(double expectedYield, double annualRain) {

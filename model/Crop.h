@@ -44,10 +44,13 @@ class Crop {
   /// Stores a copy of the table.
   void setYieldTable(const YieldTable& table);
 
-  /// Looks the yield up for a seasonal net irrigation `Depth` (inches) and `annualRain` (inches, read from
-  /// the nearest whole inch, halves to even) and sets Yield. A Depth above the table is set to the table's
-  /// top, in the caller's variable too. \throws RunTimeError (subscript) without a table, or outside it;
-  /// (overflow).
+  /// The yield, units per acre, of a seasonal net irrigation `Depth` (inches; above the table its top counts)
+  /// and `annualRain` (inches, read from the nearest whole inch, halves to even). 0 for Fallow.
+  /// \throws RunTimeError (subscript) without a table, or outside it; (overflow)
+  [[nodiscard]] double yieldAt(double Depth, double annualRain) const;
+
+  /// Sets Yield to yieldAt(). A Depth above the table is set to the table's top, in the caller's variable
+  /// too. \throws RunTimeError as yieldAt()
   void setYield(double& Depth, double annualRain);
 
   /// Sets normalFactor to `expectedYield` / the table's yield at full irrigation and this rain. Where that

@@ -2,9 +2,9 @@
 
 namespace verdalis {
 
-/// Irrigation efficiency of the current run as a fraction: net water that reaches the crop / gross water
-/// pumped. The one true global of the program. Only the run driver sets it; everything that turns a net depth
-/// into a gross depth divides by it. 0 until the first run.
+/// Irrigation efficiency in force, as a fraction: net water that reaches the crop / gross water pumped. It is
+/// that of the last run, 0 before the first. Only EfficiencyInForce sets it. The screens and the reports show
+/// gross depths and costs by it; whatever searches or prices for a run is handed the efficiency of that run.
 inline double EfficiencyFraction = 0;
 
 }  // namespace verdalis

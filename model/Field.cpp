@@ -2,6 +2,7 @@
 
 #include <string_view>
 
+#include "model/PricedField.h"
 #include "model/checked.h"
 #include "text/numbers.h"
 
@@ -36,9 +37,7 @@ std::string Field::toString() {
 
 double Field::getReturn() {
   if (TotalReturn != 0) return TotalReturn;
-  const Crop& crop = *theCrop;
-  const double sales = checked(crop.price * crop.Yield * acres, "The return of a field");
-  TotalReturn = checked(sales + crop.inputCosts.getReturns(acres), "The return of a field");
+  TotalReturn = totalReturns(*theCrop, theCrop->Yield, acres);
   return TotalReturn;
 }
 
@@ -49,22 +48,22 @@ void Field::makeFallow() {
   Depth = 0;
 }
 
-double Field::getCosts() {
+double Field::getCosts(double efficiency) {
   if (TotalCost != 0) return TotalCost;
-  const double production = getProductionCosts();
-  const double irrigation = irrigCosts->getCosts(Depth, acres);
+  const double production = getProductionCosts(efficiency);
+  const double irrigation = irrigCosts->getCosts(Depth, acres, efficiency);
   TotalCost = checked(irrigation + production, "The cost of a field");
   return TotalCost;
 }
 
-double Field::getProductionCosts() {
+double Field::getProductionCosts(double efficiency) {
   Crop& crop = *theCrop;
-  double grossDepth = grossFromNet(Depth);
-  return crop.inputCosts.getCosts(acres, crop.Yield, crop, grossDepth);
+  double grossDepth = grossFromNet(Depth, efficiency);
+  return crop.inputCosts.getCosts(acres, crop.Yield, crop, grossDepth, efficiency);
 }
 
-double Field::getProfit() {
-  const double costs = getCosts();
+double Field::getProfit(double efficiency) {
+  const double costs = getCosts(efficiency);
   return checked(getReturn() - costs, "The profit of a field");
 }
 

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "model/Crop.h"
+#include "model/EfficiencyFraction.h"
 #include "model/FirstUse.h"
 #include "model/IrrigationCosts.h"
 
@@ -11,7 +12,8 @@ namespace verdalis {
 
 /// One piece of the farm, planted to one crop and watered to one depth: the smallest unit that has a cost, a
 /// return and a profit. Whoever builds it calls theCrop->setYield() before the first getReturn() or
-/// getCosts().
+/// getCosts(). Its operations leave their results in the field, its crop and its plant, where the screens
+/// look for them; priceField() works out the same numbers and leaves nothing.
 class Field {
  public:
   double acres = 0;
@@ -38,13 +40,13 @@ class Field {
 
   /// Production and irrigation, dollars for the field; cached.
   /// \throws RunTimeError (overflow, divisionByZero while the irrigation efficiency is 0)
-  double getCosts();
+  double getCosts(double efficiency = EfficiencyFraction);
 
   /// getCosts() without irrigation, never cached.
-  double getProductionCosts();
+  double getProductionCosts(double efficiency = EfficiencyFraction);
 
   /// Return minus costs, dollars for the field.
-  double getProfit();
+  double getProfit(double efficiency = EfficiencyFraction);
 
   /// A field with a crop and a plant of its own. TotalCost is carried over; TotalReturn is not, so that the
   /// copy works its return out of its own crop.

@@ -42,11 +42,11 @@ double FieldCollection::getReturn() const {
   return checked(sum, "The return of the farm");
 }
 
-double FieldCollection::getCosts() {
+double FieldCollection::getCosts(double efficiency) {
   if (TotalCost != 0) return TotalCost;
   double sum = 0;
   for (const auto& field : mCol)
-    sum += field->getCosts();
+    sum += field->getCosts(efficiency);
   TotalCost = checked(sum, "The cost of the farm");
   return TotalCost;
 }
@@ -85,8 +85,8 @@ double FieldCollection::getVolume() const {
   return checked(sum, "The irrigation volume of the farm");
 }
 
-double FieldCollection::getProfit() {
-  const double costs = getCosts();
+double FieldCollection::getProfit(double efficiency) {
+  const double costs = getCosts(efficiency);
   return checked(getReturn() - costs, "The profit of the farm");
 }
 

@@ -53,7 +53,7 @@ class FieldCollection {
 
   /// Sum over the fields, dollars, cached.
   /// \throws RunTimeError (overflow)
-  double getCosts();
+  double getCosts(double efficiency = EfficiencyFraction);
 
   /// A deep copy, the cached TotalCost included. isNothing starts anew.
   [[nodiscard]] FieldCollection Copy() const;
@@ -70,7 +70,7 @@ class FieldCollection {
 
   /// Return minus costs, dollars for the farm: the key of the ranking.
   /// \throws RunTimeError (overflow)
-  double getProfit();
+  double getProfit(double efficiency = EfficiencyFraction);
 
   /// The distinct crop names in order of first appearance.
   /// \throws RunTimeError (subscript) without fields.

@@ -4,7 +4,6 @@
 #include <cmath>
 #include <utility>
 
-#include "model/EfficiencyFraction.h"
 #include "model/checked.h"
 #include "text/numbers.h"
 
@@ -32,18 +31,24 @@ std::optional<double> fuelPerformance(std::string_view fuelType) {
   return std::nullopt;
 }
 
-double IrrigationCosts::getCosts(double Depth, double acres) {
+PumpingCosts IrrigationCosts::price(double Depth, double acres, double efficiency) const {
   // The trend's figure is charged on the net depth as it stands.
-  if (UseBatch) return stepOrZero(BatchIrrigationCosts * acres * Depth);
-  if (!(Depth > 0 && active) || GPM <= 0 || NPC <= 0) return 0;
+  if (UseBatch) return {stepOrZero(BatchIrrigationCosts * acres * Depth), hours};
+  if (!(Depth > 0 && active) || GPM <= 0 || NPC <= 0) return {0, hours};
 
-  const double gross = stepOrZero(Depth / EfficiencyFraction);
+  const double gross = stepOrZero(Depth / efficiency);
   const double waterHorsepower = stepOrZero((PSI * feetPerPsi + Lift) * GPM / gallonFeetPerHorsepower);
   const double pumpingHours = gross * acres / (GPM / gpmPerAcreInchHour);
-  if (std::isfinite(pumpingHours)) hours = pumpingHours;
-  const double fuel = stepOrZero((waterHorsepower / NPC) * hours * cost);
+  const double hoursUsed = std::isfinite(pumpingHours) ? pumpingHours : hours;
+  const double fuel = stepOrZero((waterHorsepower / NPC) * hoursUsed * cost);
   // Labour is half an hour an acre and season, whatever the depth.
-  return stepOrZero(acres * 0.5 * LaborPerHour + fuel + acres * RepairsPerAcreInch * gross);
+  return {stepOrZero(acres * 0.5 * LaborPerHour + fuel + acres * RepairsPerAcreInch * gross), hoursUsed};
+}
+
+double IrrigationCosts::getCosts(double Depth, double acres, double efficiency) {
+  const PumpingCosts priced = price(Depth, acres, efficiency);
+  hours = priced.hours;
+  return priced.cost;
 }
 
 double IrrigationCosts::getMaxInches(double acres) const {

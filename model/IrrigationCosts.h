@@ -4,7 +4,15 @@
 #include <string>
 #include <string_view>
 
+#include "model/EfficiencyFraction.h"
+
 namespace verdalis {
+
+/// The irrigation of a field over a season.
+struct PumpingCosts {
+  double cost = 0;   ///< Dollars for the field
+  double hours = 0;  ///< Pumping hours
+};
 
 /// What water costs at the farm's pumping plant, built up from pump physics. One object describes the plant;
 /// each field of a candidate works on a copy.
@@ -26,10 +34,13 @@ class IrrigationCosts {
   bool UseBatch = false;            ///< A trend has replaced the irrigation cost by BatchIrrigationCosts
   double BatchIrrigationCosts = 0;  ///< $ per acre-inch
 
-  /// Seasonal irrigation cost of a field, dollars. `Depth` is net inches. Sets `hours`, except for a dry
-  /// field or a plant without costs, which costs 0 and leaves them as they were. A step that cannot be
-  /// calculated is passed over and counts as 0.
-  double getCosts(double Depth, double acres);
+  /// Seasonal irrigation of a field. `Depth` is net inches, `efficiency` a fraction. A dry field and a plant
+  /// without costs cost 0 and keep the hours that the plant holds. A step that cannot be calculated is passed
+  /// over and counts as 0.
+  [[nodiscard]] PumpingCosts price(double Depth, double acres, double efficiency) const;
+
+  /// The cost of price(), dollars; `hours` takes its hours.
+  double getCosts(double Depth, double acres, double efficiency = EfficiencyFraction);
 
   /// Gross inches that the plant can pump over the acres in a season; 0 for 0 acres.
   /// \throws RunTimeError (overflow)

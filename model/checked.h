@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "model/EfficiencyFraction.h"
 #include "text/RunTimeError.h"
 #include "text/numbers.h"
 
@@ -22,9 +23,8 @@ inline double checked(double result, std::string_view what) {
   return result;
 }
 
-/// A net depth (inches) as the gross depth that must be pumped for it.
-/// \throws RunTimeError (divisionByZero) while the irrigation efficiency is 0, (overflow) when it is all but
-/// 0.
-double grossFromNet(double net);
+/// A net depth (inches) as the gross depth that must be pumped for it. `efficiency` is a fraction.
+/// \throws RunTimeError (divisionByZero) for an efficiency of 0, (overflow) for one that is all but 0.
+double grossFromNet(double net, double efficiency = EfficiencyFraction);
 
 }  // namespace verdalis

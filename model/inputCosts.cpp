@@ -5,7 +5,6 @@
 
 #include "model/Crop.h"
 #include "model/CropKind.h"
-#include "model/EfficiencyFraction.h"
 #include "model/checked.h"
 
 namespace verdalis {
@@ -86,22 +85,26 @@ bool isSeedPricedByPound(CropKind kind) {
 
 }  // namespace
 
-double inputCosts::getCosts(double acres, double yield, const Crop& crop, double& grossDepth) {
-  if (UseBatch) return checked(BatchGeneralCosts * acres, "The production cost of a field");
-
-  // The units decide, not the name: a custom crop in tons has a stand life too.
-  double standLife = 1;
-  if (crop.isForage()) {
-    if (AlfalfaStand == 0.0) AlfalfaStand = 1;
-    standLife = AlfalfaStand;
+ProductionCosts inputCosts::price(double acres, double yield, const Crop& crop, double grossDepth,
+                                  double efficiency) const {
+  if (UseBatch) {
+    const double cost = checked(BatchGeneralCosts * acres, "The production cost of a field");
+    return {cost, NPerAcre, PPerAcre, SeedRate, AlfalfaStand};
   }
+  ProductionCosts result;
+  // The units decide, not the name: a custom crop in tons has a stand life too.
+  result.stand = crop.isForage() && AlfalfaStand == 0.0 ? Number(1) : AlfalfaStand;
+  const double standLife = crop.isForage() ? static_cast<double>(result.stand) : 1;
   const NutrientRates rates = nutrientRates(cropKind(crop.cropType));
 
-  NPerAcre = NOptimal ? rates.nitrogen * yield : NitrogenApplied;
-  double total = NPerAcre * NitrogenCost * acres;
-  PPerAcre = POptimal ? rates.phosphorus * yield : PApplied;
-  total += PPerAcre * PCost * acres;
-  total += getSeedCost(acres, yield, crop.cropType, grossDepth) / standLife;
+  result.nitrogen = NOptimal ? rates.nitrogen * yield : NitrogenApplied;
+  double total = result.nitrogen * NitrogenCost * acres;
+  result.phosphorus = POptimal ? rates.phosphorus * yield : PApplied;
+  total += result.phosphorus * PCost * acres;
+  const SeedCosts seed =
+      priceSeed(acres, crop.cropType, checked(grossDepth * efficiency, "The net irrigation depth"));
+  result.seedRate = seed.rate;
+  total += seed.cost / standLife;
   total += Herbicide * acres;
   total += Insecticide * acres;
   total += (Tillage * acres) / standLife;
@@ -112,7 +115,19 @@ double inputCosts::getCosts(double acres, double yield, const Crop& crop, double
   total += getHarvestCost(acres, yield, crop.cropType);
   total += MiscCost * acres;
   // An overflow in any of the terms reaches the total as an infinity or as no number.
-  return checked(total, "The production cost of a field");
+  result.cost = checked(total, "The production cost of a field");
+  return result;
+}
+
+double inputCosts::getCosts(double acres, double yield, const Crop& crop, double& grossDepth,
+                            double efficiency) {
+  const ProductionCosts priced = price(acres, yield, crop, grossDepth, efficiency);
+  if (!UseBatch) grossDepth *= efficiency;
+  NPerAcre = priced.nitrogen;
+  PPerAcre = priced.phosphorus;
+  SeedRate = priced.seedRate;
+  AlfalfaStand = priced.stand;
+  return priced.cost;
 }
 
 double inputCosts::getReturns(double acres) const {
@@ -148,13 +163,19 @@ double inputCosts::getHarvestCost(double acres, double yield, std::string_view c
   return checked(cost, "The harvest cost of a field");
 }
 
-double inputCosts::getSeedCost(double acres, double /*yield*/, std::string_view cropType,
-                               double& grossDepth) {
-  grossDepth = checked(grossDepth * EfficiencyFraction, "The net irrigation depth");
+SeedCosts inputCosts::priceSeed(double acres, std::string_view cropType, double netDepth) const {
   const CropKind kind = cropKind(cropType);
   const double divisor = isSeedPricedByPound(kind) ? 1 : 1000;
-  if (SeedOptimal) SeedRate = optimalSeedRate(kind, grossDepth).value_or(SeedRate);
-  return checked(SeedRate / divisor * SeedCost * acres, "The seed cost of a field");
+  const double rate = SeedOptimal ? optimalSeedRate(kind, netDepth).value_or(SeedRate) : SeedRate;
+  return {checked(rate / divisor * SeedCost * acres, "The seed cost of a field"), rate};
+}
+
+double inputCosts::getSeedCost(double acres, double /*yield*/, std::string_view cropType, double& grossDepth,
+                               double efficiency) {
+  grossDepth = checked(grossDepth * efficiency, "The net irrigation depth");
+  const SeedCosts priced = priceSeed(acres, cropType, grossDepth);
+  SeedRate = priced.rate;
+  return priced.cost;
 }
 
 inputCosts inputCosts::Copy() const {

@@ -3,11 +3,27 @@
 #include <string>
 #include <string_view>
 
+#include "model/EfficiencyFraction.h"
 #include "model/Number.h"
 
 namespace verdalis {
 
 class Crop;
+
+/// What growing a crop on a field costs, and the rates behind it.
+struct ProductionCosts {
+  double cost = 0;        ///< Dollars for the field
+  double nitrogen = 0;    ///< lb per acre
+  double phosphorus = 0;  ///< lb per acre
+  double seedRate = 0;    ///< Seeds per acre, or lb per acre
+  Number stand;           ///< Life of stand, years
+};
+
+/// The seed of a field, not yet spread over the life of the stand.
+struct SeedCosts {
+  double cost = 0;  ///< Dollars for the field
+  double rate = 0;  ///< Seeds per acre, or lb per acre
+};
 
 /// What it costs to grow one acre of one crop, and the dollars that makes for a field of a given size, yield
 /// and water. With the optimal switches on, nitrogen and phosphorus follow the yield that is reached and the
@@ -53,10 +69,17 @@ class inputCosts {
   bool UseBatch = false;      ///< A trend has replaced the production costs by BatchGeneralCosts
   double BatchGeneralCosts = 0;  ///< $ per acre
 
-  /// Production cost of a field, dollars. `acres` is its size, `yield` is per acre, `grossDepth` in inches
-  /// comes back multiplied by the efficiency. Updates NPerAcre, PPerAcre, SeedRate and perhaps AlfalfaStand.
+  /// Production costs of a field: `acres` is its size, `yield` is per acre, `grossDepth` in inches,
+  /// `efficiency` a fraction. Rates that take no part are those that stand here.
   /// \throws RunTimeError (overflow)
-  double getCosts(double acres, double yield, const Crop& crop, double& grossDepth);
+  [[nodiscard]] ProductionCosts price(double acres, double yield, const Crop& crop, double grossDepth,
+                                      double efficiency) const;
+
+  /// The cost of price(), dollars. NPerAcre, PPerAcre, SeedRate and AlfalfaStand take its rates; `grossDepth`
+  /// comes back multiplied by the efficiency, except with UseBatch.
+  /// \throws RunTimeError (overflow)
+  double getCosts(double acres, double yield, const Crop& crop, double& grossDepth,
+                  double efficiency = EfficiencyFraction);
 
   /// Other income of a field, dollars.
   /// \throws RunTimeError (overflow)
@@ -66,10 +89,15 @@ class inputCosts {
   /// the cost, and that is meant. \throws RunTimeError (overflow)
   [[nodiscard]] double getHarvestCost(double acres, double yield, std::string_view cropType) const;
 
-  /// Seed cost of a field, dollars, not yet spread over the life of the stand. `yield` takes no part.
-  /// `grossDepth` comes back as net inches. With SeedOptimal it sets SeedRate.
+  /// Seed of a field; with SeedOptimal the rate follows the net depth (inches).
   /// \throws RunTimeError (overflow)
-  double getSeedCost(double acres, double yield, std::string_view cropType, double& grossDepth);
+  [[nodiscard]] SeedCosts priceSeed(double acres, std::string_view cropType, double netDepth) const;
+
+  /// The cost of priceSeed(), dollars. `yield` takes no part. `grossDepth` comes back as net inches, and
+  /// SeedRate takes the rate.
+  /// \throws RunTimeError (overflow)
+  double getSeedCost(double acres, double yield, std::string_view cropType, double& grossDepth,
+                     double efficiency = EfficiencyFraction);
 
   [[nodiscard]] std::string toString() const { return theString; }
   [[nodiscard]] inputCosts Copy() const;

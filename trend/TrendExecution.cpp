@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "model/EfficiencyFraction.h"
+#include "engine/EfficiencyInForce.h"
 #include "model/listIndex.h"
 #include "text/numbers.h"
 #include "trend/TrendValues.h"
@@ -87,10 +87,8 @@ bool TrendExecution::runVariable() {
 }
 
 void TrendExecution::pump() {
-  // A run that is started meanwhile sets an efficiency of its own.
-  const double efficiency = EfficiencyFraction;
-  inputs_.hooks().pumpEvents();
-  EfficiencyFraction = efficiency;
+  // A run that is started meanwhile puts an efficiency of its own in force.
+  EfficiencyInForce(EfficiencyFraction, inputs_.hooks()).pumpEvents();
 }
 
 void TrendExecution::step() {

@@ -131,7 +131,7 @@ class BenchFarm {
   }
 
   [[nodiscard]] SearchInputs inputs() const {
-    return {depths_, *combinations_, landSplit_, rain, size_, plant_};
+    return {depths_, *combinations_, landSplit_, rain, size_, plant_, 0.85};
   }
   [[nodiscard]] double candidates() const {
     return static_cast<double>(depths_.Count()) * static_cast<double>(combinations_->Count());

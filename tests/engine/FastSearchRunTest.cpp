@@ -68,7 +68,9 @@ class EndlessFarm {
     depths_ = volumesToDepths(makeWaterSplits(landSplit_.Count(), 1020, 100, state), landSplit_);
   }
 
-  [[nodiscard]] SearchInputs inputs() const { return {depths_, *combinations_, landSplit_, 11, 100, plant_}; }
+  [[nodiscard]] SearchInputs inputs() const {
+    return {depths_, *combinations_, landSplit_, 11, 100, plant_, EfficiencyFraction};
+  }
 
  private:
   IrrigationCosts plant_;
@@ -116,7 +118,7 @@ TEST(FastSearchRun, ProgressAdvancesOnceForEachWaterSplitWithoutCrops) {
   const CropCombinations combinations(CropScenario(), 2);
   const IrrigationCosts plant;
   CountingHooks hooks;
-  const auto best = evaluateCombinations({depths, combinations, landSplit, 16, 5, plant}, state, hooks);
+  const auto best = evaluateCombinations({depths, combinations, landSplit, 16, 5, plant, 0.85}, state, hooks);
   ASSERT_TRUE(best);
   EXPECT_EQ(best->getSize(), 5);
   EXPECT_EQ(hooks.updates, 11U);
@@ -223,8 +225,8 @@ TEST(FastSearchRun, NoPlacesAreAnError) {
   ProgramState state;
   RunHooks hooks;
   for (const std::int16_t size : std::initializer_list<std::int16_t>{0, -1}) {
-    const SearchInputs without{inputs.depths, inputs.combinations,   inputs.landSplit, inputs.rain,
-                               size,          inputs.irrigationCosts};
+    const SearchInputs without{inputs.depths, inputs.combinations,    inputs.landSplit, inputs.rain,
+                               size,          inputs.irrigationCosts, inputs.efficiency};
     const std::string text = testing::errorText(
         ErrorNumber::subscript, [&] { static_cast<void>(evaluateCombinations(without, state, hooks)); });
     EXPECT_THAT(text, ::testing::HasSubstr(std::to_string(size)));

@@ -6,7 +6,9 @@
 #include <vector>
 
 #include "model/FieldCollection.h"
+#include "model/PricedField.h"
 #include "tests/support/Crops.h"
+#include "tests/support/Errors.h"
 #include "tests/support/PlainFarm.h"
 #include "tests/support/Plant.h"
 #include "tests/support/RandomFarm.h"
@@ -64,6 +66,43 @@ RC_GTEST_PROP(FarmProfit, IsTheSumOfThePlainFormulas, (std::uint64_t seed)) {
     RC_ASSERT(priced.getProfit() == fieldReturn - fieldCosts);
   }
   RC_ASSERT(drawn.farm.getProfit() == returns - costs);
+}
+
+RC_GTEST_PROP(PricedField, HoldsWhatTheOperationsOfAFieldLeaveBehind, (std::uint64_t seed)) {
+  const Drawn drawn = drawFarm(seed);
+  for (const auto& source : drawn.farm) {
+    const Crop before = source->theCrop->Copy();
+    const double hoursBefore = source->irrigCosts->hours;
+    const PricedField priced = priceField({source->acres, source->Depth, source->annualRain},
+                                          *source->theCrop, *source->irrigCosts, drawn.efficiency);
+
+    const Crop& after = *source->theCrop;  // nothing is left in the crop or in the plant
+    RC_ASSERT(after.Yield == before.Yield);
+    RC_ASSERT(after.writeData() == before.writeData());
+    RC_ASSERT(after.inputCosts.NPerAcre == before.inputCosts.NPerAcre);
+    RC_ASSERT(after.inputCosts.PPerAcre == before.inputCosts.PPerAcre);
+    RC_ASSERT(source->irrigCosts->hours == hoursBefore);
+
+    Field field = source->Copy();
+    (void)yieldAt(*field.theCrop, field.Depth, field.annualRain);
+    RC_ASSERT(priced.Yield == field.theCrop->Yield);
+    RC_ASSERT(priced.costs == field.getCosts(drawn.efficiency));
+    RC_ASSERT(priced.returns == field.getReturn());
+    RC_ASSERT(priced.profit() == field.getProfit(drawn.efficiency));
+    RC_ASSERT(priced.production.cost == field.Copy().getProductionCosts(drawn.efficiency));
+    const inputCosts& left = field.theCrop->inputCosts;
+    RC_ASSERT(priced.production.nitrogen == left.NPerAcre);
+    RC_ASSERT(priced.production.phosphorus == left.PPerAcre);
+    RC_ASSERT(priced.production.seedRate == left.SeedRate);
+    RC_ASSERT(priced.production.stand.text() == left.AlfalfaStand.text());
+    RC_ASSERT(priced.irrigation.hours == field.irrigCosts->hours);
+  }
+}
+
+TEST(PricedField, RefusesAnEfficiencyOf0) {
+  const Crop corn = cornCrop();
+  const auto price = [&] { (void)priceField({100, 8, 16}, corn, defaultPlant(), 0); };
+  EXPECT_NE(errorText(ErrorNumber::divisionByZero, price), "");
 }
 
 RC_GTEST_PROP(FarmCopy, PricesLikeItsSourceToTheLastBit, (std::uint64_t seed)) {

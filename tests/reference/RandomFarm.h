@@ -45,7 +45,7 @@ class RandomFarm {
   [[nodiscard]] double acres() const { return acres_; }
   [[nodiscard]] double netVolume() const { return netVolume_; }
   [[nodiscard]] SearchInputs inputs() const {
-    return {depths_, *combinations_, landSplit_, rain_, size_, plant_};
+    return {depths_, *combinations_, landSplit_, rain_, size_, plant_, EfficiencyFraction};
   }
   [[nodiscard]] std::uint64_t candidates() const {
     return static_cast<std::uint64_t>(depths_.Count()) * combinations_->Count();

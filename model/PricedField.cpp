@@ -1,0 +1,28 @@
+#include "model/PricedField.h"
+
+#include "model/checked.h"
+
+namespace verdalis {
+
+double totalCosts(const ProductionCosts& production, const PumpingCosts& irrigation) {
+  return checked(irrigation.cost + production.cost, "The cost of a field");
+}
+
+double totalReturns(const Crop& crop, double yield, double acres) {
+  const double sales = checked(crop.price * yield * acres, "The return of a field");
+  return checked(sales + crop.inputCosts.getReturns(acres), "The return of a field");
+}
+
+PricedField priceField(const FieldPlan& plan, const Crop& crop, const IrrigationCosts& plant,
+                       double efficiency) {
+  PricedField priced;
+  priced.Yield = crop.yieldAt(plan.Depth, plan.annualRain);
+  priced.production =
+      crop.inputCosts.price(plan.acres, priced.Yield, crop, grossFromNet(plan.Depth, efficiency), efficiency);
+  priced.irrigation = plant.price(plan.Depth, plan.acres, efficiency);
+  priced.costs = totalCosts(priced.production, priced.irrigation);
+  priced.returns = totalReturns(crop, priced.Yield, plan.acres);
+  return priced;
+}
+
+}  // namespace verdalis
