@@ -7,6 +7,7 @@
 
 #include "model/LandDivision.h"
 #include "model/checked.h"
+#include "model/listIndex.h"
 
 namespace verdalis {
 namespace {
@@ -98,15 +99,10 @@ class SplitEnumerator {
 
 }  // namespace
 
-Split getLandSplit(const LandSplitButtons& Option1) {
-  for (std::size_t i = 0; i < Option1.size(); ++i) {
-    if (!Option1.at(i)) continue;
-    Split split;
-    split.splits = landDivisions().at(i).percentages;
-    return split;
-  }
-  throw RunTimeError(ErrorNumber::invalidCall,
-                     "No land split is chosen. Choose how the land is divided under \"Land Split:\".");
+Split landDivision(std::size_t index) {
+  Split split;
+  split.splits = landDivisions()[listIndex(static_cast<long>(index) + 1, landDivisions().size())].percentages;
+  return split;
 }
 
 Split percentToAcres(const Split& landSplit, double acres) {

@@ -9,12 +9,9 @@
 
 namespace verdalis {
 
-/// Which button of the group "Land Split:" is on.
-using LandSplitButtons = std::array<bool, 6>;
-
-/// The percentages of the land division whose button is on.
-/// \throws RunTimeError (invalidCall) when none is.
-[[nodiscard]] Split getLandSplit(const LandSplitButtons& Option1);
+/// The percentages of a land division, by its place in landDivisions().
+/// \throws RunTimeError (subscript) for a place that is not there.
+[[nodiscard]] Split landDivision(std::size_t index);
 
 /// Each percentage x as (x / 100) * acres.
 /// \throws RunTimeError (overflow)

@@ -7,8 +7,8 @@
 #include "controls/displays.h"
 #include "controls/inputs.h"
 #include "controls/services.h"
-#include "engine/ScenarioInputs.h"
 #include "model/Crop.h"
+#include "screens/ScenarioInputs.h"
 
 namespace verdalis {
 

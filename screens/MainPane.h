@@ -12,10 +12,10 @@
 #include "controls/inputs.h"
 #include "controls/services.h"
 #include "engine/ProgramState.h"
-#include "engine/ScenarioInputs.h"
 #include "model/IrrigationCosts.h"
 #include "screens/CropRecord.h"
 #include "screens/FieldTable.h"
+#include "screens/ScenarioInputs.h"
 
 namespace verdalis {
 

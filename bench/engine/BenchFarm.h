@@ -109,9 +109,7 @@ class BenchFarm {
       crop->setNormal(crop->maxYield, rain);
       crops_.Add(std::move(crop));
     }
-    LandSplitButtons buttons{};
-    buttons.at(division) = true;
-    landSplit_ = percentToAcres(getLandSplit(buttons), acres);
+    landSplit_ = percentToAcres(landDivision(division), acres);
     combinations_ = std::make_unique<CropCombinations>(crops_, landSplit_.Count());
     makeSplits();
     if (list == CropList::equalGainsPumped) plant_.LaborPerHour = 0;

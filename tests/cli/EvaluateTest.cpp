@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "data/FileReader.h"
-#include "engine/RunScenario.h"
+#include "screens/RunScenario.h"
 #include "tests/cli/CliRun.h"
 
 // What `evaluate` finds: every option of the command line, with figures that can be worked out by hand.

@@ -15,7 +15,6 @@
 namespace verdalis::testing {
 namespace {
 
-using ::testing::AllOf;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 
@@ -54,17 +53,10 @@ TEST(Split, CopyIsIndependent) {
   EXPECT_THAT(split.getSplits(), ElementsAre(1, 2));
 }
 
-TEST(LandDivisions, AreChosenByTheButtonThatIsOn) {
-  for (std::size_t i = 0; i < 6; ++i) {
-    LandSplitButtons buttons{};
-    buttons.at(i) = true;
-    EXPECT_EQ(getLandSplit(buttons).getSplits(), landDivisions().at(i).percentages) << i;
-  }
-}
-
-TEST(LandDivisions, MustBeChosen) {
-  EXPECT_THAT(errorText(ErrorNumber::invalidCall, [] { (void)getLandSplit({}); }),
-              AllOf(HasSubstr("land split"), HasSubstr("Land Split:")));
+TEST(LandDivision, HasThePercentagesOfItsTable) {
+  for (std::size_t i = 0; i < landDivisions().size(); ++i)
+    EXPECT_EQ(landDivision(i).getSplits(), landDivisions().at(i).percentages) << i;
+  EXPECT_NE(errorText(ErrorNumber::subscript, [] { (void)landDivision(landDivisions().size()); }), "");
 }
 
 TEST(LandAcres, AreTheSharesOfTheFarm) {

@@ -82,10 +82,8 @@ class RandomFarm::Maker {
       state.FineFactor = chance(0.5) ? 1 : 3;
     }
     if (landDivisions().at(division).percentages.size() == 4 && state.FineFactor > 30) state.FineFactor = 12;
-    LandSplitButtons buttons{};
-    buttons.at(division) = true;
     farm_.acres_ = chance(0.5) ? 100 : std::round(between(1, 5000) * 10) / 10;
-    farm_.landSplit_ = percentToAcres(getLandSplit(buttons), farm_.acres_);
+    farm_.landSplit_ = percentToAcres(landDivision(division), farm_.acres_);
     farm_.netVolume_ = chance(0.05) ? 0 : std::round(farm_.acres_ * between(0, 25)) * farm_.efficiency_;
     farm_.depths_ = volumesToDepths(
         makeWaterSplits(farm_.landSplit_.Count(), farm_.netVolume_, farm_.acres_, state), farm_.landSplit_);

@@ -7,9 +7,9 @@
 
 #include "engine/BestMix.h"
 #include "engine/RunHooks.h"
-#include "engine/RunScenario.h"
-#include "engine/ScenarioInputs.h"
 #include "model/CropScenario.h"
+#include "screens/RunScenario.h"
+#include "screens/ScenarioInputs.h"
 #include "tests/support/Crops.h"
 #include "tests/support/Plant.h"
 #include "text/numbers.h"

@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-#include "engine/RunScenario.h"
+#include "screens/RunScenario.h"
 #include "tests/support/Run.h"
 #include "text/encoding.h"
 #include "trend/TrendHost.h"

@@ -1,4 +1,4 @@
-#include "engine/ScenarioInputs.h"
+#include "screens/ScenarioInputs.h"
 
 #include <algorithm>
 

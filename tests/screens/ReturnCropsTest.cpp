@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "engine/RunScenario.h"
+#include "screens/readScenario.h"
 #include "tests/support/Errors.h"
 #include "tests/support/Run.h"
 

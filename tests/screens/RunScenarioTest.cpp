@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "engine/RunScenario.h"
+#include "screens/RunScenario.h"
 #include "tests/support/Errors.h"
 #include "tests/support/Run.h"
 

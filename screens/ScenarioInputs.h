@@ -1,11 +1,13 @@
 #pragma once
 
+#include <array>
 #include <string>
 #include <vector>
 
-#include "engine/MakingSplits.h"
-
 namespace verdalis {
+
+/// Which button of the group "Land Split:" is on.
+using LandSplitButtons = std::array<bool, 6>;
 
 /// What a run needs of one crop row. Its place in the list is that of its crop in the library.
 struct CropRowInput {

@@ -5,7 +5,9 @@
 #include <utility>
 #include <vector>
 
-#include "engine/ScenarioInputs.h"
+#include "model/LandDivision.h"
+#include "screens/ScenarioInputs.h"
+#include "screens/readScenario.h"
 #include "tests/support/Errors.h"
 #include "tests/support/Run.h"
 
@@ -14,6 +16,7 @@
 namespace verdalis::testing {
 namespace {
 
+using ::testing::AllOf;
 using ::testing::HasSubstr;
 
 /// The caption of the volume for these texts.
@@ -23,6 +26,19 @@ std::string volumeOf(const std::string& acres, const std::string& inches) {
   inputs.txtMax = inches;
   getVolume(inputs);
   return inputs.lblVolume;
+}
+
+TEST(LandDivisions, AreChosenByTheButtonThatIsOn) {
+  for (std::size_t i = 0; i < 6; ++i) {
+    LandSplitButtons buttons{};
+    buttons.at(i) = true;
+    EXPECT_EQ(getLandSplit(buttons).getSplits(), landDivisions().at(i).percentages) << i;
+  }
+}
+
+TEST(LandDivisions, MustBeChosen) {
+  EXPECT_THAT(errorText(ErrorNumber::invalidCall, [] { (void)getLandSplit({}); }),
+              AllOf(HasSubstr("land split"), HasSubstr("Land Split:")));
 }
 
 TEST(GrossVolume, IsShownInWholeAcreInchesWithThousandsCommas) {
@@ -114,7 +130,7 @@ TEST(Ready, DoesNotAskForTheLandDivisionOrTheEfficiency) {
   EXPECT_TRUE(ready(inputs));
 }
 
-TEST(CropRow, ReadsTheLeadingNumberOfItsTexts) {
+TEST(CropRowInput, ReadsTheLeadingNumberOfItsTexts) {
   const CropRowInput row{true, " 6.52 $", "1,200"};
   EXPECT_EQ(row.getPrice(), 6.52);
   EXPECT_EQ(row.getMaxYield(), 1);

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <cstdint>
+
+#include "engine/MakingCropCombos.h"
+#include "engine/SearchInputs.h"
+#include "engine/Split.h"
+#include "engine/SplitCollection.h"
+#include "model/IrrigationCosts.h"
+
+namespace verdalis {
+
+/// A farm with all that a run needs, as numbers with units. It shares nothing with the screens, the crop
+/// library or the plant, so a run keeps the inputs of its start whatever is typed meanwhile.
+struct Scenario {
+  double acres = 0;               ///< Of the whole farm
+  Split landSplit;                ///< Acres of each field
+  double netVolume = 0;           ///< Net water of the farm, acre-inches
+  double efficiency = 0;          ///< Irrigation efficiency as a fraction
+  double rain = 0;                ///< Annual rainfall, inches
+  SplitCollection depths;         ///< Net inches of each field, a split for each way to share the water
+  CropCombinations combinations;  ///< The crops, and all ways to assign them to the fields
+  IrrigationCosts plant;
+  std::int16_t size = 0;  ///< Options to keep
+  bool noSplit = false;   ///< Also price each crop on the undivided farm
+
+  /// What the search works on; the scenario must outlive it.
+  [[nodiscard]] SearchInputs searchInputs() const {
+    return {depths, combinations, landSplit, rain, size, plant, efficiency};
+  }
+};
+
+}  // namespace verdalis

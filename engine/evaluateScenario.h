@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <optional>
+
+#include "engine/BestMix.h"
+#include "engine/ProgramState.h"
+#include "engine/RunHooks.h"
+#include "engine/Scenario.h"
+
+namespace verdalis {
+
+/// Hears of each crop that has been priced on the undivided farm: its place among the crops of the scenario,
+/// and the field as pricing has left it.
+using NoSplitListener = std::function<void(std::size_t crop, const Field& priced)>;
+
+/// One evaluation: every water split with every crop combination, and with `noSplit` each crop on the
+/// undivided farm. The progress window is closed by then. \returns the ranked options; nothing after a
+/// cancel. \throws RunTimeError for a candidate that cannot be priced; the progress window may then still be
+/// open.
+[[nodiscard]] std::optional<BestMix> evaluateScenario(const Scenario& scenario, ProgramState& state,
+                                                      RunHooks& hooks,
+                                                      const NoSplitListener& onNoSplit = nullptr);
+
+}  // namespace verdalis
