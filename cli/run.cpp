@@ -9,6 +9,7 @@
 #include "cli/Messages.h"
 #include "cli/ScriptCommand.h"
 #include "cli/TrendCommand.h"
+#include "text/version.h"
 
 namespace verdalis {
 namespace {
@@ -21,7 +22,7 @@ constexpr int refused = 2;
 int dispatch(const std::vector<std::string>& args, std::istream& in, std::ostream& out, Messages& messages) {
   CLI::App app("Finds the allocation of irrigation water, land and crops that leaves the most money.",
                "verdalis-cli");
-  app.set_version_flag("--version", VERDALIS_VERSION, "Print the version and exit");
+  app.set_version_flag("--version", versionText(), "Print the version and exit");
   app.require_subcommand(1);
   const std::string exitCodes =
       "Exit code: 0 done, 1 a run-time error or a cancel, 2 wrong arguments or incomplete inputs.";
@@ -34,7 +35,7 @@ int dispatch(const std::vector<std::string>& args, std::istream& in, std::ostrea
   ScriptRequest scriptRequest;
   const CLI::App& scriptCommand = addScriptCommand(app, scriptRequest);
   for (CLI::App* command : app.get_subcommands({})) {
-    command->set_version_flag("--version", VERDALIS_VERSION, "Print the version and exit");
+    command->set_version_flag("--version", versionText(), "Print the version and exit");
     command->footer(exitCodes);
   }
 

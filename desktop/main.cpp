@@ -10,6 +10,7 @@
 #include "desktop/Desktop.h"
 #include "desktop/Theme.h"
 #include "text/RunTimeError.h"
+#include "text/version.h"
 
 namespace {
 
@@ -32,7 +33,7 @@ int main(int argc, char** argv) {
   QLocale::setDefault(QLocale::c());  // a point for decimals on every machine
   QApplication application(argc, argv);
   QApplication::setApplicationName(QStringLiteral("verdalis"));
-  QApplication::setApplicationVersion(QStringLiteral(VERDALIS_VERSION));
+  QApplication::setApplicationVersion(desktop::qText(versionText()));
   QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/verdalis.svg")));
   const desktop::Scheme platform = desktop::schemeOf(QApplication::palette());
   desktop::applyTheme(application, desktop::desktopScheme(QApplication::palette()));

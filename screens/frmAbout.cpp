@@ -1,12 +1,10 @@
 #include "screens/frmAbout.h"
 
 #include "screens/frmWelcome.h"
+#include "text/version.h"
 
 namespace verdalis {
 namespace {
-
-// The build hands both numbers in.
-constexpr const char* versionLine = "Version " VERDALIS_VERSION "  Build " VERDALIS_BUILD;
 
 constexpr const char* contactLines =
     "Marlowe Institute\n"
@@ -18,7 +16,7 @@ constexpr const char* contactLines =
 
 frmAbout::frmAbout(Desk& desk) : Window(desk, "frmAbout") {
   setCaption("About Verdalis");
-  lblVersion.setCaption(versionLine);
+  lblVersion.setCaption("Version " + versionNumber() + "  Build " + buildNumber());
   lblDisclaimer.setCaption(disclaimer);
   lblContact.setCaption(contactLines);
   onClick = [this] { close(); };
