@@ -1,12 +1,13 @@
 #include "data/SavedInputs.h"
 
+#include <span>
 #include <string_view>
 #include <vector>
 
 #include "data/readFile.h"
 #include "data/writeFile.h"
+#include "model/savedFields.h"
 #include "text/RunTimeError.h"
-#include "text/encoding.h"
 #include "text/numbers.h"
 
 namespace verdalis {
@@ -35,21 +36,10 @@ class ValueReader {
     return value;
   }
 
-  void read(std::string& field) { field = next(); }
-  void read(double& field) { field = Val(next()); }
-  void read(bool& field) { field = lowerCase(next()) == "true"; }
-  void read(Number& field) {
-    const std::string_view value = next();
-    if (value.empty()) {
-      field.clear();
-    } else {
-      field = Val(value);
-    }
-  }
-
-  template <class... Fields>
-  void readAll(Fields&... fields) {
-    (read(fields), ...);
+  template <class Owner>
+  void read(Owner& owner, std::span<const SavedField<Owner>> fields) {
+    for (const SavedField<Owner>& field : fields)
+      field.read(owner, next());
   }
 
  private:
@@ -57,15 +47,8 @@ class ValueReader {
 };
 
 void readCropBlock(ValueReader& values, Crop& crop) {
-  inputCosts& costs = crop.inputCosts;
-  values.readAll(crop.price, crop.maxYield, costs.NitrogenCost, costs.NitrogenApplied, costs.NOptimal,
-                 costs.PCost, costs.PApplied, costs.POptimal, costs.SeedCost, costs.SeedRate,
-                 costs.SeedOptimal, costs.Herbicide, costs.Insecticide, costs.Tillage, costs.Planting,
-                 costs.HerbicideApplication, costs.InsecticideApplication, costs.Returns,
-                 costs.HarvestBasePerAcre, costs.HarvestExceedBu, costs.HarvestExceedRate,
-                 costs.HarvestHauling, costs.HarvestFlatRate, costs.AlfalfaSwathing, costs.AlfalfaSwathingNum,
-                 costs.AlfalfaRaking, costs.AlfalfaRakingNum, costs.AlfalfaBaling, costs.AlfalfaBalingNum,
-                 costs.AlfalfaPerTon, costs.AlfalfaStand, costs.MiscCost, costs.FertilizerApplication);
+  values.read(crop, cropFields());
+  values.read(crop.inputCosts, costFields());
 }
 
 /// The row that the block of a crop name is for: the first of that name that has not had one yet, so that two
@@ -98,12 +81,12 @@ void putPlantIntoControls(const IrrigationCosts& plant, InputControls& controls)
 void readInto(std::string_view text, SavedInputsTarget& target) {
   ValueReader values(text);
   GeneralInputs& general = target.generalInputs();
-  values.readAll(general.splitIndex, general.totalAcres, general.waterAllocation, general.irrigEff,
-                 general.annualRain);
+  for (std::string* field : {&general.splitIndex, &general.totalAcres, &general.waterAllocation,
+                             &general.irrigEff, &general.annualRain}) {
+    *field = values.next();
+  }
   IrrigationCosts& plant = target.tempIrrigationCosts();
-  values.readAll(plant.GPM, plant.Lift, plant.PSI, plant.LaborPerHour, plant.FixedPerAcre,
-                 plant.RepairsPerAcreInch, plant.NPC, plant.cost, plant.active, plant.FuelType,
-                 plant.dblEstHours);
+  values.read(plant, plantFields());
   general.setData(target);
   putPlantIntoControls(plant, target);
 

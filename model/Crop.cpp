@@ -7,6 +7,7 @@
 
 #include "model/CropKind.h"
 #include "model/checked.h"
+#include "model/savedFields.h"
 #include "text/numbers.h"
 
 namespace verdalis {
@@ -107,8 +108,7 @@ Crop Crop::Copy() const {
 }
 
 std::string Crop::writeData() const {
-  return cropType + "\r\n" + generalText(price) + "\r\n" + generalText(maxYield) + "\r\n" +
-         inputCosts.writeData();
+  return cropType + "\r\n" + savedLines(cropFields(), *this) + "\r\n" + inputCosts.writeData();
 }
 
 }  // namespace verdalis

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "model/checked.h"
-#include "text/numbers.h"
+#include "model/savedFields.h"
 
 namespace verdalis {
 namespace {
@@ -57,11 +57,7 @@ double IrrigationCosts::getMaxInches(double acres) const {
 }
 
 std::string IrrigationCosts::writeData() const {
-  std::string text;
-  for (const double value : {GPM, Lift, PSI, LaborPerHour, FixedPerAcre, RepairsPerAcreInch, NPC, cost}) {
-    text += generalText(value) + "\r\n";
-  }
-  return text + (active ? "True" : "False") + "\r\n" + FuelType + "\r\n" + generalText(dblEstHours);
+  return savedLines(plantFields(), *this);
 }
 
 }  // namespace verdalis

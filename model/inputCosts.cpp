@@ -6,6 +6,7 @@
 #include "model/Crop.h"
 #include "model/CropKind.h"
 #include "model/checked.h"
+#include "model/savedFields.h"
 
 namespace verdalis {
 namespace {
@@ -185,46 +186,7 @@ inputCosts inputCosts::Copy() const {
 }
 
 std::string inputCosts::writeData() const {
-  const auto word = [](bool flag) { return std::string(flag ? "True" : "False"); };
-  const std::array<std::string, 31> lines{
-      generalText(NitrogenCost),
-      generalText(NitrogenApplied),
-      word(NOptimal),
-      generalText(PCost),
-      generalText(PApplied),
-      word(POptimal),
-      generalText(SeedCost),
-      generalText(SeedRate),
-      word(SeedOptimal),
-      generalText(Herbicide),
-      generalText(Insecticide),
-      generalText(Tillage),
-      generalText(Planting),
-      generalText(HerbicideApplication),
-      generalText(InsecticideApplication),
-      generalText(Returns),
-      HarvestBasePerAcre.text(),
-      HarvestExceedBu.text(),
-      HarvestExceedRate.text(),
-      HarvestHauling.text(),
-      HarvestFlatRate.text(),
-      AlfalfaSwathing.text(),
-      AlfalfaSwathingNum.text(),
-      AlfalfaRaking.text(),
-      AlfalfaRakingNum.text(),
-      AlfalfaBaling.text(),
-      AlfalfaBalingNum.text(),
-      AlfalfaPerTon.text(),
-      AlfalfaStand.text(),
-      generalText(MiscCost),
-      generalText(FertilizerApplication),  // out of its family, at the end: that is its place in the file
-  };
-  std::string text;
-  for (const std::string& line : lines) {
-    if (&line != lines.data()) text += "\r\n";
-    text += line;
-  }
-  return text;
+  return savedLines(costFields(), *this);
 }
 
 }  // namespace verdalis

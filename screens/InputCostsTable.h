@@ -2,42 +2,13 @@
 
 #include <array>
 #include <span>
-#include <string>
 #include <string_view>
 
-#include "model/inputCosts.h"
+#include "model/savedFields.h"
 #include "screens/FieldTable.h"
 #include "screens/InputCostsPane.h"
 
 namespace verdalis {
-
-/// A figure of the production costs, whether it is always a number or can be empty.
-class CostFigure {
- public:
-  constexpr CostFigure(double inputCosts::*plain) : plain_(plain) {}     // NOLINT: one is as good as
-  constexpr CostFigure(Number inputCosts::*number) : number_(number) {}  // NOLINT: the other
-
-  [[nodiscard]] double value(const inputCosts& costs) const {
-    return plain_ != nullptr ? costs.*plain_ : static_cast<double>(costs.*number_);
-  }
-
-  void set(inputCosts& costs, double value) const {
-    if (plain_ != nullptr) {
-      costs.*plain_ = value;
-    } else {
-      costs.*number_ = value;
-    }
-  }
-
-  /// General number text; empty where the figure is.
-  [[nodiscard]] std::string text(const inputCosts& costs) const {
-    return plain_ != nullptr ? generalText(costs.*plain_) : (costs.*number_).text();
-  }
-
- private:
-  double inputCosts::*plain_ = nullptr;
-  Number inputCosts::*number_ = nullptr;
-};
 
 /// The groups of the production cost pane, in its order.
 enum InputCostsGroup {
@@ -64,7 +35,7 @@ enum class Recomputes { nothing, generalSubtotal, operationSubtotal };
 struct InputCostsField {
   FieldRow row;
   TextBox InputCostsPane::*box = nullptr;
-  CostFigure figure;
+  CostField figure;  ///< A number
   Shown shown = Shown::plain;
   Recomputes recomputes = Recomputes::nothing;
   CheckBox InputCostsPane::*optimal = nullptr;  ///< Ticked while the field is empty, cleared while it is not

@@ -1,0 +1,106 @@
+#pragma once
+
+#include <cassert>
+#include <span>
+#include <string>
+#include <string_view>
+#include <variant>
+
+#include "model/Number.h"
+#include "text/encoding.h"
+#include "text/numbers.h"
+
+namespace verdalis {
+
+[[nodiscard]] inline std::string savedText(double value) {
+  return generalText(value);
+}
+[[nodiscard]] inline std::string savedText(const Number& value) {
+  return value.text();
+}
+[[nodiscard]] inline std::string savedText(bool value) {
+  return value ? "True" : "False";
+}
+[[nodiscard]] inline std::string savedText(const std::string& value) {
+  return value;
+}
+
+/// Takes a text of the file back. \throws RunTimeError (overflow) for a number that is too large.
+inline void readSaved(double& value, std::string_view text) {
+  value = Val(text);
+}
+inline void readSaved(Number& value, std::string_view text) {
+  if (text.empty()) {
+    value.clear();
+  } else {
+    value = Val(text);
+  }
+}
+inline void readSaved(bool& value, std::string_view text) {
+  value = lowerCase(text) == "true";
+}
+inline void readSaved(std::string& value, std::string_view text) {
+  value = text;
+}
+
+/// A member of `Owner` that is one line of the saved inputs: a number, a number that can be empty, a switch
+/// or a text.
+template <class Owner>
+class SavedField {
+ public:
+  constexpr SavedField(double Owner::*member) : member_(member) {}  // NOLINT(google-explicit-constructor)
+  constexpr SavedField(Number Owner::*member) : member_(member) {}  // NOLINT: a member stands for its
+  constexpr SavedField(bool Owner::*member) : member_(member) {}    // NOLINT: field, whichever of the
+  constexpr SavedField(std::string Owner::*member) : member_(member) {}  // NOLINT: four it is
+
+  /// The line of the file.
+  [[nodiscard]] std::string text(const Owner& owner) const {
+    return std::visit([&](auto member) { return savedText(owner.*member); }, member_);
+  }
+
+  /// Takes the line of the file back. \throws RunTimeError (overflow)
+  void read(Owner& owner, std::string_view text) const {
+    std::visit([&](auto member) { readSaved(owner.*member, text); }, member_);
+  }
+
+  /// Whether the field is a number, empty or not.
+  [[nodiscard]] constexpr bool isNumber() const {
+    return std::holds_alternative<double Owner::*>(member_) ||
+           std::holds_alternative<Number Owner::*>(member_);
+  }
+
+  /// The number of a field that is one; empty counts as 0.
+  [[nodiscard]] double value(const Owner& owner) const {
+    assert(isNumber());
+    const auto* const plain = std::get_if<double Owner::*>(&member_);
+    return plain != nullptr ? owner.*(*plain)
+                            : static_cast<double>(owner.*std::get<Number Owner::*>(member_));
+  }
+
+  void set(Owner& owner, double value) const {
+    assert(isNumber());
+    if (const auto* const plain = std::get_if<double Owner::*>(&member_)) {
+      owner.*(*plain) = value;
+    } else {
+      owner.*std::get<Number Owner::*>(member_) = value;
+    }
+  }
+
+  friend constexpr bool operator==(const SavedField&, const SavedField&) = default;
+
+ private:
+  std::variant<double Owner::*, Number Owner::*, bool Owner::*, std::string Owner::*> member_;
+};
+
+/// The lines of all fields, CR LF between them.
+template <class Owner>
+[[nodiscard]] std::string savedLines(std::span<const SavedField<Owner>> fields, const Owner& owner) {
+  std::string text;
+  for (const SavedField<Owner>& field : fields) {
+    if (&field != fields.data()) text += "\r\n";
+    text += field.text(owner);
+  }
+  return text;
+}
+
+}  // namespace verdalis
