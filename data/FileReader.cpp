@@ -6,6 +6,7 @@
 
 #include "data/listFiles.h"
 #include "data/readFile.h"
+#include "model/CropKind.h"
 #include "text/RunTimeError.h"
 #include "text/encoding.h"
 #include "text/numbers.h"
@@ -78,7 +79,7 @@ void readCrop(Crop& crop, const fs::path& path) {
 
 std::shared_ptr<Crop> makeFallowCrop() {
   auto fallow = std::make_shared<Crop>();
-  fallow->cropType = "Fallow";
+  fallow->cropType = cropName(CropKind::fallow);
   return fallow;
 }
 

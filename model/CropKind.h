@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <string_view>
 
 namespace verdalis {
@@ -7,23 +9,37 @@ namespace verdalis {
 /// The crop names that switch behaviour. Any other name, whatever its case, is `other`.
 enum class CropKind { other, alfalfa, corn, grainSorghum, soybeans, sunflower, wheat, fallow };
 
+/// The names, by kind.
+inline constexpr std::array<std::string_view, 8> cropNames{"",         "Alfalfa",   "Corn",  "Grain Sorghum",
+                                                           "Soybeans", "Sunflower", "Wheat", "Fallow"};
+
+/// The name of a kind; empty for `other`, which has none of its own.
+[[nodiscard]] constexpr std::string_view cropName(CropKind kind) {
+  return cropNames[static_cast<std::size_t>(kind)];
+}
+
 /// The kind of a crop by its exact, case sensitive name.
-[[nodiscard]] inline CropKind cropKind(std::string_view cropType) {
+[[nodiscard]] constexpr CropKind cropKind(std::string_view cropType) {
+  // Pricing asks this of every field. No two names are equally long, so the length leaves one to compare, and
+  // its length is then known to the compiler.
+  const auto kindIfNamed = [cropType](CropKind kind) {
+    return cropType == cropName(kind) ? kind : CropKind::other;
+  };
   switch (cropType.size()) {
-    case 4:
-      return cropType == "Corn" ? CropKind::corn : CropKind::other;
-    case 5:
-      return cropType == "Wheat" ? CropKind::wheat : CropKind::other;
-    case 6:
-      return cropType == "Fallow" ? CropKind::fallow : CropKind::other;
-    case 7:
-      return cropType == "Alfalfa" ? CropKind::alfalfa : CropKind::other;
-    case 8:
-      return cropType == "Soybeans" ? CropKind::soybeans : CropKind::other;
-    case 9:
-      return cropType == "Sunflower" ? CropKind::sunflower : CropKind::other;
-    case 13:
-      return cropType == "Grain Sorghum" ? CropKind::grainSorghum : CropKind::other;
+    case cropName(CropKind::corn).size():
+      return kindIfNamed(CropKind::corn);
+    case cropName(CropKind::wheat).size():
+      return kindIfNamed(CropKind::wheat);
+    case cropName(CropKind::fallow).size():
+      return kindIfNamed(CropKind::fallow);
+    case cropName(CropKind::alfalfa).size():
+      return kindIfNamed(CropKind::alfalfa);
+    case cropName(CropKind::soybeans).size():
+      return kindIfNamed(CropKind::soybeans);
+    case cropName(CropKind::sunflower).size():
+      return kindIfNamed(CropKind::sunflower);
+    case cropName(CropKind::grainSorghum).size():
+      return kindIfNamed(CropKind::grainSorghum);
     default:
       return CropKind::other;
   }

@@ -2,6 +2,7 @@
 
 #include <string_view>
 
+#include "model/CropKind.h"
 #include "model/PricedField.h"
 #include "model/checked.h"
 #include "text/numbers.h"
@@ -43,7 +44,7 @@ double Field::getReturn() {
 
 void Field::makeFallow() {
   auto fallow = std::make_shared<Crop>();
-  fallow->cropType = "Fallow";
+  fallow->cropType = cropName(CropKind::fallow);
   theCrop = std::move(fallow);
   Depth = 0;
 }

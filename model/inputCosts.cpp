@@ -1,90 +1,12 @@
 #include "model/inputCosts.h"
 
-#include <array>
-#include <optional>
-
 #include "model/Crop.h"
 #include "model/CropKind.h"
+#include "model/StockCrops.h"
 #include "model/checked.h"
 #include "model/savedFields.h"
 
 namespace verdalis {
-namespace {
-
-/// Fertiliser taken up per unit of yield, lb of nutrient per yield unit (bu., ton or lb).
-struct NutrientRates {
-  double nitrogen;
-  double phosphorus;
-};
-
-constexpr NutrientRates nutrientRates(CropKind kind) {
-  switch (kind) {
-    case CropKind::corn:
-      return {1.35, 0.43};
-    case CropKind::grainSorghum:
-      return {1.25, 0.44};
-    case CropKind::wheat:
-      return {1.75, 0.55};
-    case CropKind::sunflower:
-      return {0.05, 0.018};
-    case CropKind::alfalfa:
-      return {0, 14.88};
-    case CropKind::soybeans:
-      return {0, 0.87};
-    case CropKind::fallow:
-    case CropKind::other:
-      break;
-  }
-  return {0, 0};
-}
-
-/// Lower bounds of the water bands of the seeding rates, net inches; the first that holds wins.
-constexpr std::array<double, 6> seedBands{18, 15, 12, 9, 6, 0};
-using BandRates = std::array<double, seedBands.size()>;
-
-/// Seeds per acre for Corn, Soybeans and Sunflower, lb per acre for the others.
-constexpr BandRates cornSeed{32000, 29000, 26000, 23000, 20000, 17000};
-constexpr BandRates soybeanSeed{200000, 185000, 170000, 155000, 140000, 125000};
-constexpr BandRates grainSorghumSeed{7.81, 6.56, 5.31, 4.06, 2.81, 1.56};
-constexpr BandRates sunflowerSeed{25500, 24000, 22500, 21000, 19500, 18000};
-constexpr BandRates wheatSeed{90, 90, 90, 90, 90, 90};
-constexpr BandRates alfalfaSeed{3, 3, 3, 3, 3, 3};
-
-constexpr const BandRates* seedRates(CropKind kind) {
-  switch (kind) {
-    case CropKind::corn:
-      return &cornSeed;
-    case CropKind::soybeans:
-      return &soybeanSeed;
-    case CropKind::grainSorghum:
-      return &grainSorghumSeed;
-    case CropKind::sunflower:
-      return &sunflowerSeed;
-    case CropKind::wheat:
-      return &wheatSeed;
-    case CropKind::alfalfa:
-      return &alfalfaSeed;
-    case CropKind::fallow:
-    case CropKind::other:
-      break;
-  }
-  return nullptr;
-}
-
-std::optional<double> optimalSeedRate(CropKind kind, double netDepth) {
-  const BandRates* rates = seedRates(kind);
-  if (rates == nullptr) return std::nullopt;
-  for (std::size_t band = 0; band < seedBands.size(); ++band) {
-    if (netDepth >= seedBands.at(band)) return rates->at(band);
-  }
-  return std::nullopt;
-}
-
-bool isSeedPricedByPound(CropKind kind) {
-  return kind == CropKind::grainSorghum || kind == CropKind::wheat || kind == CropKind::alfalfa;
-}
-
-}  // namespace
 
 ProductionCosts inputCosts::price(double acres, double yield, const Crop& crop, double grossDepth,
                                   double efficiency) const {

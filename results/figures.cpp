@@ -1,6 +1,6 @@
 #include "results/figures.h"
 
-#include "model/CropKind.h"
+#include "model/StockCrops.h"
 #include "model/checked.h"
 #include "text/RunTimeError.h"
 #include "text/numbers.h"
@@ -38,14 +38,8 @@ Stand standOf(const Crop& crop) {
 }
 
 SeedUnits seedUnits(std::string_view cropType) {
-  switch (cropKind(cropType)) {
-    case CropKind::alfalfa:
-    case CropKind::grainSorghum:
-    case CropKind::wheat:
-      return {" / lb", " lb/ac"};
-    default:
-      return {" / 1,000 seeds", " seeds/acre"};
-  }
+  if (isSeedPricedByPound(cropKind(cropType))) return {" / lb", " lb/ac"};
+  return {" / 1,000 seeds", " seeds/acre"};
 }
 
 double harvestCostAnAcre(const Field& field) {

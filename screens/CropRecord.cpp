@@ -1,9 +1,6 @@
 #include "screens/CropRecord.h"
 
-#include <algorithm>
-#include <array>
-#include <string_view>
-
+#include "model/StockCrops.h"
 #include "screens/modInputTest.h"
 #include "text/RunTimeError.h"
 #include "text/numbers.h"
@@ -11,28 +8,10 @@
 namespace verdalis {
 namespace {
 
-/// The most that a row accepts without a message. A crop that is not here is not tested.
-struct RowLimits {
-  std::string_view cropType;
-  double price;
-  double maxYield;
-};
-
-constexpr std::array<RowLimits, 6> rowLimits{{
-    {"Alfalfa", 300, 20},
-    {"Corn", 10, 500},
-    {"Grain Sorghum", 10, 300},
-    {"Soybeans", 20, 150},
-    {"Sunflower", 25, 8000},
-    {"Wheat", 15, 200},
-}};
-
+/// A crop that is no stock crop is not tested.
 const RowLimits* limitsOf(const std::shared_ptr<Crop>& crop) {
-  if (!crop) return nullptr;
-  const auto* const row = std::find_if(rowLimits.begin(), rowLimits.end(), [&](const RowLimits& limits) {
-    return limits.cropType == crop->cropType;
-  });
-  return row == rowLimits.end() ? nullptr : row;
+  const StockCrop* const stock = crop ? stockCrop(cropKind(crop->cropType)) : nullptr;
+  return stock != nullptr ? &stock->limits : nullptr;
 }
 
 }  // namespace
@@ -57,7 +36,7 @@ CropRecord::CropRecord(Frame& container, int index, MessageBoxService& messageBo
 
 void CropRecord::loadInfo(const std::string& crop, const std::string& priceUnits,
                           const std::string& /*inputCostUnits*/, const std::string& yieldUnits) {
-  const bool fallow = crop == "Fallow";
+  const bool fallow = cropKind(crop) == CropKind::fallow;
   chkCrop.setCaption(crop);
   lblPriceUnits.setCaption(fallow ? "" : priceUnits);
   txtPrice.setVisible(!fallow);

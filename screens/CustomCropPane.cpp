@@ -5,6 +5,7 @@
 
 #include "data/StockGrids.h"
 #include "data/writeFile.h"
+#include "model/CropKind.h"
 #include "screens/CustomGrid.h"
 #include "text/RunTimeError.h"
 #include "text/encoding.h"
@@ -41,19 +42,19 @@ constexpr int irrigationMost = 32;
 
 /// A crop with a default table, and the position of its unit in the list of units.
 struct DefaultTable {
-  const char* crop;
+  CropKind crop;
   int unit;
 };
 
 constexpr std::array<DefaultTable, 6> defaultTables{{
-    {"Corn", 0},
-    {"Alfalfa", 2},
-    {"Grain Sorghum", 0},
-    {"Soybeans", 0},
-    {"Sunflower", 1},
+    {CropKind::corn, 0},
+    {CropKind::alfalfa, 2},
+    {CropKind::grainSorghum, 0},
+    {CropKind::soybeans, 0},
+    {CropKind::sunflower, 1},
     // The table is in bushels, and the unit tons all the same, which makes a forage crop of what is saved
     // from it: that is meant.
-    {"Wheat", 2},
+    {CropKind::wheat, 2},
 }};
 
 constexpr const char* noCrop = "Select...";
@@ -77,7 +78,7 @@ void fillWithNumbers(ComboBox& list, int first, int last) {
 void fillWithDefaultCrops(ComboBox& list) {
   list.clear();
   for (const DefaultTable& table : defaultTables)
-    list.addItem(table.crop);
+    list.addItem(std::string(cropName(table.crop)));
   list.setText(noDefault);
 }
 
@@ -193,7 +194,7 @@ void CustomCropPane::loadDefaultTable() {
   const int index = cboCustomGrid[5].index();
   if (index < 0) return;
   const DefaultTable& table = defaultTables.at(static_cast<std::size_t>(index));
-  const StockGrid* const grid = stockGrid(lowerCase(table.crop));
+  const StockGrid* const grid = stockGrid(lowerCase(cropName(table.crop)));
   if (grid == nullptr) return;
   cboCustomGrid[1].setText(std::string(grid->firstRain));
   cboCustomGrid[2].setText(std::string(grid->lastRain));

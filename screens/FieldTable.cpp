@@ -1,6 +1,6 @@
 #include "screens/FieldTable.h"
 
-#include <algorithm>
+#include <array>
 #include <cstddef>
 #include <utility>
 
@@ -8,9 +8,6 @@
 
 namespace verdalis {
 namespace {
-
-constexpr std::array<std::string_view, 6> testedCrops{"Alfalfa",  "Corn",      "Grain Sorghum",
-                                                      "Soybeans", "Sunflower", "Wheat"};
 
 /// $ per gallon, gallon, thousand cubic feet and kilowatt-hour.
 constexpr std::array<std::pair<std::string_view, double>, 4> fuelLimits{
@@ -26,9 +23,7 @@ Limit::Cell Limit::of(std::string_view key) const {
     case Kind::fixed:
       return fixed_;
     case Kind::crop:
-      for (std::size_t i = 0; i < testedCrops.size(); ++i) {
-        if (testedCrops.at(i) == key) return crops_.at(i);
-      }
+      if (const std::optional<std::size_t> crop = stockIndex(cropKind(key))) return crops_.at(*crop);
       break;
     case Kind::fuel:
       for (const auto& [fuel, limit] : fuelLimits) {

@@ -8,6 +8,7 @@
 
 #include "controls/inputs.h"
 #include "controls/services.h"
+#include "model/StockCrops.h"
 
 namespace verdalis {
 
@@ -23,9 +24,11 @@ class Limit {
   /// One limit for all.
   constexpr explicit Limit(double limit) : kind_(Kind::fixed), fixed_(limit) {}
 
-  /// A limit by the name of the crop: Alfalfa, Corn, Grain Sorghum, Soybeans, Sunflower, Wheat. A crop
-  /// without a number, and any other crop, is not tested.
-  static constexpr Limit byCrop(const std::array<Cell, 6>& limits) {
+  using StockCells = std::array<Cell, stockCrops.size()>;
+
+  /// A limit by the name of the crop, of the stock crops in their order: Alfalfa, Corn, Grain Sorghum,
+  /// Soybeans, Sunflower, Wheat. A crop without a number, and any other crop, is not tested.
+  static constexpr Limit byCrop(const StockCells& limits) {
     Limit limit;
     limit.kind_ = Kind::crop;
     limit.crops_ = limits;
@@ -50,7 +53,7 @@ class Limit {
 
   Kind kind_ = Kind::none;
   double fixed_ = 0;
-  std::array<Cell, 6> crops_{};
+  StockCells crops_{};
 };
 
 /// Where the crop's name stands in the label of a test.

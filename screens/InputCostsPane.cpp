@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "model/CropKind.h"
+#include "model/StockCrops.h"
 #include "model/checked.h"
 #include "screens/InputCostsTable.h"
 #include "screens/modInputTest.h"
@@ -13,12 +13,6 @@ namespace verdalis {
 namespace {
 
 constexpr std::string_view moneyPattern = "###,##0.00";
-
-/// Crops whose seed is sold by the pound; that of the others is sold by 1,000 seeds.
-bool isSeedSoldByPound(std::string_view cropType) {
-  const CropKind kind = cropKind(cropType);
-  return kind == CropKind::alfalfa || kind == CropKind::grainSorghum || kind == CropKind::wheat;
-}
 
 std::string subtotalText(double dollarsPerAcre, std::string_view what) {
   return "$" + formatNumber(checked(dollarsPerAcre, what), moneyPattern) + " / ac";
@@ -118,7 +112,7 @@ void InputCostsPane::fill(const Crop& crop) {
 }
 
 void InputCostsPane::showUnits(const Crop& crop) {
-  const bool byPound = isSeedSoldByPound(crop.cropType);
+  const bool byPound = isSeedPricedByPound(cropKind(crop.cropType));
   lblSeedRate.setCaption(byPound ? "lb/acre" : "seeds/acre");
   lblSeedUnits.setCaption(byPound ? "/lb" : "/1000 seeds");
   lblUnits.setCaption(crop.cropUnitsArray[1]);
@@ -129,7 +123,7 @@ void InputCostsPane::showUnits(const Crop& crop) {
 void InputCostsPane::showGeneralSubtotal() {
   const double nitrogen = Val(txtNitrogenCost.text()) * Val(txtNitrogenApplied.text());
   const double phosphorus = Val(txtPCost.text()) * Val(txtPApplied.text());
-  const double divisor = isSeedSoldByPound(cropType()) ? 1 : 1000;
+  const double divisor = isSeedPricedByPound(cropKind(cropType())) ? 1 : 1000;
   const double seed = Val(txtSeedRate.text()) / divisor * Val(txtSeedCost.text());
   lblGICTOTAL.setCaption(
       subtotalText(nitrogen + phosphorus + seed + Val(txtHerbicide.text()) + Val(txtInsecticide.text()),
