@@ -3,15 +3,10 @@
 #include <string_view>
 
 #include "model/IrrigationCosts.h"
+#include "model/StockCrops.h"
 #include "model/inputCosts.h"
 
 namespace verdalis {
-
-/// Price and yield that the default values give a crop.
-struct StockPrice {
-  double price;     ///< $ per yield unit
-  double maxYield;  ///< Yield units per acre
-};
 
 /// The default price and yield of a crop by its name in lower case; nullptr for Fallow and any other crop.
 [[nodiscard]] const StockPrice* defaultPrice(std::string_view lowerName);

@@ -4,6 +4,7 @@
 
 #include "model/StockCrops.h"
 #include "model/checked.h"
+#include "model/stockCosts.h"
 #include "screens/InputCostsTable.h"
 #include "screens/modInputTest.h"
 #include "text/RunTimeError.h"
@@ -149,11 +150,10 @@ void InputCostsPane::showDefaults() {
       (this->*field.box).setText("");
       (this->*field.optimal).setChecked(true);
     }
-    const int column = inputCostsDefaultColumn(cropType());
-    for (const InputCostsDefault& row : inputCostsDefaults()) {
-      if (column < 0) break;
-      const char* const text = row.texts.at(static_cast<std::size_t>(column));
-      if (text != nullptr) (this->*row.box).setText(text);
+    const CropKind kind = cropKind(cropType());
+    for (const InputCostsField& field : fields()) {
+      const char* const text = defaultCost(kind, field.figure).text;
+      if (text != nullptr) (this->*field.box).setText(text);
     }
   }
   showSubtotals();

@@ -1,9 +1,5 @@
 #pragma once
 
-#include <array>
-#include <span>
-#include <string_view>
-
 #include "model/savedFields.h"
 #include "screens/FieldTable.h"
 #include "screens/InputCostsPane.h"
@@ -41,16 +37,5 @@ struct InputCostsField {
   CheckBox InputCostsPane::*optimal = nullptr;  ///< Ticked while the field is empty, cleared while it is not
   bool inputCosts::*optimalFlag = nullptr;
 };
-
-/// The default values of a field, for Corn, Wheat, Grain Sorghum, Sunflower, Soybeans, Alfalfa and Fallow.
-struct InputCostsDefault {
-  TextBox InputCostsPane::*box = nullptr;
-  std::array<const char*, 7> texts{};  ///< nullptr leaves the field as it is
-};
-
-[[nodiscard]] std::span<const InputCostsDefault> inputCostsDefaults();
-
-/// The column of a crop in the default values, by its exact name; -1 for any other crop.
-[[nodiscard]] int inputCostsDefaultColumn(std::string_view cropType);
 
 }  // namespace verdalis
