@@ -6,6 +6,7 @@
 #include "data/FileReader.h"
 #include "data/listFiles.h"
 #include "data/readFile.h"
+#include "model/YieldUnit.h"
 #include "text/RunTimeError.h"
 #include "text/numbers.h"
 
@@ -58,10 +59,10 @@ std::string onOneLine(std::string text) {
 }
 
 std::string_view unitWords(const std::string& choice) {
-  for (const CustomCropUnit& unit : customCropUnits) {
+  for (const YieldUnitNames& unit : yieldUnits) {
     if (unit.choice == choice) return unit.words;
   }
-  return customCropUnits[0].words;
+  return namesOf(YieldUnit::bushels).words;
 }
 
 std::string inchesFromTo(const std::string& first, const std::string& last) {

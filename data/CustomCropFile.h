@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -8,19 +7,6 @@
 #include <vector>
 
 namespace verdalis {
-
-/// A unit that a custom crop may be measured in, and the words that its file holds for it.
-struct CustomCropUnit {
-  std::string_view choice;
-  std::string_view words;
-};
-
-/// A crop in tons counts as a forage crop.
-inline constexpr std::array<CustomCropUnit, 3> customCropUnits{{
-    {"bushels/acre", "bu.,bushels"},
-    {"pounds/acre", "lb,pounds"},
-    {"tons/acre", "ton,tons"},
-}};
 
 /// A custom crop of the library.
 struct CustomCropEntry {
@@ -40,7 +26,7 @@ struct CustomCropContents {
 /// What the editor writes.
 struct CustomCropItems {
   std::string name;
-  std::string units;          ///< As chosen; another text than those of customCropUnits counts as bushels
+  std::string units;          ///< As chosen; another text than those of yieldUnits counts as bushels
   std::string firstRain;      ///< Inches
   std::string lastRain;       ///< Inches
   std::string maxIrrigation;  ///< Inches

@@ -6,6 +6,7 @@
 #include "data/StockGrids.h"
 #include "data/writeFile.h"
 #include "model/CropKind.h"
+#include "model/YieldUnit.h"
 #include "screens/CustomGrid.h"
 #include "text/RunTimeError.h"
 #include "text/encoding.h"
@@ -40,21 +41,21 @@ constexpr int lastRainLeast = 12;
 constexpr int lastRainMost = 32;
 constexpr int irrigationMost = 32;
 
-/// A crop with a default table, and the position of its unit in the list of units.
+/// A crop with a default table, and the unit that is chosen with it.
 struct DefaultTable {
   CropKind crop;
-  int unit;
+  YieldUnit unit;
 };
 
 constexpr std::array<DefaultTable, 6> defaultTables{{
-    {CropKind::corn, 0},
-    {CropKind::alfalfa, 2},
-    {CropKind::grainSorghum, 0},
-    {CropKind::soybeans, 0},
-    {CropKind::sunflower, 1},
+    {CropKind::corn, YieldUnit::bushels},
+    {CropKind::alfalfa, YieldUnit::tons},
+    {CropKind::grainSorghum, YieldUnit::bushels},
+    {CropKind::soybeans, YieldUnit::bushels},
+    {CropKind::sunflower, YieldUnit::pounds},
     // The table is in bushels, and the unit tons all the same, which makes a forage crop of what is saved
     // from it: that is meant.
-    {CropKind::wheat, 2},
+    {CropKind::wheat, YieldUnit::tons},
 }};
 
 constexpr const char* noCrop = "Select...";
@@ -121,7 +122,7 @@ void CustomCropPane::fillLists() {
   for (const std::size_t list : {1U, 2U, 3U})
     cboCustomGrid.at(list).setIndex(1);
   cboCustomGrid[4].clear();
-  for (const CustomCropUnit& unit : customCropUnits)
+  for (const YieldUnitNames& unit : yieldUnits)
     cboCustomGrid[4].addItem(std::string(unit.choice));
   cboCustomGrid[4].setIndex(0);
 }
@@ -201,7 +202,7 @@ void CustomCropPane::loadDefaultTable() {
   cboCustomGrid[3].setText(std::string(grid->maxIrrigation));
   const Grid::Batch batch(dgCustom);
   setGridSize();
-  cboCustomGrid[4].setIndex(table.unit);
+  cboCustomGrid[4].setIndex(static_cast<int>(table.unit));
   fillCustomGrid(dgCustom, commaSeparatedEntries(grid->values));
 }
 
