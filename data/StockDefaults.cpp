@@ -1,6 +1,7 @@
 #include "data/StockDefaults.h"
 
 #include "model/stockCosts.h"
+#include "model/stockPlant.h"
 #include "text/encoding.h"
 #include "text/numbers.h"
 
@@ -33,14 +34,8 @@ void loadDefaultCosts(std::string_view lowerName, inputCosts& costs) {
 }
 
 void loadDefaultPlant(IrrigationCosts& plant) {
-  plant.GPM = 750;
-  plant.Lift = 120;
-  plant.PSI = 35;
-  plant.RepairsPerAcreInch = 0.33;
-  plant.cost = 5.1;
-  plant.LaborPerHour = 10;
-  plant.FuelType = "Natural Gas";
-  plant.dblEstHours = 1800;
+  for (const PlantDefault& each : stockPlant())
+    each.field.read(plant, each.text);
   plant.NPC = fuelPerformance(plant.FuelType).value_or(0);
   plant.active = true;
 }

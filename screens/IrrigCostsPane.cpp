@@ -1,11 +1,13 @@
 #include "screens/IrrigCostsPane.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <optional>
 #include <utility>
 
 #include "model/checked.h"
+#include "model/stockPlant.h"
 #include "screens/modInputTest.h"
 #include "text/RunTimeError.h"
 #include "text/numbers.h"
@@ -16,8 +18,6 @@ namespace {
 /// Gallons in an acre-inch, as the hint counts them; the plant's own figure is another one, and that is
 /// meant.
 constexpr double hintGallonsPerAcreInch = 27154.2876;
-
-constexpr int defaultFuel = 2;  // Natural Gas
 
 enum Group { costGroup, pumpingGroup };
 
@@ -42,7 +42,6 @@ constexpr std::array<IrrigCostsField, 8> paneFields{{
              .helpIndex = 15},
      .box = &Pane::txtGPM,
      .value = &Plant::GPM,
-     .defaultText = "750",
      .changesHint = true},
     {.row = {.control = "txtLift",
              .group = costGroup,
@@ -52,8 +51,7 @@ constexpr std::array<IrrigCostsField, 8> paneFields{{
              .limit = Limit(999),
              .helpIndex = 7},
      .box = &Pane::txtLift,
-     .value = &Plant::Lift,
-     .defaultText = "120"},
+     .value = &Plant::Lift},
     {.row = {.control = "txtPSI",
              .group = costGroup,
              .label = "Irrigation system operating pressure (psi)",
@@ -62,12 +60,10 @@ constexpr std::array<IrrigCostsField, 8> paneFields{{
              .limit = Limit(200),
              .helpIndex = 17},
      .box = &Pane::txtPSI,
-     .value = &Plant::PSI,
-     .defaultText = "35"},
+     .value = &Plant::PSI},
     {.row = {.control = "cboFuelType", .group = costGroup, .label = "Fuel Type", .helpIndex = 18},
      .box = nullptr,
-     .value = nullptr,
-     .defaultText = "Natural Gas"},
+     .value = nullptr},
     {.row = {.control = "txtCost",
              .group = costGroup,
              .label = "Fuel Cost",
@@ -76,8 +72,7 @@ constexpr std::array<IrrigCostsField, 8> paneFields{{
              .limit = Limit::byFuel(),
              .helpIndex = 19},
      .box = &Pane::txtCost,
-     .value = &Plant::cost,
-     .defaultText = "5.10"},
+     .value = &Plant::cost},
     {.row = {.control = "txtLaborPerHour",
              .group = costGroup,
              .label = "Labor",
@@ -86,8 +81,7 @@ constexpr std::array<IrrigCostsField, 8> paneFields{{
              .limit = Limit(100),
              .helpIndex = 20},
      .box = &Pane::txtLaborPerHour,
-     .value = &Plant::LaborPerHour,
-     .defaultText = "10"},
+     .value = &Plant::LaborPerHour},
     {.row = {.control = "txtRepairsPerAcre",
              .group = costGroup,
              .label = "Repairs and Maintenance",
@@ -97,8 +91,7 @@ constexpr std::array<IrrigCostsField, 8> paneFields{{
              .helpIndex = 8,
              .startText = "0.33"},
      .box = &Pane::txtRepairsPerAcre,
-     .value = &Plant::RepairsPerAcreInch,
-     .defaultText = "0.33"},
+     .value = &Plant::RepairsPerAcreInch},
     {.row = {.control = "txtEstHours",
              .group = costGroup,
              .label = "Total Season Pumping Hours",
@@ -108,7 +101,6 @@ constexpr std::array<IrrigCostsField, 8> paneFields{{
              .helpIndex = 16},
      .box = &Pane::txtEstHours,
      .value = &Plant::dblEstHours,
-     .defaultText = "1800",
      .changesHint = true},
 }};
 
@@ -181,9 +173,11 @@ void IrrigCostsPane::open() {
 void IrrigCostsPane::showDefaults() {
   for (const IrrigCostsField& field : fields()) {
     if (field.box != nullptr) {
-      (this->*field.box).setText(std::string(field.defaultText));
+      (this->*field.box).setText(std::string(defaultPlantText(field.value)));
     } else {
-      cboFuelType.setIndex(defaultFuel);
+      const auto& fuels = cboFuelType.items();
+      const auto fuel = std::find(fuels.begin(), fuels.end(), defaultPlantText(&Plant::FuelType));
+      cboFuelType.setIndex(static_cast<int>(fuel - fuels.begin()));
     }
   }
 }

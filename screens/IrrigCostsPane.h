@@ -22,7 +22,6 @@ struct IrrigCostsField {
   FieldRow row;
   TextBox IrrigCostsPane::*box;    ///< nullptr for the list of fuels
   double IrrigationCosts::*value;  ///< Where Apply puts its number; nullptr for the list of fuels
-  std::string_view defaultText;    ///< Of "Load Default Values"
   bool changesHint = false;        ///< A change also recomputes the pumping hint
 };
 
