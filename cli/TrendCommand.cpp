@@ -8,7 +8,6 @@
 #include "cli/Interrupt.h"
 #include "cli/OptionsWriter.h"
 #include "cli/Progress.h"
-#include "cli/TrendCommandFarm.h"
 #include "cli/TrendCommandText.h"
 #include "cli/TrendCommandWriter.h"
 #include "cli/output.h"
@@ -18,9 +17,9 @@
 #include "text/encoding.h"
 #include "text/quote.h"
 #include "trend/FixedTrendExport.h"
-#include "trend/TrendExecution.h"
 #include "trend/TrendVariables.h"
 #include "trend/VariableTrendExport.h"
+#include "trend/runTrend.h"
 
 namespace verdalis {
 namespace {
@@ -53,7 +52,7 @@ std::size_t optionNumber(const std::optional<std::string>& text) {
   throw Refusal("--option " + quoteForMessage(*text) + ": Options are counted 1, 2, 3 and so on.");
 }
 
-void requireKind(const TrendRequest& request) {
+void requireKind(const TrendArguments& request) {
   if (request.option) return;
   if (request.processes[1].given())
     throw Refusal("A second process is for a fixed trend alone, which needs --option K.");
@@ -98,36 +97,31 @@ void stopIfAsked() {
 /// A trend of one farm.
 class TrendRun {
  public:
-  TrendRun(const TrendRequest& request, TypedFarm& typed, RunHooks& progress, Messages& messages)
-      : request_(request), typed_(typed), messages_(messages), farm_(typed, progress) {
-    const std::shared_ptr<Crop> ticked = farm_.firstTickedCrop();
-    const std::string fallback = ticked ? ticked->cropType : "";
-    processes_.push_back(makeTrendProcess(request.processes[0], "", typed, farm_, fallback));
+  TrendRun(const TrendArguments& request, TypedFarm& farm, RunHooks& progress, Messages& messages)
+      : request_(request), farm_(farm), inputs_(farm.trendHost()), progress_(progress), messages_(messages) {
+    const std::string fallback = firstTickedCrop();
+    processes_.push_back(makeTrendProcess(request.processes[0], "", farm, inputs_, fallback));
     if (request.processes[1].given())
-      processes_.push_back(makeTrendProcess(request.processes[1], "2", typed, farm_, fallback));
+      processes_.push_back(makeTrendProcess(request.processes[1], "2", farm, inputs_, fallback));
+    trend_.cropText = processes_[0].crop;
     for (const TrendProcess& process : processes_)
-      farm_.trend().ProcessCollection.push_back(process.process);
+      trend_.processes.push_back(process.process);
   }
 
   Findings runVariable() {
     tellOfIdleCrops("is not ticked", [this](const TrendProcess& process) {
-      return !typed_.trendHost().isActive(static_cast<std::size_t>(process.process.cropIndex));
+      return !inputs_.isActive(static_cast<std::size_t>(process.process.cropIndex));
     });
-    farm_.state().SelectedOption = std::make_shared<FieldCollection>();
-    TrendExecution execution = makeExecution();
-    farm_.state().TrendMode = true;
-    if (!execution.runVariable()) throw Cancelled();
+    refuseTooLarge();
+    TrendOutcome outcome = run();
 
     Findings findings;
-    describeSteps(findings.result);
+    describeSteps(outcome, findings.result);
     if (request_.exportFile) {
       findings.page = makePage([&](std::string& page) {
-        TrendState& trend = farm_.trend();
-        // In the window the first step is on show before anything can be exported, which packs its ranking
-        // once more.
-        static_cast<void>(trend.BatchCollection.at(0).returnCollection(true));
-        writeVariableTrend({trend.BatchCollection, trend.TrendValues, trend.TrendVariableName,
-                            trend.TrendVariableCrop, units(), farm_.txtEff(), localTime()},
+        const TrendVariable& variable = trendVariable(processes_[0].process.VariableIndex);
+        writeVariableTrend({outcome.rankings, outcome.values, variable.label, processes_[0].crop, units(),
+                            inputs_.txtEff(), localTime()},
                            page);
       });
     }
@@ -136,36 +130,46 @@ class TrendRun {
 
   Findings runFixed(std::size_t number, Reports& reports) {
     refuseCombinations();
-    const std::vector<Results::Option> options = farm_.evaluate();
+    const auto options = farm_.evaluate(progress_);
+    if (!options) throw Cancelled();
     Findings findings;
     findings.result.evaluation = describeRun({}, farm_.state(), 0);
-    reports.write(typed_.printer(), options);
-    selectOption(options, number);
-    const std::vector<std::string> crops = farm_.state().SelectedOption->getCrops();
+    reports.write(farm_.printer(), *options);
+    selectOption(*options, number);
+    const std::vector<std::string> crops = trend_.option->getCrops();
     tellOfIdleCrops("has no field in this option", [&](const TrendProcess& process) {
       return std::find(crops.begin(), crops.end(), process.crop) == crops.end();
     });
-    TrendExecution execution = makeExecution();
-    farm_.state().TrendMode = true;
-    if (!execution.runFixed()) throw Cancelled();
+    refuseTooLarge();
+    const TrendOutcome outcome = run();
 
-    describeCombinations(findings.result);
+    describeCombinations(outcome, findings.result);
     if (request_.exportFile) {
       findings.page = makePage([&](std::string& page) {
+        const auto variables = trendedVariables(trend_.processes);
         const auto isTrended = [&](std::int16_t variable, const std::string& crop) {
-          return farm_.isTrended(variable, crop);
+          return Results::isTrended(variables, variable,
+                                    static_cast<std::int16_t>(GetCropIndex(inputs_, crop).row));
         };
-        writeFixedTrend({farm_.trend().TrendOptionArray, *farm_.state().SelectedOption, isTrended,
-                         farm_.txtEff(), localTime()},
-                        page);
+        writeFixedTrend({outcome.grid, *trend_.option, isTrended, inputs_.txtEff(), localTime()}, page);
       });
     }
     return findings;
   }
 
  private:
+  /// The first ticked row's crop; an empty name where none is ticked.
+  [[nodiscard]] std::string firstTickedCrop() const {
+    for (std::size_t row = 0; row < inputs_.rowCount(); ++row) {
+      if (!inputs_.isActive(row)) continue;
+      const std::shared_ptr<Crop> crop = inputs_.rowCrop(row);
+      return crop ? crop->cropType : "";
+    }
+    return {};
+  }
+
   [[nodiscard]] UnitsPair units() const {
-    return GetVariableUnits(farm_, processes_[0].process.VariableIndex, processes_[0].process.cropIndex);
+    return GetVariableUnits(inputs_, processes_[0].process.VariableIndex, processes_[0].process.cropIndex);
   }
 
   /// Tells of crops that were named for nothing: those of no variable, and those that are idle.
@@ -185,11 +189,9 @@ class TrendRun {
     }
   }
 
-  TrendExecution makeExecution() {
-    TrendExecution execution(farm_, farm_.state(), farm_.trend(), processes_[0].crop);
-    if (const std::optional<Message> refusal = execution.refusal(processes_[0].process))
-      throw Refusal(refusal->text);
-    return execution;
+  /// \throws Refusal for a trend that keeps too many options.
+  void refuseTooLarge() const {
+    if (const std::optional<Message> refusal = refuseTrend(trend_, inputs_)) throw Refusal(refusal->text);
   }
 
   /// Before the evaluation, which may take long.
@@ -207,35 +209,44 @@ class TrendRun {
       throw Refusal("--option " + std::to_string(number) + ": The evaluation has found " +
                     std::to_string(count) + (count == 1 ? " option." : " options."));
     }
-    farm_.state().SelectedOption = options[number - 1];
+    trend_.option = options[number - 1];
+  }
+
+  /// \throws Cancelled
+  TrendOutcome run() {
+    std::optional<TrendOutcome> outcome = farm_.runTrend(trend_, progress_);
+    if (!outcome) throw Cancelled();
+    return std::move(*outcome);
   }
 
   /// Each step is described with the efficiency of its own run.
-  void describeSteps(TrendResult& result) {
+  void describeSteps(const TrendOutcome& outcome, TrendResult& result) const {
     result.variables = variablesOf(processes_);
     result.prefix = units()[0];
     result.suffix = units()[1];
-    const TrendState& trend = farm_.trend();
-    for (std::size_t i = 0; i < trend.BatchCollection.size(); ++i) {
+    for (std::size_t i = 0; i < outcome.evaluations.size(); ++i) {
       stopIfAsked();
-      TrendStep step{numberOf(trend.TrendValues.at(i)), farm_.runs().at(i)};
-      BestMix ranking = trend.BatchCollection[i].Copy();  // the export packs those that the trend has left
-      for (const auto& option : ranking.returnCollection(true)) {
+      const TrendEvaluation& evaluation = outcome.evaluations[i];
+      TrendStep step;
+      step.value = evaluation.value;
+      step.result.waterSplits = evaluation.waterSplits;
+      step.result.cropCombinations = evaluation.cropCombinations;
+      step.result.efficiency = evaluation.efficiency;
+      for (const auto& option : outcome.options(i)) {
         if (option->Count() > 0)
-          step.result.options.push_back(describeOption(*option, step.result.efficiency));
+          step.result.options.push_back(describeOption(*option, evaluation.efficiency));
       }
       result.steps.push_back(std::move(step));
     }
   }
 
-  void describeCombinations(TrendResult& result) {
+  void describeCombinations(const TrendOutcome& outcome, TrendResult& result) const {
     result.fixed = true;
     result.variables = variablesOf(processes_);
     const auto valueOf = [&](std::size_t process, std::size_t i) {
       return numberOf(processes_[process].process.GetValueArray().at(i));
     };
-    const TrendState& trend = farm_.trend();
-    const TrendOptionArray& grid = trend.TrendOptionArray;
+    const TrendOptionArray& grid = outcome.grid;
     for (std::size_t i = 0; i < grid.rows(); ++i) {
       for (std::size_t j = 0; j < grid.columns(); ++j) {
         stopIfAsked();
@@ -245,21 +256,22 @@ class TrendRun {
         result.grid.push_back({std::move(values), describeTrended(option)});
       }
     }
-    BestMix ranking = trend.BatchCollection.at(0).Copy();
-    for (const auto& option : ranking.returnCollection(true)) {
+    for (const auto& option : outcome.shown) {
       stopIfAsked();
       if (option->Count() > 0) result.options.push_back(describeTrended(*option));
     }
   }
 
-  const TrendRequest& request_;
-  TypedFarm& typed_;
+  const TrendArguments& request_;
+  TypedFarm& farm_;
+  TrendHost& inputs_;
+  RunHooks& progress_;
   Messages& messages_;
-  TrendFarm farm_;
   std::vector<TrendProcess> processes_;
+  TrendRequest trend_;
 };
 
-Findings findTrend(const TrendRequest& request, std::size_t number, Reports& reports, Messages& messages) {
+Findings findTrend(const TrendArguments& request, std::size_t number, Reports& reports, Messages& messages) {
   const std::unique_ptr<TypedFarm> typed = makeFarm(request.farm, messages);
   requireReady(typed->inputs());
   Progress progress(asTerminal(messages.stream()), typed->state());
@@ -268,7 +280,7 @@ Findings findTrend(const TrendRequest& request, std::size_t number, Reports& rep
 }
 
 /// Fills the outcome. \throws Cancelled after a Ctrl+C, whenever it came.
-void runTrend(const TrendRequest& request, Reports& reports, Messages& messages, Outcome& outcome) {
+void makeOutcome(const TrendArguments& request, Reports& reports, Messages& messages, Outcome& outcome) {
   const Interrupt interrupt;
   Findings findings = findTrend(request, optionNumber(request.option), reports, messages);
   std::ostream text(&outcome.text);
@@ -290,7 +302,7 @@ void deliverPieces(TextPieces& text, const std::optional<std::string>& file, std
 
 }  // namespace
 
-const CLI::App& addTrendCommand(CLI::App& app, TrendRequest& request) {
+const CLI::App& addTrendCommand(CLI::App& app, TrendArguments& request) {
   CLI::App& command = *app.add_subcommand(
       "trend", "What if: evaluations over a range of one input, or one option at other values");
   addFarmOptions(command, request.farm);
@@ -307,12 +319,12 @@ const CLI::App& addTrendCommand(CLI::App& app, TrendRequest& request) {
   return command;
 }
 
-void trend(const TrendRequest& request, std::ostream& out, Messages& messages) {
+void trend(const TrendArguments& request, std::ostream& out, Messages& messages) {
   requireKind(request);
   Reports reports(request.reports);
   // All of the text is there before the first byte goes out.
   Outcome outcome;
-  runTrend(request, reports, messages, outcome);
+  makeOutcome(request, reports, messages, outcome);
   reports.deliver();
   if (request.exportFile) deliverToFile(encodeForExport(outcome.page.text), *request.exportFile);
   deliverPieces(outcome.text, request.output, out);

@@ -14,7 +14,7 @@
 namespace verdalis {
 
 /// What `trend` was asked for.
-struct TrendRequest {
+struct TrendArguments {
   FarmRequest farm;
   std::string format = "table";
   std::optional<std::string> output;  ///< File in place of standard output
@@ -26,11 +26,11 @@ struct TrendRequest {
 
 /// Adds the command `trend` to the program. Parsing fills the request, which must live as long as the
 /// program.
-const CLI::App& addTrendCommand(CLI::App& app, TrendRequest& request);
+const CLI::App& addTrendCommand(CLI::App& app, TrendArguments& request);
 
 /// One trend: its outcome goes to `out` or to the file asked for, and into the spreadsheet export. An export
 /// that cannot be worked out to its end is written as far as it came and fails the command after everything
 /// else is delivered. It saves no inputs. \throws Refusal, Cancelled, RunTimeError
-void trend(const TrendRequest& request, std::ostream& out, Messages& messages);
+void trend(const TrendArguments& request, std::ostream& out, Messages& messages);
 
 }  // namespace verdalis

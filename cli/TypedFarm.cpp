@@ -167,9 +167,9 @@ std::optional<std::vector<Results::Option>> TypedFarm::evaluate(RunHooks& progre
   return main().theResults.FieldCollection;
 }
 
-BestMix TypedFarm::runForTrend(const std::string& statusText, RunHooks& progress) {
+std::optional<TrendOutcome> TypedFarm::runTrend(const TrendRequest& request, RunHooks& progress) {
   const Listening listening(main(), progress);
-  return trendHost().RunScenario(statusText);
+  return verdalis::runTrend(request, trendHost(), state(), main().trends.trend);
 }
 
 }  // namespace verdalis

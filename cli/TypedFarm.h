@@ -11,7 +11,7 @@
 #include "engine/RunHooks.h"
 #include "main/Program.h"
 #include "trend/TrendHost.h"
-#include "trend/TrendScreens.h"
+#include "trend/runTrend.h"
 
 namespace verdalis {
 
@@ -64,12 +64,8 @@ class TypedFarm {
   /// The inputs as a trend writes its values into them. They keep what is written last.
   [[nodiscard]] TrendHost& trendHost() { return main().trendHost; }
 
-  /// The trends of the main window: their processes, and what the last one has left.
-  [[nodiscard]] TrendScreens& trends() { return main().trends; }
-
-  /// One evaluation inside a trend, of what stands in the inputs now. `statusText` and how far it is go to
-  /// `progress`. \returns a ranking of size 0 after a cancel. \throws RunTimeError
-  [[nodiscard]] BestMix runForTrend(const std::string& statusText, RunHooks& progress);
+  /// Runs a trend. `progress` hears how far it is. \returns nothing after a cancel. \throws RunTimeError
+  [[nodiscard]] std::optional<TrendOutcome> runTrend(const TrendRequest& request, RunHooks& progress);
 
  private:
   [[nodiscard]] frmMain& main() { return program_.main(); }

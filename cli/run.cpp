@@ -30,7 +30,7 @@ int dispatch(const std::vector<std::string>& args, std::istream& in, std::ostrea
 
   EvaluateRequest evaluateRequest;
   const CLI::App& evaluateCommand = addEvaluateCommand(app, evaluateRequest);
-  TrendRequest trendRequest;
+  TrendArguments trendRequest;
   const CLI::App& trendCommand = addTrendCommand(app, trendRequest);
   ScriptRequest scriptRequest;
   const CLI::App& scriptCommand = addScriptCommand(app, scriptRequest);

@@ -51,7 +51,10 @@ BestMix MainTrendHost::RunScenario(const std::string& statusText) {
 }
 
 RunHooks& MainTrendHost::hooks() {
-  if (!hooks_) hooks_ = std::make_unique<ProgressHooks>(windows_.updating(), eventPump_);
+  if (!hooks_ || listener_ != window_.runListener) {
+    listener_ = window_.runListener;
+    hooks_ = std::make_unique<ProgressHooks>(windows_.updating(), eventPump_, listener_);
+  }
   return *hooks_;
 }
 

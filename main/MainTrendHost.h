@@ -42,6 +42,7 @@ class MainTrendHost : public TrendHost {
   EventPumpService& eventPump_;
   std::filesystem::path home_;
   std::unique_ptr<ProgressHooks> hooks_;
+  RunHooks* listener_ = nullptr;  ///< Of hooks_
 };
 
 }  // namespace verdalis

@@ -131,8 +131,11 @@ double Results::getTotalProfit(std::int16_t number) const {
 }
 
 bool Results::CheckVariable(std::int16_t variableIndex, std::int16_t cropRowIndex) const {
-  if (!trendedVariables) return false;
-  const std::vector<TrendedVariable> variables = trendedVariables();
+  return trendedVariables && isTrended(trendedVariables(), variableIndex, cropRowIndex);
+}
+
+bool Results::isTrended(const std::vector<TrendedVariable>& variables, std::int16_t variableIndex,
+                        std::int16_t cropRowIndex) {
   return std::any_of(variables.begin(), variables.end(), [&](const TrendedVariable& trended) {
     if (trended.VariableIndex != variableIndex) return false;
     const bool ofCrop = variableIndex >= 0 && variableIndex < cropVariables;

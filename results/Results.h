@@ -52,6 +52,11 @@ class Results : public Frame {
     std::int16_t VariableIndex = 0;
   };
 
+  /// Whether one of the variables is the one given; of the variables of a crop (0 to 2), with the crop of
+  /// that row.
+  [[nodiscard]] static bool isTrended(const std::vector<TrendedVariable>& variables,
+                                      std::int16_t variableIndex, std::int16_t cropRowIndex);
+
   /// `name` is that of this instance, such as "theResults".
   Results(Frame& container, const std::string& name, Services& services, ProgramState& state);
 

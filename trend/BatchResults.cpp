@@ -27,13 +27,7 @@ BatchResults::BatchResults(Frame& container, Services& services, ProgramState& s
   cmdBatchStep[1].onClick = [this] { LoadBatchResults(step_ - 1); };
   cmdExcel.onClick = [this] { exportVariable(); };
   theResults.onExcel = [this] { exportFixed(); };
-  theResults.trendedVariables = [this] {
-    std::vector<Results::TrendedVariable> variables;
-    for (const BatchProcess& process : trend_.ProcessCollection) {
-      variables.push_back({process.cropIndex, toInt16(process.VariableIndex)});
-    }
-    return variables;
-  };
+  theResults.trendedVariables = [this] { return trendedVariables(trend_.ProcessCollection); };
   theResults.trendOption = [this](std::int16_t i, std::int16_t j) {
     return trend_.TrendOptionArray.at(static_cast<std::size_t>(i), static_cast<std::size_t>(j));
   };
@@ -57,7 +51,17 @@ void BatchResults::setBatchCollection(const std::vector<BestMix>& batches, const
 void BatchResults::LoadBatchResults(long step) {
   if (step < 1 || static_cast<std::size_t>(step) > batches_.size()) return;
   const auto place = static_cast<std::size_t>(step) - 1;
-  passOver([&] { theResults.loadResults(batches_[place].returnCollection(true)); });
+  showStep(step, [&] { return batches_[place].returnCollection(true); });
+}
+
+void BatchResults::showOutcome(const TrendOutcome& outcome, const BatchProcess& process) {
+  setArray(outcome.values);
+  setBatchCollection(outcome.rankings, process);
+  if (!batches_.empty()) showStep(1, [&] { return outcome.shown; });
+}
+
+void BatchResults::showStep(long step, const std::function<std::vector<Results::Option>()>& options) {
+  passOver([&] { theResults.loadResults(options()); });
   step_ = step;
   UnitsPair units;
   passOver([&] { units = GetVariableUnits(host_, bp.VariableIndex, bp.cropIndex); });

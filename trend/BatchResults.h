@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -11,6 +12,7 @@
 #include "trend/BatchProcess.h"
 #include "trend/TrendHost.h"
 #include "trend/TrendState.h"
+#include "trend/runTrend.h"
 
 namespace verdalis {
 
@@ -41,6 +43,9 @@ class BatchResults : public Frame {
   /// hidden and the options say what made them.
   void setBatchCollection(const std::vector<BestMix>& batches, const BatchProcess& process);
 
+  /// Takes the outcome of a trend with its process, and shows the first step.
+  void showOutcome(const TrendOutcome& outcome, const BatchProcess& process);
+
   /// Shows a step, from 1; outside the steps nothing happens. What cannot be shown keeps its old text.
   void LoadBatchResults(long step);
 
@@ -52,6 +57,7 @@ class BatchResults : public Frame {
   void exportFixed();
 
  private:
+  void showStep(long step, const std::function<std::vector<Results::Option>()>& options);
   void exportTo(const std::function<void(std::string&)>& write);
 
   Services& services_;

@@ -104,6 +104,14 @@ void addField(const FixedTrendExport& trend, Field& field, int number, std::stri
 
 }  // namespace
 
+std::vector<Results::TrendedVariable> trendedVariables(const std::vector<BatchProcess>& processes) {
+  std::vector<Results::TrendedVariable> variables;
+  variables.reserve(processes.size());
+  for (const BatchProcess& process : processes)
+    variables.push_back({process.cropIndex, toInt16(process.VariableIndex)});
+  return variables;
+}
+
 void writeFixedTrend(const FixedTrendExport& trend, std::string& text) {
   addHead(text, trend.today);
   addLine(text, "<table border=1>");

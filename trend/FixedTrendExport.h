@@ -3,9 +3,12 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <vector>
 
 #include "controls/services.h"
 #include "model/FieldCollection.h"
+#include "results/Results.h"
+#include "trend/BatchProcess.h"
 #include "trend/TrendState.h"
 
 namespace verdalis {
@@ -22,6 +25,10 @@ struct FixedTrendExport {
   std::string txtEff;  ///< Text of the irrigation efficiency, percent
   ClockTime today;
 };
+
+/// The variables that processes go through, with the rows of their crops.
+[[nodiscard]] std::vector<Results::TrendedVariable> trendedVariables(
+    const std::vector<BatchProcess>& processes);
 
 /// Appends the whole page. \throws RunTimeError where something cannot be worked out; the lines before that
 /// are in `text` by then.

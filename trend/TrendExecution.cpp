@@ -4,24 +4,12 @@
 #include <utility>
 
 #include "engine/EfficiencyInForce.h"
+#include "model/EfficiencyFraction.h"
 #include "model/listIndex.h"
 #include "text/numbers.h"
-#include "trend/TrendValues.h"
 #include "trend/TrendVariables.h"
 
 namespace verdalis {
-
-std::optional<Message> TrendExecution::refusal(const BatchProcess& pane) const {
-  const auto& processes = trend_.ProcessCollection;
-  const auto current = static_cast<std::size_t>(trend_.CurrentProcess);
-  const auto length = [&](std::size_t i) {
-    return i == current || i >= processes.size() ? pane.GetValueArray().size()
-                                                 : processes[i].GetValueArray().size();
-  };
-  if (state_.SelectedOption->Count() > 0)
-    return refuseFixedTrend(length(0), processes.size() > 1 ? length(1) : 1);
-  return refuseVariableTrend(length(0), Val(inputs_.txtArraySize()));
-}
 
 void TrendExecution::UpdateVariable(std::int16_t cropRowIndex, std::int16_t variableIndex, double value) {
   const TrendVariable& variable = trendVariable(variableIndex);
@@ -68,8 +56,10 @@ bool TrendExecution::runVariable() {
   const std::size_t count = process.values.size();
   trend_.TrendValues = process.values;
   std::vector<BestMix> batches;
+  std::vector<TrendEvaluation> evaluations;
   for (std::size_t i = 0; i < count; ++i) {
-    UpdateVariable(process.row, process.variable, numberOf(process.values[i]));
+    const double value = numberOf(process.values[i]);
+    UpdateVariable(process.row, process.variable, value);
     const BestMix best = inputs_.RunScenario(std::to_string(count - i) + " evaluations left");
     // A ranking without places comes of a cancel alone, also of one that was meant for a run inside this one.
     if (state_.TrendCancelled || best.getSize() == 0) {
@@ -78,8 +68,10 @@ bool TrendExecution::runVariable() {
       return false;
     }
     batches.push_back(best.Copy());
+    evaluations.push_back({value, EfficiencyFraction, state_.waterSplits, state_.cropCombinations});
   }
   trend_.BatchCollection = std::move(batches);
+  evaluations_ = std::move(evaluations);
   trend_.TrendValues = process.values;
   const TrendVariable& variable = trendVariable(process.variable);
   name(variable.label, variable.ofCrop);

@@ -1,8 +1,11 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "controls/services.h"
 #include "engine/ProgramState.h"
@@ -12,6 +15,14 @@
 
 namespace verdalis {
 
+/// One evaluation of a variable trend: what it went through, and the efficiency that it ran with.
+struct TrendEvaluation {
+  double value = 0;       ///< The value of the trend
+  double efficiency = 0;  ///< Irrigation efficiency as a fraction
+  std::size_t waterSplits = 0;
+  std::uint64_t cropCombinations = 0;
+};
+
 /// Runs the trend processes of a TrendState on live inputs or on the selected option, and leaves the outcome
 /// in it.
 class TrendExecution {
@@ -19,9 +30,6 @@ class TrendExecution {
   /// `cropText` is the crop's name for the headings.
   TrendExecution(TrendInputs& inputs, ProgramState& state, TrendState& trend, std::string cropText)
       : inputs_(inputs), state_(state), trend_(trend), cropText_(std::move(cropText)) {}
-
-  /// Why the trend would be too large, if it would be: processes of which one is replaced by `pane`.
-  [[nodiscard]] std::optional<Message> refusal(const BatchProcess& pane) const;
 
   /// Puts one value into the live inputs, after clearing the costs that an earlier value may have replaced.
   /// \throws RunTimeError (subscript) for a crop that is not there any more
@@ -36,6 +44,9 @@ class TrendExecution {
   /// value. \returns false when it was cancelled; the rankings so far are then in BatchCollection.
   /// \throws RunTimeError
   [[nodiscard]] bool runVariable();
+
+  /// The evaluations of the last variable trend that ended.
+  [[nodiscard]] const std::vector<TrendEvaluation>& evaluations() const { return evaluations_; }
 
   /// A fixed trend: the selected option with every value of the first process, or every pair of values of
   /// both, in one ranking. \returns false when it was cancelled; no outcome is kept then. A cancel with one
@@ -77,6 +88,7 @@ class TrendExecution {
   ProgramState& state_;
   TrendState& trend_;
   std::string cropText_;
+  std::vector<TrendEvaluation> evaluations_;
 };
 
 }  // namespace verdalis

@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "model/listIndex.h"
-#include "trend/TrendExecution.h"
+#include "trend/runTrend.h"
 
 namespace verdalis {
 
@@ -16,29 +16,25 @@ void TrendScreens::cmdBatchIt_Click() {
   const std::string cropText = pneBatchSetup0.cboCrops.text();
   const std::optional<BatchProcess> process = pneBatchSetup0.GetBatchProcess(cropText, true);
   if (!process) return;
-  TrendExecution execution(host_, state_, trend, cropText);
-  if (const std::optional<Message> refusal = execution.refusal(*process)) {
-    pneBatchSetup0.tell(*refusal);
-    return;
-  }
-  auto& processes = trend.ProcessCollection;
+  TrendRequest request{trend.ProcessCollection, state_.SelectedOption, cropText};
+  auto& processes = request.processes;
   if (processes.empty()) {
     processes.push_back(*process);
   } else {
     processes[listIndex(trend.CurrentProcess + 1L, processes.size())].Change(*process);
   }
+  if (const std::optional<Message> refusal = refuseTrend(request, host_)) {
+    pneBatchSetup0.tell(*refusal);
+    return;
+  }
+  trend.ProcessCollection = processes;
   host_.loadInputs();
-  trend.BatchCollection.clear();
-
-  const bool isVariable = state_.SelectedOption->Count() == 0;
-  pneBatchSetup1.batchTitle.setCaption(isVariable ? "Variable Trend Results" : "Fixed Trend Results");
-  if (!(isVariable ? execution.runVariable() : execution.runFixed())) return;
-
+  pneBatchSetup1.batchTitle.setCaption(request.isVariable() ? "Variable Trend Results"
+                                                            : "Fixed Trend Results");
+  const std::optional<TrendOutcome> outcome = runTrend(request, host_, state_, trend);
+  if (!outcome) return;
   host_.showPane(pneBatchSetup1);
-  BatchResults& results = pneBatchSetup1.theBatchResults;
-  results.setArray(isVariable ? trend.TrendValues : std::vector<TrendValue>());
-  results.setBatchCollection(trend.BatchCollection, *process);
-  results.LoadBatchResults(1);
+  pneBatchSetup1.theBatchResults.showOutcome(*outcome, *process);
 }
 
 }  // namespace verdalis

@@ -7,12 +7,11 @@
 #include <utility>
 
 #include "cli/FarmOptions.h"
-#include "cli/TrendCommandFarm.h"
 #include "tests/cli/CliRun.h"
 #include "text/encoding.h"
 #include "trend/FixedTrendExport.h"
-#include "trend/TrendExecution.h"
 #include "trend/VariableTrendExport.h"
+#include "trend/runTrend.h"
 
 // What `trend` finds and refuses, with figures that can be worked out by hand.
 
@@ -222,9 +221,10 @@ TEST_F(TrendCommandTest, WritesToAFileAndSavesNoInputs) {
 struct OwnTrend {
   explicit OwnTrend(const SmallHome& home) : request(requestOf(home)) {
     BatchProcess price;
-    price.cropIndex = static_cast<double>(GetCropIndex(farm, "Plain").row);
+    price.cropIndex = static_cast<double>(GetCropIndex(typed->trendHost(), "Plain").row);
     price.SetValueArray({2.0, 5.0});
-    farm.trend().ProcessCollection = {price};
+    trend.processes = {price};
+    trend.cropText = "Plain";
   }
 
   static FarmRequest requestOf(const SmallHome& home) {
@@ -243,8 +243,9 @@ struct OwnTrend {
   Messages messages{err};
   std::unique_ptr<TypedFarm> typed = makeFarm(request, messages);
   RunHooks unheard;
-  TrendFarm farm{*typed, unheard};
-  TrendExecution execution{farm, farm.state(), farm.trend(), "Plain"};
+  TrendRequest trend;
+
+  TrendOutcome run() { return typed->runTrend(trend, unheard).value(); }
 };
 
 TEST_F(TrendCommandTest, ExportsAVariableTrendAsItsWriterDoes) {
@@ -252,12 +253,10 @@ TEST_F(TrendCommandTest, ExportsAVariableTrendAsItsWriterDoes) {
       trend(mixed + priceOfPlain + Args{"--values", "2,5", "--export", file("trend.xls")});
   ASSERT_EQ(result.exitCode, 0) << result.err;
   OwnTrend own(home);
-  ASSERT_TRUE(own.execution.runVariable());
-  TrendState& state = own.farm.trend();
+  TrendOutcome outcome = own.run();
   std::string text;
   writeVariableTrend(
-      {state.BatchCollection, state.TrendValues, "Crop Price", "Plain", {"$", "/ bu."}, "85", localTime()},
-      text);
+      {outcome.rankings, outcome.values, "Crop Price", "Plain", {"$", "/ bu."}, "85", localTime()}, text);
   ASSERT_THAT(text, HasSubstr("</html>"));
   EXPECT_EQ(bytesOf(file("trend.xls")), encodeForExport(text));
 }
@@ -267,15 +266,13 @@ TEST_F(TrendCommandTest, ExportsAFixedTrendAsItsWriterDoes) {
       trend(mixed + priceOfPlain + Args{"--values", "2,5", "--option", "2", "--export", file("trend.xls")});
   ASSERT_EQ(result.exitCode, 0) << result.err;
   OwnTrend own(home);
-  own.farm.state().SelectedOption = own.farm.evaluate().at(1);
-  ASSERT_TRUE(own.execution.runFixed());
+  own.trend.option = own.typed->evaluate(own.unheard).value().at(1);
+  const TrendOutcome outcome = own.run();
   const auto isTrended = [](std::int16_t variable, const std::string& crop) {
     return variable == 0 && crop == "Plain";
   };
   std::string text;
-  writeFixedTrend(
-      {own.farm.trend().TrendOptionArray, *own.farm.state().SelectedOption, isTrended, "85", localTime()},
-      text);
+  writeFixedTrend({outcome.grid, *own.trend.option, isTrended, "85", localTime()}, text);
   ASSERT_THAT(text, HasSubstr("</html>"));
   EXPECT_EQ(bytesOf(file("trend.xls")), encodeForExport(text));
 }

@@ -5,6 +5,7 @@
 #include "tests/support/Errors.h"
 #include "tests/trend/TrendTest.h"
 #include "trend/TrendExecution.h"
+#include "trend/runTrend.h"
 
 namespace verdalis {
 namespace {
@@ -368,7 +369,7 @@ TEST_F(FixedTrendTest, RunsWithoutThePanes) {
   rain.SetValueArray(readValuesList("16, 20").values);
   outcome.ProcessCollection = {price, rain};
   TrendExecution execution(host, state, outcome, "Corn");
-  EXPECT_FALSE(execution.refusal(price));
+  EXPECT_FALSE(refuseTrend({outcome.ProcessCollection, state.SelectedOption, "Corn"}, host));
   EXPECT_TRUE(execution.runFixed());
   EXPECT_EQ(outcome.TrendOptionArray.rows(), 2U);
   EXPECT_EQ(outcome.TrendOptionArray.columns(), 2U);
