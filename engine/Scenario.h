@@ -1,11 +1,13 @@
 #pragma once
 
 #include <cstdint>
+#include <vector>
 
 #include "engine/MakingCropCombos.h"
 #include "engine/SearchInputs.h"
 #include "engine/Split.h"
 #include "engine/SplitCollection.h"
+#include "engine/Wish.h"
 #include "model/IrrigationCosts.h"
 
 namespace verdalis {
@@ -21,8 +23,10 @@ struct Scenario {
   SplitCollection depths;         ///< Net inches of each field, a split for each way to share the water
   CropCombinations combinations;  ///< The crops, and all ways to assign them to the fields
   IrrigationCosts plant;
-  std::int16_t size = 0;  ///< Options to keep
-  bool noSplit = false;   ///< Also price each crop on the undivided farm
+  std::int16_t size = 0;     ///< Options to keep
+  bool noSplit = false;      ///< Also price each crop on the undivided farm
+  std::vector<Wish> wishes;  ///< What every plan must meet
+  bool mixes = false;        ///< Keep the best plan of each mix of crops alone
 
   /// What the search works on; the scenario must outlive it.
   [[nodiscard]] SearchInputs searchInputs() const {

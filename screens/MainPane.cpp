@@ -98,6 +98,8 @@ ScenarioInputs MainPane::scenarioInputs() const {
     inputs.cr.push_back(record->input());
   inputs.chkNoSplit = chkNoSplit.checked();
   inputs.txtArraySize = txtArraySize.text();
+  inputs.wishes = wishes;
+  inputs.mixes = mixes;
   return inputs;
 }
 

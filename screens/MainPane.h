@@ -58,6 +58,9 @@ class MainPane : public Frame {
   std::string currentSoil;  ///< Always the text of txtSoil
   int cropFrameTop = 0;     ///< Layout units; 0 or less
 
+  std::vector<Wish> wishes;  ///< What every plan of a run must meet
+  bool mixes = false;        ///< A run keeps the best plan of each mix of crops alone
+
   /// The fields of the farm in their order, with all that belongs to them; and the land split, as "Option1".
   [[nodiscard]] static std::span<const FieldRow> fields();
 

@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "engine/Wish.h"
+
 namespace verdalis {
 
 /// Which button of the group "Land Split:" is on.
@@ -33,6 +35,8 @@ struct ScenarioInputs {
   std::vector<CropRowInput> cr;           ///< Crop rows
   bool chkNoSplit = false;                ///< Also evaluate each crop on the undivided farm
   std::string txtArraySize = "100";       ///< Options to keep
+  std::vector<Wish> wishes;               ///< What every plan must meet
+  bool mixes = false;                     ///< Keep the best plan of each mix of crops alone
 };
 
 /// Whether everything that a run needs is there: the acres, the inches, the volume that follows from them, a

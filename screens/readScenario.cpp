@@ -1,5 +1,6 @@
 #include "screens/readScenario.h"
 
+#include <memory>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -98,9 +99,41 @@ Scenario readScenario(const ScenarioInputs& inputs, const CropScenario& library,
   if (onWaterSplits) onWaterSplits(state.waterSplits);
   const double rain = Val(inputs.txtAnnRain);
   const std::int16_t size = toInt16(Val(inputs.txtArraySize), "The number of options to keep");
-  return {
-      acres,        landSplit, netVolume,        efficiency, rain, std::move(depths), std::move(combinations),
-      plant.Copy(), size,      inputs.chkNoSplit};
+  return {acres,
+          landSplit,
+          netVolume,
+          efficiency,
+          rain,
+          std::move(depths),
+          std::move(combinations),
+          plant.Copy(),
+          size,
+          inputs.chkNoSplit,
+          inputs.wishes,
+          inputs.mixes};
+}
+
+Farm readFarm(const ScenarioInputs& inputs, const CropScenario& library, const IrrigationCosts& plant,
+              std::int16_t factor) {
+  CropScenario own;
+  for (const auto& crop : library)
+    own.Add(std::make_shared<Crop>(crop->Copy()));
+  Farm farm;
+  farm.acres = Val(inputs.txtArea);
+  farm.division = getLandSplit(inputs.Option1);
+  farm.grossDepth = Val(inputs.txtMax);
+  farm.grossVolume = numberUnder("Calculated Gross Water Volume:", inputs.lblVolume);
+  static_cast<void>(numberUnder("Total Acres:", inputs.txtArea));
+  farm.rain = Val(inputs.txtAnnRain);
+  farm.efficiency = Val(inputs.txtEff);
+  farm.crops = returnCrops(inputs, own);
+  farm.plant = plant.Copy();
+  farm.factor = factor;
+  farm.size = toInt16(Val(inputs.txtArraySize), "The number of options to keep");
+  farm.noSplit = inputs.chkNoSplit;
+  farm.wishes = inputs.wishes;
+  farm.mixes = inputs.mixes;
+  return farm;
 }
 
 }  // namespace verdalis

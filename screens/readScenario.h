@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <functional>
 
+#include "engine/Farm.h"
 #include "engine/ProgramState.h"
 #include "engine/Scenario.h"
 #include "model/CropScenario.h"
@@ -29,6 +30,12 @@ CropScenario returnCrops(const ScenarioInputs& inputs, const CropScenario& libra
 [[nodiscard]] Scenario readScenario(const ScenarioInputs& inputs, const CropScenario& library,
                                     const IrrigationCosts& plant, double efficiency, ProgramState& state,
                                     const std::function<void(std::size_t)>& onWaterSplits = nullptr);
+
+/// The farm of the texts, with crops of its own; nothing is left in the library. Its scenario is that of
+/// readScenario().
+/// \throws RunTimeError for a text that is no number
+[[nodiscard]] Farm readFarm(const ScenarioInputs& inputs, const CropScenario& library,
+                            const IrrigationCosts& plant, std::int16_t factor);
 
 /// The irrigation efficiency as a fraction.
 /// \throws RunTimeError (overflow)

@@ -1,0 +1,53 @@
+#include "explore/bestPlan.h"
+
+#include <memory>
+
+#include "engine/evaluateScenario.h"
+#include "model/checked.h"
+
+namespace verdalis {
+namespace {
+
+/// The hooks of one search of several. The search forgets a cancel from before its start; this reminds it.
+class StandingCancel : public RunHooks {
+ public:
+  StandingCancel(const ProgramState& caller, RunHooks& hooks, ProgramState& own)
+      : caller_(caller), hooks_(hooks), own_(own) {}
+
+  void pumpEvents() override {
+    hooks_.pumpEvents();
+    own_.CancelRequested = caller_.CancelRequested;
+  }
+
+ private:
+  const ProgramState& caller_;
+  RunHooks& hooks_;
+  ProgramState& own_;
+};
+
+}  // namespace
+
+std::optional<Plan> bestPlan(const Farm& farm, ProgramState& state, RunHooks& hooks) {
+  ProgramState own;
+  StandingCancel standing(state, hooks, own);
+  Scenario scenario = scenarioOf(farm);
+  scenario.size = 1;
+  scenario.mixes = false;  // the best plan is the best of its mix
+  std::optional<BestMix> best = evaluateScenario(scenario, own, standing);
+  if (!best || state.CancelRequested) return std::nullopt;
+  const std::shared_ptr<FieldCollection> option = best->returnCollection(false).front();
+  if (option->isNew) {
+    std::optional<std::vector<Relaxation>> relaxations = relaxWishes(scenario, own, standing);
+    if (!relaxations || state.CancelRequested) return std::nullopt;
+    throw NoPlan(std::move(*relaxations));
+  }
+  Plan plan;
+  plan.profit = option->getProfit(scenario.efficiency);
+  for (const auto& field : *option) {
+    plan.fields.push_back({field->acres, field->theCrop->cropType, field->Depth,
+                           grossFromNet(field->Depth, scenario.efficiency), field->theCrop->Yield});
+  }
+  return plan;
+}
+
+}  // namespace verdalis
