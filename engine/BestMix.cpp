@@ -64,7 +64,7 @@ std::string BestMix::toString() const {
   int duplicates = 0;
   for (std::size_t i = 0; i < bestArray_.size(); ++i) {
     FieldCollection& option = *bestArray_[i];
-    if (i > 0 && sameScenario(option, *bestArray_[i - 1], true)) {
+    if (i > 0 && sameScenario(option, *bestArray_[i - 1], !keepsDuplicates)) {
       ++duplicates;
       continue;
     }
@@ -98,7 +98,8 @@ std::vector<BestMix::Option> BestMix::returnCollection(bool removeDuplicates) {
   kept.reserve(bestArray_.size());
   for (std::size_t i = 0; i < bestArray_.size(); ++i) {
     // Each entry is compared with the one directly above it, whether or not that one was kept.
-    if (i > 0 && sameScenario(*bestArray_[i], *bestArray_[i - 1], removeDuplicates)) continue;
+    if (i > 0 && sameScenario(*bestArray_[i], *bestArray_[i - 1], removeDuplicates && !keepsDuplicates))
+      continue;
     kept.push_back(std::make_shared<FieldCollection>(bestArray_[i]->Copy()));
   }
   while (kept.size() < bestArray_.size())

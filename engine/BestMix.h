@@ -22,6 +22,9 @@ class BestMix {
   /// Profit of the entry in the last place, dollars; 0 for a placeholder.
   double LowEnd = 0;
 
+  /// returnCollection() removes no duplicates: the places hold one candidate of each mix of crops.
+  bool keepsDuplicates = false;
+
   /// Makes `size` places, all of them placeholders.
   /// \throws RunTimeError (subscript) when size is 0 or less.
   void setSize(std::int16_t size);

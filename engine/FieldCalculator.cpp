@@ -1,10 +1,12 @@
 #include "engine/FieldCalculator.h"
 
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "engine/CandidateBuilder.h"
 #include "engine/FastSearch.h"
+#include "engine/PlanSearch.h"
 #include "engine/RunPulse.h"
 
 namespace verdalis {
@@ -32,14 +34,36 @@ std::optional<std::vector<BestMix::Option>> makeOptions(const std::vector<KeptCa
   return options;
 }
 
-std::optional<BestMix> search(const SearchInputs& inputs, RunPulse& pulse, BestMix best) {
-  FastSearch fastSearch(inputs, pulse);
-  const auto kept = fastSearch.run();
+using Kept = std::optional<std::vector<KeptCandidate>>;
+
+Kept searchPlainly(const SearchInputs& inputs, RunPulse& pulse) {
+  return FastSearch(inputs, pulse).run();
+}
+
+Kept searchWithWishes(const SearchInputs& inputs, const std::vector<Wish>& wishes, bool mixes,
+                      RunPulse& pulse) {
+  const PlanQuestion question{{inputs}, {}, wishes, mixes, static_cast<std::size_t>(inputs.size)};
+  // The first water split begins before anything is priced: a cancel at it comes before any error.
+  if (inputs.depths.Count() > 0 && !pulse.step()) return std::nullopt;
+  PlanSearch search(question, pulse);
+  if (!search.price()) return std::nullopt;
+  const Kept kept = search.best();
+  for (long split = 1; kept && split < inputs.depths.Count(); ++split) {
+    if (!pulse.step()) return std::nullopt;
+  }
+  return kept;
+}
+
+std::optional<BestMix> search(const SearchInputs& inputs, const std::vector<Wish>& wishes, bool mixes,
+                              RunPulse& pulse, BestMix best) {
+  const Kept kept = wishes.empty() && !mixes ? searchPlainly(inputs, pulse)
+                                             : searchWithWishes(inputs, wishes, mixes, pulse);
   if (!kept) return std::nullopt;
   const auto options = makeOptions(*kept, inputs, pulse);
   if (!options) return std::nullopt;
   best.SetBestArray(*options);
   best.LowEnd = options->back()->getProfit(inputs.efficiency);
+  best.keepsDuplicates = mixes;
   return best;
 }
 
@@ -47,12 +71,17 @@ std::optional<BestMix> search(const SearchInputs& inputs, RunPulse& pulse, BestM
 
 std::optional<BestMix> evaluateCombinations(const SearchInputs& inputs, ProgramState& state,
                                             RunHooks& hooks) {
+  return evaluateWithWishes(inputs, {}, false, state, hooks);
+}
+
+std::optional<BestMix> evaluateWithWishes(const SearchInputs& inputs, const std::vector<Wish>& wishes,
+                                          bool mixes, ProgramState& state, RunHooks& hooks) {
   RunPulse pulse(state, hooks);
   static_cast<void>(pulse.pump());  // a cancel from before the search does not count
   state.CancelRequested = false;
   BestMix best;
   best.setSize(inputs.size);
-  std::optional<BestMix> result = search(inputs, pulse, std::move(best));
+  std::optional<BestMix> result = search(inputs, wishes, mixes, pulse, std::move(best));
   hooks.closeProgress();
   return result;
 }

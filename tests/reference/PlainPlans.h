@@ -1,0 +1,42 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "engine/SearchInputs.h"
+#include "engine/Wish.h"
+
+namespace verdalis::reference {
+
+/// One candidate with all that a wish or a question asks of it.
+struct PlainPlan {
+  struct PlannedField {
+    double acres = 0;
+    std::string crop;
+    double grossDepth = 0;
+  };
+  std::vector<PlannedField> fields;
+  std::vector<double> profits;    ///< By season
+  long split = 0;                 ///< From 0
+  std::uint64_t combination = 0;  ///< From 0
+};
+
+/// Every candidate in the order of submission, priced by the model. All seasons share the depths and the
+/// crops by position.
+[[nodiscard]] std::vector<PlainPlan> allPlans(const std::vector<SearchInputs>& seasons);
+
+[[nodiscard]] bool meets(const PlainPlan& plan, const Wish& wish);
+[[nodiscard]] bool meetsAll(const PlainPlan& plan, const std::vector<Wish>& wishes);
+
+/// The weighted average of the profits; the profit itself of one season.
+[[nodiscard]] double averageOf(const PlainPlan& plan, const std::vector<double>& weights);
+
+/// Indices of the plans that meet the wishes, by falling average; of equal ones the later first. With `mixes`
+/// only the first of each mix.
+[[nodiscard]] std::vector<std::size_t> rankPlans(const std::vector<PlainPlan>& plans,
+                                                 const std::vector<double>& weights,
+                                                 const std::vector<Wish>& wishes, bool mixes);
+
+}  // namespace verdalis::reference
