@@ -3,8 +3,9 @@
 #include <cstddef>
 #include <utility>
 
-#include "model/checked.h"
-#include "text/numbers.h"
+#include "model/reportText.h"
+#include "model/shownAlike.h"
+#include "text/RunTimeError.h"
 
 namespace verdalis {
 namespace {
@@ -18,13 +19,7 @@ BestMix::Option placeholder() {
 /// Whether two fields look alike on the screen: same crop and acres, same shown yield and depth.
 bool looksLike(const Field& f, const Field& g) {
   return f.theCrop->cropType == g.theCrop->cropType && f.acres == g.acres &&
-         formatNumber(f.theCrop->Yield, "###,##0") == formatNumber(g.theCrop->Yield, "###,##0") &&
-         formatNumber(f.Depth, "###.00") == formatNumber(g.Depth, "###.00");
-}
-
-std::string grossVolumeText(const FieldCollection& option, std::string_view pattern) {
-  return "Total Gross Irrigated Volume = " + formatNumber(grossFromNet(option.getVolume()), pattern) +
-         "ac-in\r\n\r\n";
+         sameShownYield(f.theCrop->Yield, g.theCrop->Yield) && sameShownDepth(f.Depth, g.Depth);
 }
 
 }  // namespace
@@ -69,12 +64,11 @@ std::string BestMix::toString() const {
       continue;
     }
     text += "OPTION " + std::to_string(number) + " " + std::string(90, '*') + "\r\n\r\n" + option.toString() +
-            "**********************\r\nProfit = $" + formatNumber(option.getProfit(), "###,###,###,000.00") +
-            "\r\n";
+            "**********************\r\n" + profitLine(option.getProfit());
     // Before the first run there is no efficiency to work the gross volume out with; the report goes on
     // without.
     try {
-      text += grossVolumeText(option, "###,###.00");
+      text += grossVolumeLine(option, true);
     } catch (const RunTimeError&) {
       text += "\r\n";
     }
@@ -86,9 +80,8 @@ std::string BestMix::toString() const {
 std::string BestMix::getCollection() const {
   std::string text;
   for (const Option& option : bestArray_) {
-    text += "\r\n\r\n" + option->toString() + "---------------------------------------\r\nReturn = $" +
-            formatNumber(option->getReturn(), "###,###,###,000") + "\r\n" +
-            grossVolumeText(*option, "###,###,000");
+    text += "\r\n\r\n" + option->toString() + "---------------------------------------\r\n" +
+            returnLine(option->getReturn()) + grossVolumeLine(*option, false);
   }
   return text;
 }

@@ -73,7 +73,8 @@ PlanWalk::PlanWalk(const PlanTables& tables, const WaterPaths& water, const Crop
 void PlanWalk::findTwinPlaces() {
   for (const std::vector<std::uint32_t>& crops : patterns_.classes) {
     std::vector<Twins>& twins = twins_.emplace_back(tables_.crops(), Twins{0, 1});
-    // What one crop does to the number of crops, its twin may not do; and crops of one name make no new mixes.
+    // What one crop does to the number of crops, its twin may not do; and crops of one name make no new
+    // mixes.
     if (patterns_.hasBlocks || (kept_.countsMixes() && patterns_.ofName.size() < tables_.crops())) continue;
     std::vector<std::uint32_t> count(tables_.crops(), 0);
     const auto meet = [&](std::uint32_t crop) { twins[crop].place = count[tables_.twinClass(crop)]++; };

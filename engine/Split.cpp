@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "text/numbers.h"
+#include "model/reportText.h"
 
 namespace verdalis {
 
@@ -14,10 +14,7 @@ double Split::total() const {
 }
 
 std::string Split::toString() const {
-  std::string text;
-  for (const double value : splits)
-    text += generalText(value) + " ac-in      ";
-  return text;
+  return volumesText(splits);
 }
 
 }  // namespace verdalis
