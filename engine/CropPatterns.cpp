@@ -23,7 +23,8 @@ class PatternMaker {
   PatternMaker(const PlanQuestion& question, CropPatterns& result)
       : acres_(question.seasons.front().landSplit.getSplits()), result_(result), slots_(acres_.size()) {
     for (const Wish& wish : question.wishes) {
-      if (isAboutAcres(wish) || isAboutCrops(wish)) wishes_.push_back(wish);
+      // A wish about a field that the farm lacks is met by all candidates or by none.
+      if (isAboutAcres(wish) || isAboutCrops(wish) || wish.field > acres_.size()) wishes_.push_back(wish);
     }
     const auto& crops = question.seasons.front().combinations.crops();
     for (std::size_t i = 0; i + 1 < result.classes.size(); ++i)
