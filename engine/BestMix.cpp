@@ -42,15 +42,16 @@ void BestMix::submit(FieldCollection& candidate, double efficiency) {
   }
   const double profit = candidate.getProfit(efficiency);
   std::size_t place = bestArray_.size() - 1;
-  if (bestArray_[place]->isNew || bestArray_[place]->getProfit() <= profit) {
+  if (bestArray_[place]->isNew || bestArray_[place]->getProfit(efficiency) <= profit) {
     // The candidate climbs from the last place while the entry above is a placeholder or gives way to it.
-    while (place > 0 && (bestArray_[place - 1]->isNew || bestArray_[place - 1]->getProfit() <= profit)) {
+    while (place > 0 &&
+           (bestArray_[place - 1]->isNew || bestArray_[place - 1]->getProfit(efficiency) <= profit)) {
       bestArray_[place] = std::move(bestArray_[place - 1]);
       --place;
     }
     bestArray_[place] = std::make_shared<FieldCollection>(candidate.Copy());
   }
-  LowEnd = bestArray_.back()->getProfit();
+  LowEnd = bestArray_.back()->getProfit(efficiency);
 }
 
 std::string BestMix::toString() const {

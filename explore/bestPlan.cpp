@@ -27,27 +27,35 @@ class StandingCancel : public RunHooks {
 
 }  // namespace
 
-std::optional<Plan> bestPlan(const Farm& farm, ProgramState& state, RunHooks& hooks) {
+BestMix::Option bestOption(const Farm& farm, ProgramState& state, RunHooks& hooks) {
   ProgramState own;
   StandingCancel standing(state, hooks, own);
   Scenario scenario = scenarioOf(farm);
   scenario.size = 1;
   scenario.mixes = false;  // the best plan is the best of its mix
   std::optional<BestMix> best = evaluateScenario(scenario, own, standing);
-  if (!best || state.CancelRequested) return std::nullopt;
-  const std::shared_ptr<FieldCollection> option = best->returnCollection(false).front();
-  if (option->isNew) {
-    std::optional<std::vector<Relaxation>> relaxations = relaxWishes(scenario, own, standing);
-    if (!relaxations || state.CancelRequested) return std::nullopt;
-    throw NoPlan(std::move(*relaxations));
-  }
+  if (!best || state.CancelRequested) return nullptr;
+  BestMix::Option option = best->returnCollection(false).front();
+  if (!option->isNew) return option;
+  std::optional<std::vector<Relaxation>> relaxations = relaxWishes(scenario, own, standing);
+  if (!relaxations || state.CancelRequested) return nullptr;
+  throw NoPlan(std::move(*relaxations));
+}
+
+Plan planOf(FieldCollection& option, double efficiency) {
   Plan plan;
-  plan.profit = option->getProfit(scenario.efficiency);
-  for (const auto& field : *option) {
+  plan.profit = option.getProfit(efficiency);
+  for (const auto& field : option) {
     plan.fields.push_back({field->acres, field->theCrop->cropType, field->Depth,
-                           grossFromNet(field->Depth, scenario.efficiency), field->theCrop->Yield});
+                           grossFromNet(field->Depth, efficiency), field->theCrop->Yield});
   }
   return plan;
+}
+
+std::optional<Plan> bestPlan(const Farm& farm, ProgramState& state, RunHooks& hooks) {
+  const BestMix::Option option = bestOption(farm, state, hooks);
+  if (!option) return std::nullopt;
+  return planOf(*option, farm.efficiency / 100);
 }
 
 }  // namespace verdalis

@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "engine/BestMix.h"
 #include "engine/Farm.h"
 #include "engine/ProgramState.h"
 #include "engine/RunHooks.h"
@@ -41,11 +42,17 @@ class NoPlan : public std::runtime_error {
   std::vector<Relaxation> relaxations_;
 };
 
-/// The first option that an evaluation of the farm ranks. Cancel is asked for by `state`, which may serve
-/// several searches, one after the other; a cancel stands until the caller takes it back.
-/// \returns nothing after a cancel.
-/// \throws NoPlan where the wishes leave none, or where the farm has no crop
-/// \throws RunTimeError as an evaluation does
+/// The first option that an evaluation of the farm ranks, priced. Cancel is asked for by `state`, which may
+/// serve several searches, one after the other; a cancel stands until the caller takes it back. \returns
+/// nothing after a cancel. \throws NoPlan where the wishes leave none, or where the farm has no crop \throws
+/// RunTimeError as an evaluation does
+[[nodiscard]] BestMix::Option bestOption(const Farm& farm, ProgramState& state, RunHooks& hooks);
+
+/// An option as a plan; `efficiency` is a fraction.
+/// \throws RunTimeError as its pricing does
+[[nodiscard]] Plan planOf(FieldCollection& option, double efficiency);
+
+/// bestOption() as a plan.
 [[nodiscard]] std::optional<Plan> bestPlan(const Farm& farm, ProgramState& state, RunHooks& hooks);
 
 }  // namespace verdalis
