@@ -1,0 +1,234 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <limits>
+#include <memory>
+#include <random>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "engine/CandidateBuilder.h"
+#include "engine/evaluateScenario.h"
+#include "engine/meetsWishes.h"
+#include "explore/seasons.h"
+#include "tests/explore/SmallFarm.h"
+
+namespace verdalis {
+namespace {
+
+using testing::smallFarm;
+using testing::twoCropFarm;
+
+/// A candidate over several seasons, worked out one by one.
+struct PlainSeasonPlan {
+  std::vector<double> profits;
+  double average = 0;
+  std::vector<PlannedField> fields;
+  std::vector<std::vector<double>> yields;  ///< By season and field
+};
+
+double profitAndYields(FieldCollection& candidate, double efficiency, std::vector<double>& yields) {
+  yields.clear();
+  for (const auto& field : candidate)
+    yields.push_back(field->theCrop->Yield);
+  return candidate.getProfit(efficiency);
+}
+
+/// Every plan that meets the wishes in the order of submission, priced season by season.
+std::vector<PlainSeasonPlan> allPlans(const Farm& farm, const std::vector<Season>& seasons) {
+  std::vector<PlainSeasonPlan> plans;
+  for (std::size_t season = 0; season < seasons.size(); ++season) {
+    Farm changed = farm.Copy();
+    changed.takeRain(seasons[season].rain);
+    const Scenario scenario = scenarioOf(changed);
+    std::size_t place = 0;
+    const auto take = [&](FieldCollection& candidate) {
+      if (!meetsWishes(farm.wishes, wishedFields(candidate, scenario.efficiency))) return;
+      if (season == 0) {
+        plans.emplace_back();
+        for (const auto& field : candidate) {
+          plans.back().fields.push_back(
+              {field->acres, field->theCrop->cropType, field->Depth, field->Depth / scenario.efficiency, 0});
+        }
+      }
+      PlainSeasonPlan& plan = plans.at(place++);
+      plan.profits.push_back(profitAndYields(candidate, scenario.efficiency, plan.yields.emplace_back()));
+    };
+    const SearchInputs inputs = scenario.searchInputs();
+    CandidateBuilder builder(inputs);
+    std::vector<std::size_t> crops;
+    for (long split = 1; split <= scenario.depths.Count(); ++split) {
+      for (std::uint64_t combination = 0; combination < scenario.combinations.Count(); ++combination) {
+        scenario.combinations.positions(combination, crops);
+        take(builder.build(scenario.depths.Item(split), crops));
+      }
+    }
+    for (std::size_t i = 0; farm.noSplit && i < scenario.combinations.crops().size(); ++i) {
+      auto field = std::make_shared<Field>();
+      *field->theCrop = scenario.combinations.crops()[i]->Copy();
+      field->acres = scenario.acres;
+      field->annualRain = scenario.rain;
+      field->Depth = field->theCrop->cropType == "Fallow" ? 0 : scenario.netVolume / scenario.acres;
+      double depth = field->Depth;
+      field->theCrop->setYield(depth, scenario.rain);
+      *field->irrigCosts = scenario.plant.Copy();
+      FieldCollection candidate;
+      candidate.Add(field);
+      take(candidate);
+    }
+  }
+  for (PlainSeasonPlan& plan : plans) {
+    double sum = 0;
+    double weights = 0;
+    for (std::size_t season = 0; season < seasons.size(); ++season) {
+      sum += seasons[season].weight * plan.profits[season];
+      weights += seasons[season].weight;
+    }
+    plan.average = sum / weights;
+  }
+  return plans;
+}
+
+std::string textOf(const std::vector<PlannedField>& fields) {
+  std::string text;
+  for (const PlannedField& field : fields)
+    text += field.crop + " " + std::to_string(field.acres) + " " + std::to_string(field.netDepth) + "; ";
+  return text;
+}
+
+/// The rule of the ranking: neighbours of equal value whose first field has a partner that reads the same.
+bool areDuplicates(const PlainSeasonPlan& lower, const PlainSeasonPlan& above) {
+  if (lower.average != above.average) return false;
+  if (lower.fields.size() != above.fields.size()) return true;
+  const auto shown = [](double value, double step) { return std::round(value * step); };
+  for (std::size_t j = 0; j < above.fields.size(); ++j) {
+    bool same = lower.fields[0].crop == above.fields[j].crop &&
+                lower.fields[0].acres == above.fields[j].acres &&
+                shown(lower.fields[0].netDepth, 100) == shown(above.fields[j].netDepth, 100);
+    for (std::size_t season = 0; season < lower.yields.size(); ++season)
+      same = same && shown(lower.yields[season][0], 1) == shown(above.yields[season][j], 1);
+    if (same) return true;
+  }
+  return false;
+}
+
+TEST(ExploreSeasons, RanksByAverageAndFindsTheSafestAsGoingThroughAllDoes) {
+  std::mt19937_64 random(11);
+  for (std::uint64_t seed = 0; seed < 600; ++seed) {
+    SCOPED_TRACE("farm " + std::to_string(seed));
+    Farm farm = smallFarm(seed);
+    farm.size = static_cast<std::int16_t>(1 + random() % 20);
+    if (random() % 3 == 0) {
+      const std::string& crop = farm.crops.Item(1)->cropType;
+      farm.wishes.push_back({static_cast<Wish::Kind>(random() % 2), crop, 0, farm.acres / 2});
+    }
+    std::vector<Season> seasons{{"dry", 11, 1}, {"normal", 12, 2}, {"wet", 13, 1}};
+    if (random() % 2 == 0) seasons = {{"a", 11, 1.5}, {"b", 13, 0.3}};
+    std::vector<PlainSeasonPlan> plans = allPlans(farm, seasons);
+    ProgramState state;
+    RunHooks hooks;
+    std::optional<SeasonsResult> result;
+    try {
+      result = exploreSeasons(farm, seasons, state, hooks);
+    } catch (const NoPlan&) {
+      EXPECT_TRUE(plans.empty());
+      continue;
+    }
+    ASSERT_TRUE(result);
+    ASSERT_FALSE(plans.empty());
+
+    std::vector<double> best(seasons.size(), -std::numeric_limits<double>::infinity());
+    for (const PlainSeasonPlan& plan : plans) {
+      for (std::size_t season = 0; season < seasons.size(); ++season)
+        best[season] = std::max(best[season], plan.profits[season]);
+    }
+    for (std::size_t season = 0; season < seasons.size(); ++season)
+      EXPECT_EQ(result->seasons[season].best.profit, best[season]);
+
+    const auto regretOf = [&](const PlainSeasonPlan& plan) {
+      double regret = -std::numeric_limits<double>::infinity();
+      for (std::size_t season = 0; season < seasons.size(); ++season)
+        regret = std::max(regret, best[season] - plan.profits[season]);
+      return regret;
+    };
+    const auto safest = std::min_element(
+        plans.begin(), plans.end(), [&](const auto& a, const auto& b) { return regretOf(a) < regretOf(b); });
+    EXPECT_EQ(result->safest.regret, regretOf(*safest));
+    EXPECT_EQ(textOf(result->safest.fields), textOf(safest->fields));
+    EXPECT_EQ(result->safest.profits, safest->profits);
+
+    std::reverse(plans.begin(), plans.end());
+    std::stable_sort(plans.begin(), plans.end(),
+                     [](const auto& a, const auto& b) { return a.average > b.average; });
+    if (plans.size() > static_cast<std::size_t>(farm.size)) plans.resize(static_cast<std::size_t>(farm.size));
+    std::vector<PlainSeasonPlan> expected;
+    for (std::size_t i = 0; i < plans.size(); ++i) {
+      if (i == 0 || !areDuplicates(plans[i], plans[i - 1])) expected.push_back(plans[i]);
+    }
+    ASSERT_EQ(result->options.size(), expected.size());
+    for (std::size_t i = 0; i < expected.size(); ++i) {
+      EXPECT_EQ(result->options[i].average, expected[i].average);
+      EXPECT_EQ(result->options[i].profits, expected[i].profits);
+      EXPECT_EQ(result->options[i].worst,
+                *std::min_element(expected[i].profits.begin(), expected[i].profits.end()));
+      EXPECT_EQ(textOf(result->options[i].fields), textOf(expected[i].fields));
+    }
+    if (HasFailure()) return;
+  }
+}
+
+TEST(ExploreSeasons, AlikeSeasonsGiveTheRankingOfAnEvaluation) {
+  for (std::uint64_t seed = 0; seed < 100; ++seed) {
+    const Farm farm = smallFarm(seed);
+    const std::vector<Season> seasons{{"one", farm.rain, 1}, {"two", farm.rain, 1}};
+    ProgramState state;
+    RunHooks hooks;
+    const auto result = exploreSeasons(farm, seasons, state, hooks);
+    ASSERT_TRUE(result);
+    const Scenario scenario = scenarioOf(farm);
+    auto best = evaluateScenario(scenario, state, hooks);
+    ASSERT_TRUE(best);
+    std::vector<double> profits;
+    for (const auto& option : best->returnCollection(true)) {
+      if (!option->isNew) profits.push_back(option->getProfit(scenario.efficiency));
+    }
+    ASSERT_EQ(result->options.size(), profits.size());
+    for (std::size_t i = 0; i < profits.size(); ++i)
+      EXPECT_EQ(result->options[i].average, profits[i]);
+    EXPECT_EQ(result->safest.regret, 0);
+  }
+}
+
+TEST(ExploreSeasons, UsualSeasonsAreHeldWithinTheYieldTables) {
+  const auto rains = [](double rain) {
+    std::vector<double> result;
+    for (const Season& season : usualSeasons(rain))
+      result.push_back(season.rain);
+    return result;
+  };
+  EXPECT_EQ(rains(16), (std::vector<double>{13, 16, 19}));
+  EXPECT_EQ(rains(12), (std::vector<double>{11, 12, 15}));
+  EXPECT_EQ(rains(20.5), (std::vector<double>{17.5, 20.5, 21}));
+  EXPECT_EQ(usualSeasons(16)[1].weight, 2);
+  EXPECT_EQ(usualSeasons(16)[0].name, "dry");
+}
+
+TEST(ExploreSeasons, ACancelGivesNothing) {
+  class CancelAtOnce : public RunHooks {
+   public:
+    explicit CancelAtOnce(ProgramState& state) : state_(state) {}
+    void pumpEvents() override { state_.CancelRequested = true; }
+
+   private:
+    ProgramState& state_;
+  };
+  ProgramState state;
+  CancelAtOnce hooks(state);
+  EXPECT_FALSE(exploreSeasons(twoCropFarm(), usualSeasons(16), state, hooks));
+}
+
+}  // namespace
+}  // namespace verdalis
