@@ -1,9 +1,9 @@
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <vector>
 
+#include "controls/Event.h"
 #include "controls/displays.h"
 
 namespace verdalis {
@@ -14,7 +14,7 @@ class HelpButtons {
  public:
   HelpButtons(Frame& container, const std::vector<int>& indices);
 
-  std::function<void(int)> onHelp;
+  Event<int> onHelp;
 
   [[nodiscard]] const std::vector<std::unique_ptr<Button>>& buttons() const { return buttons_; }
 

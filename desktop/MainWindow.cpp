@@ -120,10 +120,10 @@ void MainWindow::addMenus() {
 
 void MainWindow::addPane(Frame& pane, QWidget* page, const char* topic) {
   page->setProperty(topicProperty, QString::fromLatin1(topic));
-  binder_.namePane(pane, page);
+  binder_.name(pane, page);
   assignKeys(page, QLatin1String(menuLetters));
   stack_->addWidget(page);
-  pane.watcher = [this] { showTopPane(); };
+  binder_.alsoWatch(pane, [this] { showTopPane(); });
 }
 
 void MainWindow::showTopPane() {

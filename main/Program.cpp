@@ -10,19 +10,19 @@ namespace verdalis {
 Program::Program(Services& services, ProgramFiles files)
     : windows(desk, state, services), welcome(desk, services), services_(services), files_(std::move(files)) {
   desk.onRunTimeError = [this](const RunTimeError& error) { tell(error); };
-  welcome.onStart = [this] { start(); };
-  welcome.onStartWithTrends = [this] {
+  welcome.onStart.connect([this] { start(); });
+  welcome.onStartWithTrends.connect([this] {
     main().EnableBatch(true);
     start();
-  };
-  welcome.onAbout = [this] { windows.about().open(); };
+  });
+  welcome.onAbout.connect([this] { windows.about().open(); });
   welcome.open();
 }
 
 frmMain& Program::main() {
   if (!main_) {
     main_ = std::make_unique<frmMain>(desk, services_, state, windows, files_);
-    if (onMainCreated) onMainCreated(*main_);
+    onMainCreated(*main_);
   }
   return *main_;
 }

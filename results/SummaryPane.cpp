@@ -54,16 +54,14 @@ SummaryPane::SummaryPane(Frame& container, Services& services, SavedOptions& sum
       summaryResults_(summaryResults),
       outside_(std::move(outside)) {
   setCaption("Summary of Saved Options");
-  fgsummary.onClick = [this] { removeClicked(); };
-  cmdExcelSave.onClick = [this] { saveTable(); };
-  cmdCancel.onClick = [this] {
-    if (onBack) onBack();
-  };
+  fgsummary.onClick.connect([this] { removeClicked(); });
+  cmdExcelSave.onClick.connect([this] { saveTable(); });
+  cmdCancel.onClick.connect([this] { onBack(); });
 }
 
 void SummaryPane::showSummary() {
   build();
-  if (onShowPane) onShowPane();
+  onShowPane();
 }
 
 void SummaryPane::build() {
@@ -153,7 +151,7 @@ void SummaryPane::removeClicked() {
     n = beyond + 1;
   }
   // A click on the heads removes nothing, but shows the pane once more, which the pane history keeps.
-  if (onShowPane) onShowPane();
+  onShowPane();
 }
 
 void SummaryPane::saveTable() {

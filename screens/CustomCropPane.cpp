@@ -98,20 +98,18 @@ CustomCropPane::CustomCropPane(Frame& window, Services& services, std::filesyste
 }
 
 void CustomCropPane::wire() {
-  cboCustomGrid[0].onClick = [this] { loadCustomCrop(cboCustomGrid[0].index()); };
-  cboCustomGrid[5].onClick = [this] { loadDefaultTable(); };
-  txtCustom.onKey = [this] { customAltered = true; };
-  dgCustom.onCharacter = [this](const std::string& character) { typeIntoGrid(dgCustom, character); };
-  dgCustom.onKey = [this](GridKey key) { pressKeyInGrid(dgCustom, key, services_.clipboard); };
-  cmdCustomGrid0.onClick = [this] { setGridSize(); };
-  cmdCustomGrid2.onClick = [this] { save(); };
-  cmdCustomGrid3.onClick = [this] { copyGrid(); };
-  cmdCustomGrid4.onClick = [this] { pasteGrid(); };
-  cmdCustomGrid5.onClick = [this] { goHome(); };
-  cmdCustomGrid6.onClick = [this] { deleteCrop(); };
-  cmdHelp.onHelp = [this](int index) {
-    if (onHelp) onHelp(index);
-  };
+  cboCustomGrid[0].onClick.connect([this] { loadCustomCrop(cboCustomGrid[0].index()); });
+  cboCustomGrid[5].onClick.connect([this] { loadDefaultTable(); });
+  txtCustom.onKey.connect([this] { customAltered = true; });
+  dgCustom.onCharacter.connect([this](const std::string& character) { typeIntoGrid(dgCustom, character); });
+  dgCustom.onKey.connect([this](GridKey key) { pressKeyInGrid(dgCustom, key, services_.clipboard); });
+  cmdCustomGrid0.onClick.connect([this] { setGridSize(); });
+  cmdCustomGrid2.onClick.connect([this] { save(); });
+  cmdCustomGrid3.onClick.connect([this] { copyGrid(); });
+  cmdCustomGrid4.onClick.connect([this] { pasteGrid(); });
+  cmdCustomGrid5.onClick.connect([this] { goHome(); });
+  cmdCustomGrid6.onClick.connect([this] { deleteCrop(); });
+  cmdHelp.onHelp.connect([this](int index) { onHelp(index); });
 }
 
 void CustomCropPane::fillLists() {
@@ -131,7 +129,7 @@ void CustomCropPane::open() {
   scanCustomCrops();
   listCustomCrops();
   resetCustomEditor();
-  if (onShowPane) onShowPane();
+  onShowPane();
 }
 
 void CustomCropPane::scanCustomCrops() {
@@ -279,7 +277,7 @@ void CustomCropPane::goHome() {
     if (answer != MessageAnswer::yes) return;
   }
   reloadRows();
-  if (onBackHome) onBackHome();
+  onBackHome();
 }
 
 void CustomCropPane::deleteCrop() {

@@ -46,17 +46,13 @@ void InputCostsPane::wire() {
   for (const InputCostsField& field : fields()) {
     TextBox& box = this->*field.box;
     wireField(box, field.row, services_.messageBox, [this] { return cropType(); });
-    if (field.recomputes != Recomputes::nothing) box.onChange = [this, &field] { boxChanged(field); };
+    if (field.recomputes != Recomputes::nothing) box.onChange.connect([this, &field] { boxChanged(field); });
   }
-  cmdDefault.onClick = [this] { showDefaults(); };
-  Command13.onClick = [this] { clear(); };
-  Command6.onClick = [this] { apply(); };
-  cmdCancel.onClick = [this] {
-    if (onBack) onBack();
-  };
-  cmdHelp.onHelp = [this](int index) {
-    if (onHelp) onHelp(index);
-  };
+  cmdDefault.onClick.connect([this] { showDefaults(); });
+  Command13.onClick.connect([this] { clear(); });
+  Command6.onClick.connect([this] { apply(); });
+  cmdCancel.onClick.connect([this] { onBack(); });
+  cmdHelp.onHelp.connect([this](int index) { onHelp(index); });
 }
 
 void InputCostsPane::boxChanged(const InputCostsField& field) {
@@ -201,7 +197,7 @@ void InputCostsPane::apply() {
   }
   store(returnsGroup);
   store(miscGroup);
-  if (onApplied) onApplied();
+  onApplied();
 }
 
 }  // namespace verdalis

@@ -1,11 +1,11 @@
 #pragma once
 
 #include <array>
-#include <functional>
 #include <memory>
 #include <span>
 #include <string>
 
+#include "controls/Event.h"
 #include "controls/HelpButtons.h"
 #include "controls/displays.h"
 #include "controls/inputs.h"
@@ -93,9 +93,9 @@ class InputCostsPane : public Frame {
   /// (overflow) when a subtotal is too large, with all fields filled.
   void open(std::shared_ptr<Crop> crop);
 
-  std::function<void()> onApplied;  ///< The crop has its new costs
-  std::function<void()> onBack;
-  std::function<void(int)> onHelp;
+  Event<> onApplied;  ///< The crop has its new costs
+  Event<> onBack;
+  Event<int> onHelp;
 
  private:
   void wire();

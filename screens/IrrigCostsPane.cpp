@@ -148,21 +148,17 @@ void IrrigCostsPane::wire() {
     if (field.box == nullptr) continue;
     TextBox& box = this->*field.box;
     wireField(box, field.row, services_.messageBox, [this] { return cboFuelType.text(); });
-    box.onChange = [this, &field] {
+    box.onChange.connect([this, &field] {
       showCosts();
       if (field.changesHint) showInchHint();
-    };
+    });
   }
-  cboFuelType.onClick = [this] { showCosts(); };
-  Command4.onClick = [this] { emptyTexts(*this); };
-  cmdDefaultIrrigCosts.onClick = [this] { showDefaults(); };
-  Command9.onClick = [this] { apply(); };
-  cmdCancel.onClick = [this] {
-    if (onBack) onBack();
-  };
-  cmdHelp.onHelp = [this](int index) {
-    if (onHelp) onHelp(index);
-  };
+  cboFuelType.onClick.connect([this] { showCosts(); });
+  Command4.onClick.connect([this] { emptyTexts(*this); });
+  cmdDefaultIrrigCosts.onClick.connect([this] { showDefaults(); });
+  Command9.onClick.connect([this] { apply(); });
+  cmdCancel.onClick.connect([this] { onBack(); });
+  cmdHelp.onHelp.connect([this](int index) { onHelp(index); });
 }
 
 void IrrigCostsPane::open() {
@@ -220,7 +216,7 @@ void IrrigCostsPane::apply() {
   // Another text than that of a fuel leaves the plant its last performance figure.
   if (const std::optional<double> performance = fuelPerformance(plant.FuelType)) plant.NPC = *performance;
   plant.active = true;
-  if (onApplied) onApplied();
+  onApplied();
 }
 
 }  // namespace verdalis

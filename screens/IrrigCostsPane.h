@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "controls/Event.h"
 #include "controls/HelpButtons.h"
 #include "controls/displays.h"
 #include "controls/inputs.h"
@@ -64,9 +65,9 @@ class IrrigCostsPane : public Frame {
   /// Puts the default values into the fields; the plant stays.
   void showDefaults();
 
-  std::function<void()> onApplied;  ///< The plant has its new values
-  std::function<void()> onBack;
-  std::function<void(int)> onHelp;
+  Event<> onApplied;  ///< The plant has its new values
+  Event<> onBack;
+  Event<int> onHelp;
 
   /// The text of the total acres; empty without one.
   std::function<std::string()> areaText;

@@ -26,10 +26,10 @@ frmOptions::frmOptions(Desk& desk, ProgramState& state, Services& services)
     : Window(desk, "frmOptions"), state_(state), services_(services) {
   setCaption("Options");
   Label1.setCaption(explanation);
-  cmdApply.onClick = [this] { apply(); };
-  cmdCancel.onClick = [this] { close(); };
-  cmdHelp.onClick = [this] { showHelpTopic(services_.help, "mainInput.htm#SplitFactor"); };
-  onDeactivate = [this] { close(); };
+  cmdApply.onClick.connect([this] { apply(); });
+  cmdCancel.onClick.connect([this] { close(); });
+  cmdHelp.onClick.connect([this] { showHelpTopic(services_.help, "mainInput.htm#SplitFactor"); });
+  onDeactivate.connect([this] { close(); });
 }
 
 void frmOptions::show() {

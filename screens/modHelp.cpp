@@ -64,8 +64,8 @@ frmHelp::frmHelp(Desk& desk) : Window(desk, "frmHelp") {
   setCaption("Help Screen");
   imgMap.setVisible(false);
   imgLift.setVisible(false);
-  Command1.onClick = [this] { close(); };
-  onDeactivate = [this] { close(); };
+  Command1.onClick.connect([this] { close(); });
+  onDeactivate.connect([this] { close(); });
 }
 
 void showHelpTopic(HelpService& help, const std::string& topic) {
@@ -78,7 +78,7 @@ void showHelpNote(frmHelp& window, const std::string& text, const std::string& t
   window.buttonTop = height - 1000;
   window.lblOutput.setCaption(text);
   window.setCaption("Help - " + title);
-  if (window.onNote) window.onNote({title, text, height});
+  window.onNote({title, text, height});
 }
 
 void openWithShell(Desk& desk, Services& services, const std::filesystem::path& path) {

@@ -23,10 +23,10 @@ BatchResults::BatchResults(Frame& container, Services& services, ProgramState& s
       trend_(trend),
       host_(host) {
   pnlBatchSteps.setVisible(false);
-  cmdBatchStep[0].onClick = [this] { LoadBatchResults(step_ + 1); };
-  cmdBatchStep[1].onClick = [this] { LoadBatchResults(step_ - 1); };
-  cmdExcel.onClick = [this] { exportVariable(); };
-  theResults.onExcel = [this] { exportFixed(); };
+  cmdBatchStep[0].onClick.connect([this] { LoadBatchResults(step_ + 1); });
+  cmdBatchStep[1].onClick.connect([this] { LoadBatchResults(step_ - 1); });
+  cmdExcel.onClick.connect([this] { exportVariable(); });
+  theResults.onExcel.connect([this] { exportFixed(); });
   theResults.trendedVariables = [this] {
     std::vector<Results::TrendedVariable> variables;
     for (const BatchProcess& process : trend_.ProcessCollection) {

@@ -60,36 +60,32 @@ void BatchSetupPane::makeControls() {
 
 void BatchSetupPane::wire() {
   for (std::size_t i = 0; i < optBatchVariable.size(); ++i) {
-    optBatchVariable[i]->onClick = [this, i] {
+    optBatchVariable[i]->onClick.connect([this, i] {
       SetVariableLabels(static_cast<double>(i));
       showCropHint();
       showPreview();
-    };
+    });
   }
   for (const auto& way : optBatchOption)
-    way->onClick = [this] { showPreview(); };
+    way->onClick.connect([this] { showPreview(); });
   const auto takeAutomatic = [this] {
     turnOn(batchOptions, TrendValuesKind::automatic);
     showPreview();
   };
   for (TextBox& box : txtBatchMinimum)
-    box.onChange = takeAutomatic;
-  cboBatchSteps.onChange = takeAutomatic;
-  cboBatchSteps.onClick = [this] { showPreview(); };
-  txtBatchList.onChange = [this] {
+    box.onChange.connect(takeAutomatic);
+  cboBatchSteps.onChange.connect(takeAutomatic);
+  cboBatchSteps.onClick.connect([this] { showPreview(); });
+  txtBatchList.onChange.connect([this] {
     turnOn(batchOptions, TrendValuesKind::manual);
     showPreview();
-  };
-  cboCrops.onClick = [this] { showCropUnits(); };
-  cboCrops.onChange = [this] { showCropHint(); };
-  cmdOpenBatch.onClick = [this] { chooseFile(); };
-  Command10.onClick = [this] { goBack(); };
-  cmdBatchIt.onClick = [this] {
-    if (onRun) onRun();
-  };
-  cmdHelp.onHelp = [this](int index) {
-    if (onHelp) onHelp(index);
-  };
+  });
+  cboCrops.onClick.connect([this] { showCropUnits(); });
+  cboCrops.onChange.connect([this] { showCropHint(); });
+  cmdOpenBatch.onClick.connect([this] { chooseFile(); });
+  Command10.onClick.connect([this] { goBack(); });
+  cmdBatchIt.onClick.connect([this] { onRun(); });
+  cmdHelp.onHelp.connect([this](int index) { onHelp(index); });
 }
 
 void BatchSetupPane::tell(const Message& message) {

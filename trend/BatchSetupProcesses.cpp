@@ -6,11 +6,11 @@
 namespace verdalis {
 
 void BatchSetupPane::wireProcesses() {
-  cboBatches.onClick = [this] { switchProcess(); };
-  cmdAddBatchProcess.onClick = [this] {
+  cboBatches.onClick.connect([this] { switchProcess(); });
+  cmdAddBatchProcess.onClick.connect([this] {
     if (CheckCurrentProcess()) AddBatchProcess();
-  };
-  cmdDeleteBatch.onClick = [this] { deleteProcess(); };
+  });
+  cmdDeleteBatch.onClick.connect([this] { deleteProcess(); });
 }
 
 bool BatchSetupPane::CheckCurrentProcess() {

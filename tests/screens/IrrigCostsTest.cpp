@@ -19,9 +19,9 @@ class IrrigCosts : public ::testing::Test {
  protected:
   IrrigCosts() {
     pane.areaText = [this] { return area; };
-    pane.onApplied = [this] { ++applied; };
-    pane.onBack = [this] { ++backs; };
-    pane.onHelp = [this](int index) { helped.push_back(index); };
+    listeners.push_back(pane.onApplied.connectScoped([this] { ++applied; }));
+    listeners.push_back(pane.onBack.connectScoped([this] { ++backs; }));
+    listeners.push_back(pane.onHelp.connectScoped([this](int index) { helped.push_back(index); }));
     window.open();
   }
 
@@ -58,6 +58,7 @@ class IrrigCosts : public ::testing::Test {
   Window window{desk, "frmMain", Frame::Scope::transparent};
   TextBox elsewhere{window, "txtElsewhere"};
   IrrigCostsPane pane{window, fakes.services, plant};
+  std::vector<Connection> listeners;
   std::string area = "100";
   int applied = 0;
   int backs = 0;
@@ -409,9 +410,7 @@ TEST_F(IrrigCosts, HelpButtons) {
 }
 
 TEST_F(IrrigCosts, WithoutListenersNothingHappens) {
-  pane.onApplied = nullptr;
-  pane.onBack = nullptr;
-  pane.onHelp = nullptr;
+  listeners.clear();
   pane.Command9.click();
   pane.cmdCancel.click();
   pane.cmdHelp.buttons().front()->click();
