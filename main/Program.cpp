@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "controls/ask.h"
 #include "text/RunTimeError.h"
 
 namespace verdalis {
@@ -40,8 +41,7 @@ bool Program::ended() const {
 
 void Program::tell(const RunTimeError& error) {
   windows.closeUpdating();
-  const Desk::Modal modal(desk);
-  services_.messageBox.show({defaultTitle, error.what(), MessageIcon::critical});
+  ask(desk, services_.messageBox, {defaultTitle, error.what(), MessageIcon::critical});
 }
 
 }  // namespace verdalis

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "controls/ask.h"
 #include "data/SavedInputs.h"
 #include "data/StockDefaults.h"
 #include "data/writeFile.h"
@@ -142,10 +143,7 @@ BestMix frmMain::RunScenario(const std::string& description) {
 
 void frmMain::EnableBatch(bool on) {
   if (on && !state_.TrendNoticeShown) {
-    {
-      const Desk::Modal modal(desk());
-      services_.messageBox.show({"Trend processing enabled", trendNotice, MessageIcon::information});
-    }
+    ask(desk(), services_.messageBox, {"Trend processing enabled", trendNotice, MessageIcon::information});
     state_.TrendNoticeShown = true;
   }
   state_.TrendEnabled = on;
@@ -267,9 +265,9 @@ void frmMain::wirePrinting() {
 void frmMain::Command1_Click() {
   state_.TrendMode = false;
   if (!pneMain.ready()) {
-    const Desk::Modal modal(desk());
-    services_.messageBox.show({"Error", "Please enter all of the necessary information before continuing!",
-                               MessageIcon::exclamation});
+    ask(desk(), services_.messageBox,
+        {"Error", "Please enter all of the necessary information before continuing!",
+         MessageIcon::exclamation});
     return;
   }
   saveInputs();

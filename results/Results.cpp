@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "controls/ask.h"
 #include "model/listIndex.h"
 #include "results/figures.h"
 #include "results/passOver.h"
@@ -139,11 +140,11 @@ void Results::page(std::int16_t direction) {
 
 void Results::saveResult() {
   onSaveOption(option(currentRecord));
-  const Desk::Modal modal(desk());
-  services_.messageBox.show({"Result saved",
-                             "This option has been saved for comparison and is available by clicking the "
-                             "'Summary Table' menu item",
-                             MessageIcon::none, MessageButtons::ok});
+  ask(desk(), services_.messageBox,
+      {"Result saved",
+       "This option has been saved for comparison and is available by clicking the "
+       "'Summary Table' menu item",
+       MessageIcon::none, MessageButtons::ok});
 }
 
 void Results::batchThis() {

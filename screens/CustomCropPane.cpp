@@ -3,6 +3,7 @@
 #include <system_error>
 #include <utility>
 
+#include "controls/ask.h"
 #include "data/StockGrids.h"
 #include "data/writeFile.h"
 #include "model/CropKind.h"
@@ -184,6 +185,7 @@ void CustomCropPane::setGridSize() {
 void CustomCropPane::loadDefaultTable() {
   if (!dgCustom.cell(1, 1).empty()) {
     const MessageAnswer answer = ask(
+        desk(), services_.messageBox,
         {"Load defaults?",
          "Loading default crop values will overwrite any existing data you've entered for this custom crop.  "
          "Continue to load the default crop values?",
@@ -208,13 +210,14 @@ void CustomCropPane::save() {
   const std::optional<std::filesystem::path> path = pathToSave();
   if (!path) return;
   if (txtCustom.text().empty() || dgCustom.cell(1, 1).empty()) {
-    ask({"Not enough information",
+    ask(desk(), services_.messageBox,
+        {"Not enough information",
          "Please enter all of the information above, including information in the data grid",
          MessageIcon::exclamation});
     return;
   }
   leaveOutIfFailing([&] { write(*path); });
-  ask({"Saved", "The custom crop has been saved.", MessageIcon::information});
+  ask(desk(), services_.messageBox, {"Saved", "The custom crop has been saved.", MessageIcon::information});
   reloadRows();
   customAltered = false;
 }
@@ -224,7 +227,8 @@ std::optional<std::filesystem::path> CustomCropPane::pathToSave() {
   const CustomCropEntry* const crop = selectedCrop();
   if (crop != nullptr && crop->name == txtCustom.text()) return crop->path;
   if (crop != nullptr) {
-    const MessageAnswer answer = ask({"Save as new?",
+    const MessageAnswer answer = ask(desk(), services_.messageBox,
+                                     {"Save as new?",
                                       "Do you want to save this as a new custom crop?  Selecting YES will "
                                       "create a new custom crop.",
                                       MessageIcon::question, MessageButtons::yesNoCancel});
@@ -247,14 +251,16 @@ void CustomCropPane::write(const std::filesystem::path& path) {
 void CustomCropPane::copyGrid() {
   services_.clipboard.clear();
   services_.clipboard.setText(spreadsheetText(dgCustom));
-  ask({"Ready to Paste", "Your grid has been copied to your clipboard and can now be pasted into Excel",
+  ask(desk(), services_.messageBox,
+      {"Ready to Paste", "Your grid has been copied to your clipboard and can now be pasted into Excel",
        MessageIcon::exclamation});
 }
 
 void CustomCropPane::pasteGrid() {
   const std::string text = services_.clipboard.text();
   if (!isSpreadsheetNumbers(text)) {
-    ask({"Try again",
+    ask(desk(), services_.messageBox,
+        {"Try again",
          "Non-numeric characters were detected in the data being pasted into the grid.  Please only copy "
          "numeric values from Excel, do not include header rows or any cells with non-numeric characters. "
          "Please try again.",
@@ -262,7 +268,8 @@ void CustomCropPane::pasteGrid() {
     return;
   }
   if (text.empty()) {
-    ask({"Copy from Excel", "Copy your selection from a Microsoft Excel worksheet first!",
+    ask(desk(), services_.messageBox,
+        {"Copy from Excel", "Copy your selection from a Microsoft Excel worksheet first!",
          MessageIcon::exclamation});
     return;
   }
@@ -272,7 +279,8 @@ void CustomCropPane::pasteGrid() {
 void CustomCropPane::goHome() {
   if (customAltered) {
     const MessageAnswer answer =
-        ask({"Are you sure?", "Are you sure?  Any unsaved changes to this custom crop will be lost.",
+        ask(desk(), services_.messageBox,
+            {"Are you sure?", "Are you sure?  Any unsaved changes to this custom crop will be lost.",
              MessageIcon::information, MessageButtons::yesNoCancel});
     if (answer != MessageAnswer::yes) return;
   }
@@ -284,13 +292,14 @@ void CustomCropPane::deleteCrop() {
   const CustomCropEntry* const crop = selectedCrop();
   if (crop == nullptr) return;
   const MessageAnswer answer =
-      ask({"Delete crop?", "Delete " + crop->name, MessageIcon::question, MessageButtons::yesNoCancel});
+      ask(desk(), services_.messageBox,
+          {"Delete crop?", "Delete " + crop->name, MessageIcon::question, MessageButtons::yesNoCancel});
   if (answer != MessageAnswer::yes) return;
   // A file that is protected from writing goes too: only its folder decides about that.
   std::error_code ignored;
   std::filesystem::remove(crop->path, ignored);
   open();
-  ask({"Crop deleted", "Custom crop deleted", MessageIcon::exclamation});
+  ask(desk(), services_.messageBox, {"Crop deleted", "Custom crop deleted", MessageIcon::exclamation});
 }
 
 void CustomCropPane::reloadRows() {
@@ -305,11 +314,6 @@ const CustomCropEntry* CustomCropPane::selectedCrop() const {
   const auto position = static_cast<std::size_t>(index);
   if (index < 1 || position > CustomCropList.size()) return nullptr;
   return &CustomCropList[position - 1];
-}
-
-MessageAnswer CustomCropPane::ask(const Message& message) {
-  const Desk::Modal modal(desk());
-  return services_.messageBox.show(message);
 }
 
 }  // namespace verdalis

@@ -102,7 +102,6 @@ class CustomCropPane : public Frame {
   void deleteCrop();
   void reloadRows();
   [[nodiscard]] const CustomCropEntry* selectedCrop() const;
-  MessageAnswer ask(const Message& message);
 
   Services& services_;
   std::filesystem::path folder_;

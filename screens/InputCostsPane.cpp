@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "controls/ask.h"
 #include "model/StockCrops.h"
 #include "model/checked.h"
 #include "model/stockCosts.h"
@@ -185,8 +186,7 @@ void InputCostsPane::apply() {
   if (activeCrop->isForage()) {
     // What has been stored up to here stays in force: meant.
     if (!isNumeric(txtStand.text())) {
-      const Desk::Modal modal(desk());
-      services_.messageBox.show(
+      ask(desk(), services_.messageBox,
           {defaultTitle, "Please enter a 'Life of Stand' value for the Forage crop", MessageIcon::critical});
       return;
     }

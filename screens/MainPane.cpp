@@ -4,6 +4,7 @@
 #include <limits>
 #include <utility>
 
+#include "controls/ask.h"
 #include "model/LandDivision.h"
 #include "screens/modInputTest.h"
 #include "text/RunTimeError.h"
@@ -114,8 +115,7 @@ void MainPane::warnOfCapacity() {
   if (plant.GPM <= 0 || plant.dblEstHours <= 0) return;
   const double inches = plant.getMaxInches(Val(txtArea.text()));
   if (Val(txtMax.text()) <= inches) return;
-  const Desk::Modal modal(desk());
-  services_.messageBox.show(
+  ask(desk(), services_.messageBox,
       {"Capacity Exceeded",
        "According to the seasonal pumping hours entered on the Irrigation Cost screen of " +
            formatNumber(plant.dblEstHours, "###,###") + " hours, \nyour system cannot pump more than " +

@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 
+#include "controls/ask.h"
 #include "screens/fineFactor.h"
 #include "screens/modHelp.h"
 
@@ -40,10 +41,7 @@ void frmOptions::show() {
 void frmOptions::apply() {
   const FineFactorEntry entry = readFineFactor(txtFineFactor.text());
   if (entry.factor) state_.FineFactor = *entry.factor;
-  if (entry.message) {
-    const Desk::Modal modal(desk());
-    services_.messageBox.show(*entry.message);
-  }
+  if (entry.message) ask(desk(), services_.messageBox, *entry.message);
   if (entry.factor) close();
 }
 

@@ -1,5 +1,7 @@
 #include "screens/modHelp.h"
 
+#include "controls/ask.h"
+
 namespace verdalis {
 
 const std::vector<HelpAction>& helpActions() {
@@ -83,8 +85,7 @@ void showHelpNote(frmHelp& window, const std::string& text, const std::string& t
 
 void openWithShell(Desk& desk, Services& services, const std::filesystem::path& path) {
   if (services.openFile.open(path)) return;
-  const Desk::Modal modal(desk);
-  services.messageBox.show(
+  ask(desk, services.messageBox,
       {defaultTitle,
        "The file " + path.string() +
            " could not be opened by the Verdalis.  Please open the file manually by finding it on your hard "

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "controls/ask.h"
 #include "text/RunTimeError.h"
 #include "text/numbers.h"
 #include "text/quote.h"
@@ -89,8 +90,7 @@ void BatchSetupPane::wire() {
 }
 
 void BatchSetupPane::tell(const Message& message) {
-  const Desk::Modal modal(desk());
-  services_.messageBox.show(message);
+  ask(desk(), services_.messageBox, message);
 }
 
 void BatchSetupPane::ShowBatchScreen() {
@@ -249,12 +249,9 @@ std::int16_t BatchSetupPane::getSelectedIndex(const OptionGroup& buttons) {
 
 void BatchSetupPane::chooseFile() {
   turnOn(batchOptions, TrendValuesKind::import);
-  {
-    const Desk::Modal modal(desk());
-    const auto path =
-        services_.fileChooser.chooseOpen({"Select a file with trend values", host_.home(), "", ""});
-    if (path) lblBatchFile.setCaption(path->string());
-  }
+  const auto path =
+      askToOpen(desk(), services_.fileChooser, {"Select a file with trend values", host_.home(), "", ""});
+  if (path) lblBatchFile.setCaption(path->string());
   showPreview();
 }
 

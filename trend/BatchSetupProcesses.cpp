@@ -1,3 +1,4 @@
+#include "controls/ask.h"
 #include "model/listIndex.h"
 #include "text/RunTimeError.h"
 #include "trend/BatchSetupPane.h"
@@ -105,12 +106,9 @@ void BatchSetupPane::switchProcess() {
 }
 
 void BatchSetupPane::deleteProcess() {
-  MessageAnswer answer = MessageAnswer::no;
-  {
-    const Desk::Modal modal(desk());
-    answer = services_.messageBox.show(
-        {"Delete", "Delete this trend process?", MessageIcon::question, MessageButtons::yesNo});
-  }
+  const MessageAnswer answer =
+      ask(desk(), services_.messageBox,
+          {"Delete", "Delete this trend process?", MessageIcon::question, MessageButtons::yesNo});
   if (answer == MessageAnswer::yes) {
     auto& processes = trend_.ProcessCollection;
     const std::size_t place = listIndex(cboBatches.index() + 1L, processes.size());
