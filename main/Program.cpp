@@ -41,7 +41,7 @@ bool Program::ended() const {
 
 void Program::tell(const RunTimeError& error) {
   windows.closeUpdating();
-  ask(desk, services_.messageBox, {defaultTitle, error.what(), MessageIcon::critical});
+  ask(desk, services_.messageBox, {defaultTitle, error.what(), MessageKind::failure, MessageIcon::critical});
 }
 
 }  // namespace verdalis

@@ -143,7 +143,8 @@ BestMix frmMain::RunScenario(const std::string& description) {
 
 void frmMain::EnableBatch(bool on) {
   if (on && !state_.TrendNoticeShown) {
-    ask(desk(), services_.messageBox, {"Trend processing enabled", trendNotice, MessageIcon::information});
+    ask(desk(), services_.messageBox,
+        {"Trend processing enabled", trendNotice, MessageKind::notice, MessageIcon::information});
     state_.TrendNoticeShown = true;
   }
   state_.TrendEnabled = on;
@@ -266,7 +267,7 @@ void frmMain::Command1_Click() {
   state_.TrendMode = false;
   if (!pneMain.ready()) {
     ask(desk(), services_.messageBox,
-        {"Error", "Please enter all of the necessary information before continuing!",
+        {"Error", "Please enter all of the necessary information before continuing!", MessageKind::refusal,
          MessageIcon::exclamation});
     return;
   }

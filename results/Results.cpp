@@ -144,7 +144,7 @@ void Results::saveResult() {
       {"Result saved",
        "This option has been saved for comparison and is available by clicking the "
        "'Summary Table' menu item",
-       MessageIcon::none, MessageButtons::ok});
+       MessageKind::notice, MessageIcon::none, MessageButtons::ok});
 }
 
 void Results::batchThis() {

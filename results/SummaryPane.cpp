@@ -132,9 +132,9 @@ void SummaryPane::addField(Field& field, int column) {
 }
 
 void SummaryPane::removeClicked() {
-  const MessageAnswer answer = ask(
-      desk(), services_.messageBox,
-      {"Delete?", "Do you want to delete this saved result?", MessageIcon::question, MessageButtons::yesNo});
+  const MessageAnswer answer = ask(desk(), services_.messageBox,
+                                   {"Delete?", "Do you want to delete this saved result?",
+                                    MessageKind::question, MessageIcon::question, MessageButtons::yesNo});
   if (answer != MessageAnswer::yes) return;
   // An option counts for one column more than it has fields, so the columns agree with those of the table for
   // the first option only. That is meant.

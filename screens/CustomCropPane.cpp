@@ -189,7 +189,7 @@ void CustomCropPane::loadDefaultTable() {
         {"Load defaults?",
          "Loading default crop values will overwrite any existing data you've entered for this custom crop.  "
          "Continue to load the default crop values?",
-         MessageIcon::question, MessageButtons::yesNo});
+         MessageKind::question, MessageIcon::question, MessageButtons::yesNo});
     if (answer != MessageAnswer::yes) return;
   }
   const int index = cboCustomGrid[5].index();
@@ -213,11 +213,12 @@ void CustomCropPane::save() {
     ask(desk(), services_.messageBox,
         {"Not enough information",
          "Please enter all of the information above, including information in the data grid",
-         MessageIcon::exclamation});
+         MessageKind::refusal, MessageIcon::exclamation});
     return;
   }
   leaveOutIfFailing([&] { write(*path); });
-  ask(desk(), services_.messageBox, {"Saved", "The custom crop has been saved.", MessageIcon::information});
+  ask(desk(), services_.messageBox,
+      {"Saved", "The custom crop has been saved.", MessageKind::notice, MessageIcon::information});
   reloadRows();
   customAltered = false;
 }
@@ -227,11 +228,12 @@ std::optional<std::filesystem::path> CustomCropPane::pathToSave() {
   const CustomCropEntry* const crop = selectedCrop();
   if (crop != nullptr && crop->name == txtCustom.text()) return crop->path;
   if (crop != nullptr) {
-    const MessageAnswer answer = ask(desk(), services_.messageBox,
-                                     {"Save as new?",
-                                      "Do you want to save this as a new custom crop?  Selecting YES will "
-                                      "create a new custom crop.",
-                                      MessageIcon::question, MessageButtons::yesNoCancel});
+    const MessageAnswer answer =
+        ask(desk(), services_.messageBox,
+            {"Save as new?",
+             "Do you want to save this as a new custom crop?  Selecting YES will "
+             "create a new custom crop.",
+             MessageKind::question, MessageIcon::question, MessageButtons::yesNoCancel});
     // With No the file keeps its name and gets the new name of the crop in its first line.
     if (answer == MessageAnswer::no) return crop->path;
     if (answer != MessageAnswer::yes) return std::nullopt;
@@ -253,7 +255,7 @@ void CustomCropPane::copyGrid() {
   services_.clipboard.setText(spreadsheetText(dgCustom));
   ask(desk(), services_.messageBox,
       {"Ready to Paste", "Your grid has been copied to your clipboard and can now be pasted into Excel",
-       MessageIcon::exclamation});
+       MessageKind::notice, MessageIcon::exclamation});
 }
 
 void CustomCropPane::pasteGrid() {
@@ -264,13 +266,13 @@ void CustomCropPane::pasteGrid() {
          "Non-numeric characters were detected in the data being pasted into the grid.  Please only copy "
          "numeric values from Excel, do not include header rows or any cells with non-numeric characters. "
          "Please try again.",
-         MessageIcon::exclamation});
+         MessageKind::refusal, MessageIcon::exclamation});
     return;
   }
   if (text.empty()) {
     ask(desk(), services_.messageBox,
         {"Copy from Excel", "Copy your selection from a Microsoft Excel worksheet first!",
-         MessageIcon::exclamation});
+         MessageKind::refusal, MessageIcon::exclamation});
     return;
   }
   pasteSpreadsheet(dgCustom, text);
@@ -281,7 +283,7 @@ void CustomCropPane::goHome() {
     const MessageAnswer answer =
         ask(desk(), services_.messageBox,
             {"Are you sure?", "Are you sure?  Any unsaved changes to this custom crop will be lost.",
-             MessageIcon::information, MessageButtons::yesNoCancel});
+             MessageKind::question, MessageIcon::information, MessageButtons::yesNoCancel});
     if (answer != MessageAnswer::yes) return;
   }
   reloadRows();
@@ -291,15 +293,16 @@ void CustomCropPane::goHome() {
 void CustomCropPane::deleteCrop() {
   const CustomCropEntry* const crop = selectedCrop();
   if (crop == nullptr) return;
-  const MessageAnswer answer =
-      ask(desk(), services_.messageBox,
-          {"Delete crop?", "Delete " + crop->name, MessageIcon::question, MessageButtons::yesNoCancel});
+  const MessageAnswer answer = ask(desk(), services_.messageBox,
+                                   {"Delete crop?", "Delete " + crop->name, MessageKind::question,
+                                    MessageIcon::question, MessageButtons::yesNoCancel});
   if (answer != MessageAnswer::yes) return;
   // A file that is protected from writing goes too: only its folder decides about that.
   std::error_code ignored;
   std::filesystem::remove(crop->path, ignored);
   open();
-  ask(desk(), services_.messageBox, {"Crop deleted", "Custom crop deleted", MessageIcon::exclamation});
+  ask(desk(), services_.messageBox,
+      {"Crop deleted", "Custom crop deleted", MessageKind::notice, MessageIcon::exclamation});
 }
 
 void CustomCropPane::reloadRows() {

@@ -187,7 +187,8 @@ void InputCostsPane::apply() {
     // What has been stored up to here stays in force: meant.
     if (!isNumeric(txtStand.text())) {
       ask(desk(), services_.messageBox,
-          {defaultTitle, "Please enter a 'Life of Stand' value for the Forage crop", MessageIcon::critical});
+          {defaultTitle, "Please enter a 'Life of Stand' value for the Forage crop", MessageKind::refusal,
+           MessageIcon::critical});
       return;
     }
     store(standGroup);

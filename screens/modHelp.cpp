@@ -90,7 +90,7 @@ void openWithShell(Desk& desk, Services& services, const std::filesystem::path& 
        "The file " + path.string() +
            " could not be opened by the Verdalis.  Please open the file manually by finding it on your hard "
            "drive.",
-       MessageIcon::none, MessageButtons::ok});
+       MessageKind::failure, MessageIcon::none, MessageButtons::ok});
 }
 
 }  // namespace verdalis

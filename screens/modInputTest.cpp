@@ -47,7 +47,7 @@ void testInput(TextBox* control, double limit, const std::string& label, Message
 }
 
 void showInputError(const std::string& message, TextBox& control, MessageBoxService& messageBox) {
-  ask(control.desk(), messageBox, {"Input error", message, MessageIcon::exclamation});
+  ask(control.desk(), messageBox, {"Input error", message, MessageKind::refusal, MessageIcon::exclamation});
   try {
     if (control.canUndo()) control.undo();
   } catch (const RunTimeError&) {

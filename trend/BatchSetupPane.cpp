@@ -123,7 +123,7 @@ void BatchSetupPane::openFixed() {
 
 bool BatchSetupPane::openVariable() {
   if (!host_.ready()) {
-    tell({"Error", "Please enter all of the necessary information before continuing!",
+    tell({"Error", "Please enter all of the necessary information before continuing!", MessageKind::refusal,
           MessageIcon::exclamation, MessageButtons::ok});
     return false;
   }
@@ -154,8 +154,8 @@ TrendReading BatchSetupPane::readValues(bool validate) const {
   if (optBatchOption[1]->checked()) return readValuesFile(lblBatchFile.caption(), validate);
   if (optBatchOption[2]->checked()) return readValuesList(txtBatchList.text(), validate);
   return {{},
-          Message{defaultTitle, "Please select an option for trend processing", MessageIcon::none,
-                  MessageButtons::ok}};
+          Message{defaultTitle, "Please select an option for trend processing", MessageKind::notice,
+                  MessageIcon::none, MessageButtons::ok}};
 }
 
 std::optional<Message> BatchSetupPane::refuseCrop(const std::string& cropName) const {
@@ -166,7 +166,7 @@ std::optional<Message> BatchSetupPane::refuseCrop(const std::string& cropName) c
       "There is no crop " + quoteForMessage(cropName) +
           " among the crops of the main screen. Select a crop of the list \"Crop:\" that is there, "
           "or a variable that applies to all crops.",
-      MessageIcon::exclamation, MessageButtons::ok};
+      MessageKind::refusal, MessageIcon::exclamation, MessageButtons::ok};
 }
 
 std::optional<BatchProcess> BatchSetupPane::GetBatchProcess(const std::string& cropName, bool validate) {

@@ -106,9 +106,9 @@ void BatchSetupPane::switchProcess() {
 }
 
 void BatchSetupPane::deleteProcess() {
-  const MessageAnswer answer =
-      ask(desk(), services_.messageBox,
-          {"Delete", "Delete this trend process?", MessageIcon::question, MessageButtons::yesNo});
+  const MessageAnswer answer = ask(desk(), services_.messageBox,
+                                   {"Delete", "Delete this trend process?", MessageKind::question,
+                                    MessageIcon::question, MessageButtons::yesNo});
   if (answer == MessageAnswer::yes) {
     auto& processes = trend_.ProcessCollection;
     const std::size_t place = listIndex(cboBatches.index() + 1L, processes.size());

@@ -70,7 +70,7 @@ void exportForSpreadsheet(Desk& desk, Services& services, const std::filesystem:
              "' is either currently open by another program or is unaccessible at the moment.\nPlease check "
              "the file and try again.  Error #" +
              std::to_string(error->number) + " -> " + error->description,
-         MessageIcon::exclamation, MessageButtons::ok});
+         MessageKind::failure, MessageIcon::exclamation, MessageButtons::ok});
     return;
   }
   const MessageAnswer answer =
@@ -78,7 +78,7 @@ void exportForSpreadsheet(Desk& desk, Services& services, const std::filesystem:
           {"Export Complete",
            "The Microsoft Excel worksheet '" + path->string() +
                "' has been created successfully!\nDo you want to open this file now?",
-           MessageIcon::information, MessageButtons::yesNo});
+           MessageKind::question, MessageIcon::information, MessageButtons::yesNo});
   if (answer == MessageAnswer::yes) openWithShell(desk, services, *path);
 }
 
