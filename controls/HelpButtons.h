@@ -18,7 +18,11 @@ class HelpButtons {
 
   [[nodiscard]] const std::vector<std::unique_ptr<Button>>& buttons() const { return buttons_; }
 
+  /// The button of an index; nullptr where the pane has none.
+  [[nodiscard]] Button* button(int index) const;
+
  private:
+  std::vector<int> indices_;
   std::vector<std::unique_ptr<Button>> buttons_;
 };
 

@@ -153,8 +153,8 @@ void MainWindow::bringIntoSight(QWidget* focus) const {
 }
 
 void MainWindow::showHelpOfFocus() {
-  const QString name = helpOf(QApplication::focusWidget());
-  auto* button = name.isEmpty() ? nullptr : findChild<QPushButton*>(name);
+  const Control* help = helpOf(QApplication::focusWidget());
+  auto* button = help == nullptr ? nullptr : qobject_cast<QPushButton*>(binder_.widget(*help));
   if (button != nullptr && button->isVisible()) {
     button->click();
   } else {

@@ -87,7 +87,7 @@ class InputCostsPane : public Frame {
 
   /// The fields in the order in which they are shown, and their groups.
   [[nodiscard]] static std::span<const InputCostsField> fields();
-  [[nodiscard]] static std::span<const FieldGroup> groups();
+  [[nodiscard]] static std::span<const FieldGroup<InputCostsPane>> groups();
 
   /// Shows the costs of a crop; the pane is shown by then. \throws RunTimeError without a crop, and
   /// (overflow) when a subtotal is too large, with all fields filled.

@@ -19,20 +19,20 @@ namespace {
 /// meant.
 constexpr double hintGallonsPerAcreInch = 27154.2876;
 
-enum Group { costGroup, pumpingGroup };
-
-constexpr std::array<FieldGroup, 2> paneGroups{{
-    {.heading = "Variable Irrigation Costs",
-     .resultLabel = "Irrigation Costs Subtotal:",
-     .resultControl = "lblICosts",
-     .note = "*subtotal does not include labor costs"},
-    {.heading = "How much are you pumping?",
-     .resultControl = "lblInchHint",
-     .note = "*this figure is for your information only"},
-}};
-
 using Pane = IrrigCostsPane;
 using Plant = IrrigationCosts;
+
+enum Group { costGroup, pumpingGroup };
+
+constexpr std::array<FieldGroup<Pane>, 2> paneGroups{{
+    {.heading = "Variable Irrigation Costs",
+     .resultLabel = "Irrigation Costs Subtotal:",
+     .resultControl = &Pane::lblICosts,
+     .note = "*subtotal does not include labor costs"},
+    {.heading = "How much are you pumping?",
+     .resultControl = &Pane::lblInchHint,
+     .note = "*this figure is for your information only"},
+}};
 
 constexpr std::array<IrrigCostsField, 8> paneFields{{
     {.row = {.control = "txtGPM",
@@ -62,8 +62,7 @@ constexpr std::array<IrrigCostsField, 8> paneFields{{
      .box = &Pane::txtPSI,
      .value = &Plant::PSI},
     {.row = {.control = "cboFuelType", .group = costGroup, .label = "Fuel Type", .helpIndex = 18},
-     .box = nullptr,
-     .value = nullptr},
+     .list = &Pane::cboFuelType},
     {.row = {.control = "txtCost",
              .group = costGroup,
              .label = "Fuel Cost",
@@ -130,7 +129,7 @@ std::span<const IrrigCostsField> IrrigCostsPane::fields() {
   return paneFields;
 }
 
-std::span<const FieldGroup> IrrigCostsPane::groups() {
+std::span<const FieldGroup<IrrigCostsPane>> IrrigCostsPane::groups() {
   return paneGroups;
 }
 

@@ -109,6 +109,8 @@ TEST_F(IrrigCosts, RowsAndControlsBelongTogether) {
     EXPECT_EQ(row.helpIndex, expected[i].help);
     if (fields[i].box != nullptr) {
       EXPECT_EQ((pane.*fields[i].box).name(), row.control);
+    } else {
+      EXPECT_EQ((pane.*fields[i].list).name(), row.control);
     }
     EXPECT_EQ(desk.find(row.control)->container(), &pane);
   }
@@ -120,10 +122,10 @@ TEST_F(IrrigCosts, GroupsNameTheirControls) {
   EXPECT_EQ(groups[0].heading, "Variable Irrigation Costs");
   EXPECT_EQ(groups[0].resultLabel, "Irrigation Costs Subtotal:");
   EXPECT_EQ(groups[0].note, "*subtotal does not include labor costs");
-  EXPECT_EQ(desk.find(groups[0].resultControl), &pane.lblICosts);
+  EXPECT_EQ(&(pane.*groups[0].resultControl), &pane.lblICosts);
   EXPECT_EQ(groups[1].heading, "How much are you pumping?");
   EXPECT_EQ(groups[1].note, "*this figure is for your information only");
-  EXPECT_EQ(desk.find(groups[1].resultControl), &pane.lblInchHint);
+  EXPECT_EQ(&(pane.*groups[1].resultControl), &pane.lblInchHint);
 }
 
 TEST_F(IrrigCosts, LimitsAtAndAboveThem) {
