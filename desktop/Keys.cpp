@@ -160,13 +160,13 @@ void showCaption(QAbstractButton* button, const std::string& caption) {
 }
 
 void setHelp(QWidget* widget, const Control* button) {
-  if (button != nullptr) widget->setProperty(helpProperty, qText(button->path()));
+  if (button != nullptr) widget->setProperty(helpProperty, QVariant::fromValue(button));
 }
 
-QString helpOf(const QWidget* widget) {
+const Control* helpOf(const QWidget* widget) {
   while (widget != nullptr && !widget->property(helpProperty).isValid())
     widget = widget->parentWidget();
-  return widget == nullptr ? QString() : widget->property(helpProperty).toString();
+  return widget == nullptr ? nullptr : widget->property(helpProperty).value<const Control*>();
 }
 
 }  // namespace verdalis::desktop

@@ -36,7 +36,7 @@ void showCaption(QAbstractButton* button, const std::string& caption);
 /// F1 on a widget, or on what stands inside it, opens what this "?" button opens.
 void setHelp(QWidget* widget, const Control* button);
 
-/// The name of the "?" button that F1 presses when the focus is on a widget; empty without one.
-[[nodiscard]] QString helpOf(const QWidget* widget);
+/// The "?" button that F1 presses when the focus is on a widget; nullptr without one.
+[[nodiscard]] const Control* helpOf(const QWidget* widget);
 
 }  // namespace verdalis::desktop

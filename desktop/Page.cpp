@@ -151,27 +151,16 @@ QLineEdit* numberField(int characters) {
   return field;
 }
 
-namespace {
-
-Button* buttonOf(const HelpButtons& buttons, int index) {
-  for (const auto& button : buttons.buttons()) {
-    if (button->name() == "cmdHelp(" + std::to_string(index) + ")") return button.get();
-  }
-  return nullptr;
-}
-
-}  // namespace
-
 void setHelp(QWidget* widget, const HelpButtons& buttons, int index) {
   const auto& actions = helpActions();
   const auto action =
       std::find_if(actions.begin(), actions.end(), [&](const HelpAction& one) { return one.index == index; });
   const bool opens = action != actions.end() && !(action->topic.empty() && action->note.text.empty());
-  if (opens) setHelp(widget, buttonOf(buttons, index));
+  if (opens) setHelp(widget, buttons.button(index));
 }
 
 QPushButton* helpButton(Binder& binder, const HelpButtons& buttons, int index, const QString& what) {
-  Button* button = buttonOf(buttons, index);
+  Button* button = buttons.button(index);
   if (button == nullptr) return nullptr;
   auto* widget = new QPushButton;
   setRole(widget, "help");
