@@ -7,7 +7,7 @@
 
 namespace verdalis {
 
-/// Crops whose name changes the program's behavior. Any other name, also one in different case, is `other`.
+/// Crops whose name changes the program's behaviour. Any other name, also one in different case, is `other`.
 enum class CropKind { other, alfalfa, corn, grainSorghum, soybeans, sunflower, wheat, fallow };
 
 inline constexpr std::array<std::string_view, 8> cropNames{"",         "Alfalfa",   "Corn",  "Grain Sorghum",

@@ -41,7 +41,7 @@ PumpingCosts IrrigationCosts::price(double Depth, double acres, double efficienc
   const double pumpingHours = gross * acres / (GPM / gpmPerAcreInchHour);
   const double hoursUsed = std::isfinite(pumpingHours) ? pumpingHours : hours;
   const double fuel = stepOrZero((waterHorsepower / NPC) * hoursUsed * cost);
-  // Labor is half an hour per acre and season, whatever the depth.
+  // Labour is half an hour per acre and season, whatever the depth.
   return {stepOrZero(acres * 0.5 * LaborPerHour + fuel + acres * RepairsPerAcreInch * gross), hoursUsed};
 }
 

@@ -21,7 +21,7 @@ struct RowLimits {
   double maxYield;  ///< Yield units per acre
 };
 
-/// Fertilizer uptake per unit of yield, lb of nutrient per yield unit (bu., ton or lb).
+/// Fertiliser uptake per unit of yield, lb of nutrient per yield unit (bu., ton or lb).
 struct NutrientRates {
   double nitrogen;
   double phosphorus;
