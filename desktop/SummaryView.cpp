@@ -86,7 +86,7 @@ QWidget* summaryView(SummaryPane& pane, Binder& binder) {
   body->addWidget(binder.bind(pane.Label59, fixedLabel({})));
   auto* table = new SavedOptionsTable(pane.fgsummary);
   body->addWidget(binder.bind(pane.fgsummary, table, QObject::tr("Saved options")), 1);
-  // The heads are cells of the grid: a click on a head selects its column.
+  // The heads are cells of the grid, so a click on a head counts as a click in its column.
   QObject::connect(table->horizontalHeader(), &QHeaderView::sectionClicked, table,
                    [&pane](int column) { pane.fgsummary.clickCell(0, column); });
   QObject::connect(table->verticalHeader(), &QHeaderView::sectionClicked, table,
