@@ -28,7 +28,7 @@ void expectFailure(const CliResult& result, int exitCode, const std::string& err
   EXPECT_EQ(result.err, "verdalis-cli: " + err + "\n");
 }
 
-TEST(Refusal, ValuesOutsideTheirRange) {
+TEST(Refusal, RejectsValuesOutsideTheirRange) {
   const SmallHome home;
   const std::string efficiency = "Irrigation Efficiency %:  Please enter a ";
   const std::string price = "Crop Price - Corn:  Please enter a ";
@@ -49,7 +49,7 @@ TEST(Refusal, ValuesOutsideTheirRange) {
   }
 }
 
-TEST(Refusal, ValuesAboveTheLimitsOfStockCrops) {
+TEST(Refusal, RejectsValuesAboveTheLimitsOfStockCrops) {
   const SmallHome home;
   struct Limit {
     std::string crop;
@@ -76,7 +76,7 @@ TEST(Refusal, ValuesAboveTheLimitsOfStockCrops) {
   }
 }
 
-TEST(Refusal, IncompleteNumbersAreAccepted) {
+TEST(Refusal, AcceptsIncompleteNumbers) {
   const SmallHome home;
   for (const char* text : {"", "-", "."}) {
     EXPECT_EQ(withCorn(home, {"--price", std::string("Corn=") + text}).exitCode, 0) << text;
@@ -84,7 +84,7 @@ TEST(Refusal, IncompleteNumbersAreAccepted) {
   }
 }
 
-TEST(Refusal, InvalidIterationFactor) {
+TEST(Refusal, RejectsAnInvalidIterationFactor) {
   const SmallHome home;
   for (const char* text : {"abc", "", "5x", "1e400"}) {
     expectFailure(withCorn(home, {"--factor", text}), 2,
@@ -96,7 +96,7 @@ TEST(Refusal, InvalidIterationFactor) {
   }
 }
 
-TEST(Refusal, InvalidNumberOfOptions) {
+TEST(Refusal, RejectsAnInvalidNumberOfOptions) {
   const SmallHome home;
   for (const char* text : {"ten", "", "1,000", "5 or 6"}) {
     expectFailure(withCorn(home, {"--keep", text}), 2,
@@ -104,7 +104,7 @@ TEST(Refusal, InvalidNumberOfOptions) {
   }
 }
 
-TEST(Refusal, InvalidLandSplit) {
+TEST(Refusal, RejectsAnInvalidLandSplit) {
   const SmallHome home;
   for (const char* text : {"6", "-1", "half", "", "1.0", "99999999999999999999"}) {
     expectFailure(home.evaluate({"--crop", "Corn", "--split", text}), 2,
@@ -115,7 +115,7 @@ TEST(Refusal, InvalidLandSplit) {
   }
 }
 
-TEST(Refusal, UnknownCrop) {
+TEST(Refusal, RejectsAnUnknownCrop) {
   const SmallHome home;
   const std::string text =
       R"(There is no crop "Maize". The crops are "Corn", "Half", "Plain", "Thirsty", "Fallow".)";
@@ -124,14 +124,14 @@ TEST(Refusal, UnknownCrop) {
   expectFailure(withCorn(home, {"--max-yield", "Maize=1"}), 2, "--max-yield \"Maize=1\": " + text);
 }
 
-TEST(Refusal, FallowHasNoPriceOrYield) {
+TEST(Refusal, RejectsAPriceOrYieldForFallow) {
   const SmallHome home;
   expectFailure(withCorn(home, {"--price", "Fallow=1"}), 2, "--price \"Fallow=1\": Fallow has no price.");
   expectFailure(withCorn(home, {"--max-yield", "Fallow=1"}), 2,
                 "--max-yield \"Fallow=1\": Fallow has no maximum yield.");
 }
 
-TEST(Refusal, UnknownControl) {
+TEST(Refusal, RejectsAnUnknownControl) {
   const SmallHome home;
   for (const char* name : {"txtarea", "cr(5).txtPrice", "frmWelcome.Command1", "frmUpdating", ""}) {
     expectFailure(
@@ -140,7 +140,7 @@ TEST(Refusal, UnknownControl) {
   }
 }
 
-TEST(Refusal, AnAssignmentNeedsAnEqualSign) {
+TEST(Refusal, RejectsAnAssignmentWithoutAnEqualSign) {
   const SmallHome home;
   for (const char* option : {"--set", "--price", "--max-yield"}) {
     expectFailure(withCorn(home, {option, "Corn"}), 2,
@@ -166,7 +166,7 @@ TEST(Refusal, ReportsEverythingThatIsMissing) {
                 head + "acres and inches whose product is at least 1 ac-in.");
 }
 
-TEST(Refusal, InvalidArguments) {
+TEST(Refusal, RejectsInvalidArguments) {
   const SmallHome home;
   const std::string help = "\nRun with --help for the commands and their options.";
   expectFailure(runCli({}), 2, "A subcommand is required" + help);

@@ -82,7 +82,7 @@ class ReportTest : public ::testing::Test {
   }
 };
 
-TEST_F(ReportTest, ResultsReportAsText) {
+TEST_F(ReportTest, TheResultsReportCanBePrintedAsText) {
   const CliResult result = evaluate({"--report", file("r.txt").string()});
   EXPECT_EQ(result.exitCode, 0) << result.err;
   EXPECT_EQ(result.err, "");
@@ -109,7 +109,7 @@ TEST_F(ReportTest, ResultsReportAsText) {
           rule, "", "", "*Net returns to land, management, and irrigation equipment"));
 }
 
-TEST_F(ReportTest, DetailsReportAsText) {
+TEST_F(ReportTest, TheDetailsReportShowsOneField) {
   const CliResult result = evaluate({"--details-report", "1.1=" + file("a=b.txt").string()});
   EXPECT_EQ(result.exitCode, 0) << result.err;
   const std::vector<std::string> lines = linesOf(bytesOf(file("a=b.txt")));

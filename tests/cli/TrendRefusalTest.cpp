@@ -82,7 +82,7 @@ class TrendRefusalTest : public ::testing::Test {
   }
 };
 
-TEST_F(TrendRefusalTest, AFileOfValuesThatCannotBeRead) {
+TEST_F(TrendRefusalTest, RejectsAFileThatCannotBeRead) {
   const auto cannot = [](const std::string& path) {
     return "--values-file: Please select a file! The file " + path + " cannot be read.";
   };
@@ -95,7 +95,7 @@ TEST_F(TrendRefusalTest, AFileOfValuesThatCannotBeRead) {
       "--values-file2: Please select a file! The file none cannot be read.");
 }
 
-TEST_F(TrendRefusalTest, AFileOfValuesWithoutReadPermission) {
+TEST_F(TrendRefusalTest, RejectsAFileWithoutReadPermission) {
   if (::geteuid() == 0) GTEST_SKIP() << "root may read every file";
   const auto secret = home.folder().write("secret.txt", "1,2");
   std::filesystem::permissions(secret, std::filesystem::perms::none);
@@ -103,13 +103,13 @@ TEST_F(TrendRefusalTest, AFileOfValuesWithoutReadPermission) {
                     "--values-file: Please select a file! The file " + secret.string() + " cannot be read.");
 }
 
-TEST_F(TrendRefusalTest, AFileWithoutValues) {
+TEST_F(TrendRefusalTest, RejectsAFileWithoutValues) {
   const std::string empty = home.folder().write("empty.txt", "");
   expectFileRefused(empty, "--values-file: Please select a file! The file " + empty + " is empty.");
   expectFileRefused(home.folder().write("lines.txt", "\r\n\n"), "--values-file: Please select a file!");
 }
 
-TEST_F(TrendRefusalTest, AFileWithAnEntryThatIsNotANumber) {
+TEST_F(TrendRefusalTest, RejectsAFileWithAnEntryThatIsNotANumber) {
   const auto entry = [](const std::string& place, const std::string& path, const std::string& what) {
     return "--values-file: Entry " + place + " of the file " + path + what +
            " Every entry must be a number, with commas only between the numbers, such as 2, 2.5, 3. The end "
@@ -123,7 +123,7 @@ TEST_F(TrendRefusalTest, AFileWithAnEntryThatIsNotANumber) {
   expectFileRefused(large, entry("3", large, ", \"1e999\", is not a number."));
 }
 
-TEST_F(TrendRefusalTest, AFileThatIsNotText) {
+TEST_F(TrendRefusalTest, RejectsAFileThatIsNotText) {
   std::string bytes;
   for (int i = 0; i < 5000; ++i)
     bytes += static_cast<char>(i * 7 % 256 == ',' ? 0 : i * 7 % 256);
@@ -136,7 +136,7 @@ TEST_F(TrendRefusalTest, AFileThatIsNotText) {
     EXPECT_FALSE(std::iscntrl(static_cast<unsigned char>(result.err[i]))) << i;
 }
 
-TEST_F(TrendRefusalTest, AFileWithAMillionValues) {
+TEST_F(TrendRefusalTest, RejectsAFileWithAMillionValues) {
   std::string million;
   for (int i = 0; i < 1'000'000; ++i)
     million += i == 0 ? "12" : ",12";
@@ -156,7 +156,7 @@ TEST_F(TrendRefusalTest, AFileWithAMillionValues) {
                     "--values-file: The file " + path + " has more than 1,000,000 values. Use fewer values.");
 }
 
-TEST_F(TrendRefusalTest, AFileThatIsTooLarge) {
+TEST_F(TrendRefusalTest, RejectsAFileThatIsTooLarge) {
   const std::string path = home.folder().write("large.txt", "1,2");
   std::filesystem::resize_file(path, (std::uintmax_t{32} << 20U) + 1);  // a sparse file takes no disk space
   expectFileRefused(path, "--values-file: The file " + path +
@@ -164,7 +164,7 @@ TEST_F(TrendRefusalTest, AFileThatIsTooLarge) {
                               "a file with fewer values.");
 }
 
-TEST_F(TrendRefusalTest, AListWithoutNumbers) {
+TEST_F(TrendRefusalTest, RejectsAListWithoutNumbers) {
   for (const std::string list : {"x", ",,", "nan", "inf", "1e999", "0x10"}) {
     expectRefused(irrigationCosts + Args{"--values", list},
                   "--values: The list \"" + list +
@@ -172,7 +172,7 @@ TEST_F(TrendRefusalTest, AListWithoutNumbers) {
   }
 }
 
-TEST_F(TrendRefusalTest, NumbersThatAreTooLarge) {
+TEST_F(TrendRefusalTest, RejectsNumbersThatAreTooLarge) {
   const std::string tooLarge = " is too large to calculate with. Check the numbers that were entered.";
   for (const Args& kind : {Args{}, Args{"--option", "1"}}) {
     for (const std::string value : {"1e308", "-1e308"}) {
@@ -196,7 +196,7 @@ TEST_F(TrendRefusalTest, AcceptsANegativeZeroAndIgnoresEmptyEntries) {
   EXPECT_THAT(hole.out, AllOf(HasSubstr("\r\n1,1,,"), HasSubstr("\r\n2,2,,")));
 }
 
-TEST_F(TrendRefusalTest, AnInvalidRange) {
+TEST_F(TrendRefusalTest, RejectsAnInvalidRange) {
   const std::string order = "--from: Please select a maximum value greater than the minimum value!";
   expectRefused(irrigationCosts + range("2", "1", "3"), order);
   expectRefused(irrigationCosts + range("2", "2", "3"), order);
@@ -217,7 +217,7 @@ TEST_F(TrendRefusalTest, AnInvalidRange) {
   }
 }
 
-TEST_F(TrendRefusalTest, RainfallOutsideTheYieldTables) {
+TEST_F(TrendRefusalTest, RejectsRainfallOutsideTheYieldTables) {
   const std::string below =
       "Values for Annual Rainfall cannot be below 11 inches.  Please modify the values.";
   const std::string above = "Values for Annual Rainfall cannot exceed 21 inches.  Please modify the values.";
@@ -233,7 +233,7 @@ TEST_F(TrendRefusalTest, RainfallOutsideTheYieldTables) {
   }
 }
 
-TEST_F(TrendRefusalTest, AnUnknownOption) {
+TEST_F(TrendRefusalTest, RejectsAnUnknownOption) {
   const Args one = irrigationCosts + Args{"--values", "1,2"};
   for (const std::string option : {"0", "-1", "", "1.0", "1x", " 1"}) {
     expectRefused(one + Args{"--option", option},
@@ -244,7 +244,7 @@ TEST_F(TrendRefusalTest, AnUnknownOption) {
                 "--option 18446744073709551615: The evaluation has found 1 option.");
 }
 
-TEST_F(TrendRefusalTest, AnUnknownVariable) {
+TEST_F(TrendRefusalTest, RejectsAnUnknownVariable) {
   const std::string names =
       "0 is \"Crop Price\", 1 is \"General Production Costs\", 2 is \"Maximum Yield\", 3 is \"Irrigation "
       "System Efficiency\", 4 is \"Irrigation Costs\", 5 is \"Annual Rainfall\".";
@@ -258,7 +258,7 @@ TEST_F(TrendRefusalTest, AnUnknownVariable) {
   expectRefused(second, "A trend needs a variable (--variable2 N): " + names);
 }
 
-TEST_F(TrendRefusalTest, AnUnknownCrop) {
+TEST_F(TrendRefusalTest, RejectsAnUnknownCrop) {
   for (const std::string variable : {"0", "1", "2"}) {
     const Args values{"--variable", variable, "--values", "1"};
     expectRefused(values, "This variable belongs to a crop (--trend-crop NAME).");
@@ -271,7 +271,7 @@ TEST_F(TrendRefusalTest, AnUnknownCrop) {
   }
 }
 
-TEST_F(TrendRefusalTest, TooManyCombinations) {
+TEST_F(TrendRefusalTest, RejectsTooManyCombinations) {
   const std::string message = " combinations, and a fixed trend can have at most 32,767. Use fewer values.";
   expectRefused(irrigationCosts + range("1", "2", "32768") + Args{"--option", "1"},
                 "The values make 32,768" + message);
@@ -281,7 +281,7 @@ TEST_F(TrendRefusalTest, TooManyCombinations) {
       "The values make 32,942" + message);
 }
 
-TEST_F(TrendRefusalTest, AnExportThatCannotBeWritten) {
+TEST_F(TrendRefusalTest, ReportsAnExportThatCannotBeWritten) {
   struct Place {
     std::string path;
     std::string why;
@@ -311,7 +311,7 @@ TEST_F(TrendRefusalTest, AnExportThatCannotBeWritten) {
 }
 
 /// The trend runs, and standard error says that the crop name is not used.
-TEST_F(TrendRefusalTest, AnUnusedCropNameIsReported) {
+TEST_F(TrendRefusalTest, ReportsAnUnusedCropName) {
   const auto told = [this](const Args& more) {
     const CliResult result = trend(more + Args{"--values", "1,2"});
     EXPECT_EQ(result.exitCode, 0);

@@ -38,7 +38,7 @@ RunTimeError errorOfText(const std::string& text) {
   return errorOf([&] { static_cast<void>(toDouble(text)); });
 }
 
-TEST(NumericText, AcceptsTheseForms) {
+TEST(NumericText, AcceptsSignsCommasDecimalsAndExponents) {
   const std::vector<std::pair<const char*, double>> cases = {
       {"0", 0},
       {"12", 12},
@@ -76,7 +76,7 @@ TEST(NumericText, AcceptsTheseForms) {
   }
 }
 
-TEST(NumericText, RejectsTheseForms) {
+TEST(NumericText, RejectsTextsThatAreNotOneNumber) {
   for (const char* text :
        {"",    " ",     "   ",     "-",      "+",    ".",     "-.",   ",",    ",5",      "-,5",   "e5",
         ".e5", "1e",    "1e+",     "1e-",    "1e5.", "1e1,0", ".5,0", "1.5,", "1..2",    "1.2.3", "1 2",
