@@ -82,7 +82,7 @@ QWidget* inputCostsView(InputCostsPane& pane, Binder& binder) {
   const Card forage = group(forageHarvestGroup);
   right->addWidget(grain.frame);
   right->addWidget(binder.bind(pane.frmICAlf, static_cast<QWidget*>(forage.frame)));
-  // The forage card lies over the grain card.
+  // The cards share one place: forage costs hide grain costs.
   binder.alsoWatch(pane.frmICAlf,
                    [&pane, frame = grain.frame] { frame->setVisible(!pane.frmICAlf.visible()); });
   auto* others = new QHBoxLayout;

@@ -1,4 +1,4 @@
-// Draws every pane of the program into pictures: verdalis-screenshots FOLDER light|dark SUFFIX HOME.
+// Draws every pane of the program into picture files: verdalis-screenshots FOLDER light|dark SUFFIX HOME.
 
 #include <QApplication>
 #include <QDir>
@@ -124,7 +124,7 @@ void photographSmallWindows(Desktop& desktop, const Photographer& camera) {
     progress.Update();
   QEventLoop wait;
   QTimer::singleShot(400, &wait, &QEventLoop::quit);
-  wait.exec();  // it appears when a run takes a while
+  wait.exec();  // the progress window appears after a short delay
   camera.take(desktop.binder().widget(progress), QStringLiteral("progress"));
   progress.closeByUser();
   QTimer::singleShot(0, [&] {
