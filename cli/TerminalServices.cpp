@@ -5,7 +5,7 @@
 namespace verdalis {
 
 MessageAnswer TerminalServices::show(const Message& message) {
-  if (message.icon == MessageIcon::exclamation) {  // the icon of an input that is not accepted
+  if (message.kind == MessageKind::refusal) {
     if (!refusal_) refusal_ = message.text;
   } else if (message.title == defaultTitle) {
     messages_.tell(message.text);

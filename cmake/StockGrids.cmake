@@ -1,7 +1,7 @@
-# The yield tables of the stock crops as C++, made from the crop files in crops/.
+# Generates the yield tables of the stock crops as C++ from the crop files in crops/.
 #
-# Included, it defines verdalis_stock_grids(TARGET), which gives a target of the current folder the source with the
-# tables; that source is made anew whenever a crop file has changed. Run with -P it writes the source:
+# When included, it defines verdalis_stock_grids(TARGET), which adds the generated source to a target of the current
+# folder. The source is generated again if a crop file changes. When run with -P, it writes the source:
 #   cmake -DCROPS=folder -DOUTPUT=file -P StockGrids.cmake
 
 if(NOT CMAKE_SCRIPT_MODE_FILE)
@@ -14,14 +14,14 @@ if(NOT CMAKE_SCRIPT_MODE_FILE)
       COMMAND ${CMAKE_COMMAND} -DCROPS=${CMAKE_SOURCE_DIR}/crops -DOUTPUT=${output}
               -P ${VERDALIS_STOCK_GRIDS_SCRIPT}
       DEPENDS ${crops} ${VERDALIS_STOCK_GRIDS_SCRIPT}
-      COMMENT "Taking the yield tables from the crop files"
+      COMMENT "Generating the yield tables from the crop files"
       VERBATIM)
     target_sources(${target} PRIVATE ${output})
   endfunction()
   return()
 endif()
 
-# line_of(FILE KEY VARIABLE): the text behind "KEY=" of the file's one line that begins so.
+# line_of(FILE KEY VARIABLE): the text after "KEY=", from the only line in the file that starts with it.
 function(line_of file key variable)
   file(STRINGS ${file} lines REGEX "^${key}=")
   list(LENGTH lines count)
@@ -47,7 +47,7 @@ foreach(file IN LISTS crops)
   string(APPEND rows "    {\"${name}\", \"${first}\", \"${last}\", \"${most}\",\n     \"${values}\"},\n")
 endforeach()
 
-file(WRITE ${OUTPUT} "// Made from the crop files by cmake/StockGrids.cmake: change those.
+file(WRITE ${OUTPUT} "// Generated from the crop files by cmake/StockGrids.cmake. Edit the crop files instead.
 #include \"data/StockGrids.h\"
 
 #include <array>

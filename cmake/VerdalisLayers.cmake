@@ -1,28 +1,28 @@
-# How every target of the project is compiled, and how a layer and its tests become targets.
+# Compiler flags for all targets, and functions that create a layer and its tests.
 
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-  # Paths relative to the source tree let several build folders share the cache.
+  # Paths relative to the source tree allow several build folders to share the cache.
   set(CMAKE_CXX_COMPILER_LAUNCHER
     ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${CMAKE_SOURCE_DIR} CCACHE_NOHASHDIR=1 ${CCACHE_PROGRAM})
 endif()
 
-# The flags of the project's own code. Contraction of a multiplication and an addition into one
-# rounding would change the last bit of a profit, and with it the order of the options.
+# Flags for our own code. Contracting a multiplication and an addition into one rounding would change
+# the last bit of a profit, and with it the order of the options.
 add_library(verdalis_flags INTERFACE)
 target_compile_features(verdalis_flags INTERFACE cxx_std_20)
 target_compile_options(verdalis_flags INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -ffp-contract=off -fno-fast-math)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_GREATER_EQUAL 12
    AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-  # At -O3 GCC 12 wrongly takes "text" + string for overlapping copies.
+  # At -O3, GCC 12 wrongly warns that "text" + string is an overlapping copy.
   target_compile_options(verdalis_flags INTERFACE -Wno-restrict)
 endif()
 target_include_directories(verdalis_flags INTERFACE ${CMAKE_SOURCE_DIR})
 set(CMAKE_CXX_EXTENSIONS OFF)
 
 # verdalis_layer(NAME [LINKS layer...] [LIBS target...])
-# A static library verdalis_NAME of all sources in the folder of that name.
+# Creates the static library verdalis_NAME from all sources in the folder NAME.
 function(verdalis_layer name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "LINKS;LIBS")
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/${name}/*.cpp ${CMAKE_SOURCE_DIR}/${name}/*.h)
@@ -35,8 +35,8 @@ function(verdalis_layer name)
 endfunction()
 
 # verdalis_tests(NAME [LINKS layer...] [LIBS target...])
-# A test program test_NAME of all sources in tests/NAME/, which links the layers named and nothing else.
-# One CTest entry a test suite keeps failures readable and lets CTest use every core.
+# Creates the test program test_NAME from all sources in tests/NAME/. It links only the given layers. Each test is a CTest
+# entry, so that failures are readable and CTest can use every core.
 function(verdalis_tests name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "LINKS;LIBS")
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/${name}/*.cpp)

@@ -131,14 +131,16 @@ void Control::leave() {
 void Control::act(const std::function<void()>& action, bool takesFocus) {
   // The leaving test of the field left behind is an event of its own: whatever comes of it, the action is
   // carried out.
-  desk_->run([&] {
+  Desk& desk = *desk_;
+  const std::weak_ptr<const void> here = life();
+  desk.run([&] {
     if (takesFocus) {
-      desk_->enter(*this, true);
+      desk.enter(*this, true);
     } else {
-      desk_->activate(dynamic_cast<Window*>(&window()));
+      desk.activate(dynamic_cast<Window*>(&window()));
     }
   });
-  desk_->run(action);
+  if (!here.expired()) desk.run(action);
 }
 
 void Frame::setCaption(const std::string& caption) {
@@ -148,9 +150,7 @@ void Frame::setCaption(const std::string& caption) {
 }
 
 void Frame::click() {
-  act([this] {
-    if (onClick) onClick();
-  });
+  act([this] { onClick(); });
 }
 
 Window::Window(Desk& desk, std::string name, Scope scope) : Frame(desk, std::move(name), scope) {
@@ -188,36 +188,39 @@ void Window::closeByUser() {
 void Desk::moveFocus(Control& control) {
   focus_ = &control;
   control.focused();
-  if (onMoveFocus) onMoveFocus(control);
+  onMoveFocus(control);
 }
 
 void Desk::activate(Window* window) {
   if (modals_ > 0 || active_ == window) return;
   Window* const before = std::exchange(active_, window);
-  if (before != nullptr && before->isOpen() && before->onDeactivate) before->onDeactivate();
+  if (before != nullptr && before->isOpen()) before->onDeactivate();
 }
 
 void Desk::enter(Control& control, bool acting) {
+  const std::weak_ptr<const void> here = control.life();
   activate(dynamic_cast<Window*>(&control.window()));
-  if (focus_ == &control) return;
+  if (here.expired() || focus_ == &control) return;
   Control* const before = std::exchange(focus_, &control);
   control.focused();
-  if (before != nullptr && before->onLeave) {
+  if (before != nullptr) {
     before->onLeave();
+    if (here.expired()) return;
     if (focus_ != &control) {
       // A failed test has given the focus back to its field, where it stays; but an action that left the
       // field is carried out all the same, and the focus goes with it.
       if (!acting) return;
       moveFocus(control);
+      if (here.expired()) return;
     }
   }
-  if (control.onEnter) control.onEnter();
+  control.onEnter();
 }
 
 void Desk::leave(Control& control) {
   if (focus_ != &control) return;
   focus_ = nullptr;
-  if (control.onLeave) control.onLeave();
+  control.onLeave();
 }
 
 void Desk::forget(const Control& control) {

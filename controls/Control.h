@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "controls/Event.h"
+
 namespace verdalis {
 
 class Desk;
@@ -31,10 +33,10 @@ enum class ControlKind {
 
 /// A control as data: its state and its events, without layout or painting.
 ///
-/// The program sets state with the set... operations; whoever shows the control is told through `watcher`. A
-/// person acts through operations of their own (click, type, pick, ...), and these run the same path from a
-/// widget, a script line or a test. What the program sets fires the same event as what a person does, where
-/// it really changes something.
+/// The program sets state with the set... operations; whoever shows the control is told through
+/// `onStateChange`. A person acts through operations of their own (click, type, pick, ...), and these run the
+/// same path from a widget, a script line or a test. What the program sets fires the same event as what a
+/// person does, where it really changes something.
 class Control {
  public:
   /// A control of a container, which must outlive it. `name` is that of the program, such as "txtArea" or
@@ -74,11 +76,11 @@ class Control {
   void enter();
   void leave();
 
-  std::function<void()> onEnter;
-  std::function<void()> onLeave;
+  Event<> onEnter;
+  Event<> onLeave;
 
-  /// Called after each change of its state.
-  std::function<void()> watcher;
+  /// After each change of its state.
+  Event<> onStateChange;
 
   /// The desk of its window, which passes people's actions on and knows the focus.
   [[nodiscard]] Desk& desk();
@@ -87,9 +89,11 @@ class Control {
   /// A window of a desk.
   Control(ControlKind kind, Desk& desk, std::string name);
 
-  void changed() const {
-    if (watcher) watcher();
-  }
+  void changed() const { onStateChange(); }
+
+  /// Expires with the control. What goes on after an event looks here, as a listener may have taken the
+  /// control away.
+  [[nodiscard]] std::weak_ptr<const void> life() const { return life_; }
 
   /// Called when the focus comes to it, before onEnter.
   virtual void focused() {}
@@ -108,6 +112,7 @@ class Control {
   bool visible_ = true;
   bool enabled_ = true;
   bool covered_ = false;
+  std::shared_ptr<const void> life_ = std::make_shared<char>();
 };
 
 /// A frame, a pane, a window or a composite control: what contains controls.
@@ -128,7 +133,7 @@ class Frame : public Control {
 
   /// A person clicks on it.
   void click();
-  std::function<void()> onClick;
+  Event<> onClick;
 
  protected:
   Frame(Desk& desk, std::string name, Scope scope)
@@ -152,12 +157,14 @@ class Window : public Frame {
   void open();
   void close();
 
-  /// A person closes it by its frame. Without a handler it just closes.
+  /// A person closes it by its frame.
   void closeByUser();
+
+  /// What that does in place of closing it. It is a handler and no event, as one alone can decide.
   std::function<void()> onCloseByUser;
 
   /// It was active, and now another window of the program, or none, is.
-  std::function<void()> onDeactivate;
+  Event<> onDeactivate;
 };
 
 /// What all windows of the program share: the focus, the active window, and the one place where people's
@@ -168,13 +175,14 @@ class Desk {
   Desk(const Desk&) = delete;
   Desk& operator=(const Desk&) = delete;
 
-  /// Tells a run-time error to the user. Without it the error goes on to the caller.
+  /// Tells a run-time error to the user. Without it the error goes on to the caller, so it is a handler and
+  /// no event.
   std::function<void(const class RunTimeError&)> onRunTimeError;
 
   /// The program moves the focus, without the leaving test of the control that had it. Whoever shows it
   /// follows.
   void moveFocus(Control& control);
-  std::function<void(Control&)> onMoveFocus;
+  Event<Control&> onMoveFocus;
 
   [[nodiscard]] Control* focus() const { return focus_; }
   [[nodiscard]] const std::vector<Window*>& windows() const { return windows_; }

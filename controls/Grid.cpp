@@ -71,21 +71,18 @@ void Grid::setCurrent(int row, int column) {
 void Grid::clickCell(int row, int column) {
   act([&] {
     if (!inside(row, column)) return;
+    const std::weak_ptr<const void> here = life();
     setCurrent(row, column);
-    if (onClick) onClick();
+    if (!here.expired()) onClick();
   });
 }
 
 void Grid::typeCharacter(const std::string& character) {
-  act([&] {
-    if (onCharacter) onCharacter(character);
-  });
+  act([&] { onCharacter(character); });
 }
 
 void Grid::pressKey(GridKey key) {
-  act([&] {
-    if (onKey) onKey(key);
-  });
+  act([&] { onKey(key); });
 }
 
 void Grid::gridChanged() {

@@ -1,12 +1,12 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "controls/Control.h"
+#include "controls/Event.h"
 
 namespace verdalis {
 
@@ -58,9 +58,9 @@ class Grid : public Control {
   void typeCharacter(const std::string& character);
   void pressKey(GridKey key);
 
-  std::function<void()> onClick;
-  std::function<void(const std::string&)> onCharacter;
-  std::function<void(GridKey)> onKey;
+  Event<> onClick;
+  Event<const std::string&> onCharacter;
+  Event<GridKey> onKey;
 
  private:
   [[nodiscard]] bool inside(int row, int column) const {

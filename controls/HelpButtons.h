@@ -1,9 +1,9 @@
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <vector>
 
+#include "controls/Event.h"
 #include "controls/displays.h"
 
 namespace verdalis {
@@ -14,11 +14,15 @@ class HelpButtons {
  public:
   HelpButtons(Frame& container, const std::vector<int>& indices);
 
-  std::function<void(int)> onHelp;
+  Event<int> onHelp;
 
   [[nodiscard]] const std::vector<std::unique_ptr<Button>>& buttons() const { return buttons_; }
 
+  /// The button of an index; nullptr where the pane has none.
+  [[nodiscard]] Button* button(int index) const;
+
  private:
+  std::vector<int> indices_;
   std::vector<std::unique_ptr<Button>> buttons_;
 };
 

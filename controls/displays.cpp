@@ -11,9 +11,7 @@ void Captioned::setCaption(const std::string& caption) {
 }
 
 void Button::click() {
-  act([this] {
-    if (onClick) onClick();
-  });
+  act([this] { onClick(); });
 }
 
 void MenuEntry::setChecked(bool checked) {
@@ -23,11 +21,7 @@ void MenuEntry::setChecked(bool checked) {
 }
 
 void MenuEntry::click() {
-  act(
-      [this] {
-        if (onClick) onClick();
-      },
-      false);
+  act([this] { onClick(); }, false);
 }
 
 void ProgressBar::setValue(double value) {
@@ -44,14 +38,16 @@ void ScrollBar::setValue(int value) {
   const int inside = std::clamp(value, 0, maximum_);
   if (inside == value_) return;
   value_ = inside;
+  const std::weak_ptr<const void> here = life();
   changed();
-  if (onChange) onChange();
+  if (!here.expired()) onChange();
 }
 
 void ScrollBar::setMaximum(int maximum) {
   maximum_ = std::max(maximum, 0);
+  const std::weak_ptr<const void> here = life();
   changed();
-  setValue(value_);
+  if (!here.expired()) setValue(value_);
 }
 
 void ScrollBar::scroll(int value) {

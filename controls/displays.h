@@ -1,10 +1,10 @@
 #pragma once
 
-#include <functional>
 #include <string>
 #include <utility>
 
 #include "controls/Control.h"
+#include "controls/Event.h"
 
 namespace verdalis {
 
@@ -35,7 +35,7 @@ class Button : public Captioned {
 
   /// A person presses it.
   void click();
-  std::function<void()> onClick;
+  Event<> onClick;
 };
 
 /// An entry of the menu bar, or a whole menu. It takes no focus.
@@ -51,7 +51,7 @@ class MenuEntry : public Captioned {
   void setChecked(bool checked);
 
   void click();
-  std::function<void()> onClick;
+  Event<> onClick;
 
  private:
   MenuEntry* menu_;
@@ -90,7 +90,7 @@ class ScrollBar : public Control {
 
   /// A person moves it; beyond the ends it stops there. Where it stands already, the focus stays away.
   void scroll(int value);
-  std::function<void()> onChange;
+  Event<> onChange;
 
  private:
   int value_ = 0;

@@ -3,13 +3,6 @@
 #include <algorithm>
 
 namespace verdalis {
-namespace {
-
-void fire(const std::function<void()>& event) {
-  if (event) event();
-}
-
-}  // namespace
 
 void TextBox::setText(const std::string& text) {
   before_ = text;
@@ -19,7 +12,9 @@ void TextBox::setText(const std::string& text) {
 
 void TextBox::type(const std::string& text) {
   act([&] {
-    fire(onKey);
+    const std::weak_ptr<const void> here = life();
+    onKey();
+    if (here.expired()) return;
     edited_ = edited_ || text != text_;
     replace(text);
   });
@@ -38,8 +33,9 @@ void TextBox::focused() {
 void TextBox::replace(const std::string& text) {
   if (text == text_) return;
   text_ = text;
+  const std::weak_ptr<const void> here = life();
   changed();
-  fire(onChange);
+  if (!here.expired()) onChange();
 }
 
 ComboBox::ComboBox(Frame& container, std::string name, Style style, std::vector<std::string> items,
@@ -89,8 +85,9 @@ void ComboBox::pick(int index) {
 void ComboBox::select(int index) {
   index_ = index;
   text_ = items_[static_cast<std::size_t>(index)];
+  const std::weak_ptr<const void> here = life();
   changed();
-  if (enabled()) fire(onClick);
+  if (!here.expired() && enabled()) onClick();
 }
 
 void ComboBox::replace(const std::string& text) {
@@ -99,9 +96,11 @@ void ComboBox::replace(const std::string& text) {
   const int before = index_;
   text_ = text;
   index_ = entry == items_.end() ? -1 : static_cast<int>(entry - items_.begin());
+  const std::weak_ptr<const void> here = life();
   changed();
-  fire(onChange);
-  if (index_ >= 0 && index_ != before && enabled()) fire(onClick);
+  if (here.expired()) return;
+  onChange();
+  if (!here.expired() && index_ >= 0 && index_ != before && enabled()) onClick();
 }
 
 void CheckBox::setCaption(const std::string& caption) {
@@ -113,8 +112,9 @@ void CheckBox::setCaption(const std::string& caption) {
 void CheckBox::setChecked(bool checked) {
   if (checked_ == checked) return;
   checked_ = checked;
+  const std::weak_ptr<const void> here = life();
   changed();
-  fire(onClick);
+  if (!here.expired()) onClick();
 }
 
 void CheckBox::click() {
@@ -147,19 +147,21 @@ OptionButton::OptionButton(Frame& container, std::string name, OptionGroup& grou
 void OptionButton::setChecked(bool checked) {
   if (checked_ == checked) return;
   checked_ = checked;
+  const std::weak_ptr<const void> here = life();
   if (checked) {
     for (OptionButton* other : group_.buttons_) {
       if (other != this) other->setChecked(false);
     }
   }
+  if (here.expired()) return;
   changed();
-  if (checked) fire(onClick);
+  if (!here.expired() && checked) onClick();
 }
 
 void OptionButton::click() {
   act([this] {
     if (checked_) {
-      fire(onClick);
+      onClick();
     } else {
       setChecked(true);
     }

@@ -1,11 +1,11 @@
 #pragma once
 
-#include <functional>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "controls/Control.h"
+#include "controls/Event.h"
 
 namespace verdalis {
 
@@ -27,10 +27,10 @@ class TextBox : public Control {
   /// Back to the text of that moment; nothing to undo is left.
   void undo();
 
-  std::function<void()> onChange;
+  Event<> onChange;
 
   /// A person has pressed a key in it, before the change.
-  std::function<void()> onKey;
+  Event<> onKey;
 
  protected:
   void focused() override;
@@ -72,8 +72,8 @@ class ComboBox : public Control {
   void type(const std::string& text);
   void pick(int index);
 
-  std::function<void()> onChange;  ///< The text has changed
-  std::function<void()> onClick;   ///< An entry has been selected; not while disabled
+  Event<> onChange;  ///< The text has changed
+  Event<> onClick;   ///< An entry has been selected; not while disabled
 
  private:
   void replace(const std::string& text);
@@ -99,7 +99,7 @@ class CheckBox : public Control {
 
   /// A person toggles it.
   void click();
-  std::function<void()> onClick;
+  Event<> onClick;
 
  private:
   std::string caption_;
@@ -136,7 +136,7 @@ class OptionButton : public Control {
 
   /// A person chooses it.
   void click();
-  std::function<void()> onClick;
+  Event<> onClick;
 
  private:
   OptionGroup& group_;

@@ -12,6 +12,13 @@ namespace verdalis {
 // What the platform does for the program. The window carries these out with its toolkit, a script with its
 // answers.
 
+/// What a message is about, which its icon does not tell.
+enum class MessageKind {
+  notice,    ///< Something to know, or to see to first
+  refusal,   ///< An input is not accepted; who cannot ask for another one stops with it
+  question,  ///< The answer decides how it goes on
+  failure    ///< Something did not work
+};
 enum class MessageIcon { none, critical, question, exclamation, information };
 enum class MessageButtons { ok, yesNo, yesNoCancel };
 enum class MessageAnswer { ok, yes, no, cancel };
@@ -22,6 +29,7 @@ inline constexpr const char* defaultTitle = "Verdalis";
 struct Message {
   std::string title;
   std::string text;  ///< Lines are parted by "\n"
+  MessageKind kind = MessageKind::notice;
   MessageIcon icon = MessageIcon::none;
   MessageButtons buttons = MessageButtons::ok;
 };

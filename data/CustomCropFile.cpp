@@ -15,7 +15,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// As many as the largest yield table has.
+/// The number of cells of the largest yield table.
 constexpr std::size_t maxValues = static_cast<std::size_t>(maxTableSide) * maxTableSide;
 
 std::string firstEntry(std::string_view list) {
@@ -27,7 +27,7 @@ std::string lastEntry(std::string_view list) {
   return std::string(comma == std::string_view::npos ? list : list.substr(comma + 1));
 }
 
-/// The text behind the "=" of the next line; nothing where there is no such line.
+/// The text after the "=" of the next line; nothing if there is no such line.
 std::optional<std::string_view> nextItem(LineReader& lines) {
   try {
     return FileReader::parseEquals(lines.next());
@@ -104,7 +104,7 @@ std::vector<CustomCropEntry> findCustomCrops(const fs::path& folder) {
       if (std::optional<std::string> name = nameIn(path))
         crops.push_back({std::move(path), std::move(*name)});
     }
-  } catch (const RunTimeError&) {  // NOLINT(bugprone-empty-catch): a folder that is missing holds no crops
+  } catch (const RunTimeError&) {  // NOLINT(bugprone-empty-catch): a missing folder has no crops
   }
   return crops;
 }
@@ -119,7 +119,7 @@ CustomCropContents readCustomCrop(const fs::path& path) {
   }
   LineReader lines(text);
   if (const auto name = nextItem(lines)) contents.name = *name;
-  // The units are deliberately not read back: the editor keeps those that it shows.
+  // Intended: the units are not loaded; the editor keeps the units it shows.
   passOverLines(lines, 3);
   const auto rain = nextItem(lines);
   if (rain && !rain->empty()) {

@@ -8,55 +8,55 @@
 
 namespace verdalis {
 
-/// A custom crop of the library.
+/// A custom crop in the library.
 struct CustomCropEntry {
   std::filesystem::path path;
   std::string name;
 };
 
-/// What the editor reads back of a crop file. What the file lacks is absent.
+/// The parts of a crop file that the editor loads. A part missing from the file is empty.
 struct CustomCropContents {
   std::optional<std::string> name;
   std::optional<std::string> firstRain;      ///< Inches
   std::optional<std::string> lastRain;       ///< Inches
   std::optional<std::string> maxIrrigation;  ///< Inches
-  std::vector<std::string> values;           ///< The cells of the table, row after row
+  std::vector<std::string> values;           ///< The cells of the table, row by row
 };
 
-/// What the editor writes.
+/// The parts of a crop file that the editor saves.
 struct CustomCropItems {
   std::string name;
-  std::string units;          ///< As chosen; another text than those of yieldUnits counts as bushels
+  std::string units;          ///< As chosen; a text not in yieldUnits counts as bushels
   std::string firstRain;      ///< Inches
   std::string lastRain;       ///< Inches
   std::string maxIrrigation;  ///< Inches
   std::string values;         ///< Comma separated
 };
 
-/// The entries of a comma separated list; an empty text has none. What a list has beyond the cells of the
-/// largest yield table is left out.
+/// Splits a comma separated list; an empty text has no entries. Entries beyond the number of cells of the
+/// largest yield table are ignored.
 [[nodiscard]] std::vector<std::string> commaSeparatedEntries(std::string_view list);
 
-/// The whole inches that a text says.
+/// Reads a whole number of inches.
 /// \throws RunTimeError (typeMismatch, overflow) for any other text.
 [[nodiscard]] int wholeInches(const std::string& text);
 
-/// The custom crops of a folder by the names of their files. A file whose first line gives no name is passed
-/// over, and a missing folder holds none.
+/// The custom crops in a folder, sorted by file name. A file without a name in its first line is skipped. A
+/// missing folder has no crops.
 [[nodiscard]] std::vector<CustomCropEntry> findCustomCrops(const std::filesystem::path& folder);
 
-/// Reads a crop file as far as it goes.
+/// Reads a crop file as far as possible. Does not fail.
 [[nodiscard]] CustomCropContents readCustomCrop(const std::filesystem::path& path);
 
-/// The text of a crop file. Line ends within an item become blanks, for a line of the file is an item; a
-/// range that is no number stays empty.
+/// The text of a crop file. Line ends inside an item become blanks, because each item is one line of the
+/// file. A range whose bounds are not numbers is written empty.
 [[nodiscard]] std::string customCropText(const CustomCropItems& items);
 
-/// The name without the nine characters that a file name cannot have.
+/// Removes the nine characters that a file name cannot contain.
 [[nodiscard]] std::string RemoveIllegals(std::string_view name);
 
-/// The path of a new crop's file: its name without what a file name cannot have. A name of nothing else gives
-/// the file ".txt".
+/// The file path of a new crop: its name without illegal characters, plus ".txt". A name of only illegal
+/// characters gives ".txt".
 [[nodiscard]] std::filesystem::path customCropPath(const std::filesystem::path& folder,
                                                    const std::string& name);
 

@@ -16,11 +16,11 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Cells of all tables that a soils file may ask for: a hundred of the largest ones. Without a bound a file
-/// of many short records that each ask for a large table could keep the start waiting for hours.
+/// Limit for the cells of all tables in a soils file: a hundred of the largest tables. Without it, a file of
+/// many short records with large tables could delay the start by hours.
 constexpr long maxSoilCells = 100L * maxTableSide * maxTableSide;
 
-/// The entries of a comma separated list one after the other; an empty text has none.
+/// Iterates over a comma separated list; an empty text has no entries.
 class ListReader {
  public:
   explicit ListReader(std::string_view text) : rest_(text), more_(!text.empty()) {}
@@ -52,7 +52,7 @@ std::string_view lastEntry(std::string_view list) {
   return comma == std::string_view::npos ? list : list.substr(comma + 1);
 }
 
-/// Reads one crop file over whatever the crop holds.
+/// Reads a crop file into an existing crop, overwriting its values.
 void readCrop(Crop& crop, const fs::path& path) {
   const std::string text = readFile(path);
   crop.Custom = fs::absolute(path).string().find("custom") != std::string::npos;
@@ -127,8 +127,7 @@ bool FileReader::Initialize() {
   fileDirectory /= "custom";
   std::error_code error;
   fs::create_directory(fileDirectory, error);
-  // In a home folder that cannot be written there are no custom crops, and the stock crops are there all the
-  // same.
+  // A home folder that is not writable has no custom crops, but the stock crops are still read.
   if (fs::is_directory(fileDirectory, error)) {
     for (fs::path& path : filesByName(fileDirectory))
       fileCollection.push_back(std::move(path));
@@ -140,7 +139,7 @@ bool FileReader::Initialize() {
     try {
       readCrop(*crop, path);
     } catch (const RunTimeError&) {
-      continue;  // no crop: the next file is read over what this one has left
+      continue;  // not a crop: the next file overwrites what this one left in `crop`
     }
     readSoils(*crop);
     cropCollection.Add(crop);
@@ -154,8 +153,8 @@ bool FileReader::Initialize() {
 void FileReader::readSoils(Crop& crop) const {
   try {
     fs::path file = home_ / "crops" / "soils" / "";
-    file +=
-        lowerCase(crop.cropType) + ".txt";  // appended as text: a name such as "/corn" stays in the folder
+    file += lowerCase(crop.cropType) +
+            ".txt";  // appended as text, so that a name such as "/corn" stays in the folder
     const std::string text = readFile(file);
     LineReader lines(text);
     for (long cells = 0; cells < maxSoilCells && !lines.atEnd();) {
@@ -173,7 +172,7 @@ void FileReader::readSoils(Crop& crop) const {
       if (name == "valentine") crop.soil_valentine = tables;
     }
   } catch (const RunTimeError&) {
-    // No soils file, or one that is cut short: the crop keeps what has been read so far.
+    // The soils file is missing or cut short: the crop keeps what was read so far.
   }
 }
 

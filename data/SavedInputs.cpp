@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::string_view trendToken = "batch_enabled";
 
-/// Takes the file apart into its free-form values.
+/// Splits the file into values.
 class ValueReader {
  public:
   explicit ValueReader(std::string_view text) : rest_(text) {}
@@ -51,8 +51,8 @@ void readCropBlock(ValueReader& values, Crop& crop) {
   values.read(crop.inputCosts, costFields());
 }
 
-/// The row that the block of a crop name is for: the first of that name that has not had one yet, so that two
-/// crops of one name get a block each; once all have had theirs, the first.
+/// The row for a crop block: the first row of that crop name not filled yet, so that two crops of the same
+/// name get one block each. If all are filled, the first.
 Crop* rowFor(std::string_view name, const std::vector<std::shared_ptr<Crop>>& rows,
              std::vector<bool>& filled) {
   Crop* first = nullptr;
@@ -123,7 +123,7 @@ bool loadInputs(const std::filesystem::path& file, SavedInputsTarget& target) {
     readInto(readFile(file), target);
     return true;
   } catch (const RunTimeError&) {
-    return false;  // what has been read so far stays in force
+    return false;  // the values read so far are kept
   }
 }
 

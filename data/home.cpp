@@ -31,7 +31,7 @@ std::optional<fs::path> userDataFolder() {
   return std::nullopt;
 }
 
-/// A folder for work in progress inside another; it is gone at the end of its life.
+/// A temporary folder inside another folder. The destructor removes it.
 class WorkFolder {
  public:
   explicit WorkFolder(const fs::path& parent) {
@@ -54,14 +54,14 @@ class WorkFolder {
   fs::path path_;
 };
 
-/// Copies the stock crops into the data folder, whole or not at all: a second start at the same moment, or
-/// one after a kill, never finds half of them.
+/// Copies the stock crops into the data folder, whole or not at all, so that another start of the program, at
+/// the same time or after a crash, never finds an incomplete copy.
 void copyCrops(const fs::path& stock, const fs::path& dataHome) {
   fs::create_directories(dataHome);
   const WorkFolder work(dataHome);
   const fs::path copy = work.path() / "crops";
   fs::copy(stock, copy, fs::copy_options::recursive);
-  // The installed files may be protected, but these are the user's own.
+  // Installed files may be read-only, but the copies belong to the user.
   fs::permissions(copy, fs::perms::owner_all, fs::perm_options::add);
   for (const fs::directory_entry& entry : fs::recursive_directory_iterator(copy)) {
     fs::permissions(entry.path(), entry.is_directory() ? fs::perms::owner_all : fs::perms::owner_write,

@@ -6,21 +6,21 @@
 
 namespace verdalis {
 
-/// Where the home folder, which holds `crops` and `inputs.txt`, may lie.
+/// Possible places of the home folder, which holds `crops` and `inputs.txt`.
 struct HomePlaces {
   std::filesystem::path programFolder;  ///< Folder of the executable
   std::optional<std::filesystem::path>
-      dataHome;  ///< The user's data folder of this program; none without a user
+      dataHome;  ///< Data folder of this program for the user; empty if the user has no home
   std::vector<std::filesystem::path>
-      stockCrops;  ///< Where the stock crops may lie, the first that exists counts
+      stockCrops;  ///< Possible places of the stock crops; the first that exists is used
 };
 
-/// The places of the running program.
+/// The places for the running program.
 [[nodiscard]] HomePlaces homePlaces();
 
-/// The home folder: the folder of the executable if it holds `crops` and can be written, else the user's data
-/// folder, into which the stock crops are copied when it has no crops yet.
-/// \throws RunTimeError (fileNotFound) when there is none and none can be made
+/// The home folder: the folder of the executable if it contains `crops` and is writable, else the user's data
+/// folder. The stock crops are copied there if it has no crops yet.
+/// \throws RunTimeError (fileNotFound) if there is none and none can be created
 [[nodiscard]] std::filesystem::path homeFolder(const HomePlaces& places);
 
 }  // namespace verdalis

@@ -5,9 +5,9 @@
 
 namespace verdalis {
 
-/// The files of a folder by name, ignoring case. Folders in it are passed over; every file counts, whatever
-/// its extension, hidden ones too. \throws RunTimeError (fileNotFound) when the folder is missing or cannot
-/// be listed.
+/// The files in a folder, sorted by name ignoring case. Includes every extension and hidden files, but no
+/// subfolders.
+/// \throws RunTimeError (fileNotFound) if the folder is missing or cannot be listed.
 [[nodiscard]] std::vector<std::filesystem::path> filesByName(const std::filesystem::path& folder);
 
 }  // namespace verdalis

@@ -21,7 +21,7 @@ std::string readFile(const std::filesystem::path& path) {
   std::string bytes(size, '\0');
   file.read(bytes.data(), static_cast<std::streamsize>(size));
   if (file.bad() || !file.is_open()) fail();
-  bytes.resize(static_cast<std::size_t>(file.gcount()));  // the file may have shrunk since
+  bytes.resize(static_cast<std::size_t>(file.gcount()));  // the file may have shrunk in the meantime
   return decodeText(std::move(bytes));
 }
 

@@ -16,10 +16,10 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// A file that is being written. Until keep() it is removed again.
+/// A temporary file. The destructor removes it unless moveTo() succeeded.
 class TemporaryFile {
  public:
-  /// Its own name is short: that of the file may be as long as the file system takes.
+  /// The temporary name is short, because the target's name may have the maximum length.
   TemporaryFile(const fs::path& beside, mode_t mode)
       : name_((beside.parent_path() / ".saving-XXXXXX").string()) {
     descriptor_ = ::mkstemp(name_.data());
@@ -49,7 +49,7 @@ class TemporaryFile {
  private:
   void close() {
     if (descriptor_ < 0) return;
-    const int cause = errno;  // the reason of the failure outlives the cleaning up
+    const int cause = errno;  // keep the errno of the failure
     ::close(descriptor_);
     ::unlink(name_.c_str());
     descriptor_ = -1;
@@ -68,8 +68,8 @@ mode_t modeFor(const fs::path& target) {
   return 0666U & ~mask;
 }
 
-/// The file that a path stands for behind all links, whether it exists or not.
-/// Nothing when the links form a circle.
+/// Follows all symbolic links of a path; the final file need not exist.
+/// \returns nothing if the links form a loop.
 std::optional<fs::path> behindLinks(fs::path path) {
   constexpr int mostLinks = 40;
   std::error_code error;
@@ -80,15 +80,15 @@ std::optional<fs::path> behindLinks(fs::path path) {
   return std::nullopt;
 }
 
-/// Why a file must not be replaced; 0 when it may.
+/// The errno why a file must not be replaced; 0 if it may be.
 int reasonToRefuse(const fs::path& target) {
   std::error_code error;
   const fs::file_status status = fs::status(target, error);
   if (!fs::exists(status)) return 0;
   if (fs::is_directory(status)) return EISDIR;
-  // A device or a pipe is no place of a file, and renaming a file over it would destroy it.
+  // Renaming a file over a device or a pipe would destroy it.
   if (!fs::is_regular_file(status)) return ENXIO;
-  // A file that its owner has protected is not replaced behind his back.
+  // A write-protected file is not replaced.
   return ::access(target.c_str(), W_OK) == 0 ? 0 : errno;
 }
 

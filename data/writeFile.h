@@ -5,10 +5,11 @@
 
 namespace verdalis {
 
-/// Puts the bytes in the place of a file, whole or not at all: they are written beside it, flushed to disk
-/// and then renamed over it. Whatever fails leaves the old file as it was. A link is followed; the file keeps
-/// its permissions. What is no ordinary file (a folder, a device, a pipe), or is protected from writing, is
-/// not replaced. \throws RunTimeError (fileNotFound) when the file cannot be written; the text says why.
+/// Replaces the contents of a file, whole or not at all: the bytes are written to a temporary file beside it,
+/// flushed to disk, and renamed over it. On failure the old file is unchanged. Symbolic links are followed,
+/// and permissions are kept. Anything but a regular file (a folder, a device, a pipe) and a write-protected
+/// file are not replaced.
+/// \throws RunTimeError (fileNotFound) if the file cannot be written; the text says why.
 void writeFile(const std::filesystem::path& path, std::string_view bytes);
 
 }  // namespace verdalis

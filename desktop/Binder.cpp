@@ -10,7 +10,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
-#include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
@@ -24,8 +23,6 @@
 
 namespace verdalis::desktop {
 namespace {
-
-constexpr int progressSteps = 1000;  // of a bar, whatever the number of steps that it stands for
 
 /// Marks a field that has failed its test, until its text changes or it is left.
 void markFailed(QLineEdit* field, bool failed) {
@@ -89,7 +86,7 @@ QString widgetCaption(const std::string& caption) {
 }
 
 Binder::Binder(Desk& desk, QObject* parent) : QObject(parent), desk_(desk) {
-  desk_.onMoveFocus = [this](Control& control) {
+  focusMoves_ = desk_.onMoveFocus.connectScoped([this](Control& control) {
     QWidget* target = widget(control);
     if (target == nullptr) return;
     target->setFocus(Qt::OtherFocusReason);
@@ -98,7 +95,7 @@ Binder::Binder(Desk& desk, QObject* parent) : QObject(parent), desk_(desk) {
       line->selectAll();
       markFailed(line, true);
     }
-  };
+  });
 }
 
 void Binder::name(Control& control, QWidget* widget, const QString& label) {
@@ -112,20 +109,22 @@ void Binder::name(Control& control, QWidget* widget, const QString& label) {
             controls_.remove(gone);
             windows_.remove(gone);
             // By now another control may live at the same place, with a widget of its own.
-            if (widgets_.value(key) == gone) widgets_.remove(key);
+            if (widgets_.value(key) != gone) return;
+            widgets_.remove(key);
+            watches_.erase(key);
           });
 }
 
 void Binder::watch(Control& control, std::function<void()> update) {
   update();
-  control.watcher = std::move(update);
+  // A control that is shown anew has a new widget, and the one before may be gone.
+  std::vector<Connection>& watches = watches_[&control];
+  watches.clear();
+  watches.push_back(control.onStateChange.connectScoped(std::move(update)));
 }
 
 void Binder::alsoWatch(Control& control, const std::function<void()>& watcher) {
-  control.watcher = [first = control.watcher, watcher] {
-    if (first) first();
-    watcher();
-  };
+  watches_[&control].push_back(control.onStateChange.connectScoped(watcher));
   watcher();
 }
 
@@ -249,18 +248,6 @@ QMenu* Binder::bind(MenuEntry& control, QMenu* menu) {
     menu->menuAction()->setEnabled(control.enabled());
   });
   return menu;
-}
-
-QProgressBar* Binder::bind(ProgressBar& control, QProgressBar* widget, const QString& label) {
-  name(control, widget, label);
-  widget->setRange(0, progressSteps);
-  watch(control, [&control, widget] {
-    const double share =
-        control.maximum() > 0 ? std::clamp(control.value() / control.maximum(), 0.0, 1.0) : 0;
-    const int step = static_cast<int>(share * progressSteps);
-    if (widget->value() != step) widget->setValue(step);
-  });
-  return widget;
 }
 
 QTableWidget* Binder::bind(Grid& control, QTableWidget* widget, const QString& label) {

@@ -4,8 +4,10 @@
 #include <QObject>
 #include <QString>
 #include <functional>
+#include <unordered_map>
 #include <vector>
 
+#include "controls/Event.h"
 #include "controls/Grid.h"
 #include "controls/displays.h"
 #include "controls/inputs.h"
@@ -17,7 +19,6 @@ class QComboBox;
 class QLabel;
 class QLineEdit;
 class QMenu;
-class QProgressBar;
 class QPushButton;
 class QRadioButton;
 class QScrollArea;
@@ -54,7 +55,6 @@ class Binder : public QObject {
   QLabel* bind(Label& control, QLabel* widget, const QString& label = {});
   QAction* bind(MenuEntry& control, QAction* action);
   QMenu* bind(MenuEntry& control, QMenu* menu);
-  QProgressBar* bind(ProgressBar& control, QProgressBar* widget, const QString& label);
   QTableWidget* bind(Grid& control, QTableWidget* widget, const QString& label);
   QScrollBar* bind(ScrollBar& control, QScrollBar* widget, const QString& label);
   QWidget* bind(Image& control, QWidget* widget);
@@ -65,25 +65,28 @@ class Binder : public QObject {
   /// A window: it is shown while it is open, and what a person does to its frame reaches the control.
   void bindWindow(Window& control, QWidget* widget);
 
-  /// A pane, whose page the main window puts in front.
-  void namePane(Frame& control, QWidget* widget) { name(control, widget, {}); }
+  /// Gives a widget its names and the control's focus, without its state: for what shows that in its own way,
+  /// such as a pane, whose page the main window puts in front.
+  void name(Control& control, QWidget* widget, const QString& label = {});
 
   /// The widget of a control; nullptr without one.
   [[nodiscard]] QWidget* widget(const Control& control) const { return widgets_.value(&control); }
   [[nodiscard]] QAction* action(const Control& control) const { return actions_.value(&control); }
 
-  /// Runs after each change of a control, beside what the binding does.
+  /// Runs now and after each change of a control, behind what its binding does, until the control is bound
+  /// anew or its widget goes.
   void alsoWatch(Control& control, const std::function<void()>& watcher);
 
  protected:
   bool eventFilter(QObject* object, QEvent* event) override;
 
  private:
-  void name(Control& control, QWidget* widget, const QString& label);
   void watch(Control& control, std::function<void()> update);
   bool windowEvent(Window& window, QWidget* widget, QEvent* event);
 
   Desk& desk_;
+  Connection focusMoves_;
+  std::unordered_map<const Control*, std::vector<Connection>> watches_;
   QHash<const Control*, QWidget*> widgets_;
   QHash<const Control*, QAction*> actions_;
   QHash<const QObject*, Control*> controls_;

@@ -1,6 +1,5 @@
 #include "desktop/CostViews.h"
 
-#include <QCheckBox>
 #include <QFrame>
 #include <QLabel>
 #include <QLineEdit>
@@ -13,12 +12,30 @@
 namespace verdalis::desktop {
 namespace {
 
-template <class Field>
-std::vector<const FieldRow*> rowsOf(std::span<const Field> fields) {
-  std::vector<const FieldRow*> rows;
-  for (const Field& field : fields)
-    rows.push_back(&field.row);
-  return rows;
+/// What a member of a pane points to; nullptr where it points to none.
+template <class Pane, class Kind>
+Kind* memberOf(Pane& pane, Kind Pane::*member) {
+  return member == nullptr ? nullptr : &(pane.*member);
+}
+
+std::vector<FormField> formFields(InputCostsPane& pane) {
+  std::vector<FormField> fields;
+  for (const InputCostsField& field : InputCostsPane::fields()) {
+    fields.push_back({.row = &field.row,
+                      .box = memberOf(pane, field.box),
+                      .unit = field.unitControl == nullptr ? nullptr : &field.unitControl(pane),
+                      .tick = memberOf(pane, field.optimal)});
+  }
+  return fields;
+}
+
+std::vector<FormField> formFields(IrrigCostsPane& pane) {
+  std::vector<FormField> fields;
+  for (const IrrigCostsField& field : IrrigCostsPane::fields()) {
+    fields.push_back(
+        {.row = &field.row, .box = memberOf(pane, field.box), .list = memberOf(pane, field.list)});
+  }
+  return fields;
 }
 
 QPushButton* mainButton(Binder& binder, Button& button) {
@@ -40,19 +57,10 @@ QWidget* inputCostsView(InputCostsPane& pane, Binder& binder) {
   auto* header = sizedLabel(fixedLabel({}, "heading"));
   view.body->addWidget(binder.bind(pane.lblHeader, header));
 
-  FieldForm form(pane, binder, pane.cmdHelp);
-  const auto rows = rowsOf(InputCostsPane::fields());
-  form.extra = [&](const FieldRow& row) -> QWidget* {
-    for (const InputCostsField& field : InputCostsPane::fields()) {
-      if (field.row.control == row.control && field.optimal != nullptr) {
-        return binder.bind(pane.*field.optimal, new QCheckBox);
-      }
-    }
-    return nullptr;
-  };
+  FieldForm form(binder, pane.cmdHelp, formFields(pane));
   const auto groups = InputCostsPane::groups();
   const auto group = [&](InputCostsGroup which, CardWidth width = CardWidth::narrow) {
-    return form.group(groups[static_cast<std::size_t>(which)], which, rows, width);
+    return form.group(formGroup(pane, groups[static_cast<std::size_t>(which)]), which, width);
   };
 
   view.body->addWidget(group(generalGroup, CardWidth::wide).frame);
@@ -74,7 +82,7 @@ QWidget* inputCostsView(InputCostsPane& pane, Binder& binder) {
   const Card forage = group(forageHarvestGroup);
   right->addWidget(grain.frame);
   right->addWidget(binder.bind(pane.frmICAlf, static_cast<QWidget*>(forage.frame)));
-  // The forage card lies over the grain card.
+  // The cards share one place: forage costs hide grain costs.
   binder.alsoWatch(pane.frmICAlf,
                    [&pane, frame = grain.frame] { frame->setVisible(!pane.frmICAlf.visible()); });
   auto* others = new QHBoxLayout;
@@ -102,13 +110,12 @@ QWidget* inputCostsView(InputCostsPane& pane, Binder& binder) {
 QWidget* irrigCostsView(IrrigCostsPane& pane, Binder& binder) {
   const PageWithButtons view = pageWithButtons();
   view.body->addWidget(sizedLabel(fixedLabel(plain(IrrigCostsPane::title), "heading")));
-  FieldForm form(pane, binder, pane.cmdHelp);
-  const auto rows = rowsOf(IrrigCostsPane::fields());
+  FieldForm form(binder, pane.cmdHelp, formFields(pane));
   const auto groups = IrrigCostsPane::groups();
   auto* columns = new QHBoxLayout;
   columns->setSpacing(12);
-  columns->addWidget(form.group(groups[0], 0, rows).frame, 3);
-  columns->addWidget(form.group(groups[1], 1, rows).frame, 2);
+  columns->addWidget(form.group(formGroup(pane, groups[0]), 0).frame, 3);
+  columns->addWidget(form.group(formGroup(pane, groups[1]), 1).frame, 2);
   view.body->addLayout(columns);
   view.body->addStretch();
   view.buttons->addWidget(binder.bind(pane.cmdDefaultIrrigCosts, new QPushButton));

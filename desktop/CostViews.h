@@ -8,7 +8,7 @@
 
 namespace verdalis::desktop {
 
-/// The production costs of a crop: cards for each kind of cost, side by side where there is room.
+/// The production costs of a crop: one card per kind of cost, side by side if there is room.
 [[nodiscard]] QWidget* inputCostsView(InputCostsPane& pane, Binder& binder);
 
 /// The pumping plant.

@@ -27,7 +27,7 @@ const CustomCropField& fieldOf(std::string_view control) {
   return none;
 }
 
-/// The number of a cell; nothing where it holds none.
+/// The number in a cell; nothing if it has none.
 std::optional<double> numberOf(const std::string& cell) {
   if (!isNumeric(cell)) return std::nullopt;
   return toDouble(cell);
@@ -77,7 +77,7 @@ void YieldTableWidget::shade() {
         continue;
       }
       const double share = (*value - least) / (most - least);
-      // From straw to green; in the dark scheme from earth to green, so that the text stays readable.
+      // From straw to green; in the dark scheme from brown to green, so that the text stays readable.
       cell->setBackground(dark ? QColor::fromHsvF(static_cast<float>(0.10 + 0.24 * share), 0.55F,
                                                   static_cast<float>(0.20 + 0.20 * share))
                                : QColor::fromHsvF(static_cast<float>(0.12 + 0.21 * share),
@@ -113,18 +113,18 @@ void YieldTableWidget::keyPressEvent(QKeyEvent* event) {
   }
   const QString typed = event->text();
   const bool command = (event->modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != 0;
-  // A character may take two units of the text.
+  // A character may take two UTF-16 units.
   if (!command && !typed.isEmpty() && (typed[0].isPrint() || typed[0].isSurrogate())) {
     grid_.typeCharacter(programText(typed));
     event->accept();
     return;
   }
-  QTableWidget::keyPressEvent(event);  // the arrows move the current cell, Tab leaves the grid
+  QTableWidget::keyPressEvent(event);  // arrow keys move the current cell, Tab leaves the grid
 }
 
 namespace {
 
-/// The fields over the grid: the crop on the left, the size of its table on the right.
+/// The fields above the grid: the crop on the left, the table size on the right.
 class CropForm {
  public:
   CropForm(CustomCropPane& pane, Binder& binder) : pane_(pane), binder_(binder), card_(card()) {
@@ -225,7 +225,7 @@ class CropForm {
 }  // namespace
 
 QWidget* customCropView(CustomCropPane& pane, Binder& binder) {
-  constexpr int anyWidth = QWIDGETSIZE_MAX / 2;  // the grid takes what there is
+  constexpr int anyWidth = QWIDGETSIZE_MAX / 2;  // the grid takes all available width
   const PageWithButtons view = pageWithButtons(anyWidth);
   setHelp(view.widget, pane.cmdHelp, 27);
   QVBoxLayout* body = view.body;

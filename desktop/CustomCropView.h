@@ -8,7 +8,7 @@
 
 namespace verdalis::desktop {
 
-/// The yield grid: looks and moves like a spreadsheet, and shades each cell by its value.
+/// The yield grid: works like a spreadsheet, and shades each cell by its value.
 class YieldTableWidget : public QTableWidget {
   Q_OBJECT
 

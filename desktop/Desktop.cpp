@@ -9,12 +9,12 @@ namespace verdalis::desktop {
 
 Desktop::Desktop(const std::filesystem::path& home, const QString& helpFolder)
     : services_(helpFolder), table_(services_.services()), program_(table_, home), binder_(program_.desk) {
-  program_.onMainCreated = [this](frmMain& window) {
+  program_.onMainCreated.connect([this](frmMain& window) {
     main_ = std::make_unique<MainWindow>(
         window, binder_, [this](const QString& topic) { services_.showTopic(programText(topic)); });
     endWith(window);
-  };
-  program_.windows.onCreated = [this](Window& window) { showSecondary(window); };
+  });
+  program_.windows.onCreated.connect([this](Window& window) { showSecondary(window); });
   welcome_.reset(welcomeWindow(program_.welcome, binder_));
   endWith(program_.welcome);
 }

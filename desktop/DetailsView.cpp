@@ -36,7 +36,7 @@ void addClosing(QGridLayout* lines, Details& details, const Details::Block& bloc
   }
 }
 
-/// What the field is on the left, and what it costs and brings, in larger figures, on the right.
+/// The description of the field on the left; its costs and returns in larger type on the right.
 QWidget* totalsCard(Details& details, const Details::Block& block, Binder& binder) {
   constexpr std::size_t totals = 3;  // the last lines
   const Card group = card(plain(block.caption));
@@ -62,7 +62,8 @@ QWidget* totalsCard(Details& details, const Details::Block& block, Binder& binde
 
 QWidget* blockCard(Details& details, const Details::Block& block, Binder& binder) {
   const Card group = card(plain(block.caption));
-  group.body->setContentsMargins(12, 12, 12, 14);  // three of them stand side by side in the smallest window
+  // Small enough for three cards side by side in the smallest window.
+  group.body->setContentsMargins(12, 12, 12, 14);
   QGridLayout* lines = linesGrid();
   for (const Details::Line& entry : block.lines)
     addLine(lines, details, entry, binder, 1);
@@ -76,13 +77,14 @@ QWidget* blockCard(Details& details, const Details::Block& block, Binder& binder
 
 QWidget* detailsView(Details& details, Binder& binder) {
   const PageWithButtons view = pageWithButtons();
-  // The keys scroll what has hardly a control.
+  // Lets the keyboard scroll a page that has almost no controls.
   view.area->setFocusPolicy(Qt::StrongFocus);
   view.area->setObjectName(QStringLiteral("detailsPage"));
   view.area->setAccessibleName(QObject::tr("Details of the field"));
   auto* grid = new QGridLayout;
   grid->setSpacing(10);
-  // The totals over the whole width, the three large blocks side by side, the two short ones below.
+  // Row and column of each card: totals across the full width, three large cards side by side, two short ones
+  // below.
   constexpr std::array<std::array<int, 2>, 6> places{{{0, 0}, {2, 0}, {2, 1}, {3, 0}, {2, 2}, {3, 1}}};
   const std::vector<Details::Block>& blocks = Details::blocks();
   for (std::size_t i = 0; i < blocks.size() && i < places.size(); ++i) {
@@ -99,7 +101,7 @@ QWidget* detailsView(Details& details, Binder& binder) {
     line->addWidget(binder.bind(*figures.at(i), fixedLabel({}, "figure")));
     line->addStretch();
     override.body->addLayout(line);
-    // Above the costs that it takes the place of.
+    // Placed above the costs that it replaces.
     grid->addWidget(binder.bind(details.picBatch.at(i), static_cast<QWidget*>(override.frame)), 1,
                     i == 0 ? 0 : 2);
   }

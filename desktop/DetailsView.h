@@ -5,7 +5,7 @@
 
 namespace verdalis::desktop {
 
-/// The details of a field: the totals first, then the blocks of costs side by side.
+/// The details of a field: totals first, then the cards of costs side by side.
 [[nodiscard]] QWidget* detailsView(Details& details, Binder& binder);
 
 }  // namespace verdalis::desktop

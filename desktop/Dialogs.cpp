@@ -28,7 +28,7 @@ Shell shell(QWidget* parent, int width) {
   return {widget, body};
 }
 
-/// A picture that stands for the divided farm, as the program's emblem, in the colours of the scheme.
+/// The program's emblem: a divided farm, in the colours of the scheme.
 class Emblem : public QLabel {
  public:
   explicit Emblem(std::vector<double> percentages) : percentages_(std::move(percentages)) { draw(); }
@@ -91,7 +91,7 @@ QWidget* aboutWindow(frmAbout& window, Binder& binder, QWidget* parent) {
   made.body->addWidget(binder.bind(window.lblMoreInfo, fixedLabel({}, "title")));
   made.body->addWidget(wrapped(binder, window.lblContact));
   binder.bindWindow(window, made.widget);
-  // By keyboard it closes as any window does.
+  // The Close button, for the keyboard.
   auto* close = new QPushButton(QObject::tr("Close"));
   close->setShortcut(QKeySequence(Qt::Key_Escape));
   close->setAutoDefault(false);

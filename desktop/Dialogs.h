@@ -9,8 +9,8 @@
 
 namespace verdalis::desktop {
 
-// The dialogs that a menu entry or a "?" opens over its window. Each is shown and closed with its window of
-// the program, and belongs to `parent`.
+// The dialogs opened by a menu entry or a "?" button. Each opens and closes together with its window in the
+// program's logic, and is a child of `parent`.
 
 [[nodiscard]] QWidget* optionsWindow(frmOptions& window, Binder& binder, QWidget* parent);
 [[nodiscard]] QWidget* aboutWindow(frmAbout& window, Binder& binder, QWidget* parent);

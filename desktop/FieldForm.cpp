@@ -1,5 +1,6 @@
 #include "desktop/FieldForm.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QFrame>
 #include <QGridLayout>
@@ -19,23 +20,24 @@ QString text(std::string_view view) {
 
 constexpr int lastColumn = 20;  // behind all fields
 
-/// The fields of a group by the lines in which they stand.
-std::vector<std::vector<const FieldRow*>> linesOf(int group, const std::vector<const FieldRow*>& rows) {
-  std::vector<std::vector<const FieldRow*>> lines;
-  for (const FieldRow* row : rows) {
-    if (row->group != group) continue;
-    if (lines.empty() || lines.back().front()->label != row->label) lines.emplace_back();
-    lines.back().push_back(row);
+}  // namespace
+
+std::vector<FieldForm::Line> FieldForm::linesOf(int group) const {
+  std::vector<Line> lines;
+  for (const FormField& field : fields_) {
+    if (field.row->group != group) continue;
+    if (lines.empty() || lines.back().front()->row->label != field.row->label) lines.emplace_back();
+    lines.back().push_back(&field);
   }
   return lines;
 }
 
-/// For each column head of a group, the place in its line of the fields under it.
-QHash<QString, int> columnsOfHeads(int group, const std::vector<const FieldRow*>& rows) {
+QHash<QString, int> FieldForm::columnsOfHeads(int group) const {
   QHash<QString, int> heads;
   const FieldRow* before = nullptr;
   int place = 0;
-  for (const FieldRow* row : rows) {
+  for (const FormField& field : fields_) {
+    const FieldRow* row = field.row;
     if (row->group != group) continue;
     place = before != nullptr && before->label == row->label ? place + 1 : 0;
     const QString head = text(row->column);
@@ -46,20 +48,14 @@ QHash<QString, int> columnsOfHeads(int group, const std::vector<const FieldRow*>
   return heads;
 }
 
-}  // namespace
-
-Control* FieldForm::find(std::string_view name) const {
-  return pane_.desk().find(name);
-}
-
-QWidget* FieldForm::field(const FieldRow& row) {
-  Control* control = find(row.control);
+QWidget* FieldForm::widget(const FormField& field) {
+  const FieldRow& row = *field.row;
   const QString label =
       row.column.empty() ? text(row.label) : text(row.label) + QLatin1String(", ") + text(row.column);
   QWidget* widget = nullptr;
-  if (auto* box = dynamic_cast<TextBox*>(control)) widget = binder_.bind(*box, numberField(9), label);
-  if (auto* combo = dynamic_cast<ComboBox*>(control)) {
-    auto* list = binder_.bind(*combo, new QComboBox, label);
+  if (field.box != nullptr) widget = binder_.bind(*field.box, numberField(9), label);
+  if (field.list != nullptr) {
+    auto* list = binder_.bind(*field.list, new QComboBox, label);
     list->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     list->setMinimumContentsLength(14);
     widget = list;
@@ -68,23 +64,21 @@ QWidget* FieldForm::field(const FieldRow& row) {
   return widget;
 }
 
-QWidget* FieldForm::unit(const FieldRow& row) {
+QWidget* FieldForm::unit(const FormField& field) {
+  if (field.unit != nullptr) return binder_.bind(*field.unit, fixedLabel({}, "muted"));
+  const FieldRow& row = *field.row;
   const std::string_view fixed = row.unit.empty() ? row.unitHint : row.unit;
-  if (row.unitControl.empty()) return fixed.empty() ? nullptr : fixedLabel(text(fixed), "muted");
-  auto* label = dynamic_cast<Label*>(find(row.unitControl));
-  return label == nullptr ? nullptr : binder_.bind(*label, fixedLabel({}, "muted"));
+  return fixed.empty() ? nullptr : fixedLabel(text(fixed), "muted");
 }
 
-Card FieldForm::group(const FieldGroup& group, int index, const std::vector<const FieldRow*>& rows,
-                      CardWidth width) {
+Card FieldForm::group(const FormGroup& group, int index, CardWidth width) {
   QWidget* help =
       group.helpIndex < 0 ? nullptr : helpButton(binder_, help_, group.helpIndex, text(group.heading));
-  Card result = card(group.headingControl.empty() ? text(group.heading) : QString(), help);
+  Card result = card(group.headingLabel == nullptr ? text(group.heading) : QString(), help);
   setHelp(result.frame, help_, group.helpIndex);
-  if (auto* heading =
-          dynamic_cast<Label*>(group.headingControl.empty() ? nullptr : find(group.headingControl))) {
+  if (group.headingLabel != nullptr) {
     auto* line = new QHBoxLayout;
-    line->addWidget(binder_.bind(*heading, fixedLabel({}, "heading")));
+    line->addWidget(binder_.bind(*group.headingLabel, fixedLabel({}, "heading")));
     if (help != nullptr) line->addWidget(help);
     line->addStretch();
     result.body->addLayout(line);
@@ -96,52 +90,53 @@ Card FieldForm::group(const FieldGroup& group, int index, const std::vector<cons
   grid->setColumnStretch(width == CardWidth::wide ? lastColumn + 1 : 0, 1);
   grid->setColumnMinimumWidth(0, width == CardWidth::wide ? 200 : 0);
   if (!group.labelColumn.empty()) grid->addWidget(fixedLabel(text(group.labelColumn), "column"), 0, 0);
-  const QHash<QString, int> heads = columnsOfHeads(index, rows);
+  const QHash<QString, int> heads = columnsOfHeads(index);
   for (auto head = heads.cbegin(); head != heads.cend(); ++head) {
     grid->addWidget(fixedLabel(head.key(), "column"), 0, 1 + 2 * head.value(), 1, 2);
   }
   int line = 0;
-  for (const std::vector<const FieldRow*>& fields : linesOf(index, rows))
+  for (const Line& fields : linesOf(index))
     addLine(fields, heads, grid, ++line);
   result.body->addLayout(grid);
   addResult(group, result.body);
   return result;
 }
 
-void FieldForm::addLine(const std::vector<const FieldRow*>& fields, const QHash<QString, int>& heads,
-                        QGridLayout* grid, int line) {
-  auto* label = fixedLabel(text(fields.front()->label));
+void FieldForm::addLine(const Line& fields, const QHash<QString, int>& heads, QGridLayout* grid, int line) {
+  auto* label = fixedLabel(text(fields.front()->row->label));
   grid->addWidget(label, line, 0);
   int place = 0;
-  for (const FieldRow* row : fields) {
-    QWidget* widget = field(*row);
-    if (widget == nullptr) continue;
-    if (label->buddy() == nullptr) label->setBuddy(widget);
-    const int column = 1 + 2 * heads.value(text(row->column), place++);
-    if (QWidget* unitLabel = unit(*row)) {
-      grid->addWidget(widget, line, column);
+  for (const FormField* field : fields) {
+    QWidget* shown = widget(*field);
+    if (shown == nullptr) continue;
+    if (label->buddy() == nullptr) label->setBuddy(shown);
+    const int column = 1 + 2 * heads.value(text(field->row->column), place++);
+    if (QWidget* unitLabel = unit(*field)) {
+      grid->addWidget(shown, line, column);
       grid->addWidget(unitLabel, line, column + 1);
     } else {
-      grid->addWidget(widget, line, column, 1, 2, Qt::AlignLeft);  // and takes the room of its unit
+      grid->addWidget(shown, line, column, 1, 2, Qt::AlignLeft);  // and takes the room of its unit
     }
   }
   // What stands behind the fields comes behind them for Tab, too.
-  for (const FieldRow* row : fields) {
-    if (QWidget* behind = extra ? extra(*row) : nullptr) grid->addWidget(behind, line, lastColumn - 1);
-    if (row->helpIndex < 0) continue;
-    if (QWidget* button = helpButton(binder_, help_, row->helpIndex, text(row->label)))
+  for (const FormField* field : fields) {
+    if (field->tick != nullptr) {
+      grid->addWidget(binder_.bind(*field->tick, new QCheckBox), line, lastColumn - 1);
+    }
+    const FieldRow& row = *field->row;
+    if (row.helpIndex < 0) continue;
+    if (QWidget* button = helpButton(binder_, help_, row.helpIndex, text(row.label)))
       grid->addWidget(button, line, lastColumn);
   }
 }
 
-void FieldForm::addResult(const FieldGroup& group, QVBoxLayout* body) {
-  auto* figure = dynamic_cast<Label*>(group.resultControl.empty() ? nullptr : find(group.resultControl));
-  if (figure != nullptr) {
+void FieldForm::addResult(const FormGroup& group, QVBoxLayout* body) {
+  if (group.result != nullptr) {
     auto* line = new QHBoxLayout;
     if (!group.resultLabel.empty()) line->addWidget(fixedLabel(text(group.resultLabel), "title"));
     auto* label = fixedLabel({}, group.resultLabel.empty() ? nullptr : "figure");
     label->setWordWrap(group.resultLabel.empty());
-    line->addWidget(binder_.bind(*figure, label), group.resultLabel.empty() ? 1 : 0);
+    line->addWidget(binder_.bind(*group.result, label), group.resultLabel.empty() ? 1 : 0);
     if (!group.resultLabel.empty()) line->addStretch();
     body->addLayout(line);
   }

@@ -15,7 +15,7 @@ namespace verdalis::desktop {
 namespace {
 
 constexpr const char* homeTopic = "index.htm";
-constexpr int snippetBefore = 50;  // characters shown in front of a match, and behind it
+constexpr int snippetBefore = 50;  // characters shown before and after a match
 constexpr int snippetAfter = 110;
 
 QString readPage(const QString& path) {
@@ -23,7 +23,7 @@ QString readPage(const QString& path) {
   return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
-/// A topic that a search has found: its title, and the text around the first match.
+/// One search result: the title of the topic, and the text around the first match.
 QString resultEntry(const QString& file, const QString& title, const QString& text, qsizetype match,
                     int length) {
   const qsizetype start = std::max<qsizetype>(0, match - snippetBefore);
@@ -129,7 +129,7 @@ void HelpViewer::search() {
   if (results.isEmpty()) results = tr("<p>No topic mentions this.</p>");
   browser_->setHtml(
       QStringLiteral("<h2>%1</h2>%2").arg(tr("Topics with “%1”").arg(wanted.toHtmlEscaped()), results));
-  // Links of the list are looked up beside the topics.
+  // Resolves links in the result list relative to the help folder.
   browser_->document()->setBaseUrl(QUrl::fromLocalFile(QDir(folder_).absolutePath() + QLatin1Char('/')));
 }
 

@@ -8,19 +8,19 @@ class QTextBrowser;
 
 namespace verdalis::desktop {
 
-/// The help viewer: the topics of a folder of HTML pages, with back, forward, home and search.
+/// The help viewer: shows the topics in a folder of HTML pages, with back, forward, home and search.
 class HelpViewer : public QMainWindow {
   Q_OBJECT
 
  public:
   explicit HelpViewer(const QString& folder);
 
-  /// Shows a topic such as "mainInput.htm#TotalAcres", whatever the case of its file name. One that is
-  /// missing shows nothing.
+  /// Shows a topic such as "mainInput.htm#TotalAcres"; the case of the file name is ignored. Does nothing if
+  /// the topic is missing.
   void showTopic(const QString& topic);
 
  private:
-  /// The name of the topic's file as it is written in the folder; empty without one.
+  /// The file name of a topic as spelled in the folder; empty if there is none.
   [[nodiscard]] QString fileOf(const QString& topic) const;
   void search();
 

@@ -19,7 +19,7 @@ namespace {
 constexpr const char* letterProperty = "mnemonic";
 constexpr const char* helpProperty = "help";
 
-/// The first letter of a text that is free, which is then taken; nothing when there is none.
+/// Takes the first free letter of a text; null if there is none.
 QChar takeLetter(const QString& text, QSet<QChar>& used) {
   for (const QChar character : text) {
     const QChar letter = character.toLower();
@@ -34,8 +34,8 @@ bool beginsWord(const QString& text, qsizetype place) {
   return place == 0 || !(text[place - 1].isLetterOrNumber() || text[place - 1] == QLatin1Char('\''));
 }
 
-/// The text with the mark in front of a letter, at the beginning of a word where there is one; the text as it
-/// stands without the letter.
+/// Puts the mnemonic mark before a letter of the text, at the start of a word if possible. Without that
+/// letter the text is unchanged.
 QString marked(QString text, QChar letter) {
   const qsizetype first = letter.isNull() ? -1 : text.indexOf(letter, 0, Qt::CaseInsensitive);
   if (first < 0) return text;
@@ -45,7 +45,7 @@ QString marked(QString text, QChar letter) {
   return text.insert(place < 0 ? first : place, QLatin1Char('&'));
 }
 
-/// The letter for a text with which it says the most: that of a word's beginning before one from within.
+/// Takes the best letter of a text: preferably the first letter of a word, else one inside a word.
 QChar takeBestLetter(const QString& text, QSet<QChar>& used) {
   QString beginnings;
   for (qsizetype i = 0; i < text.size(); ++i) {
@@ -88,7 +88,7 @@ void reach(QWidget* widget) {
   if (auto* field = qobject_cast<QLineEdit*>(widget)) field->selectAll();
 }
 
-/// A key that no text shows: the tool tip tells it.
+/// Adds a key that is shown only in the tool tip.
 void addHiddenKey(QWidget* widget, QChar letter) {
   const QKeySequence keys(QStringLiteral("Alt+Shift+") + letter.toUpper());
   auto* shortcut = new QShortcut(keys, widget);
@@ -109,7 +109,7 @@ void assignKeys(QWidget* page, const QString& taken) {
   for (QWidget* widget : page->findChildren<QWidget*>()) {
     if (takesKey(widget)) controls.append(widget);
   }
-  // The main button chooses first.
+  // The main button gets its letter first.
   std::stable_partition(controls.begin(), controls.end(), [](const QWidget* widget) {
     return widget->property("role") == QLatin1String("main");
   });
@@ -126,13 +126,13 @@ void assignKeys(QWidget* page, const QString& taken) {
       button->setProperty(letterProperty, letter);
       button->setText(marked(text, letter));
     } else {
-      label->setTextFormat(Qt::AutoText);  // plain text takes no mark
+      label->setTextFormat(Qt::AutoText);  // plain text shows no underlined letter
       label->setText(marked(text, letter));
     }
   }
   QSet<QChar> usedWithShift;
   for (QWidget* widget : left) {
-    if (!widget->accessibleDescription().isEmpty()) continue;  // it has keys of its own
+    if (!widget->accessibleDescription().isEmpty()) continue;  // it has its own keys
     const QChar letter = takeBestLetter(
         widget->accessibleName() + QStringLiteral(" abcdefghijklmnopqrstuvwxyz"), usedWithShift);
     if (!letter.isNull()) addHiddenKey(widget, letter);
@@ -146,7 +146,7 @@ void assignKeys(QMenu* menu) {
 }
 
 void addShortcut(Binder& binder, QWidget* view, const QKeySequence& keys, Button& button) {
-  // While the view is on show, wherever in the window the focus is.
+  // Active while the view is visible, wherever in the window the focus is.
   auto* shortcut = new QShortcut(keys, view);
   QObject::connect(shortcut, &QShortcut::activated, view, [&button] {
     if (button.isReachable()) button.click();
@@ -160,13 +160,13 @@ void showCaption(QAbstractButton* button, const std::string& caption) {
 }
 
 void setHelp(QWidget* widget, const Control* button) {
-  if (button != nullptr) widget->setProperty(helpProperty, qText(button->path()));
+  if (button != nullptr) widget->setProperty(helpProperty, QVariant::fromValue(button));
 }
 
-QString helpOf(const QWidget* widget) {
+const Control* helpOf(const QWidget* widget) {
   while (widget != nullptr && !widget->property(helpProperty).isValid())
     widget = widget->parentWidget();
-  return widget == nullptr ? QString() : widget->property(helpProperty).toString();
+  return widget == nullptr ? nullptr : widget->property(helpProperty).value<const Control*>();
 }
 
 }  // namespace verdalis::desktop

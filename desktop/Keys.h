@@ -18,25 +18,26 @@ namespace verdalis::desktop {
 
 class Binder;
 
-/// Gives everything that a person can use on a page a key that nothing else on it has: a button, a switch or
-/// a labelled field the letter that is underlined in its text, pressed with Alt; whatever is left over a
-/// letter pressed with Alt and Shift, which its tool tip tells. The repeated rows go by Tab and the arrows,
-/// and F1 stands for the "?" buttons; they get none. `taken` are the letters of the menu bar.
+/// Gives every control on a page a unique key. A button, check box or labelled field gets Alt with a letter
+/// that is underlined in its text. Controls without a free letter get Alt+Shift with a letter that their tool
+/// tip shows. Repeated rows get no key, because Tab and the arrow keys reach them; "?" buttons get none
+/// either, because F1 opens their help.
+/// \param taken letters used by the menu bar.
 void assignKeys(QWidget* page, const QString& taken = {});
 
-/// Gives each entry of a menu a letter.
+/// Gives each menu entry a letter.
 void assignKeys(QMenu* menu);
 
-/// A key that presses a button while its page is on show. The button is bound before.
+/// Adds a key that presses a button while its page is visible. Bind the button first.
 void addShortcut(Binder& binder, QWidget* view, const QKeySequence& keys, Button& button);
 
-/// Shows a caption of the program on a button, with the letter that the button has been given.
+/// Shows a caption on a button, with the letter assigned to the button underlined.
 void showCaption(QAbstractButton* button, const std::string& caption);
 
-/// F1 on a widget, or on what stands inside it, opens what this "?" button opens.
+/// Makes F1 on a widget, or inside it, open the help of this "?" button.
 void setHelp(QWidget* widget, const Control* button);
 
-/// The name of the "?" button that F1 presses when the focus is on a widget; empty without one.
-[[nodiscard]] QString helpOf(const QWidget* widget);
+/// The "?" button that F1 presses if the widget has the focus; nullptr if there is none.
+[[nodiscard]] const Control* helpOf(const QWidget* widget);
 
 }  // namespace verdalis::desktop

@@ -10,7 +10,7 @@ namespace verdalis::desktop {
 
 inline constexpr QSize landSplitPictureSize{64, 40};
 
-/// A field divided to scale, seen from above: one strip for each part, as wide as its percentage.
+/// A land split drawn to scale: one strip per field, as wide as its percentage.
 [[nodiscard]] QIcon landSplitPicture(const std::vector<double>& percentages, Scheme scheme);
 
 }  // namespace verdalis::desktop

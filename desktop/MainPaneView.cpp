@@ -70,7 +70,7 @@ MainPaneView::MainPaneView(MainPane& pane, Binder& binder) : pane_(pane), binder
   view.body->addWidget(plantCard());
   view.body->addStretch();
   fillFooter(view.buttons);
-  pane_.onRowsChanged = [this] { rebuildRows(); };
+  rowChanges_ = pane_.onRowsChanged.connectScoped([this] { rebuildRows(); });
   rebuildRows();
   drawPictures();
 }

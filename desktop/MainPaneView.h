@@ -43,6 +43,7 @@ class MainPaneView : public QWidget {
 
   MainPane& pane_;
   Binder& binder_;
+  Connection rowChanges_;
   QGridLayout* heads_ = nullptr;
   QWidget* beforeRows_ = nullptr;  ///< The last one that Tab stops at before the crop rows
   QScrollArea* rowsArea_ = nullptr;

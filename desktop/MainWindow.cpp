@@ -120,10 +120,10 @@ void MainWindow::addMenus() {
 
 void MainWindow::addPane(Frame& pane, QWidget* page, const char* topic) {
   page->setProperty(topicProperty, QString::fromLatin1(topic));
-  binder_.namePane(pane, page);
+  binder_.name(pane, page);
   assignKeys(page, QLatin1String(menuLetters));
   stack_->addWidget(page);
-  pane.watcher = [this] { showTopPane(); };
+  binder_.alsoWatch(pane, [this] { showTopPane(); });
 }
 
 void MainWindow::showTopPane() {
@@ -153,8 +153,8 @@ void MainWindow::bringIntoSight(QWidget* focus) const {
 }
 
 void MainWindow::showHelpOfFocus() {
-  const QString name = helpOf(QApplication::focusWidget());
-  auto* button = name.isEmpty() ? nullptr : findChild<QPushButton*>(name);
+  const Control* help = helpOf(QApplication::focusWidget());
+  auto* button = help == nullptr ? nullptr : qobject_cast<QPushButton*>(binder_.widget(*help));
   if (button != nullptr && button->isVisible()) {
     button->click();
   } else {

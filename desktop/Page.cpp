@@ -56,7 +56,7 @@ Page page(int width) {
   auto* area = new QScrollArea;
   area->setWidgetResizable(true);
   area->setFrameShape(QFrame::NoFrame);
-  area->setFocusPolicy(Qt::ClickFocus);  // Tab stops at the controls alone, which bring themselves into sight
+  area->setFocusPolicy(Qt::ClickFocus);  // Tab stops only at the controls, which scroll into view
   auto* ground = new QWidget;
   auto* centring = new QHBoxLayout(ground);
   centring->setContentsMargins(24, 12, 24, 14);
@@ -116,7 +116,7 @@ QLabel* figureLabel(const char* role) {
 }
 
 int scaled(int pixels) {
-  constexpr int usualHeight = 15;  // of a line in the font that the lengths were chosen for
+  constexpr int usualHeight = 15;  // line height, in pixels, of the font for which the lengths were chosen
   const int height = std::max(QFontMetrics(QApplication::font()).height(), usualHeight);
   return static_cast<int>(
       std::min<long long>(static_cast<long long>(pixels) * height / usualHeight, QWIDGETSIZE_MAX));
@@ -151,27 +151,16 @@ QLineEdit* numberField(int characters) {
   return field;
 }
 
-namespace {
-
-Button* buttonOf(const HelpButtons& buttons, int index) {
-  for (const auto& button : buttons.buttons()) {
-    if (button->name() == "cmdHelp(" + std::to_string(index) + ")") return button.get();
-  }
-  return nullptr;
-}
-
-}  // namespace
-
 void setHelp(QWidget* widget, const HelpButtons& buttons, int index) {
   const auto& actions = helpActions();
   const auto action =
       std::find_if(actions.begin(), actions.end(), [&](const HelpAction& one) { return one.index == index; });
   const bool opens = action != actions.end() && !(action->topic.empty() && action->note.text.empty());
-  if (opens) setHelp(widget, buttonOf(buttons, index));
+  if (opens) setHelp(widget, buttons.button(index));
 }
 
 QPushButton* helpButton(Binder& binder, const HelpButtons& buttons, int index, const QString& what) {
-  Button* button = buttonOf(buttons, index);
+  Button* button = buttons.button(index);
   if (button == nullptr) return nullptr;
   auto* widget = new QPushButton;
   setRole(widget, "help");

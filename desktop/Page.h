@@ -20,45 +20,46 @@ class QWidget;
 
 namespace verdalis::desktop {
 
-/// The building blocks that all panes are laid out with.
+/// Building blocks shared by all panes.
 
-/// A caption of the program as plain text: a doubled ampersand is one.
+/// A caption as plain text: a doubled ampersand becomes one.
 [[nodiscard]] QString plain(std::string_view caption);
 
-/// A label with a fixed text, in one of the style sheet's roles ("heading", "title", "column", "muted",
+/// A label with a fixed text and an optional role in the style sheet ("heading", "title", "column", "muted",
 /// "figure").
 [[nodiscard]] QLabel* fixedLabel(const QString& text, const char* role = nullptr);
 
-/// A label of the program whose text wraps.
+/// A label bound to the program, with word wrap.
 [[nodiscard]] QLabel* wrapped(Binder& binder, Label& label, const char* role = nullptr);
 
-/// A group of a pane: a ground with a heading.
+/// A group on a pane: a box with a heading.
 struct Card {
   QFrame* frame;
   QVBoxLayout* body;
 };
 [[nodiscard]] Card card(const QString& heading = {}, QWidget* besideHeading = nullptr);
 
-/// A page that scrolls when the window is too small for it, with its contents centred. `width` is the most
-/// that they take, in pixels at the usual font size.
+/// A page with centred contents that scrolls if the window is too small.
+/// \param width maximum width of the contents, in pixels at the default font size.
 struct Page {
   QScrollArea* area;
   QVBoxLayout* body;
 };
 [[nodiscard]] Page page(int width);
 
-/// A length that was chosen for the usual font size, in pixels, at the size that the desktop has set.
+/// Converts a length in pixels at the default font size to the font size of the desktop.
 [[nodiscard]] int scaled(int pixels);
 
-/// Makes all columns of a grid take part in its spacing, also those that stand empty in it: so grids with the
-/// same columns stand in line. `widths` are their least widths, in pixels at the usual font size; `row` is
-/// one that nothing else uses.
+/// Gives all columns of a grid a minimum width, so that empty columns count for the spacing too. Grids with
+/// the same columns then line up.
+/// \param row a row that nothing else uses.
+/// \param widths minimum widths, in pixels at the default font size.
 void holdColumns(QGridLayout* grid, int row, std::span<const int> widths);
 
-/// The most that a page's contents are wide in a window that leaves more: pixels at the usual font size.
+/// Default maximum width of a page's contents, in pixels at the default font size.
 inline constexpr int pageWidth = 1180;
 
-/// A page, as wide as page() says, whose buttons stay in sight below it.
+/// A page like page(), with buttons below it that stay visible.
 struct PageWithButtons {
   QWidget* widget;
   QScrollArea* area;
@@ -67,36 +68,35 @@ struct PageWithButtons {
 };
 [[nodiscard]] PageWithButtons pageWithButtons(int width = pageWidth);
 
-/// The bar of buttons below a page, which stays in sight.
+/// A row for buttons below a page; stays visible while the page scrolls.
 [[nodiscard]] QHBoxLayout* footerOf(QVBoxLayout* layout);
 
-/// The page of a pane that holds one composite control.
+/// A page for a pane with a single composite control.
 [[nodiscard]] QWidget* inPane(QWidget* control);
 
-/// A label in a multiple of the usual font size; that of a page's heading without another one.
+/// Scales the font of a label. The default factor is for page headings.
 QLabel* sizedLabel(QLabel* label, double factor = 1.4);
 
-/// A label for a figure: right-aligned.
+/// A right-aligned label for a number.
 [[nodiscard]] QLabel* figureLabel(const char* role = nullptr);
 
-/// Gives a widget a role of the style sheet.
+/// Sets the style sheet role of a widget.
 void setRole(QWidget* widget, const char* role);
 
-/// A field for a number: right-aligned, as wide as `characters` digits.
+/// A right-aligned field for a number, `characters` digits wide.
 [[nodiscard]] QLineEdit* numberField(int characters = 10);
 
-/// Holds a window of wrapped texts at the height that they need at its width, whatever the size of the
-/// screen.
+/// Fixes the height of a window with wrapped texts to what they need at this width, whatever the screen size.
 void fitHeight(QWidget* window, int width);
 
-/// The size of such a field.
+/// The size of a numberField().
 [[nodiscard]] QSize numberFieldSize(int characters = 10);
 
-/// F1 on a widget, or on what stands inside it, opens what the "?" button of this index opens. One that
-/// opens nothing is passed over.
+/// Makes F1 on a widget, or inside it, open the help of the "?" button at this index. A button without help
+/// is ignored.
 void setHelp(QWidget* widget, const HelpButtons& buttons, int index);
 
-/// The "?" button of an index on a pane, bound and named for what it explains.
+/// The "?" button at an index on a pane, bound and named after what it explains.
 [[nodiscard]] QPushButton* helpButton(Binder& binder, const HelpButtons& buttons, int index,
                                       const QString& what);
 

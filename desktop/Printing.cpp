@@ -16,9 +16,9 @@ namespace {
 
 constexpr double pointsPerInch = 72;
 
-/// The font of a text, in units of a painter that counts in points.
+/// The font of a text; the painter's unit is the point.
 QFont fontOf(const PageFont& font) {
-  // The stops of the reports need a face as narrow as this one.
+  // The column positions of the reports need a font as narrow as this one.
   QFont result(QStringList{QStringLiteral("Liberation Sans"), QStringLiteral("Sans Serif")}, -1);
   result.setPixelSize(static_cast<int>(font.size));
   result.setBold(font.bold);
@@ -49,7 +49,7 @@ Paper paperOf(const QPrinter& printer) {
   return paper;
 }
 
-/// The file of a further document: "report.pdf" becomes "report-2.pdf".
+/// The file name for a further document: "report.pdf" becomes "report-2.pdf".
 QString numbered(const QString& file, int number) {
   const QFileInfo info(file);
   const QString suffix = info.suffix().isEmpty() ? QString() : QLatin1Char('.') + info.suffix();
@@ -69,7 +69,7 @@ std::optional<int> Printing::askCopies() {
   dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   const int copies = printer->copyCount();
-  printer->setCopyCount(1);  // each copy is a document of its own
+  printer->setCopyCount(1);  // each copy is a separate document
   file_ = programText(printer->outputFileName());
   documents_ = 0;
   printer_ = std::move(printer);

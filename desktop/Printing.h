@@ -10,17 +10,18 @@ class QPrinter;
 
 namespace verdalis::desktop {
 
-/// Paper, or a PDF file where there is no printer, through the system's print dialog.
+/// Prints on paper, or to a PDF file if there is no printer, using the system's print dialog.
 class Printing {
  public:
   Printing();
   ~Printing();
 
-  /// Shows the print dialog. Nothing when the person cancels.
+  /// Shows the print dialog.
+  /// \returns the number of copies; nothing if the user cancels.
   [[nodiscard]] std::optional<int> askCopies();
 
-  /// The surface of the next document of the printer chosen last. The second document and further ones that
-  /// go to a file get its name with their number.
+  /// The surface of the next document, for the printer chosen last. When printing to a file, the second and
+  /// later documents get their number in the file name.
   [[nodiscard]] std::unique_ptr<PageSurface> beginDocument();
 
  private:

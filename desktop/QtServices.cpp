@@ -43,7 +43,7 @@ QMessageBox::StandardButtons boxButtons(MessageButtons buttons) {
 }
 
 QString nameFilter(const std::string& filter) {
-  // "Excel Worksheet (*.xls)|*.xls" and "Comma Separated Values|csv" are written the other way round here.
+  // Converts filters such as "Excel Worksheet (*.xls)|*.xls" and "Comma Separated Values|csv" to Qt's format.
   const QStringList parts = qText(filter).split(QLatin1Char('|'));
   if (parts.size() < 2) return {};
   const QString pattern = parts[1].contains(QLatin1Char('*')) ? parts[1] : QLatin1String("*.") + parts[1];
@@ -82,7 +82,7 @@ MessageAnswer QtServices::show(const Message& message) {
     case QMessageBox::Cancel:
       return MessageAnswer::cancel;
     default:
-      // Closing a box without a Cancel says no where there is a No.
+      // Closing a message without a Cancel button means No if it has a No button.
       return message.buttons == MessageButtons::ok ? MessageAnswer::ok : MessageAnswer::no;
   }
 }

@@ -11,7 +11,7 @@ namespace verdalis::desktop {
 
 class HelpViewer;
 
-/// The platform's services, carried out with the toolkit.
+/// The platform's services, implemented with Qt.
 class QtServices : public MessageBoxService,
                    public FileChooserService,
                    public ClipboardService,
@@ -21,13 +21,13 @@ class QtServices : public MessageBoxService,
                    public EventPumpService,
                    public PrinterService {
  public:
-  /// `helpFolder` holds the help topics.
+  /// \param helpFolder folder of the help topics.
   explicit QtServices(const QString& helpFolder);
   ~QtServices() override;
 
   [[nodiscard]] Services services() { return {*this, *this, *this, *this, *this, *this, *this, *this}; }
 
-  /// The help window; made at the first use.
+  /// The help window; created on first use.
   [[nodiscard]] HelpViewer& help();
 
   MessageAnswer show(const Message& message) override;

@@ -20,7 +20,7 @@ void setColumns(QGridLayout* grid) {
   grid->setHorizontalSpacing(10);
   grid->setVerticalSpacing(0);
   holdColumns(grid, grid->rowCount() + 1, columnWidths);
-  // All columns share what a wide window has to spare.
+  // Extra width is shared among all columns.
   for (int column = 0; column + 1 < static_cast<int>(columnWidths.size()); ++column)
     grid->setColumnStretch(column, 1);
 }
@@ -50,7 +50,7 @@ QWidget* columnHeads() {
       ->setAlignment(Qt::AlignHCenter | Qt::AlignBottom);
   head(QString::fromLatin1(ResultColumns::gross), 3);
   head(QString::fromLatin1(ResultColumns::net), 4);
-  // In two lines: a label that wraps by itself would tell its height too late.
+  // Split in two lines here, because a label with word wrap reports its height too late.
   QString costs = QString::fromLatin1(ResultColumns::costs);
   head(costs.replace(costs.lastIndexOf(QLatin1Char(' ')), 1, QLatin1Char('\n')), 5);
   head(QString::fromLatin1(ResultColumns::returns), 6);
@@ -68,7 +68,7 @@ QWidget* fieldRow(ResultHolder& row, Binder& binder) {
                        &row.lblTR, &row.lblProfit}) {
     auto* widget = label == &row.lblProfit ? figureLabel("figure") : figureLabel();
     if (label == &row.lblCrop) widget->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    // What is longer than usual wraps, and never pushes the column out of line.
+    // Long texts wrap, so that they do not widen the column.
     widget->setWordWrap(true);
     grid->addWidget(binder.bind(*label, widget), 0, column++);
   }

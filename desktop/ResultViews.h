@@ -5,7 +5,7 @@
 
 namespace verdalis::desktop {
 
-/// The options of a run, one at a time: a pager, a row for each field under column heads, the net return.
+/// The options of a run, one at a time: a pager, a table with one row per field, and the net return.
 [[nodiscard]] QWidget* resultsView(Results& results, Binder& binder, const QString& heading);
 
 }  // namespace verdalis::desktop

@@ -110,7 +110,7 @@ ProgressWindow::ProgressWindow(frmUpdating& window, Binder& binder, QWidget* par
   layout->addWidget(binder.bind(window.lblTitle0, fixedLabel({}, "title")));
   layout->addWidget(binder.bind(window.lblTitle1, fixedLabel({}, "muted")));
   bar_->setTextVisible(false);
-  binder.bind(window.ProgressBar, bar_, tr("Progress of the evaluation"));
+  binder.name(window.ProgressBar, bar_, tr("Progress of the evaluation"));
   bar_->setRange(0, barSteps);
   layout->addWidget(bar_);
   layout->addWidget(steps_);
@@ -124,7 +124,7 @@ ProgressWindow::ProgressWindow(frmUpdating& window, Binder& binder, QWidget* par
   assignKeys(this);
   qApp->installEventFilter(this);
 
-  binder.namePane(window, this);
+  binder.name(window, this);
   appearance_->setSingleShot(true);
   appearance_->setInterval(appearAfter);
   repaint_->setInterval(repaintEvery);
@@ -135,13 +135,12 @@ ProgressWindow::ProgressWindow(frmUpdating& window, Binder& binder, QWidget* par
     repaint_->start();
   });
   connect(repaint_, &QTimer::timeout, this, &ProgressWindow::showProgress);
-  window.watcher = [this] { follow(); };
   // The steps of a run come too fast to be drawn one by one; the timer draws them.
-  window.ProgressBar.watcher = [this] {
+  binder.alsoWatch(window.ProgressBar, [this] {
     bar_->setVisible(window_.ProgressBar.visible());
     bar_->setEnabled(window_.ProgressBar.enabled());
-  };
-  follow();
+  });
+  binder.alsoWatch(window, [this] { follow(); });
 }
 
 void ProgressWindow::follow() {

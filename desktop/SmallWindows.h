@@ -9,6 +9,7 @@
 #include "screens/modHelp.h"
 
 class QLabel;
+class QProgressBar;
 class QTimer;
 
 namespace verdalis::desktop {

@@ -14,8 +14,8 @@
 namespace verdalis::desktop {
 namespace {
 
-/// Shows the heads of a table as the heads of its widget, which stay in view, and its colours, lighter on a
-/// dark ground.
+/// Copies the heads of the grid to the header of the widget, which stays visible, and its colours, lighter on
+/// a dark background.
 void showHeadsAndColours(const Grid& grid, QTableWidget* table) {
   const QSignalBlocker quiet(table);
   const bool dark = schemeOf(table->palette()) == Scheme::dark;
@@ -41,8 +41,8 @@ void showHeadsAndColours(const Grid& grid, QTableWidget* table) {
   table->resizeColumnsToContents();
 }
 
-/// The table of saved options: a key does on the current cell what a click does, and the colours follow the
-/// scheme.
+/// The table of saved options. A key on the current cell has the same effect as a click; the colours follow
+/// the scheme.
 class SavedOptionsTable : public QTableWidget {
  public:
   explicit SavedOptionsTable(Grid& grid) : grid_(grid) {
@@ -86,7 +86,7 @@ QWidget* summaryView(SummaryPane& pane, Binder& binder) {
   body->addWidget(binder.bind(pane.Label59, fixedLabel({})));
   auto* table = new SavedOptionsTable(pane.fgsummary);
   body->addWidget(binder.bind(pane.fgsummary, table, QObject::tr("Saved options")), 1);
-  // The heads are cells of the grid: a click on one counts for its column.
+  // The heads are cells of the grid, so a click on a head counts as a click in its column.
   QObject::connect(table->horizontalHeader(), &QHeaderView::sectionClicked, table,
                    [&pane](int column) { pane.fgsummary.clickCell(0, column); });
   QObject::connect(table->verticalHeader(), &QHeaderView::sectionClicked, table,

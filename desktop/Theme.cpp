@@ -10,7 +10,7 @@
 namespace verdalis::desktop {
 namespace {
 
-constexpr int portalTimeout = 200;  // ms; a desktop without a portal must not hold the start up
+constexpr int portalTimeout = 200;  // milliseconds; a desktop without a portal must not delay the start
 constexpr unsigned portalDark = 1;
 constexpr unsigned portalLight = 2;
 
@@ -20,14 +20,14 @@ const QString portalSettings = QStringLiteral("org.freedesktop.portal.Settings")
 const QString appearanceSpace = QStringLiteral("org.freedesktop.appearance");
 const QString schemeKey = QStringLiteral("color-scheme");
 
-/// The scheme of a value of the portal; nothing where it states no preference.
+/// The scheme for a preference value of the portal; nothing if there is no preference.
 std::optional<Scheme> schemeOfValue(unsigned preference) {
   if (preference == portalDark) return Scheme::dark;
   if (preference == portalLight) return Scheme::light;
   return std::nullopt;
 }
 
-/// A value that came wrapped in one or more variants.
+/// Unwraps a value from one or more variants.
 QVariant unwrapped(QVariant value) {
   while (value.canConvert<QDBusVariant>())
     value = value.value<QDBusVariant>().variant();
@@ -133,7 +133,7 @@ Scheme desktopScheme(const QPalette& platformPalette) {
 
 SchemeWatcher::SchemeWatcher(QApplication& application, Scheme platform)
     : application_(application), platform_(platform) {
-  // Where there is no portal nothing comes, and the scheme stays that of the start.
+  // Without a portal no signal arrives, and the scheme stays as it was at the start.
   QDBusConnection::sessionBus().connect(portalService, portalPath, portalSettings,
                                         QStringLiteral("SettingChanged"), this,
                                         SLOT(settingChanged(QString, QString, QDBusVariant)));

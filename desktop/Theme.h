@@ -12,31 +12,31 @@ namespace verdalis::desktop {
 
 enum class Scheme { light, dark };
 
-/// The scheme of the desktop: what its settings portal says where that can be asked, else that of the palette
-/// which the platform has set.
+/// The colour scheme of the desktop: from its settings portal if available, else from the palette set by the
+/// platform.
 [[nodiscard]] Scheme desktopScheme(const QPalette& platformPalette);
 
-/// The scheme of a palette.
+/// Whether a palette is light or dark.
 [[nodiscard]] Scheme schemeOf(const QPalette& palette);
 
-/// The program's colours in a scheme.
+/// The program's colours for a scheme.
 [[nodiscard]] QPalette palette(Scheme scheme);
 
-/// Gives the program its style, its colours and its style sheet. May be called again when the scheme changes.
+/// Sets the program's style, colours and style sheet. Can be called again when the scheme changes.
 void applyTheme(QApplication& application, Scheme scheme);
 
-/// Changes the program's colours when the desktop's settings portal tells another scheme. Without a portal
-/// nothing happens.
+/// Changes the program's colours when the desktop's settings portal reports another scheme. Does nothing
+/// without a portal.
 class SchemeWatcher : public QObject {
   Q_OBJECT
 
  public:
-  /// `platform` is the scheme of the palette that the platform had set, for a desktop without a preference.
-  /// The application must outlive this.
+  /// \param application must outlive this object.
+  /// \param platform scheme of the palette set by the platform, for a desktop without a preference.
   SchemeWatcher(QApplication& application, Scheme platform);
 
  public slots:
-  /// What the portal tells of a setting.
+  /// Called when the portal reports a changed setting.
   void settingChanged(const QString& space, const QString& key, const QDBusVariant& value);
 
  private:
@@ -44,16 +44,16 @@ class SchemeWatcher : public QObject {
   Scheme platform_;
 };
 
-/// Colours beside those of the palette, chosen to be read on its window colour.
+/// Colours in addition to the palette, readable on its window colour.
 struct Accents {
   QColor brand;      ///< Headings, the main button
-  QColor brandText;  ///< On the brand colour
-  QColor card;       ///< Ground of a group
+  QColor brandText;  ///< Text on the brand colour
+  QColor card;       ///< Background of a group
   QColor line;       ///< Borders
-  QColor muted;      ///< Notes and units
-  QColor warning;    ///< A field that has failed its test
-  QColor activeRow;  ///< Behind a ticked crop
-  QColor field;      ///< Land of a land split picture
+  QColor muted;      ///< Hints and units
+  QColor warning;    ///< A field that failed its test
+  QColor activeRow;  ///< Background of a ticked crop
+  QColor field;      ///< Land in a land split picture
   QColor water;
 };
 [[nodiscard]] Accents accents(Scheme scheme);

@@ -16,8 +16,8 @@ namespace {
 
 using namespace verdalis;
 
-/// The folder of the help topics: beside the program's own files once it is installed, in the source tree
-/// before.
+/// The folder of the help topics: beside the installed files of the program, or in the source tree if it is
+/// not installed.
 QString helpFolder() {
   const QDir program(QCoreApplication::applicationDirPath());
   for (const QString& folder : {program.filePath(QStringLiteral("help/HTML")),
@@ -30,7 +30,7 @@ QString helpFolder() {
 }  // namespace
 
 int main(int argc, char** argv) {
-  QLocale::setDefault(QLocale::c());  // a point for decimals on every machine
+  QLocale::setDefault(QLocale::c());  // decimal point on every machine
   QApplication application(argc, argv);
   QApplication::setApplicationName(QStringLiteral("verdalis"));
   QApplication::setApplicationVersion(desktop::qText(versionText()));

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "controls/ask.h"
 #include "text/RunTimeError.h"
 
 namespace verdalis {
@@ -10,19 +11,19 @@ namespace verdalis {
 Program::Program(Services& services, ProgramFiles files)
     : windows(desk, state, services), welcome(desk, services), services_(services), files_(std::move(files)) {
   desk.onRunTimeError = [this](const RunTimeError& error) { tell(error); };
-  welcome.onStart = [this] { start(); };
-  welcome.onStartWithTrends = [this] {
+  welcome.onStart.connect([this] { start(); });
+  welcome.onStartWithTrends.connect([this] {
     main().EnableBatch(true);
     start();
-  };
-  welcome.onAbout = [this] { windows.about().open(); };
+  });
+  welcome.onAbout.connect([this] { windows.about().open(); });
   welcome.open();
 }
 
 frmMain& Program::main() {
   if (!main_) {
     main_ = std::make_unique<frmMain>(desk, services_, state, windows, files_);
-    if (onMainCreated) onMainCreated(*main_);
+    onMainCreated(*main_);
   }
   return *main_;
 }
@@ -40,8 +41,7 @@ bool Program::ended() const {
 
 void Program::tell(const RunTimeError& error) {
   windows.closeUpdating();
-  const Desk::Modal modal(desk);
-  services_.messageBox.show({defaultTitle, error.what(), MessageIcon::critical});
+  ask(desk, services_.messageBox, {defaultTitle, error.what(), MessageKind::failure, MessageIcon::critical});
 }
 
 }  // namespace verdalis

@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "controls/Event.h"
 #include "controls/services.h"
 #include "engine/ProgramState.h"
 #include "main/ProgramFiles.h"
@@ -32,7 +33,7 @@ class Program {
   [[nodiscard]] bool ended() const;
 
   /// Called after the main window has been made, before it is loaded: whoever shows it binds it here.
-  std::function<void(frmMain&)> onMainCreated;
+  Event<frmMain&> onMainCreated;
 
  private:
   void tell(const RunTimeError& error);

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <functional>
 #include <memory>
 
+#include "controls/Event.h"
 #include "controls/services.h"
 #include "engine/ProgramState.h"
 #include "screens/frmAbout.h"
@@ -20,7 +20,7 @@ class SecondaryWindows {
       : desk_(desk), state_(state), services_(services) {}
 
   /// Called when a window has been made: whoever shows it binds it here.
-  std::function<void(Window&)> onCreated;
+  Event<Window&> onCreated;
 
   frmUpdating& updating() { return made(updating_, state_); }
   frmHelp& help() { return made(help_); }
@@ -44,7 +44,7 @@ class SecondaryWindows {
   Made& made(std::unique_ptr<Made>& window, Arguments&... arguments) {
     if (!window) {
       window = std::make_unique<Made>(desk_, arguments...);
-      if (onCreated) onCreated(*window);
+      onCreated(*window);
     }
     return *window;
   }

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "controls/ask.h"
 #include "data/SavedInputs.h"
 #include "data/StockDefaults.h"
 #include "data/writeFile.h"
@@ -142,10 +143,8 @@ BestMix frmMain::RunScenario(const std::string& description) {
 
 void frmMain::EnableBatch(bool on) {
   if (on && !state_.TrendNoticeShown) {
-    {
-      const Desk::Modal modal(desk());
-      services_.messageBox.show({"Trend processing enabled", trendNotice, MessageIcon::information});
-    }
+    ask(desk(), services_.messageBox,
+        {"Trend processing enabled", trendNotice, MessageKind::notice, MessageIcon::information});
     state_.TrendNoticeShown = true;
   }
   state_.TrendEnabled = on;
@@ -165,78 +164,78 @@ void frmMain::exit() {
 }
 
 void frmMain::wireMenus() {
-  menus.mnuExit.onClick = [this] { exit(); };
-  menus.mnuEnableBatch.onClick = [this] { EnableBatch(!menus.mnuEnableBatch.checked()); };
-  menus.mnuFallBatch.onClick = [this] { trends.mnuFallBatch_Click(); };
-  menus.mnuSummary.onClick = [this] { pneSummary.showSummary(); };
-  menus.mnuOptions.onClick = [this] { windows_.options().show(); };
-  menus.mnuCustomCrop.onClick = [this] { pneCustomCrop.open(); };
-  menus.mnuAboutVDL.onClick = [this] { windows_.about().open(); };
-  menus.mnuHelp.onClick = [this] { showHelpTopic(services_.help, "index.htm"); };
+  menus.mnuExit.onClick.connect([this] { exit(); });
+  menus.mnuEnableBatch.onClick.connect([this] { EnableBatch(!menus.mnuEnableBatch.checked()); });
+  menus.mnuFallBatch.onClick.connect([this] { trends.mnuFallBatch_Click(); });
+  menus.mnuSummary.onClick.connect([this] { pneSummary.showSummary(); });
+  menus.mnuOptions.onClick.connect([this] { windows_.options().show(); });
+  menus.mnuCustomCrop.onClick.connect([this] { pneCustomCrop.open(); });
+  menus.mnuAboutVDL.onClick.connect([this] { windows_.about().open(); });
+  menus.mnuHelp.onClick.connect([this] { showHelpTopic(services_.help, "index.htm"); });
 }
 
 void frmMain::wirePanes() {
   const auto help = [this](int index) { cmdHelp_Click(index); };
   const auto applied = [this] { goHome(); };
-  pneMain.onRun = [this] { Command1_Click(); };
-  pneMain.onDefaults = [this] { Command7_Click(); };
-  pneMain.onIrrigation = [this] {
+  pneMain.onRun.connect([this] { Command1_Click(); });
+  pneMain.onDefaults.connect([this] { Command7_Click(); });
+  pneMain.onIrrigation.connect([this] {
     showPane(pneIrrigCosts);
     pneIrrigCosts.open();
-  };
-  pneMain.onInputCosts = [this](CropRecord& row) {
+  });
+  pneMain.onInputCosts.connect([this](CropRecord& row) {
     if (row.Crop) showPane(pneInputCosts);
     pneInputCosts.open(row.Crop);  // tells that there is no crop
-  };
-  pneMain.onHelp = help;
-  pneInputCosts.onHelp = help;
-  pneInputCosts.onBack = [this] { goBack(); };
-  pneInputCosts.onApplied = applied;
-  pneIrrigCosts.onHelp = help;
-  pneIrrigCosts.onBack = [this] { goBack(); };
-  pneIrrigCosts.onApplied = applied;
+  });
+  pneMain.onHelp.connect(help);
+  pneInputCosts.onHelp.connect(help);
+  pneInputCosts.onBack.connect([this] { goBack(); });
+  pneInputCosts.onApplied.connect(applied);
+  pneIrrigCosts.onHelp.connect(help);
+  pneIrrigCosts.onBack.connect([this] { goBack(); });
+  pneIrrigCosts.onApplied.connect(applied);
   pneIrrigCosts.areaText = [this] { return pneMain.txtArea.text(); };
-  trends.pneBatchSetup0.onHelp = help;
-  pneCustomCrop.onHelp = help;
+  trends.pneBatchSetup0.onHelp.connect(help);
+  pneCustomCrop.onHelp.connect(help);
   pneCustomCrop.loadCropRows = [this] { loadCropRows(); };
-  pneCustomCrop.onShowPane = [this] { showPane(pneCustomCrop); };
+  pneCustomCrop.onShowPane.connect([this] { showPane(pneCustomCrop); });
   // The information band keeps its text.
-  pneCustomCrop.onBackHome = [this] { showPane(pneMain); };
+  pneCustomCrop.onBackHome.connect([this] { showPane(pneMain); });
 }
 
 void frmMain::wireResults() {
   wireOptions(theResults);
   wireOptions(trends.pneBatchSetup1.theBatchResults.theResults);
-  theDetails.onBack = [this](Details::BackTo to) {
+  theDetails.onBack.connect([this](Details::BackTo to) {
     if (to == Details::BackTo::trendResults) {
       showPane(trends.pneBatchSetup1);
     } else {
       showPane(pneResults);
     }
-  };
-  pneSummary.onShowPane = [this] { showPane(pneSummary); };
-  pneSummary.onBack = [this] { goBack(); };
+  });
+  pneSummary.onShowPane.connect([this] { showPane(pneSummary); });
+  pneSummary.onBack.connect([this] { goBack(); });
 }
 
 void frmMain::wireOptions(Results& results) {
-  results.onBack = [this](Results::BackTo to) {
+  results.onBack.connect([this](Results::BackTo to) {
     if (to == Results::BackTo::trendSetup) {
       showPane(trends.pneBatchSetup0);
     } else {
       goHome();
     }
     menus.mnuPrint.setEnabled(false);
-  };
-  results.onSaveOption = [this](const Results::Option& option) { summaryResults.push_back(option); };
-  results.onBatchThis = [this](const Results::Option&) { trends.ShowBatchScreen(); };
-  results.onDetails = [this](const std::shared_ptr<Field>& field) {
+  });
+  results.onSaveOption.connect([this](const Results::Option& option) { summaryResults.push_back(option); });
+  results.onBatchThis.connect([this](const Results::Option&) { trends.ShowBatchScreen(); });
+  results.onDetails.connect([this](const std::shared_ptr<Field>& field) {
     theDetails.loadCosts(*field);  // a field that it cannot price leaves the options on show
     showPane(pneDetails);
-  };
-  results.onHelpTopic = [this](const std::string& topic) { showHelpTopic(services_.help, topic); };
-  results.onHelpNote = [this](const std::string& text, const std::string& title, int height) {
+  });
+  results.onHelpTopic.connect([this](const std::string& topic) { showHelpTopic(services_.help, topic); });
+  results.onHelpNote.connect([this](const std::string& text, const std::string& title, int height) {
     showHelpNote(windows_.help(), text, title, height);
-  };
+  });
 }
 
 void frmMain::wirePrinting() {
@@ -248,28 +247,28 @@ void frmMain::wirePrinting() {
     const Desk::Modal modal(desk());
     thePrinter.printDetails();
   };
-  menus.mnuPrint.onClick = [this, printResults, printDetails] {
+  menus.mnuPrint.onClick.connect([this, printResults, printDetails] {
     if (pneDetails.visible()) {
       printDetails();
     } else {
       printResults();
     }
-  };
-  theResults.onPrint = printResults;
-  trends.pneBatchSetup1.theBatchResults.theResults.onPrint = printResults;
-  theDetails.onPrint = printDetails;
-  theDetails.onFieldLoaded = [this](const Field& field) {
+  });
+  theResults.onPrint.connect(printResults);
+  trends.pneBatchSetup1.theBatchResults.theResults.onPrint.connect(printResults);
+  theDetails.onPrint.connect(printDetails);
+  theDetails.onFieldLoaded.connect([this](const Field& field) {
     thePrinter.setField(field);
     menus.mnuPrint.setEnabled(true);
-  };
+  });
 }
 
 void frmMain::Command1_Click() {
   state_.TrendMode = false;
   if (!pneMain.ready()) {
-    const Desk::Modal modal(desk());
-    services_.messageBox.show({"Error", "Please enter all of the necessary information before continuing!",
-                               MessageIcon::exclamation});
+    ask(desk(), services_.messageBox,
+        {"Error", "Please enter all of the necessary information before continuing!", MessageKind::refusal,
+         MessageIcon::exclamation});
     return;
   }
   saveInputs();

@@ -13,10 +13,9 @@
 namespace verdalis {
 namespace {
 
-/// The whole inches of a depth that is first rounded to tenths, half away from zero on its decimal text: 3.96
-/// is 4. The tenth rounds up to the next inch from f.95 on, and the 64-bit float nearest to f.95 is (100 f +
-/// 95) / 100, so no text has to be made: a float lies at or above that one exactly when its shortest text is
-/// f.95 or more.
+/// Whole inches of a depth after rounding to tenths, half away from zero on the decimal text: 3.96 gives 4. A
+/// depth rounds up to the next inch from f.95 on. The 64-bit float nearest to f.95 is (100 f + 95) / 100, and
+/// a float is at or above it exactly if its shortest text is f.95 or more, so no text is needed.
 double wholeInches(double depth) {
   if (depth < 0) return -wholeInches(-depth);
   const double inches = std::floor(depth);
@@ -27,14 +26,14 @@ std::string describeRange(const YieldTable& table) {
   return std::to_string(table.firstRain()) + " to " + std::to_string(table.lastRain()) + " inches";
 }
 
-/// The column of a rainfall: the nearest whole inch, halves to the even inch. -1 for a rainfall that no table
-/// has.
+/// Column of a rainfall: the nearest whole inch, halves to even. -1 if no table can have it.
 int rainColumn(double annualRain) {
   const double rounded = std::nearbyint(annualRain);
   return rounded >= 0 && rounded <= std::numeric_limits<int>::max() ? static_cast<int>(rounded) : -1;
 }
 
-/// \throws RunTimeError (overflow); the message is made only then, for this is called for every price.
+/// Builds the message only on error, because this is called for every price.
+/// \throws RunTimeError (overflow)
 double checkedYield(double yield, const std::string& cropType) {
   return std::isfinite(yield) ? yield : checked(yield, "The yield of " + cropType);
 }
@@ -75,11 +74,11 @@ double Crop::yieldAt(double Depth, double annualRain) const {
   const double y0 = table.cell(lo, rain);
   const double y1 = table.cell(hi, rain);
 
-  // Whether the table counts as absolute is asked of this very cell, not of the table: meant, also where a
-  // dry corner of an absolute table holds a cell of 1 or less.
+  // Intended: this one cell, not the whole table, decides between absolute and relative. So a cell of 1 or
+  // less in a dry corner of an absolute table counts as relative.
   const double scale = y1 > 1.0 ? normalFactor : maxYield;
   if (y0 == y1) return checkedYield(y0 * scale, cropType);
-  // Just under a whole inch lo lies above Depth, so t is a small negative number: meant.
+  // Intended: just below a whole inch, lo is above Depth, so t is a small negative number.
   const double t = (Depth - lo) / (hi - lo);
   return checkedYield((y0 + t * (y1 - y0)) * scale, cropType);
 }

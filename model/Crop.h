@@ -11,29 +11,29 @@
 
 namespace verdalis {
 
-/// The tables of one soil: "yield" (absolute) first, "relative" second, or nothing.
+/// Yield tables of one soil: "yield" (absolute) first, "relative" second; or none.
 using SoilTables = std::vector<std::pair<std::string, SharedYieldTable>>;
 
-/// One candidate crop: name, units, price, the yield expected at full water, production costs, and the yield
-/// table from which everything that the search learns about water is read.
+/// A candidate crop: name, units, price, expected yield at full irrigation, production costs, and yield
+/// table. The yield table is the search's only source for how the crop responds to water.
 class Crop {
  public:
   std::string cropType;   ///< Name, exactly as in the crop file
   std::string cropUnits;  ///< Unit text of the crop file, such as "bu.,bushels"
   std::array<std::string, 2>
-      cropUnitsArray;           ///< Its two words: short singular, plural. "ton" marks a forage crop
-  double price = 0;             ///< $ per yield unit
-  double inputCost = 0;         ///< Kept and copied; no calculation reads it
-  double maxYield = 0;          ///< Yield units per acre at full irrigation
-  SharedYieldTable yieldTable;  ///< None for Fallow. Replaced as a whole, never edited in place
-  double normalFactor = 0;      ///< Scale from an absolute table to maxYield; see setNormal()
+      cropUnitsArray;    ///< The two words of cropUnits: short singular, plural. "ton" marks a forage crop
+  double price = 0;      ///< $ per yield unit
+  double inputCost = 0;  ///< Stored and copied, but not used by any calculation
+  double maxYield = 0;   ///< Yield units per acre at full irrigation
+  SharedYieldTable yieldTable;  ///< Empty for Fallow. Replaced as a whole, never edited in place
+  double normalFactor = 0;      ///< Factor that scales an absolute table to maxYield; see setNormal()
   verdalis::inputCosts inputCosts;
   double Yield = 0;     ///< Result of the last setYield(), yield units per acre
-  bool Custom = false;  ///< Read from the folder of custom crops
+  bool Custom = false;  ///< Whether it was read from the custom crop folder
   FirstUse<SoilTables> soil_ulysses;
   FirstUse<SoilTables> soil_valent;
   FirstUse<SoilTables> soil_valentine;
-  std::string soilName;  ///< Soil texture in force
+  std::string soilName;  ///< Current soil texture
 
   [[nodiscard]] const std::string& priceUnits() const { return cropUnitsArray[0]; }
   [[nodiscard]] bool isForage() const { return cropUnitsArray[0] == "ton"; }
@@ -44,26 +44,28 @@ class Crop {
   /// Stores a copy of the table.
   void setYieldTable(const YieldTable& table);
 
-  /// The yield, units per acre, of a seasonal net irrigation `Depth` (inches; above the table its top counts)
-  /// and `annualRain` (inches, read from the nearest whole inch, halves to even). 0 for Fallow.
-  /// \throws RunTimeError (subscript) without a table, or outside it; (overflow)
+  /// Yield for a seasonal net irrigation and an annual rainfall, in yield units per acre; 0 for Fallow.
+  /// \param Depth in inches; capped at the top of the table.
+  /// \param annualRain in inches; rounded to the nearest whole inch, halves to even.
+  /// \throws RunTimeError (subscript) without a table or outside of it; (overflow)
   [[nodiscard]] double yieldAt(double Depth, double annualRain) const;
 
-  /// Sets Yield to yieldAt(). A Depth above the table is set to the table's top, in the caller's variable
-  /// too. \throws RunTimeError as yieldAt()
+  /// Sets Yield to yieldAt(). A Depth above the table is lowered to the top of the table, in the caller's
+  /// variable too.
+  /// \throws RunTimeError as yieldAt()
   void setYield(double& Depth, double annualRain);
 
-  /// Sets normalFactor to `expectedYield` / the table's yield at full irrigation and this rain. Where that
-  /// fails, normalFactor keeps its value and nothing is reported.
+  /// Sets normalFactor to `expectedYield` / the table's yield at full irrigation and this rainfall. If that
+  /// fails, normalFactor is unchanged and no error is reported.
   void setNormal(double expectedYield, double annualRain);
 
-  /// Upper bound of the table's irrigation, inches; 0 without a table.
+  /// Maximum irrigation of the table, inches; 0 without a table.
   [[nodiscard]] double getMaxIrrigation() const;
 
-  /// A copy with production costs of its own. It shares the yield table and the three soil collections.
+  /// A copy with its own production costs. It shares the yield table and the three soil collections.
   [[nodiscard]] Crop Copy() const;
 
-  /// The crop's 34 lines of the saved inputs file, CR LF between them.
+  /// The 34 lines of the crop in the saved inputs file, separated by CR LF.
   [[nodiscard]] std::string writeData() const;
 };
 

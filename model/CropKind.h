@@ -7,19 +7,18 @@
 
 namespace verdalis {
 
-/// The crop names that switch behaviour. Any other name, whatever its case, is `other`.
+/// Crops whose name changes the program's behaviour. Any other name, also one in different case, is `other`.
 enum class CropKind { other, alfalfa, corn, grainSorghum, soybeans, sunflower, wheat, fallow };
 
-/// The names, by kind.
 inline constexpr std::array<std::string_view, 8> cropNames{"",         "Alfalfa",   "Corn",  "Grain Sorghum",
                                                            "Soybeans", "Sunflower", "Wheat", "Fallow"};
 
-/// The name of a kind; empty for `other`, which has none of its own.
+/// The name of a kind; empty for `other`.
 [[nodiscard]] constexpr std::string_view cropName(CropKind kind) {
   return cropNames[static_cast<std::size_t>(kind)];
 }
 
-/// `kind` if a text of the length of its name is its name.
+/// Compares a text of the same length with the name of `kind`; `other` if they differ.
 template <CropKind kind>
 [[nodiscard]] constexpr CropKind kindIfNamed(const char* text) {
   constexpr std::string_view name = cropName(kind);
@@ -28,8 +27,8 @@ template <CropKind kind>
 
 /// The kind of a crop by its exact, case sensitive name.
 [[nodiscard]] constexpr CropKind cropKind(std::string_view cropType) {
-  // Pricing asks this of every field. No two names are equally long, so the length leaves one to compare, and
-  // a comparison of a fixed length calls no function.
+  // Called for every field that is priced. No two names have the same length, so the length leaves one name
+  // to compare, and a comparison of fixed length needs no function call.
   switch (cropType.size()) {
     case cropName(CropKind::corn).size():
       return kindIfNamed<CropKind::corn>(cropType.data());

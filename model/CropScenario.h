@@ -8,8 +8,8 @@
 
 namespace verdalis {
 
-/// An ordered list of crops, counted from 1: the library, the selected crops of a run, or one assignment of
-/// crops to fields. It shares its crops with whoever else holds them.
+/// An ordered list of crops, with indices from 1: the library, the selected crops of a run, or one assignment
+/// of crops to fields. Crops are shared with other lists.
 class CropScenario {
  public:
   void Add(std::shared_ptr<Crop> crop) { crops_.push_back(std::move(crop)); }
@@ -21,7 +21,6 @@ class CropScenario {
   /// \throws RunTimeError (subscript) outside 1..Count().
   void Remove(long index);
 
-  /// The crops in order.
   [[nodiscard]] const std::vector<std::shared_ptr<Crop>>& NewEnum() const { return crops_; }
   [[nodiscard]] auto begin() const { return crops_.begin(); }
   [[nodiscard]] auto end() const { return crops_.end(); }
@@ -29,7 +28,7 @@ class CropScenario {
   /// The crop names, joined with ", ".
   [[nodiscard]] std::string toString() const;
 
-  /// A new list of the same crops.
+  /// A new list that shares the same crops.
   [[nodiscard]] CropScenario Copy() const { return *this; }
 
  private:

@@ -10,7 +10,7 @@
 namespace verdalis {
 namespace {
 
-/// The first characters of a UTF-8 text; a character is never cut.
+/// The first `count` characters of a UTF-8 text.
 std::string_view firstCharacters(std::string_view text, std::size_t count) {
   std::size_t end = 0;
   for (; end < text.size(); ++end) {

@@ -10,10 +10,10 @@
 
 namespace verdalis {
 
-/// One piece of the farm, planted to one crop and watered to one depth: the smallest unit that has a cost, a
-/// return and a profit. Whoever builds it calls theCrop->setYield() before the first getReturn() or
-/// getCosts(). Its operations leave their results in the field, its crop and its plant, where the screens
-/// look for them; priceField() works out the same numbers and leaves nothing.
+/// A piece of the farm with one crop and one irrigation depth: the smallest unit that has a cost, a return
+/// and a profit. The code that builds a field calls theCrop->setYield() before the first getReturn() or
+/// getCosts(). The operations store their results in the field, its crop and its plant, where the screens
+/// read them; priceField() computes the same numbers without storing anything.
 class Field {
  public:
   double acres = 0;
@@ -21,10 +21,10 @@ class Field {
   FirstUse<Crop> theCrop;
   double annualRain = 0;  ///< Inches
   FirstUse<IrrigationCosts> irrigCosts;
-  double TotalCost = 0;    ///< Cached getCosts(), dollars for the field. 0: not computed
-  double TotalReturn = 0;  ///< Cached getReturn(), dollars for the field. 0: not computed
+  double TotalCost = 0;    ///< Cached getCosts(), dollars for the field. 0 means not computed
+  double TotalReturn = 0;  ///< Cached getReturn(), dollars for the field. 0 means not computed
 
-  /// Report of four lines, CR LF between them.
+  /// Report of four lines, separated by CR LF.
   /// \throws RunTimeError as getCosts() and getReturn()
   std::string toString();
 
@@ -32,24 +32,24 @@ class Field {
   /// \throws RunTimeError (overflow)
   double getReturn();
 
-  /// Plants the field to Fallow and takes its water away.
+  /// Sets the crop to Fallow and the irrigation to 0.
   void makeFallow();
 
-  /// Net acre-inches.
+  /// Net irrigation volume, acre-inches.
   [[nodiscard]] double getVolume() const { return Depth * acres; }
 
-  /// Production and irrigation, dollars for the field; cached.
-  /// \throws RunTimeError (overflow, divisionByZero while the irrigation efficiency is 0)
+  /// Production and irrigation costs, dollars for the field; cached.
+  /// \throws RunTimeError (overflow; divisionByZero if the irrigation efficiency is 0)
   double getCosts(double efficiency = EfficiencyFraction);
 
-  /// getCosts() without irrigation, never cached.
+  /// getCosts() without irrigation; never cached.
   double getProductionCosts(double efficiency = EfficiencyFraction);
 
   /// Return minus costs, dollars for the field.
   double getProfit(double efficiency = EfficiencyFraction);
 
-  /// A field with a crop and a plant of its own. TotalCost is carried over; TotalReturn is not, so that the
-  /// copy works its return out of its own crop.
+  /// A copy with its own crop and plant. TotalCost is copied; TotalReturn is not, so that the copy computes
+  /// its return from its own crop.
   [[nodiscard]] Field Copy() const;
 };
 

@@ -5,8 +5,8 @@
 
 namespace verdalis {
 
-/// An object that is created empty on first use, so that it is never absent when read. Copying shares the
-/// object, as far as it exists by then.
+/// Holds an object that is created empty on first use, so it always exists when read. A copy shares the
+/// object if it exists at that time.
 template <class T>
 class FirstUse {
  public:

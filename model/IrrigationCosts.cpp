@@ -17,7 +17,7 @@ constexpr std::array<std::pair<std::string_view, double>, 4> performanceFigures{
     {"Electricity", 0.885},
 }};
 
-/// The value of a step, or 0 for a step that failed: an overflow or a division by zero.
+/// The value of a step, or 0 if it failed (overflow or division by zero).
 double stepOrZero(double value) {
   return std::isfinite(value) ? value : 0;
 }
@@ -32,7 +32,7 @@ std::optional<double> fuelPerformance(std::string_view fuelType) {
 }
 
 PumpingCosts IrrigationCosts::price(double Depth, double acres, double efficiency) const {
-  // The trend's figure is charged on the net depth as it stands.
+  // The trend's cost applies to the net depth.
   if (UseBatch) return {stepOrZero(BatchIrrigationCosts * acres * Depth), hours};
   if (!(Depth > 0 && active) || GPM <= 0 || NPC <= 0) return {0, hours};
 
@@ -41,7 +41,7 @@ PumpingCosts IrrigationCosts::price(double Depth, double acres, double efficienc
   const double pumpingHours = gross * acres / (GPM / gpmPerAcreInchHour);
   const double hoursUsed = std::isfinite(pumpingHours) ? pumpingHours : hours;
   const double fuel = stepOrZero((waterHorsepower / NPC) * hoursUsed * cost);
-  // Labour is half an hour an acre and season, whatever the depth.
+  // Labour is half an hour per acre and season, whatever the depth.
   return {stepOrZero(acres * 0.5 * LaborPerHour + fuel + acres * RepairsPerAcreInch * gross), hoursUsed};
 }
 

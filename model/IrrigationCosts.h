@@ -8,62 +8,64 @@
 
 namespace verdalis {
 
-/// The irrigation of a field over a season.
+/// Seasonal pumping of a field.
 struct PumpingCosts {
   double cost = 0;   ///< Dollars for the field
   double hours = 0;  ///< Pumping hours
 };
 
-/// What water costs at the farm's pumping plant, built up from pump physics. One object describes the plant;
-/// each field of a candidate works on a copy.
+/// Cost of irrigation water at the farm's pumping plant, computed from pump physics. One object describes the
+/// plant; each field of a candidate uses a copy.
 class IrrigationCosts {
  public:
-  double GPM = 0;                   ///< Discharge rate, gallons per minute
-  double Lift = 0;                  ///< Pumping water lift, feet
-  double PSI = 0;                   ///< Irrigation system operating pressure, psi
-  double LaborPerHour = 0;          ///< $ per hour
-  double FixedPerAcre = 0;          ///< $ per acre. Saved and restored, used by no formula
-  double RepairsPerAcreInch = 0;    ///< $ per acre-inch
-  double NPC = 0;                   ///< Performance of the fuel, water horsepower-hours per fuel unit
-  double cost = 0;                  ///< $ per fuel unit
-  double dblEstHours = 0;           ///< Total season pumping hours: the pumping capacity, no part of the cost
-  double dblMaxInches = 0;          ///< Reserved
-  bool active = false;              ///< Costs have been applied. While false, irrigation costs nothing
-  std::string FuelType;             ///< "Diesel", "Natural Gas", "Propane" or "Electricity"
-  double hours = 0;                 ///< Result: pumping hours of the last getCosts()
-  bool UseBatch = false;            ///< A trend has replaced the irrigation cost by BatchIrrigationCosts
+  double GPM = 0;                 ///< Discharge rate, gallons per minute
+  double Lift = 0;                ///< Pumping water lift, feet
+  double PSI = 0;                 ///< Irrigation system operating pressure, psi
+  double LaborPerHour = 0;        ///< $ per hour
+  double FixedPerAcre = 0;        ///< $ per acre. Saved and restored, but not used by any formula
+  double RepairsPerAcreInch = 0;  ///< $ per acre-inch
+  double NPC = 0;                 ///< Performance of the fuel, water horsepower-hours per fuel unit
+  double cost = 0;                ///< $ per fuel unit
+  double dblEstHours = 0;         ///< Pumping hours per season, for the pumping capacity; not used for costs
+  double dblMaxInches = 0;        ///< Reserved
+  bool active = false;            ///< Whether costs have been applied. If false, irrigation costs nothing
+  std::string FuelType;           ///< "Diesel", "Natural Gas", "Propane" or "Electricity"
+  double hours = 0;               ///< Result: pumping hours from the last getCosts()
+  bool UseBatch = false;          ///< A trend replaces the irrigation cost with BatchIrrigationCosts
   double BatchIrrigationCosts = 0;  ///< $ per acre-inch
 
-  /// Seasonal irrigation of a field. `Depth` is net inches, `efficiency` a fraction. A dry field and a plant
-  /// without costs cost 0 and keep the hours that the plant holds. A step that cannot be calculated is passed
-  /// over and counts as 0.
+  /// Seasonal irrigation cost of a field. Without irrigation, or without active plant costs, the cost is 0
+  /// and the hours are those stored in the plant. A step that cannot be computed counts as 0.
+  /// \param Depth net irrigation, inches.
+  /// \param efficiency as a fraction.
   [[nodiscard]] PumpingCosts price(double Depth, double acres, double efficiency) const;
 
-  /// The cost of price(), dollars; `hours` takes its hours.
+  /// The cost from price(), dollars. Stores the pumping hours in `hours`.
   double getCosts(double Depth, double acres, double efficiency = EfficiencyFraction);
 
-  /// Gross inches that the plant can pump over the acres in a season; 0 for 0 acres.
+  /// Gross inches that the plant can pump per season on `acres`; 0 for 0 acres.
   /// \throws RunTimeError (overflow)
   [[nodiscard]] double getMaxInches(double acres) const;
 
   [[nodiscard]] IrrigationCosts Copy() const { return *this; }
 
-  /// The 11 lines of the saved inputs file, CR LF between them.
+  /// The 11 lines of the plant in the saved inputs file, separated by CR LF.
   [[nodiscard]] std::string writeData() const;
 };
 
 /// Feet of head per psi of pressure.
 inline constexpr double feetPerPsi = 2.31;
-/// Gallon-feet per minute that make one water horsepower.
+/// Gallon-feet per minute in one water horsepower.
 inline constexpr double gallonFeetPerHorsepower = 3960;
-/// Gallons per minute that pump one acre-inch in an hour.
+/// Gallons per minute that deliver one acre-inch per hour.
 inline constexpr double gpmPerAcreInchHour = 450;
-/// Gallons in an acre-inch, as the pumping capacity counts them (the hint of the irrigation cost pane uses
-/// 27154.2876; both are meant).
+/// Gallons per acre-inch, for the pumping capacity. The hint on the irrigation cost pane uses 27154.2876;
+/// both values are intended.
 inline constexpr double gallonsPerAcreInch = 27154;
 
-/// The performance figure of a fuel (water horsepower-hours per gallon, thousand cubic feet or kilowatt-hour;
-/// the Nebraska pumping plant performance criteria), or nothing for any other text.
+/// Performance of a fuel by the Nebraska pumping plant performance criteria, in water horsepower-hours per
+/// gallon, thousand cubic feet or kilowatt-hour.
+/// \returns nothing for any other text.
 [[nodiscard]] std::optional<double> fuelPerformance(std::string_view fuelType);
 
 }  // namespace verdalis

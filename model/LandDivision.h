@@ -6,14 +6,14 @@
 
 namespace verdalis {
 
-/// A way to divide the farm: the caption of its option button and the percent of the acres of each field.
+/// A land split: the caption of its option button, and the percent of the acres in each field.
 struct LandDivision {
   std::string_view caption;
   std::vector<double> percentages;
 };
 
-/// The six land divisions in the order of the option buttons. Four fields is the most that a candidate has.
-/// The three thirds are 33 % each: one percent of the land stays out of the allocation, and that is meant.
+/// The six land splits in the order of the option buttons. No candidate has more than four fields. The three
+/// thirds are 33 % each, so 1 % of the land is not allocated. This is intended.
 [[nodiscard]] const std::array<LandDivision, 6>& landDivisions();
 
 }  // namespace verdalis

@@ -7,7 +7,7 @@
 
 namespace verdalis {
 
-/// A number that is empty until it is set, and counts as 0 while it is empty.
+/// A number that can be empty. Empty counts as 0.
 class Number {
  public:
   Number() = default;
@@ -17,7 +17,7 @@ class Number {
   [[nodiscard]] bool isEmpty() const { return !value_.has_value(); }
   void clear() { value_.reset(); }
 
-  /// Empty, or general number text.
+  /// General number text, or an empty text.
   [[nodiscard]] std::string text() const { return value_ ? generalText(*value_) : std::string(); }
 
  private:

@@ -25,7 +25,8 @@ namespace verdalis {
   return value;
 }
 
-/// Takes a text of the file back. \throws RunTimeError (overflow) for a number that is too large.
+/// Reads a value back from the text in the file.
+/// \throws RunTimeError (overflow) if a number is too large.
 inline void readSaved(double& value, std::string_view text) {
   value = Val(text);
 }
@@ -43,33 +44,36 @@ inline void readSaved(std::string& value, std::string_view text) {
   value = text;
 }
 
-/// A member of `Owner` that is one line of the saved inputs: a number, a number that can be empty, a switch
-/// or a text.
+/// A member of `Owner` that is stored as one line of the saved inputs: a number, a number that can be empty,
+/// a boolean or a text.
 template <class Owner>
 class SavedField {
  public:
-  constexpr SavedField(double Owner::*member) : member_(member) {}  // NOLINT(google-explicit-constructor)
-  constexpr SavedField(Number Owner::*member) : member_(member) {}  // NOLINT: a member stands for its
-  constexpr SavedField(bool Owner::*member) : member_(member) {}    // NOLINT: field, whichever of the
-  constexpr SavedField(std::string Owner::*member) : member_(member) {}  // NOLINT: four it is
+  // NOLINTBEGIN(google-explicit-constructor): a pointer to member converts to its field
+  constexpr SavedField(double Owner::*member) : member_(member) {}
+  constexpr SavedField(Number Owner::*member) : member_(member) {}
+  constexpr SavedField(bool Owner::*member) : member_(member) {}
+  constexpr SavedField(std::string Owner::*member) : member_(member) {}
+  // NOLINTEND(google-explicit-constructor)
 
-  /// The line of the file.
+  /// The value as a line of the file.
   [[nodiscard]] std::string text(const Owner& owner) const {
     return std::visit([&](auto member) { return savedText(owner.*member); }, member_);
   }
 
-  /// Takes the line of the file back. \throws RunTimeError (overflow)
+  /// Reads the value back from a line of the file.
+  /// \throws RunTimeError (overflow)
   void read(Owner& owner, std::string_view text) const {
     std::visit([&](auto member) { readSaved(owner.*member, text); }, member_);
   }
 
-  /// Whether the field is a number, empty or not.
+  /// Whether the member is a number, possibly empty.
   [[nodiscard]] constexpr bool isNumber() const {
     return std::holds_alternative<double Owner::*>(member_) ||
            std::holds_alternative<Number Owner::*>(member_);
   }
 
-  /// The number of a field that is one; empty counts as 0.
+  /// The value of a numeric member; empty counts as 0.
   [[nodiscard]] double value(const Owner& owner) const {
     assert(isNumber());
     const auto* const plain = std::get_if<double Owner::*>(&member_);
@@ -92,7 +96,7 @@ class SavedField {
   std::variant<double Owner::*, Number Owner::*, bool Owner::*, std::string Owner::*> member_;
 };
 
-/// The lines of all fields, CR LF between them.
+/// The lines of all fields, separated by CR LF.
 template <class Owner>
 [[nodiscard]] std::string savedLines(std::span<const SavedField<Owner>> fields, const Owner& owner) {
   std::string text;

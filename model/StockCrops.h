@@ -9,33 +9,34 @@
 
 namespace verdalis {
 
-/// Price and yield that the default values give a crop.
+/// Default price and maximum yield of a crop.
 struct StockPrice {
   double price;     ///< $ per yield unit
   double maxYield;  ///< Yield units per acre
 };
 
-/// The most that a row of the crop list takes without a message.
+/// Largest values that a row of the crop list accepts without a message.
 struct RowLimits {
   double price;     ///< $ per yield unit
   double maxYield;  ///< Yield units per acre
 };
 
-/// Fertiliser taken up per unit of yield, lb of nutrient per yield unit (bu., ton or lb).
+/// Fertiliser uptake per unit of yield, lb of nutrient per yield unit (bu., ton or lb).
 struct NutrientRates {
   double nitrogen;
   double phosphorus;
 };
 
 enum class SeedUnit {
-  pound,    ///< Priced by the lb, sown in lb per acre
-  thousand  ///< Priced by 1,000 seeds, sown in seeds per acre
+  pound,    ///< Priced per lb, sown in lb per acre
+  thousand  ///< Priced per 1,000 seeds, sown in seeds per acre
 };
 
-/// Lower bounds of the water bands of the seeding rates, net inches; the first that holds wins.
+/// Lower bounds of the irrigation bands for seeding rates, net inches, highest first. The first band that
+/// fits is used.
 inline constexpr std::array<double, 6> seedBands{18, 15, 12, 9, 6, 0};
 
-/// A crop that the program knows the figures of. Its default costs stand in stockCosts().
+/// A crop with built-in figures. Its default costs are in stockCosts().
 struct StockCrop {
   CropKind kind;
   StockPrice defaults;
@@ -47,7 +48,7 @@ struct StockCrop {
   [[nodiscard]] constexpr std::string_view name() const { return cropName(kind); }
 };
 
-/// In the order of CropKind, which is that of their names.
+/// In the order of CropKind, which is alphabetical by name.
 inline constexpr std::array<StockCrop, 6> stockCrops{{
     {.kind = CropKind::alfalfa,
      .defaults = {85, 10},
@@ -87,27 +88,28 @@ inline constexpr std::array<StockCrop, 6> stockCrops{{
      .seedRates = {90, 90, 90, 90, 90, 90}},
 }};
 
-/// The place of a kind in stockCrops; nothing for Fallow and any other crop.
+/// Index of a kind in stockCrops; nothing for Fallow and any other crop.
 [[nodiscard]] constexpr std::optional<std::size_t> stockIndex(CropKind kind) {
   const auto first = static_cast<std::size_t>(stockCrops.front().kind);
-  const std::size_t index = static_cast<std::size_t>(kind) - first;  // of `other` beyond all of them
+  const std::size_t index = static_cast<std::size_t>(kind) - first;  // for `other` it is beyond the end
   if (index >= stockCrops.size()) return std::nullopt;
   return index;
 }
 
-/// The row of a kind; nullptr for Fallow and any other crop.
+/// The entry of a kind; nullptr for Fallow and any other crop.
 [[nodiscard]] constexpr const StockCrop* stockCrop(CropKind kind) {
   const std::optional<std::size_t> index = stockIndex(kind);
   return index ? &stockCrops[*index] : nullptr;
 }
 
-/// No nutrients for Fallow and any other crop.
+/// Zero rates for Fallow and any other crop.
 [[nodiscard]] constexpr NutrientRates nutrientRates(CropKind kind) {
   const StockCrop* const crop = stockCrop(kind);
   return crop != nullptr ? crop->nutrients : NutrientRates{0, 0};
 }
 
-/// The seeding rate for a net irrigation, inches; nothing for Fallow, any other crop and less than no water.
+/// The seeding rate for a net irrigation in inches; nothing for Fallow, any other crop, or a negative
+/// irrigation.
 [[nodiscard]] constexpr std::optional<double> optimalSeedRate(CropKind kind, double netDepth) {
   const StockCrop* const crop = stockCrop(kind);
   if (crop == nullptr) return std::nullopt;
@@ -117,7 +119,7 @@ inline constexpr std::array<StockCrop, 6> stockCrops{{
   return std::nullopt;
 }
 
-/// Fallow's seed and that of any other crop is priced by 1,000.
+/// The seed of Fallow and any other crop is priced per 1,000.
 [[nodiscard]] constexpr bool isSeedPricedByPound(CropKind kind) {
   const StockCrop* const crop = stockCrop(kind);
   return crop != nullptr && crop->seedUnit == SeedUnit::pound;

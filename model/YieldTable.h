@@ -6,13 +6,14 @@
 
 namespace verdalis {
 
-/// Yield by seasonal net irrigation (first subscript, whole inches from 0) and annual rainfall (second
-/// subscript, whole inches). A cell is either absolute (yield units per acre) or relative (fraction of the
-/// maximum yield, at most 1). The columns below the first rainfall value of the crop file stay 0.
+/// Yield by seasonal net irrigation (first index, whole inches from 0) and annual rainfall (second index,
+/// whole inches). A cell is either absolute (yield units per acre) or relative (fraction of the maximum
+/// yield, at most 1). Columns below the first rainfall of the crop file stay 0.
 class YieldTable {
  public:
-  /// All cells 0. `maxIrrigation` and `lastRain` are upper bounds of the subscripts, `firstRain` the first
-  /// column that a crop file fills. \throws RunTimeError (subscript) when a bound is negative.
+  /// Creates a table with all cells 0. `maxIrrigation` and `lastRain` are the largest indices, `firstRain` is
+  /// the first column filled by a crop file.
+  /// \throws RunTimeError (subscript) if a bound is negative.
   YieldTable(int maxIrrigation, int firstRain, int lastRain);
 
   [[nodiscard]] int maxIrrigation() const { return maxIrrigation_; }
@@ -22,7 +23,7 @@ class YieldTable {
     return irrigation >= 0 && irrigation <= maxIrrigation_ && rain >= 0 && rain <= lastRain_;
   }
 
-  /// A cell for which contains() holds.
+  /// Requires contains(irrigation, rain).
   [[nodiscard]] double cell(int irrigation, int rain) const { return cells_[index(irrigation, rain)]; }
 
   /// \throws RunTimeError (subscript) outside the table.

@@ -6,16 +6,16 @@
 
 namespace verdalis {
 
-/// The units that a custom crop may be measured in, in the order in which they are offered.
+/// Yield units for custom crops, in the order of the list in the window.
 enum class YieldUnit { bushels, pounds, tons };
 
-/// What a unit is called.
+/// The names of a unit.
 struct YieldUnitNames {
-  std::string_view choice;  ///< In the list of the custom crop pane
-  std::string_view words;   ///< In a crop file: short singular and plural
+  std::string_view choice;  ///< In the list on the custom crop pane
+  std::string_view words;   ///< In a crop file: short singular, plural
 };
 
-/// By unit. A crop in tons counts as a forage crop: see Crop::isForage().
+/// Indexed by YieldUnit. A crop in tons is a forage crop: see Crop::isForage().
 inline constexpr std::array<YieldUnitNames, 3> yieldUnits{{
     {"bushels/acre", "bu.,bushels"},
     {"pounds/acre", "lb,pounds"},

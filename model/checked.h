@@ -16,15 +16,17 @@ namespace verdalis {
       std::string(what) + " is too large to calculate with. Check the numbers that were entered.");
 }
 
-/// The result of a calculation. `what` begins the message, such as "The return of the field".
-/// \throws RunTimeError (overflow) when the result is infinite or not a number.
+/// Returns the result of a calculation if it is finite.
+/// \param what starts the message, for example "The return of the field".
+/// \throws RunTimeError (overflow) if the result is infinite or not a number.
 inline double checked(double result, std::string_view what) {
   if (!std::isfinite(result)) throwOverflow(what);
   return result;
 }
 
-/// A net depth (inches) as the gross depth that must be pumped for it. `efficiency` is a fraction.
-/// \throws RunTimeError (divisionByZero) for an efficiency of 0, (overflow) for one that is all but 0.
+/// Converts a net depth to the gross depth that must be pumped, both in inches.
+/// \param efficiency as a fraction.
+/// \throws RunTimeError (divisionByZero) if the efficiency is 0, (overflow) if it is almost 0.
 double grossFromNet(double net, double efficiency = EfficiencyFraction);
 
 }  // namespace verdalis

@@ -15,7 +15,7 @@ ProductionCosts inputCosts::price(double acres, double yield, const Crop& crop, 
     return {cost, NPerAcre, PPerAcre, SeedRate, AlfalfaStand};
   }
   ProductionCosts result;
-  // The units decide, not the name: a custom crop in tons has a stand life too.
+  // Forage is decided by the units, not the name: a custom crop in tons has a stand life too.
   result.stand = crop.isForage() && AlfalfaStand == 0.0 ? Number(1) : AlfalfaStand;
   const double standLife = crop.isForage() ? static_cast<double>(result.stand) : 1;
   const NutrientRates rates = nutrientRates(cropKind(crop.cropType));
@@ -37,7 +37,7 @@ ProductionCosts inputCosts::price(double acres, double yield, const Crop& crop, 
   total += InsecticideApplication * acres;
   total += getHarvestCost(acres, yield, crop.cropType);
   total += MiscCost * acres;
-  // An overflow in any of the terms reaches the total as an infinity or as no number.
+  // An overflow in any term makes the total infinite or NaN.
   result.cost = checked(total, "The production cost of a field");
   return result;
 }

@@ -10,7 +10,7 @@ namespace verdalis {
 
 class Crop;
 
-/// What growing a crop on a field costs, and the rates behind it.
+/// Production costs of a field, and the rates behind them.
 struct ProductionCosts {
   double cost = 0;        ///< Dollars for the field
   double nitrogen = 0;    ///< lb per acre
@@ -19,26 +19,26 @@ struct ProductionCosts {
   Number stand;           ///< Life of stand, years
 };
 
-/// The seed of a field, not yet spread over the life of the stand.
+/// Seed of a field, not yet spread over the life of the stand.
 struct SeedCosts {
   double cost = 0;  ///< Dollars for the field
   double rate = 0;  ///< Seeds per acre, or lb per acre
 };
 
-/// What it costs to grow one acre of one crop, and the dollars that makes for a field of a given size, yield
-/// and water. With the optimal switches on, nitrogen and phosphorus follow the yield that is reached and the
-/// seeding rate follows the net irrigation.
+/// Production costs of one crop per acre, and the resulting dollars for a field of given size, yield and
+/// water. With the optimal switches on, nitrogen and phosphorus follow the yield, and the seeding rate
+/// follows the net irrigation.
 class inputCosts {
  public:
   double NitrogenCost = 0;            ///< $ per lb
-  double NitrogenApplied = 0;         ///< lb per acre, used while NOptimal is off
-  bool NOptimal = false;              ///< Nitrogen by yield
+  double NitrogenApplied = 0;         ///< lb per acre, used if NOptimal is off
+  bool NOptimal = false;              ///< Nitrogen follows the yield
   double PCost = 0;                   ///< $ per lb
-  double PApplied = 0;                ///< lb per acre, used while POptimal is off
-  bool POptimal = false;              ///< Phosphorus by yield
+  double PApplied = 0;                ///< lb per acre, used if POptimal is off
+  bool POptimal = false;              ///< Phosphorus follows the yield
   double SeedCost = 0;                ///< $ per 1,000 seeds; $ per lb for Grain Sorghum, Wheat and Alfalfa
-  double SeedRate = 0;                ///< Seeds per acre, or lb per acre. Overwritten while SeedOptimal is on
-  bool SeedOptimal = false;           ///< Seeding rate by net irrigation
+  double SeedRate = 0;                ///< Seeds per acre, or lb per acre. Overwritten if SeedOptimal is on
+  bool SeedOptimal = false;           ///< Seeding rate follows the net irrigation
   double Herbicide = 0;               ///< $ per acre, material
   double Insecticide = 0;             ///< $ per acre, material
   double Tillage = 0;                 ///< $ per acre, operation
@@ -47,54 +47,57 @@ class inputCosts {
   double HerbicideApplication = 0;    ///< $ per acre, operation
   double InsecticideApplication = 0;  ///< $ per acre, operation
   Number HarvestBasePerAcre;          ///< $ per acre, custom harvest base charge
-  Number HarvestExceedBu;             ///< Yield units per acre above which the extra charge runs
+  Number HarvestExceedBu;             ///< Yield units per acre above which the extra charge applies
   Number HarvestExceedRate;           ///< $ per yield unit ($ per 100 lb for Sunflower)
   Number HarvestHauling;              ///< $ per yield unit ($ per 100 lb for Sunflower)
-  Number
-      HarvestFlatRate;  ///< $ per yield unit ($ per 100 lb for Sunflower); above 0 it replaces the other four
+  Number HarvestFlatRate;     ///< $ per yield unit ($ per 100 lb for Sunflower); if above 0 it replaces the
+                              ///< other four
   Number AlfalfaSwathing;     ///< $ per acre and operation
   Number AlfalfaSwathingNum;  ///< Operations per season
   Number AlfalfaRaking;       ///< $ per acre and operation
   Number AlfalfaRakingNum;    ///< Operations per season
   Number AlfalfaBaling;       ///< $ per bale
   Number AlfalfaBalingNum;    ///< Bales per acre
-  Number AlfalfaPerTon;       ///< $ per ton; above 0 it replaces the three operations
-  Number AlfalfaStand;        ///< Life of stand, years. 0 or empty becomes 1 when first costed
-  double AlfalfaFlat = 0;     ///< Reserved: no screen, file or formula touches it, and Copy() leaves it out
-  double Returns = 0;         ///< $ per acre, other income of the land
+  Number AlfalfaPerTon;       ///< $ per ton; if above 0 it replaces the three operations
+  Number AlfalfaStand;        ///< Life of stand, years. 0 or empty is set to 1 by the first getCosts()
+  double AlfalfaFlat = 0;     ///< Reserved: not used by any screen, file or formula; Copy() leaves it out
+  double Returns = 0;         ///< $ per acre, other income from the land
   double MiscCost = 0;        ///< $ per acre
-  std::string theString;      ///< Returned by toString(); nothing sets it
-  double NPerAcre = 0;        ///< Result: lb of nitrogen per acre of the last getCosts()
-  double PPerAcre = 0;        ///< Result: lb of phosphorus per acre of the last getCosts()
-  bool UseBatch = false;      ///< A trend has replaced the production costs by BatchGeneralCosts
+  std::string theString;      ///< Returned by toString(); never set
+  double NPerAcre = 0;        ///< Result: nitrogen from the last getCosts(), lb per acre
+  double PPerAcre = 0;        ///< Result: phosphorus from the last getCosts(), lb per acre
+  bool UseBatch = false;      ///< A trend replaces the production costs with BatchGeneralCosts
   double BatchGeneralCosts = 0;  ///< $ per acre
 
-  /// Production costs of a field: `acres` is its size, `yield` is per acre, `grossDepth` in inches,
-  /// `efficiency` a fraction. Rates that take no part are those that stand here.
+  /// Production costs of a field. Rates that are not computed are taken from this object.
+  /// \param yield per acre.
+  /// \param grossDepth gross irrigation, inches.
+  /// \param efficiency as a fraction.
   /// \throws RunTimeError (overflow)
   [[nodiscard]] ProductionCosts price(double acres, double yield, const Crop& crop, double grossDepth,
                                       double efficiency) const;
 
-  /// The cost of price(), dollars. NPerAcre, PPerAcre, SeedRate and AlfalfaStand take its rates; `grossDepth`
-  /// comes back multiplied by the efficiency, except with UseBatch.
+  /// The cost from price(), dollars. Stores the rates in NPerAcre, PPerAcre, SeedRate and AlfalfaStand.
+  /// \param grossDepth multiplied by the efficiency on return, except with UseBatch.
   /// \throws RunTimeError (overflow)
   double getCosts(double acres, double yield, const Crop& crop, double& grossDepth,
                   double efficiency = EfficiencyFraction);
 
-  /// Other income of a field, dollars.
+  /// Other income from a field, dollars.
   /// \throws RunTimeError (overflow)
   [[nodiscard]] double getReturns(double acres) const;
 
-  /// Harvest cost of a field, dollars. The extra charge has no floor: a yield below HarvestExceedBu lowers
-  /// the cost, and that is meant. \throws RunTimeError (overflow)
+  /// Harvest cost of a field, dollars. The extra charge has no lower limit: a yield below HarvestExceedBu
+  /// reduces the cost. This is intended.
+  /// \throws RunTimeError (overflow)
   [[nodiscard]] double getHarvestCost(double acres, double yield, std::string_view cropType) const;
 
-  /// Seed of a field; with SeedOptimal the rate follows the net depth (inches).
+  /// Seed of a field. With SeedOptimal the rate follows the net depth (inches).
   /// \throws RunTimeError (overflow)
   [[nodiscard]] SeedCosts priceSeed(double acres, std::string_view cropType, double netDepth) const;
 
-  /// The cost of priceSeed(), dollars. `yield` takes no part. `grossDepth` comes back as net inches, and
-  /// SeedRate takes the rate.
+  /// The cost from priceSeed(), dollars. Stores the rate in SeedRate. `yield` is not used.
+  /// \param grossDepth converted to net inches on return.
   /// \throws RunTimeError (overflow)
   double getSeedCost(double acres, double yield, std::string_view cropType, double& grossDepth,
                      double efficiency = EfficiencyFraction);
@@ -102,7 +105,7 @@ class inputCosts {
   [[nodiscard]] std::string toString() const { return theString; }
   [[nodiscard]] inputCosts Copy() const;
 
-  /// The 31 lines of the saved inputs file, CR LF between them.
+  /// The 31 lines of the costs in the saved inputs file, separated by CR LF.
   [[nodiscard]] std::string writeData() const;
 };
 

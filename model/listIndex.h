@@ -7,7 +7,7 @@
 
 namespace verdalis {
 
-/// The position in a vector of an entry that is counted from 1.
+/// Converts an index counted from 1 to a position in a vector.
 /// \throws RunTimeError (subscript) outside 1..count.
 inline std::size_t listIndex(long index, std::size_t count) {
   if (index < 1 || static_cast<std::size_t>(index) > count) {

@@ -48,7 +48,7 @@ constexpr std::array<CostField, 31> costTable{
     &Costs::AlfalfaPerTon,
     &Costs::AlfalfaStand,
     &Costs::MiscCost,
-    &Costs::FertilizerApplication,  // out of its family, at the end: that is its place in the file
+    &Costs::FertilizerApplication,  // last in the file, apart from the other operations
 };
 
 }  // namespace

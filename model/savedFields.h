@@ -7,8 +7,8 @@
 #include "model/SavedField.h"
 #include "model/inputCosts.h"
 
-// What the saved inputs keep of the plant and of a crop, in the order of the lines. They are written and read
-// by these tables, so that the order stands once.
+// The fields of the plant and of a crop in the saved inputs, in the order of their lines. Writing and reading
+// both use these tables, so the order is defined once.
 
 namespace verdalis {
 
@@ -17,7 +17,7 @@ using CostField = SavedField<inputCosts>;
 /// The 11 lines of the plant.
 [[nodiscard]] std::span<const SavedField<IrrigationCosts>> plantFields();
 
-/// The lines of a crop behind its name and in front of its costs: price and maximum yield.
+/// The lines of a crop between its name and its costs: price and maximum yield.
 [[nodiscard]] std::span<const SavedField<Crop>> cropFields();
 
 /// The 31 lines of a crop's production costs.

@@ -7,22 +7,22 @@ namespace {
 
 using Costs = inputCosts;
 
-/// In the pane and in the crop.
+/// Shown on the pane and loaded into the crop.
 constexpr DefaultCost of(const char* text) {
   return {text, true};
 }
-/// In the pane alone.
+/// Shown on the pane only.
 constexpr DefaultCost inPane(const char* text) {
   return {text, false};
 }
 constexpr DefaultCost keep{nullptr, false};
-/// The pane empties its field, the crop keeps its number.
+/// Clears the field on the pane; the crop keeps its value.
 constexpr DefaultCost empty{"", false};
-/// The pane empties its field, the crop gets a 0.
+/// Clears the field on the pane; the crop gets 0.
 constexpr DefaultCost zero{"", true};
 
-// Crop budgets of the central High Plains, $ per unit; for Alfalfa, Corn, Grain Sorghum, Soybeans, Sunflower,
-// Wheat and Fallow.
+// Crop budgets of the central High Plains, $ per unit. Columns: Alfalfa, Corn, Grain Sorghum, Soybeans,
+// Sunflower, Wheat, Fallow.
 constexpr std::array<DefaultCosts, 24> table{{
     {&Costs::SeedCost, {of("4.05"), of("2.89"), of("3.43"), of("0.31"), of("2.14"), of("0.16"), keep}},
     {&Costs::NitrogenCost, {of("0.44"), of("0.44"), of("0.44"), of("0.44"), of("0.44"), of("0.44"), empty}},

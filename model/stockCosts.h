@@ -9,23 +9,23 @@
 
 namespace verdalis {
 
-/// What the default values do to one cost of one crop. The production cost pane shows them as texts, and the
-/// main pane loads them into the crop; where the two differ, both are meant.
+/// Default value of one cost of one crop. The production cost pane shows the text, and the main pane loads
+/// the number into the crop. Where the two differ, this is intended.
 struct DefaultCost {
-  const char* text = nullptr;  ///< Put into the field of the pane; nullptr leaves it as it is
-  bool loaded = false;         ///< Whether the crop gets its number; else the crop keeps what it has
+  const char* text = nullptr;  ///< Text for the field on the pane; nullptr leaves the field unchanged
+  bool loaded = false;  ///< Whether the number is loaded into the crop; if not, the crop keeps its value
 };
 
-/// The default values of one cost: of the stock crops in their order, and of Fallow.
+/// Default values of one cost: for the stock crops in their order, then for Fallow.
 struct DefaultCosts {
   CostField field;
   std::array<DefaultCost, stockCrops.size() + 1> cells;
 };
 
-/// All costs that have default values, each once.
+/// All costs with default values, each once.
 [[nodiscard]] std::span<const DefaultCosts> stockCosts();
 
-/// The default value of a cost of a crop; one that leaves everything where there is none.
+/// Default value of a cost of a crop. If there is none, the result leaves pane and crop unchanged.
 [[nodiscard]] DefaultCost defaultCost(CropKind kind, const CostField& field);
 
 }  // namespace verdalis

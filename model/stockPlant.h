@@ -7,16 +7,16 @@
 
 namespace verdalis {
 
-/// The default value of a field of the plant.
+/// Default value of a field of the plant.
 struct PlantDefault {
   SavedField<IrrigationCosts> field;
-  std::string_view text;  ///< As it is shown; the plant gets what it reads from it
+  std::string_view text;  ///< As shown; the plant gets the value read from it
 };
 
-/// All fields of the plant that have a default value, each once.
+/// All fields of the plant with a default value, each once.
 [[nodiscard]] std::span<const PlantDefault> stockPlant();
 
-/// The default value of a field as it is shown; empty where it has none.
+/// Default value of a field as shown; empty if it has none.
 [[nodiscard]] std::string_view defaultPlantText(const SavedField<IrrigationCosts>& field);
 
 }  // namespace verdalis

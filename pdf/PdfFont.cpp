@@ -21,7 +21,7 @@ class PdfFont::Ruler {
   }
 
  private:
-  // Nothing is ever drawn on it: it only says that measures are those of a page.
+  // Nothing is drawn on this surface; it provides the measures of a page.
   CairoSurface surface_{cairo_recording_surface_create(CAIRO_CONTENT_COLOR_ALPHA, nullptr)};
   CairoContext context_{cairo_create(surface_.get())};
   PangoText text_ = makeText(*context_);

@@ -7,8 +7,8 @@
 
 namespace verdalis {
 
-/// The measures of the typeface that PDF files are drawn with: Liberation Sans, or what the system puts in
-/// its place. They do not depend on a screen or a printer.
+/// Text measures of the PDF font: Liberation Sans, or the system's substitute. Independent of screen and
+/// printer.
 class PdfFont : public FontMetrics {
  public:
   PdfFont();

@@ -8,7 +8,7 @@
 namespace verdalis {
 namespace {
 
-/// Called by the library, through which no exception may pass.
+/// Callback from Cairo, a C library: must not throw.
 cairo_status_t append(void* bytes, const unsigned char* data, unsigned int length) noexcept {
   try {
     static_cast<std::string*>(bytes)->append(data, data + length);

@@ -7,9 +7,10 @@
 
 namespace verdalis {
 
-/// The bytes of a PDF file of `pages` pages with these texts, in their order, and with the fonts that it
-/// needs. `title` is shown by readers in place of the name of the file.
-/// \throws RunTimeError (fileNotFound) when it cannot be drawn
+/// Draws a PDF file with `pages` pages and the given texts in their order. The fonts are embedded.
+/// \param title shown by PDF readers instead of the file name.
+/// \returns the bytes of the file.
+/// \throws RunTimeError (fileNotFound) if it cannot be drawn
 [[nodiscard]] std::string drawPdf(const std::vector<PlacedText>& texts, int pages, const Paper& paper,
                                   const std::string& title);
 

@@ -29,7 +29,7 @@ PangoText makeText(cairo_t& context) {
   cairo_font_options_set_hint_style(options.get(), CAIRO_HINT_STYLE_NONE);
   cairo_font_options_set_hint_metrics(options.get(), CAIRO_HINT_METRICS_OFF);
   pango_cairo_context_set_font_options(pango, options.get());
-  pango_cairo_context_set_resolution(pango, 72);  // sizes are points, and so are the units of the page
+  pango_cairo_context_set_resolution(pango, 72);  // 72 dpi, so that font sizes and page units are both points
   pango_context_set_round_glyph_positions(pango, FALSE);
   pango_layout_set_single_paragraph_mode(text.get(), TRUE);
   return text;

@@ -10,7 +10,7 @@
 
 namespace verdalis {
 
-// Handles of the drawing library that free what they hold.
+// Owning handles for Cairo and Pango objects.
 
 struct CairoDeleter {
   void operator()(cairo_surface_t* surface) const { cairo_surface_destroy(surface); }
@@ -25,13 +25,13 @@ using CairoSurface = std::unique_ptr<cairo_surface_t, CairoDeleter>;
 using CairoContext = std::unique_ptr<cairo_t, CairoDeleter>;
 using PangoText = std::unique_ptr<PangoLayout, GObjectDeleter>;
 
-/// A layout without hinting, so that a text is as wide on paper as it was measured, on every machine.
+/// A layout without hinting, so that texts are as wide on paper as measured, on every machine.
 [[nodiscard]] PangoText makeText(cairo_t& context);
 
-/// A text as valid UTF-8, which the library insists on.
+/// The text as valid UTF-8, which Pango requires.
 [[nodiscard]] std::string validText(const std::string& text);
 
-/// Gives a layout its text, on one line whatever it holds, and its font.
+/// Sets text and font of a layout. The text stays on one line.
 void setText(PangoLayout& layout, const std::string& text, const PageFont& font);
 
 }  // namespace verdalis

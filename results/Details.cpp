@@ -23,12 +23,8 @@ Details::Details(Frame& container, const std::string& name, const ProgramState& 
   picBatch[1].setCaption("Irrigation Costs:");
   for (Frame& panel : picBatch)
     panel.setVisible(false);
-  Command2.onClick = [this] {
-    if (onPrint) onPrint();
-  };
-  Command3.onClick = [this] {
-    if (onBack) onBack(state_.TrendMode ? BackTo::trendResults : BackTo::results);
-  };
+  Command2.onClick.connect([this] { onPrint(); });
+  Command3.onClick.connect([this] { onBack(state_.TrendMode ? BackTo::trendResults : BackTo::results); });
 }
 
 const std::vector<Details::Block>& Details::blocks() {
@@ -87,7 +83,7 @@ void Details::loadCosts(const Field& field) {
   showIrrigation();
   showTotals(gross);
   showNotes();
-  if (onFieldLoaded) onFieldLoaded(field);
+  onFieldLoaded(field);
 }
 
 void Details::showOverrides() {

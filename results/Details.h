@@ -1,12 +1,12 @@
 #pragma once
 
 #include <array>
-#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "controls/Control.h"
+#include "controls/Event.h"
 #include "controls/displays.h"
 #include "engine/ProgramState.h"
 #include "model/Field.h"
@@ -105,10 +105,10 @@ class Details : public Frame {
   void loadCosts(const Field& field);
 
   /// A field is on show: it can be printed.
-  std::function<void(const Field&)> onFieldLoaded;
+  Event<const Field&> onFieldLoaded;
 
-  std::function<void()> onPrint;
-  std::function<void(BackTo)> onBack;
+  Event<> onPrint;
+  Event<BackTo> onBack;
 
  private:
   void showOverrides();

@@ -14,9 +14,7 @@ constexpr const char* moneyPattern = "###,##0";
 }  // namespace
 
 ResultHolder::ResultHolder(Frame& container, const std::string& name) : Frame(container, name, Scope::named) {
-  cmdDetails.onClick = [this] {
-    if (onDetails) onDetails(theField);
-  };
+  cmdDetails.onClick.connect([this] { onDetails(theField); });
 }
 
 void ResultHolder::loadField(const Field& field) {

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <string>
 
 #include "controls/Control.h"
+#include "controls/Event.h"
 #include "controls/displays.h"
 #include "model/Field.h"
 
@@ -29,7 +29,7 @@ class ResultHolder : public Frame {
   Button cmdDetails{*this, "cmdDetails", "Details"};
 
   /// The details of theField are asked for.
-  std::function<void(const std::shared_ptr<Field>&)> onDetails;
+  Event<const std::shared_ptr<Field>&> onDetails;
 
   /// Shows a copy of the field. A figure that cannot be calculated leaves its label as it was.
   void loadField(const Field& field);

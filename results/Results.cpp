@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "controls/ask.h"
 #include "model/listIndex.h"
 #include "results/figures.h"
 #include "results/passOver.h"
@@ -26,37 +27,25 @@ Results::Results(Frame& container, const std::string& name, Services& services, 
 }
 
 void Results::connect() {
-  cmdPrevious.onClick = [this] { page(-1); };
-  cmdAdvance.onClick = [this] { page(1); };
-  cmdSaveResult.onClick = [this] { saveResult(); };
-  cmdBatchThis.onClick = [this] { batchThis(); };
-  Command1.onClick = [this] {
-    if (onBack) onBack(state_.TrendMode ? BackTo::trendSetup : BackTo::main);
-  };
-  Command2.onClick = [this] {
-    if (onPrint) onPrint();
-  };
-  cmdExcel.onClick = [this] {
-    if (onExcel) onExcel();
-  };
+  cmdPrevious.onClick.connect([this] { page(-1); });
+  cmdAdvance.onClick.connect([this] { page(1); });
+  cmdSaveResult.onClick.connect([this] { saveResult(); });
+  cmdBatchThis.onClick.connect([this] { batchThis(); });
+  Command1.onClick.connect([this] { onBack(state_.TrendMode ? BackTo::trendSetup : BackTo::main); });
+  Command2.onClick.connect([this] { onPrint(); });
+  cmdExcel.onClick.connect([this] { onExcel(); });
   for (ResultHolder& row : rh) {
-    row.onDetails = [this](const std::shared_ptr<Field>& field) {
-      if (onDetails) onDetails(field);
-    };
+    row.onDetails.connect([this](const std::shared_ptr<Field>& field) { onDetails(field); });
   }
-  cmdHelp.onClick = [this] {
-    if (onHelpTopic) onHelpTopic("batchoption.htm#BatchFixed");
-  };
-  cmdHelp2.onClick = [this] {
-    if (!onHelpNote) return;
+  cmdHelp.onClick.connect([this] { onHelpTopic("batchoption.htm#BatchFixed"); });
+  cmdHelp2.onClick.connect([this] {
     onHelpNote(
         "Click an 'Option' previous or next button to display results of each step of the input variable "
         "range(s)",
         "View Trend Results", 1750);
-  };
-  cmdHelp3.onClick = [this] {
-    if (onHelpNote) onHelpNote("Exports results to a MS Excel spreadsheet", "Excel Output", 1725);
-  };
+  });
+  cmdHelp3.onClick.connect(
+      [this] { onHelpNote("Exports results to a MS Excel spreadsheet", "Excel Output", 1725); });
 }
 
 const Results::Option& Results::option(std::int16_t number) const {
@@ -153,17 +142,17 @@ void Results::page(std::int16_t direction) {
 }
 
 void Results::saveResult() {
-  if (onSaveOption) onSaveOption(option(currentRecord));
-  const Desk::Modal modal(desk());
-  services_.messageBox.show({"Result saved",
-                             "This option has been saved for comparison and is available by clicking the "
-                             "'Summary Table' menu item",
-                             MessageIcon::none, MessageButtons::ok});
+  onSaveOption(option(currentRecord));
+  ask(desk(), services_.messageBox,
+      {"Result saved",
+       "This option has been saved for comparison and is available by clicking the "
+       "'Summary Table' menu item",
+       MessageKind::notice, MessageIcon::none, MessageButtons::ok});
 }
 
 void Results::batchThis() {
   state_.SelectedOption = option(currentRecord);
-  if (onBatchThis) onBatchThis(state_.SelectedOption);
+  onBatchThis(state_.SelectedOption);
   EnableBatch(true);
 }
 

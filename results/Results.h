@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "controls/Control.h"
+#include "controls/Event.h"
 #include "controls/displays.h"
 #include "controls/services.h"
 #include "engine/ProgramState.h"
@@ -84,21 +85,21 @@ class Results : public Frame {
   Button cmdHelp3{pnlBatchedVariables, "cmdHelp3", "?"};
 
   /// The details of a field of the option are asked for. The field is the row's copy.
-  std::function<void(const std::shared_ptr<Field>&)> onDetails;
+  Event<const std::shared_ptr<Field>&> onDetails;
 
   /// The option, this very object, is to be kept for comparison.
-  std::function<void(const Option&)> onSaveOption;
+  Event<const Option&> onSaveOption;
 
   /// A fixed trend on the option is asked for, which is the selected option by then.
-  std::function<void(const Option&)> onBatchThis;
+  Event<const Option&> onBatchThis;
 
-  std::function<void(BackTo)> onBack;
-  std::function<void()> onPrint;
-  std::function<void()> onExcel;
-  std::function<void(const std::string& topic)> onHelpTopic;
+  Event<BackTo> onBack;
+  Event<> onPrint;
+  Event<> onExcel;
+  Event<const std::string&> onHelpTopic;  ///< Gets the topic
 
   /// A note: its text, its title, and the height of its window in layout units.
-  std::function<void(const std::string& text, const std::string& title, int height)> onHelpNote;
+  Event<const std::string&, const std::string&, int> onHelpNote;
 
   /// The variables of the trend processes as they are defined at the moment, in order.
   std::function<std::vector<TrendedVariable>()> trendedVariables;

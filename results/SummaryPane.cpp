@@ -6,6 +6,7 @@
 #include <optional>
 #include <utility>
 
+#include "controls/ask.h"
 #include "model/checked.h"
 #include "results/figures.h"
 #include "text/RunTimeError.h"
@@ -54,16 +55,14 @@ SummaryPane::SummaryPane(Frame& container, Services& services, SavedOptions& sum
       summaryResults_(summaryResults),
       outside_(std::move(outside)) {
   setCaption("Summary of Saved Options");
-  fgsummary.onClick = [this] { removeClicked(); };
-  cmdExcelSave.onClick = [this] { saveTable(); };
-  cmdCancel.onClick = [this] {
-    if (onBack) onBack();
-  };
+  fgsummary.onClick.connect([this] { removeClicked(); });
+  cmdExcelSave.onClick.connect([this] { saveTable(); });
+  cmdCancel.onClick.connect([this] { onBack(); });
 }
 
 void SummaryPane::showSummary() {
   build();
-  if (onShowPane) onShowPane();
+  onShowPane();
 }
 
 void SummaryPane::build() {
@@ -133,13 +132,10 @@ void SummaryPane::addField(Field& field, int column) {
 }
 
 void SummaryPane::removeClicked() {
-  {
-    const Desk::Modal modal(desk());
-    const MessageAnswer answer =
-        services_.messageBox.show({"Delete?", "Do you want to delete this saved result?",
-                                   MessageIcon::question, MessageButtons::yesNo});
-    if (answer != MessageAnswer::yes) return;
-  }
+  const MessageAnswer answer = ask(desk(), services_.messageBox,
+                                   {"Delete?", "Do you want to delete this saved result?",
+                                    MessageKind::question, MessageIcon::question, MessageButtons::yesNo});
+  if (answer != MessageAnswer::yes) return;
   // An option counts for one column more than it has fields, so the columns agree with those of the table for
   // the first option only. That is meant.
   int n = 1;
@@ -153,15 +149,12 @@ void SummaryPane::removeClicked() {
     n = beyond + 1;
   }
   // A click on the heads removes nothing, but shows the pane once more, which the pane history keeps.
-  if (onShowPane) onShowPane();
+  onShowPane();
 }
 
 void SummaryPane::saveTable() {
-  std::optional<std::filesystem::path> path;
-  {
-    const Desk::Modal modal(desk());
-    path = services_.fileChooser.chooseSave({"", {}, "Comma Separated Values|csv", "csv"});
-  }
+  const std::optional<std::filesystem::path> path =
+      askToSave(desk(), services_.fileChooser, {"", {}, "Comma Separated Values|csv", "csv"});
   if (path) outside_.writeFile(*path, encodeForExport(commaSeparated(fgsummary)));
 }
 

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "controls/Control.h"
+#include "controls/Event.h"
 #include "controls/Grid.h"
 #include "controls/displays.h"
 #include "controls/services.h"
@@ -47,9 +48,9 @@ class SummaryPane : public Frame {
   void showSummary();
 
   /// The pane is to be shown, even if it is the one on show.
-  std::function<void()> onShowPane;
+  Event<> onShowPane;
 
-  std::function<void()> onBack;
+  Event<> onBack;
 
  private:
   void build();

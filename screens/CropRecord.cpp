@@ -18,19 +18,17 @@ const RowLimits* limitsOf(const std::shared_ptr<Crop>& crop) {
 
 CropRecord::CropRecord(Frame& container, int index, MessageBoxService& messageBox)
     : Frame(container, "cr(" + std::to_string(index) + ")", Scope::named), messageBox_(messageBox) {
-  chkCrop.onClick = [this] { showActivity(); };
-  cmdInputCosts.onClick = [this] {
-    if (onInputCosts) onInputCosts();
-  };
+  chkCrop.onClick.connect([this] { showActivity(); });
+  cmdInputCosts.onClick.connect([this] { onInputCosts(); });
   // A partly typed price leaves the crop's old one, a partly typed yield its leading digits: both are meant.
-  txtPrice.onChange = [this] {
+  txtPrice.onChange.connect([this] {
     if (Crop && isNumeric(txtPrice.text())) Crop->price = toDouble(txtPrice.text());
-  };
-  txtMaxYield.onChange = [this] {
+  });
+  txtMaxYield.onChange.connect([this] {
     if (Crop) Crop->maxYield = getMaxYield();
-  };
-  txtPrice.onLeave = [this] { testPrice(); };
-  txtMaxYield.onLeave = [this] { testMaxYield(); };
+  });
+  txtPrice.onLeave.connect([this] { testPrice(); });
+  txtMaxYield.onLeave.connect([this] { testMaxYield(); });
   showActivity();
 }
 

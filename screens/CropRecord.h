@@ -1,9 +1,9 @@
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <string>
 
+#include "controls/Event.h"
 #include "controls/displays.h"
 #include "controls/inputs.h"
 #include "controls/services.h"
@@ -56,7 +56,7 @@ class CropRecord : public Frame {
   /// What a run needs of the row.
   [[nodiscard]] CropRowInput input() const { return {isActive(), txtPrice.text(), txtMaxYield.text()}; }
 
-  std::function<void()> onInputCosts;
+  Event<> onInputCosts;
 
  private:
   void showActivity();

@@ -3,6 +3,7 @@
 #include <system_error>
 #include <utility>
 
+#include "controls/ask.h"
 #include "data/StockGrids.h"
 #include "data/writeFile.h"
 #include "model/CropKind.h"
@@ -98,20 +99,18 @@ CustomCropPane::CustomCropPane(Frame& window, Services& services, std::filesyste
 }
 
 void CustomCropPane::wire() {
-  cboCustomGrid[0].onClick = [this] { loadCustomCrop(cboCustomGrid[0].index()); };
-  cboCustomGrid[5].onClick = [this] { loadDefaultTable(); };
-  txtCustom.onKey = [this] { customAltered = true; };
-  dgCustom.onCharacter = [this](const std::string& character) { typeIntoGrid(dgCustom, character); };
-  dgCustom.onKey = [this](GridKey key) { pressKeyInGrid(dgCustom, key, services_.clipboard); };
-  cmdCustomGrid0.onClick = [this] { setGridSize(); };
-  cmdCustomGrid2.onClick = [this] { save(); };
-  cmdCustomGrid3.onClick = [this] { copyGrid(); };
-  cmdCustomGrid4.onClick = [this] { pasteGrid(); };
-  cmdCustomGrid5.onClick = [this] { goHome(); };
-  cmdCustomGrid6.onClick = [this] { deleteCrop(); };
-  cmdHelp.onHelp = [this](int index) {
-    if (onHelp) onHelp(index);
-  };
+  cboCustomGrid[0].onClick.connect([this] { loadCustomCrop(cboCustomGrid[0].index()); });
+  cboCustomGrid[5].onClick.connect([this] { loadDefaultTable(); });
+  txtCustom.onKey.connect([this] { customAltered = true; });
+  dgCustom.onCharacter.connect([this](const std::string& character) { typeIntoGrid(dgCustom, character); });
+  dgCustom.onKey.connect([this](GridKey key) { pressKeyInGrid(dgCustom, key, services_.clipboard); });
+  cmdCustomGrid0.onClick.connect([this] { setGridSize(); });
+  cmdCustomGrid2.onClick.connect([this] { save(); });
+  cmdCustomGrid3.onClick.connect([this] { copyGrid(); });
+  cmdCustomGrid4.onClick.connect([this] { pasteGrid(); });
+  cmdCustomGrid5.onClick.connect([this] { goHome(); });
+  cmdCustomGrid6.onClick.connect([this] { deleteCrop(); });
+  cmdHelp.onHelp.connect([this](int index) { onHelp(index); });
 }
 
 void CustomCropPane::fillLists() {
@@ -131,7 +130,7 @@ void CustomCropPane::open() {
   scanCustomCrops();
   listCustomCrops();
   resetCustomEditor();
-  if (onShowPane) onShowPane();
+  onShowPane();
 }
 
 void CustomCropPane::scanCustomCrops() {
@@ -186,10 +185,11 @@ void CustomCropPane::setGridSize() {
 void CustomCropPane::loadDefaultTable() {
   if (!dgCustom.cell(1, 1).empty()) {
     const MessageAnswer answer = ask(
+        desk(), services_.messageBox,
         {"Load defaults?",
          "Loading default crop values will overwrite any existing data you've entered for this custom crop.  "
          "Continue to load the default crop values?",
-         MessageIcon::question, MessageButtons::yesNo});
+         MessageKind::question, MessageIcon::question, MessageButtons::yesNo});
     if (answer != MessageAnswer::yes) return;
   }
   const int index = cboCustomGrid[5].index();
@@ -210,13 +210,15 @@ void CustomCropPane::save() {
   const std::optional<std::filesystem::path> path = pathToSave();
   if (!path) return;
   if (txtCustom.text().empty() || dgCustom.cell(1, 1).empty()) {
-    ask({"Not enough information",
+    ask(desk(), services_.messageBox,
+        {"Not enough information",
          "Please enter all of the information above, including information in the data grid",
-         MessageIcon::exclamation});
+         MessageKind::refusal, MessageIcon::exclamation});
     return;
   }
   leaveOutIfFailing([&] { write(*path); });
-  ask({"Saved", "The custom crop has been saved.", MessageIcon::information});
+  ask(desk(), services_.messageBox,
+      {"Saved", "The custom crop has been saved.", MessageKind::notice, MessageIcon::information});
   reloadRows();
   customAltered = false;
 }
@@ -226,10 +228,12 @@ std::optional<std::filesystem::path> CustomCropPane::pathToSave() {
   const CustomCropEntry* const crop = selectedCrop();
   if (crop != nullptr && crop->name == txtCustom.text()) return crop->path;
   if (crop != nullptr) {
-    const MessageAnswer answer = ask({"Save as new?",
-                                      "Do you want to save this as a new custom crop?  Selecting YES will "
-                                      "create a new custom crop.",
-                                      MessageIcon::question, MessageButtons::yesNoCancel});
+    const MessageAnswer answer =
+        ask(desk(), services_.messageBox,
+            {"Save as new?",
+             "Do you want to save this as a new custom crop?  Selecting YES will "
+             "create a new custom crop.",
+             MessageKind::question, MessageIcon::question, MessageButtons::yesNoCancel});
     // With No the file keeps its name and gets the new name of the crop in its first line.
     if (answer == MessageAnswer::no) return crop->path;
     if (answer != MessageAnswer::yes) return std::nullopt;
@@ -249,23 +253,26 @@ void CustomCropPane::write(const std::filesystem::path& path) {
 void CustomCropPane::copyGrid() {
   services_.clipboard.clear();
   services_.clipboard.setText(spreadsheetText(dgCustom));
-  ask({"Ready to Paste", "Your grid has been copied to your clipboard and can now be pasted into Excel",
-       MessageIcon::exclamation});
+  ask(desk(), services_.messageBox,
+      {"Ready to Paste", "Your grid has been copied to your clipboard and can now be pasted into Excel",
+       MessageKind::notice, MessageIcon::exclamation});
 }
 
 void CustomCropPane::pasteGrid() {
   const std::string text = services_.clipboard.text();
   if (!isSpreadsheetNumbers(text)) {
-    ask({"Try again",
+    ask(desk(), services_.messageBox,
+        {"Try again",
          "Non-numeric characters were detected in the data being pasted into the grid.  Please only copy "
          "numeric values from Excel, do not include header rows or any cells with non-numeric characters. "
          "Please try again.",
-         MessageIcon::exclamation});
+         MessageKind::refusal, MessageIcon::exclamation});
     return;
   }
   if (text.empty()) {
-    ask({"Copy from Excel", "Copy your selection from a Microsoft Excel worksheet first!",
-         MessageIcon::exclamation});
+    ask(desk(), services_.messageBox,
+        {"Copy from Excel", "Copy your selection from a Microsoft Excel worksheet first!",
+         MessageKind::refusal, MessageIcon::exclamation});
     return;
   }
   pasteSpreadsheet(dgCustom, text);
@@ -274,25 +281,28 @@ void CustomCropPane::pasteGrid() {
 void CustomCropPane::goHome() {
   if (customAltered) {
     const MessageAnswer answer =
-        ask({"Are you sure?", "Are you sure?  Any unsaved changes to this custom crop will be lost.",
-             MessageIcon::information, MessageButtons::yesNoCancel});
+        ask(desk(), services_.messageBox,
+            {"Are you sure?", "Are you sure?  Any unsaved changes to this custom crop will be lost.",
+             MessageKind::question, MessageIcon::information, MessageButtons::yesNoCancel});
     if (answer != MessageAnswer::yes) return;
   }
   reloadRows();
-  if (onBackHome) onBackHome();
+  onBackHome();
 }
 
 void CustomCropPane::deleteCrop() {
   const CustomCropEntry* const crop = selectedCrop();
   if (crop == nullptr) return;
-  const MessageAnswer answer =
-      ask({"Delete crop?", "Delete " + crop->name, MessageIcon::question, MessageButtons::yesNoCancel});
+  const MessageAnswer answer = ask(desk(), services_.messageBox,
+                                   {"Delete crop?", "Delete " + crop->name, MessageKind::question,
+                                    MessageIcon::question, MessageButtons::yesNoCancel});
   if (answer != MessageAnswer::yes) return;
   // A file that is protected from writing goes too: only its folder decides about that.
   std::error_code ignored;
   std::filesystem::remove(crop->path, ignored);
   open();
-  ask({"Crop deleted", "Custom crop deleted", MessageIcon::exclamation});
+  ask(desk(), services_.messageBox,
+      {"Crop deleted", "Custom crop deleted", MessageKind::notice, MessageIcon::exclamation});
 }
 
 void CustomCropPane::reloadRows() {
@@ -307,11 +317,6 @@ const CustomCropEntry* CustomCropPane::selectedCrop() const {
   const auto position = static_cast<std::size_t>(index);
   if (index < 1 || position > CustomCropList.size()) return nullptr;
   return &CustomCropList[position - 1];
-}
-
-MessageAnswer CustomCropPane::ask(const Message& message) {
-  const Desk::Modal modal(desk());
-  return services_.messageBox.show(message);
 }
 
 }  // namespace verdalis

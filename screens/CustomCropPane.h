@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "controls/Event.h"
 #include "controls/Grid.h"
 #include "controls/HelpButtons.h"
 #include "controls/displays.h"
@@ -84,9 +85,9 @@ class CustomCropPane : public Frame {
   void loadCustomCrop(int index);
 
   std::function<void()> loadCropRows;  ///< Reads the crop library anew. May throw RunTimeError
-  std::function<void()> onShowPane;    ///< The pane is to be shown, even if it is the one on show
-  std::function<void()> onBackHome;
-  std::function<void(int)> onHelp;
+  Event<> onShowPane;                  ///< The pane is to be shown, even if it is the one on show
+  Event<> onBackHome;
+  Event<int> onHelp;
 
  private:
   void wire();
@@ -101,7 +102,6 @@ class CustomCropPane : public Frame {
   void deleteCrop();
   void reloadRows();
   [[nodiscard]] const CustomCropEntry* selectedCrop() const;
-  MessageAnswer ask(const Message& message);
 
   Services& services_;
   std::filesystem::path folder_;

@@ -45,12 +45,12 @@ void wireField(TextBox& box, const FieldRow& row, MessageBoxService& messageBox,
                const std::function<std::string()>& key) {
   box.setText(std::string(row.startText));
   if (!row.limit.tests()) return;
-  box.onLeave = [&box, &row, &messageBox, key] {
+  box.onLeave.connect([&box, &row, &messageBox, key] {
     const std::string keyNow = key();
     if (const Limit::Cell limit = row.limit.of(keyNow)) {
       testInput(&box, *limit, testLabelOf(row, keyNow), messageBox);
     }
-  };
+  });
 }
 
 }  // namespace verdalis

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "controls/displays.h"
 #include "controls/inputs.h"
 #include "controls/services.h"
 #include "model/StockCrops.h"
@@ -63,29 +64,29 @@ inline constexpr std::string_view cropMark = "{crop}";
 /// shows the pane takes the texts beside the fields from them. Rows that follow each other with the same
 /// label stand in one line.
 struct FieldRow {
-  std::string_view control;           ///< Name of the field
-  int group = 0;                      ///< Its group, an index from 0
-  std::string_view label = {};        ///< The fixed text in front of it
-  std::string_view column = {};       ///< The head of its column
-  std::string_view unit = {};         ///< The fixed text behind it
-  std::string_view unitControl = {};  ///< The label control behind it, where the unit is not fixed
-  std::string_view unitHint = {};     ///< Its unit for the eye, where it has neither of these
-  std::string_view testLabel = {};    ///< Begins the messages of its test
+  std::string_view control;         ///< Name of the field
+  int group = 0;                    ///< Its group, an index from 0
+  std::string_view label = {};      ///< The fixed text in front of it
+  std::string_view column = {};     ///< The head of its column
+  std::string_view unit = {};       ///< The fixed text behind it
+  std::string_view unitHint = {};   ///< Its unit for the eye, where it has none and no label for it
+  std::string_view testLabel = {};  ///< Begins the messages of its test
   Limit limit = {};
   int helpIndex = -1;               ///< The "?" button beside it; -1 for none
   std::string_view startText = {};  ///< Before the saved inputs are read
 };
 
 /// A group of fields of a pane with its fixed texts.
+template <class Pane>
 struct FieldGroup {
   std::string_view heading;
-  std::string_view labelColumn = {};     ///< The head of the column of labels; empty without one
-  std::string_view headingControl = {};  ///< The label control that is its heading, where that is not fixed
-  std::string_view frame = {};           ///< The frame that its fields stand in; empty for the pane itself
-  std::string_view resultLabel = {};     ///< The fixed text in front of its figure
-  std::string_view resultControl = {};   ///< The label control that shows its figure
-  std::string_view note = {};            ///< Below the figure
-  int helpIndex = -1;                    ///< The "?" button beside its heading; -1 for none
+  std::string_view labelColumn = {};      ///< The head of the column of labels; empty without one
+  Label Pane::*headingControl = nullptr;  ///< The label control that is its heading, where that is not fixed
+  std::string_view frame = {};            ///< The frame that its fields stand in; empty for the pane itself
+  std::string_view resultLabel = {};      ///< The fixed text in front of its figure
+  Label Pane::*resultControl = nullptr;   ///< The label control that shows its figure
+  std::string_view note = {};             ///< Below the figure
+  int helpIndex = -1;                     ///< The "?" button beside its heading; -1 for none
 };
 
 /// The label of a row's test for a crop.

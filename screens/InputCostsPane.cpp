@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "controls/ask.h"
 #include "model/StockCrops.h"
 #include "model/checked.h"
 #include "model/stockCosts.h"
@@ -46,17 +47,13 @@ void InputCostsPane::wire() {
   for (const InputCostsField& field : fields()) {
     TextBox& box = this->*field.box;
     wireField(box, field.row, services_.messageBox, [this] { return cropType(); });
-    if (field.recomputes != Recomputes::nothing) box.onChange = [this, &field] { boxChanged(field); };
+    if (field.recomputes != Recomputes::nothing) box.onChange.connect([this, &field] { boxChanged(field); });
   }
-  cmdDefault.onClick = [this] { showDefaults(); };
-  Command13.onClick = [this] { clear(); };
-  Command6.onClick = [this] { apply(); };
-  cmdCancel.onClick = [this] {
-    if (onBack) onBack();
-  };
-  cmdHelp.onHelp = [this](int index) {
-    if (onHelp) onHelp(index);
-  };
+  cmdDefault.onClick.connect([this] { showDefaults(); });
+  Command13.onClick.connect([this] { clear(); });
+  Command6.onClick.connect([this] { apply(); });
+  cmdCancel.onClick.connect([this] { onBack(); });
+  cmdHelp.onHelp.connect([this](int index) { onHelp(index); });
 }
 
 void InputCostsPane::boxChanged(const InputCostsField& field) {
@@ -189,9 +186,9 @@ void InputCostsPane::apply() {
   if (activeCrop->isForage()) {
     // What has been stored up to here stays in force: meant.
     if (!isNumeric(txtStand.text())) {
-      const Desk::Modal modal(desk());
-      services_.messageBox.show(
-          {defaultTitle, "Please enter a 'Life of Stand' value for the Forage crop", MessageIcon::critical});
+      ask(desk(), services_.messageBox,
+          {defaultTitle, "Please enter a 'Life of Stand' value for the Forage crop", MessageKind::refusal,
+           MessageIcon::critical});
       return;
     }
     store(standGroup);
@@ -201,7 +198,7 @@ void InputCostsPane::apply() {
   }
   store(returnsGroup);
   store(miscGroup);
-  if (onApplied) onApplied();
+  onApplied();
 }
 
 }  // namespace verdalis

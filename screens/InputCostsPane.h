@@ -1,11 +1,11 @@
 #pragma once
 
 #include <array>
-#include <functional>
 #include <memory>
 #include <span>
 #include <string>
 
+#include "controls/Event.h"
 #include "controls/HelpButtons.h"
 #include "controls/displays.h"
 #include "controls/inputs.h"
@@ -87,15 +87,15 @@ class InputCostsPane : public Frame {
 
   /// The fields in the order in which they are shown, and their groups.
   [[nodiscard]] static std::span<const InputCostsField> fields();
-  [[nodiscard]] static std::span<const FieldGroup> groups();
+  [[nodiscard]] static std::span<const FieldGroup<InputCostsPane>> groups();
 
   /// Shows the costs of a crop; the pane is shown by then. \throws RunTimeError without a crop, and
   /// (overflow) when a subtotal is too large, with all fields filled.
   void open(std::shared_ptr<Crop> crop);
 
-  std::function<void()> onApplied;  ///< The crop has its new costs
-  std::function<void()> onBack;
-  std::function<void(int)> onHelp;
+  Event<> onApplied;  ///< The crop has its new costs
+  Event<> onBack;
+  Event<int> onHelp;
 
  private:
   void wire();

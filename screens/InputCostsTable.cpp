@@ -7,17 +7,27 @@ using Pane = InputCostsPane;
 
 constexpr Limit::Cell none = std::nullopt;  // the crop is not tested
 
-constexpr std::array<FieldGroup, 7> paneGroups{{
+template <Label Pane::*label>
+Label& unitLabel(Pane& pane) {
+  return pane.*label;
+}
+
+template <std::size_t index>
+Label& perUnit(Pane& pane) {
+  return std::get<index>(pane.lblperunits);
+}
+
+constexpr std::array<FieldGroup<Pane>, 7> paneGroups{{
     {.heading = "General Input Costs",
      .labelColumn = "Input",
      .resultLabel = "General Input Costs Subtotal:",
-     .resultControl = "lblGICTOTAL",
+     .resultControl = &Pane::lblGICTOTAL,
      .note = "*subtotal does not include inputs using optimal rates",
      .helpIndex = 11},
     {.heading = "Operation Costs",
-     .headingControl = "lblApplicationCosts",
+     .headingControl = &Pane::lblApplicationCosts,
      .resultLabel = "Operation Costs Subtotal:",
-     .resultControl = "lblOC",
+     .resultControl = &Pane::lblOC,
      .note = "*subtotal does not include harvesting costs",
      .helpIndex = 13},
     {.heading = "Harvesting Costs"},
@@ -79,11 +89,11 @@ constexpr std::array<InputCostsField, 28> paneFields{{
              .group = generalGroup,
              .label = "Seed",
              .column = "Rate",
-             .unitControl = "lblSeedRate",
              .testLabel = "Seed Rate - {crop}",
              .limit = Limit::byCrop({20, 99999, 30, 500000, 60000, 240}),
              .helpIndex = 24},
      .box = &Pane::txtSeedRate,
+     .unitControl = unitLabel<&Pane::lblSeedRate>,
      .figure = &inputCosts::SeedRate,
      .recomputes = Recomputes::generalSubtotal,
      .optimal = &Pane::chkSeedOptimal,
@@ -92,10 +102,10 @@ constexpr std::array<InputCostsField, 28> paneFields{{
              .group = generalGroup,
              .label = "Seed",
              .column = "Cost",
-             .unitControl = "lblSeedUnits",
              .testLabel = "Seed Cost - {crop}",
              .limit = Limit::byCrop({20, 10, 10, 0.99, 4, 0.4})},
      .box = &Pane::txtSeedCost,
+     .unitControl = unitLabel<&Pane::lblSeedUnits>,
      .figure = &inputCosts::SeedCost,
      .shown = Shown::money,
      .recomputes = Recomputes::generalSubtotal},
@@ -180,37 +190,35 @@ constexpr std::array<InputCostsField, 28> paneFields{{
      .box = &Pane::txtHarvestBase,
      .figure = &inputCosts::HarvestBasePerAcre,
      .shown = Shown::money},
-    {.row = {.control = "txtExceed",
-             .group = harvestGroup,
-             .label = "Extra charge for yields exceeding",
-             .unitControl = "lblUnits"},
+    {.row = {.control = "txtExceed", .group = harvestGroup, .label = "Extra charge for yields exceeding"},
      .box = &Pane::txtExceed,
+     .unitControl = unitLabel<&Pane::lblUnits>,
      .figure = &inputCosts::HarvestExceedBu},
     {.row = {.control = "txtExceedCost",
              .group = harvestGroup,
              .label = "Extra charge for yields exceeding",
-             .unitControl = "lblperunits(0)",
              .testLabel = "Extra Charge - {crop}",
              .limit = Limit::byCrop({none, 0.5, 0.5, 0.5, 1, 0.5})},
      .box = &Pane::txtExceedCost,
+     .unitControl = perUnit<0>,
      .figure = &inputCosts::HarvestExceedRate,
      .shown = Shown::money},
     {.row = {.control = "txtHaulingCost",
              .group = harvestGroup,
              .label = "Hauling:",
-             .unitControl = "lblperunits(1)",
              .testLabel = "Hauling Cost - {crop}",
              .limit = Limit::byCrop({none, 0.5, 0.5, 0.5, 1, 0.5})},
      .box = &Pane::txtHaulingCost,
+     .unitControl = perUnit<1>,
      .figure = &inputCosts::HarvestHauling,
      .shown = Shown::money},
     {.row = {.control = "txtFlatRate",
              .group = harvestGroup,
              .label = "Flat rate:",
-             .unitControl = "lblperunits(2)",
              .testLabel = "Harvesting Flat Rate - {crop}",
              .limit = Limit::byCrop({none, 1, 1, 1, 2, 1})},
      .box = &Pane::txtFlatRate,
+     .unitControl = perUnit<2>,
      .figure = &inputCosts::HarvestFlatRate,
      .shown = Shown::money},
     {.row = {.control = "txtSwathing",
@@ -292,7 +300,7 @@ std::span<const InputCostsField> InputCostsPane::fields() {
   return paneFields;
 }
 
-std::span<const FieldGroup> InputCostsPane::groups() {
+std::span<const FieldGroup<InputCostsPane>> InputCostsPane::groups() {
   return paneGroups;
 }
 

@@ -31,7 +31,8 @@ enum class Recomputes { nothing, generalSubtotal, operationSubtotal };
 struct InputCostsField {
   FieldRow row;
   TextBox InputCostsPane::*box = nullptr;
-  CostField figure;  ///< A number
+  Label& (*unitControl)(InputCostsPane&) = nullptr;  ///< The label behind it, where the unit is not fixed
+  CostField figure;                                  ///< A number
   Shown shown = Shown::plain;
   Recomputes recomputes = Recomputes::nothing;
   CheckBox InputCostsPane::*optimal = nullptr;  ///< Ticked while the field is empty, cleared while it is not

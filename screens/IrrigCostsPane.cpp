@@ -19,20 +19,20 @@ namespace {
 /// meant.
 constexpr double hintGallonsPerAcreInch = 27154.2876;
 
-enum Group { costGroup, pumpingGroup };
-
-constexpr std::array<FieldGroup, 2> paneGroups{{
-    {.heading = "Variable Irrigation Costs",
-     .resultLabel = "Irrigation Costs Subtotal:",
-     .resultControl = "lblICosts",
-     .note = "*subtotal does not include labor costs"},
-    {.heading = "How much are you pumping?",
-     .resultControl = "lblInchHint",
-     .note = "*this figure is for your information only"},
-}};
-
 using Pane = IrrigCostsPane;
 using Plant = IrrigationCosts;
+
+enum Group { costGroup, pumpingGroup };
+
+constexpr std::array<FieldGroup<Pane>, 2> paneGroups{{
+    {.heading = "Variable Irrigation Costs",
+     .resultLabel = "Irrigation Costs Subtotal:",
+     .resultControl = &Pane::lblICosts,
+     .note = "*subtotal does not include labor costs"},
+    {.heading = "How much are you pumping?",
+     .resultControl = &Pane::lblInchHint,
+     .note = "*this figure is for your information only"},
+}};
 
 constexpr std::array<IrrigCostsField, 8> paneFields{{
     {.row = {.control = "txtGPM",
@@ -62,8 +62,7 @@ constexpr std::array<IrrigCostsField, 8> paneFields{{
      .box = &Pane::txtPSI,
      .value = &Plant::PSI},
     {.row = {.control = "cboFuelType", .group = costGroup, .label = "Fuel Type", .helpIndex = 18},
-     .box = nullptr,
-     .value = nullptr},
+     .list = &Pane::cboFuelType},
     {.row = {.control = "txtCost",
              .group = costGroup,
              .label = "Fuel Cost",
@@ -130,7 +129,7 @@ std::span<const IrrigCostsField> IrrigCostsPane::fields() {
   return paneFields;
 }
 
-std::span<const FieldGroup> IrrigCostsPane::groups() {
+std::span<const FieldGroup<IrrigCostsPane>> IrrigCostsPane::groups() {
   return paneGroups;
 }
 
@@ -148,21 +147,17 @@ void IrrigCostsPane::wire() {
     if (field.box == nullptr) continue;
     TextBox& box = this->*field.box;
     wireField(box, field.row, services_.messageBox, [this] { return cboFuelType.text(); });
-    box.onChange = [this, &field] {
+    box.onChange.connect([this, &field] {
       showCosts();
       if (field.changesHint) showInchHint();
-    };
+    });
   }
-  cboFuelType.onClick = [this] { showCosts(); };
-  Command4.onClick = [this] { emptyTexts(*this); };
-  cmdDefaultIrrigCosts.onClick = [this] { showDefaults(); };
-  Command9.onClick = [this] { apply(); };
-  cmdCancel.onClick = [this] {
-    if (onBack) onBack();
-  };
-  cmdHelp.onHelp = [this](int index) {
-    if (onHelp) onHelp(index);
-  };
+  cboFuelType.onClick.connect([this] { showCosts(); });
+  Command4.onClick.connect([this] { emptyTexts(*this); });
+  cmdDefaultIrrigCosts.onClick.connect([this] { showDefaults(); });
+  Command9.onClick.connect([this] { apply(); });
+  cmdCancel.onClick.connect([this] { onBack(); });
+  cmdHelp.onHelp.connect([this](int index) { onHelp(index); });
 }
 
 void IrrigCostsPane::open() {
@@ -220,7 +215,7 @@ void IrrigCostsPane::apply() {
   // Another text than that of a fuel leaves the plant its last performance figure.
   if (const std::optional<double> performance = fuelPerformance(plant.FuelType)) plant.NPC = *performance;
   plant.active = true;
-  if (onApplied) onApplied();
+  onApplied();
 }
 
 }  // namespace verdalis

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "controls/Event.h"
 #include "controls/HelpButtons.h"
 #include "controls/displays.h"
 #include "controls/inputs.h"
@@ -20,9 +21,10 @@ class IrrigCostsPane;
 /// One field of the irrigation cost pane.
 struct IrrigCostsField {
   FieldRow row;
-  TextBox IrrigCostsPane::*box;    ///< nullptr for the list of fuels
-  double IrrigationCosts::*value;  ///< Where Apply puts its number; nullptr for the list of fuels
-  bool changesHint = false;        ///< A change also recomputes the pumping hint
+  TextBox IrrigCostsPane::*box = nullptr;
+  ComboBox IrrigCostsPane::*list = nullptr;  ///< In place of the box: the list of fuels
+  double IrrigationCosts::*value = nullptr;  ///< Where Apply puts its number; nullptr for the list of fuels
+  bool changesHint = false;                  ///< A change also recomputes the pumping hint
 };
 
 /// The pane that edits the farm's one pumping plant. It works on its fields; the plant changes only when
@@ -56,7 +58,7 @@ class IrrigCostsPane : public Frame {
 
   /// The fields in the order in which they are shown, and their groups.
   [[nodiscard]] static std::span<const IrrigCostsField> fields();
-  [[nodiscard]] static std::span<const FieldGroup> groups();
+  [[nodiscard]] static std::span<const FieldGroup<IrrigCostsPane>> groups();
 
   /// Makes the pane ready once it is shown: the pumping hint, and no zeros in the fields of the window.
   void open();
@@ -64,9 +66,9 @@ class IrrigCostsPane : public Frame {
   /// Puts the default values into the fields; the plant stays.
   void showDefaults();
 
-  std::function<void()> onApplied;  ///< The plant has its new values
-  std::function<void()> onBack;
-  std::function<void(int)> onHelp;
+  Event<> onApplied;  ///< The plant has its new values
+  Event<> onBack;
+  Event<int> onHelp;
 
   /// The text of the total acres; empty without one.
   std::function<std::string()> areaText;

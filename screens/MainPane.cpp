@@ -4,6 +4,7 @@
 #include <limits>
 #include <utility>
 
+#include "controls/ask.h"
 #include "model/LandDivision.h"
 #include "screens/modInputTest.h"
 #include "text/RunTimeError.h"
@@ -51,31 +52,26 @@ MainPane::MainPane(Frame& window, Services& services, ProgramState& state,
   cropScroll.largeStep = 300;
   row(0);
 
-  txtArea.onChange = [this] { getVolume(); };
-  txtMax.onChange = [this] {
+  txtArea.onChange.connect([this] { getVolume(); });
+  txtMax.onChange.connect([this] {
     getVolume();
     warnOfCapacity();
-  };
+  });
   wireField(txtEff, farmField("txtEff"), services_.messageBox, [] { return std::string(); });
   const auto takeSoil = [this] { currentSoil = txtSoil.text(); };
-  txtSoil.onChange = takeSoil;
-  txtSoil.onClick = takeSoil;
-  txtSoil.onLeave = takeSoil;
+  txtSoil.onChange.connect(takeSoil);
+  txtSoil.onClick.connect(takeSoil);
+  txtSoil.onLeave.connect(takeSoil);
   // Without any effect on an evaluation: meant.
-  Check1.onClick = [&state] { state.FallowNegatives = !state.FallowNegatives; };
-  cropScroll.onChange = [this] {
+  Check1.onClick.connect([&state] { state.FallowNegatives = !state.FallowNegatives; });
+  cropScroll.onChange.connect([this] {
     cropFrameTop = -cropScroll.value();
     desk().moveFocus(Command7);  // so that no row keeps the focus while the list moves
-  };
-  const auto raise = [](const std::function<void()>& event) {
-    if (event) event();
-  };
-  Command1.onClick = [this, raise] { raise(onRun); };
-  Command7.onClick = [this, raise] { raise(onDefaults); };
-  Command8.onClick = [this, raise] { raise(onIrrigation); };
-  cmdHelp.onHelp = [this](int index) {
-    if (onHelp) onHelp(index);
-  };
+  });
+  Command1.onClick.connect([this] { onRun(); });
+  Command7.onClick.connect([this] { onDefaults(); });
+  Command8.onClick.connect([this] { onIrrigation(); });
+  cmdHelp.onHelp.connect([this](int index) { onHelp(index); });
 }
 
 LandSplitButtons MainPane::landSplitButtons() const {
@@ -121,8 +117,7 @@ void MainPane::warnOfCapacity() {
   if (plant.GPM <= 0 || plant.dblEstHours <= 0) return;
   const double inches = plant.getMaxInches(Val(txtArea.text()));
   if (Val(txtMax.text()) <= inches) return;
-  const Desk::Modal modal(desk());
-  services_.messageBox.show(
+  ask(desk(), services_.messageBox,
       {"Capacity Exceeded",
        "According to the seasonal pumping hours entered on the Irrigation Cost screen of " +
            formatNumber(plant.dblEstHours, "###,###") + " hours, \nyour system cannot pump more than " +
@@ -137,15 +132,13 @@ CropRecord& MainPane::row(std::size_t index) {
   if (index >= cr.size()) {
     cr.push_back(std::make_unique<CropRecord>(cropFrame, static_cast<int>(cr.size()), services_.messageBox));
     CropRecord& record = *cr.back();
-    record.onInputCosts = [this, &record] {
-      if (onInputCosts) onInputCosts(record);
-    };
+    record.onInputCosts.connect([this, &record] { onInputCosts(record); });
   }
   return *cr[index];
 }
 
 void MainPane::InitializeCropFrame() {
-  if (onRowsChanged) onRowsChanged();
+  onRowsChanged();
   const int height = static_cast<int>(cr.size()) * cropRowHeight;
   if (height > std::numeric_limits<std::int16_t>::max()) {
     throw RunTimeError(

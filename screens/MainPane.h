@@ -1,12 +1,12 @@
 #pragma once
 
 #include <array>
-#include <functional>
 #include <memory>
 #include <span>
 #include <string>
 #include <vector>
 
+#include "controls/Event.h"
 #include "controls/HelpButtons.h"
 #include "controls/displays.h"
 #include "controls/inputs.h"
@@ -89,14 +89,14 @@ class MainPane : public Frame {
   /// The crop of the last row of that name, ignoring case; nullptr without one.
   [[nodiscard]] std::shared_ptr<Crop> findCropByName(const std::string& name) const;
 
-  std::function<void()> onRun;         ///< Command1
-  std::function<void()> onIrrigation;  ///< Command8
-  std::function<void()> onDefaults;    ///< Command7
-  std::function<void(CropRecord&)> onInputCosts;
-  std::function<void(int)> onHelp;
+  Event<> onRun;         ///< Command1
+  Event<> onIrrigation;  ///< Command8
+  Event<> onDefaults;    ///< Command7
+  Event<CropRecord&> onInputCosts;
+  Event<int> onHelp;
 
   /// The rows have been made anew.
-  std::function<void()> onRowsChanged;
+  Event<> onRowsChanged;
 
  private:
   void warnOfCapacity();

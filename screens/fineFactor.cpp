@@ -9,7 +9,7 @@ namespace {
 constexpr std::int16_t largestSilentFactor = 10;
 
 FineFactorEntry refused(const char* text) {
-  return {std::nullopt, Message{"Error", text, MessageIcon::critical}};
+  return {std::nullopt, Message{"Error", text, MessageKind::refusal, MessageIcon::critical}};
 }
 
 }  // namespace
@@ -24,7 +24,7 @@ FineFactorEntry readFineFactor(const std::string& text) {
         "Caution",
         "Using a larger split-factor will increase the amount of time necessary to run the evaluation!  If "
         "the evaluation time is too long, please reduce the split-factor.",
-        MessageIcon::critical};
+        MessageKind::notice, MessageIcon::critical};
   }
   return entry;
 }

@@ -19,8 +19,8 @@ frmAbout::frmAbout(Desk& desk) : Window(desk, "frmAbout") {
   lblVersion.setCaption("Version " + versionNumber() + "  Build " + buildNumber());
   lblDisclaimer.setCaption(disclaimer);
   lblContact.setCaption(contactLines);
-  onClick = [this] { close(); };
-  onDeactivate = [this] { close(); };
+  onClick.connect([this] { close(); });
+  onDeactivate.connect([this] { close(); });
 }
 
 }  // namespace verdalis

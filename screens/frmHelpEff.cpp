@@ -4,8 +4,8 @@ namespace verdalis {
 
 frmHelpEff::frmHelpEff(Desk& desk) : Window(desk, "frmHelpEff") {
   setCaption("Help - Irrigation Efficiency");
-  Command2.onClick = [this] { close(); };
-  onDeactivate = [this] { close(); };
+  Command2.onClick.connect([this] { close(); });
+  onDeactivate.connect([this] { close(); });
 }
 
 }  // namespace verdalis

@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 
+#include "controls/ask.h"
 #include "screens/fineFactor.h"
 #include "screens/modHelp.h"
 
@@ -26,10 +27,10 @@ frmOptions::frmOptions(Desk& desk, ProgramState& state, Services& services)
     : Window(desk, "frmOptions"), state_(state), services_(services) {
   setCaption("Options");
   Label1.setCaption(explanation);
-  cmdApply.onClick = [this] { apply(); };
-  cmdCancel.onClick = [this] { close(); };
-  cmdHelp.onClick = [this] { showHelpTopic(services_.help, "mainInput.htm#SplitFactor"); };
-  onDeactivate = [this] { close(); };
+  cmdApply.onClick.connect([this] { apply(); });
+  cmdCancel.onClick.connect([this] { close(); });
+  cmdHelp.onClick.connect([this] { showHelpTopic(services_.help, "mainInput.htm#SplitFactor"); });
+  onDeactivate.connect([this] { close(); });
 }
 
 void frmOptions::show() {
@@ -40,10 +41,7 @@ void frmOptions::show() {
 void frmOptions::apply() {
   const FineFactorEntry entry = readFineFactor(txtFineFactor.text());
   if (entry.factor) state_.FineFactor = *entry.factor;
-  if (entry.message) {
-    const Desk::Modal modal(desk());
-    services_.messageBox.show(*entry.message);
-  }
+  if (entry.message) ask(desk(), services_.messageBox, *entry.message);
   if (entry.factor) close();
 }
 

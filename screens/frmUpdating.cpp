@@ -3,7 +3,7 @@
 namespace verdalis {
 
 frmUpdating::frmUpdating(Desk& desk, ProgramState& state) : Window(desk, "frmUpdating"), state_(state) {
-  Command1.onClick = [&state] { state.CancelRequested = true; };
+  Command1.onClick.connect([&state] { state.CancelRequested = true; });
   // Closing the window by its frame would leave the run without a way to stop it.
   onCloseByUser = [&state] { state.CancelRequested = true; };
 }

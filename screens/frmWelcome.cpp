@@ -23,14 +23,11 @@ frmWelcome::frmWelcome(Desk& desk, Services& services) : Window(desk, "frmWelcom
       "a time.");
   lblTurnOn.setCaption(
       "Turn on this option by selecting Tools->Enable Trend Processing once the program starts");
-  const auto raise = [](const std::function<void()>& event) {
-    if (event) event();
-  };
-  Command1.onClick = [this, raise] { raise(onStart); };
-  Command4.onClick = [this, raise] { raise(onStartWithTrends); };
-  Command3.onClick = [this, raise] { raise(onAbout); };
-  cmdHelp.onClick = [&services] { showHelpTopic(services.help, "batchoption.htm"); };
-  Command2.onClick = [&services] { showHelpTopic(services.help, "index.htm"); };
+  Command1.onClick.connect([this] { onStart(); });
+  Command4.onClick.connect([this] { onStartWithTrends(); });
+  Command3.onClick.connect([this] { onAbout(); });
+  cmdHelp.onClick.connect([&services] { showHelpTopic(services.help, "batchoption.htm"); });
+  Command2.onClick.connect([&services] { showHelpTopic(services.help, "index.htm"); });
 }
 
 }  // namespace verdalis

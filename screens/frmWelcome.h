@@ -1,7 +1,6 @@
 #pragma once
 
-#include <functional>
-
+#include "controls/Event.h"
 #include "controls/displays.h"
 #include "controls/services.h"
 
@@ -21,9 +20,9 @@ class frmWelcome : public Window {
   Button Command2{*this, "Command2", "Verdalis Help"};
   Button Command3{*this, "Command3", "About Verdalis"};
 
-  std::function<void()> onStart;
-  std::function<void()> onStartWithTrends;
-  std::function<void()> onAbout;
+  Event<> onStart;
+  Event<> onStartWithTrends;
+  Event<> onAbout;
 };
 
 /// What the program must not be held responsible for; the About window says it too.

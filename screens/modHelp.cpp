@@ -1,5 +1,7 @@
 #include "screens/modHelp.h"
 
+#include "controls/ask.h"
+
 namespace verdalis {
 
 const std::vector<HelpAction>& helpActions() {
@@ -64,8 +66,8 @@ frmHelp::frmHelp(Desk& desk) : Window(desk, "frmHelp") {
   setCaption("Help Screen");
   imgMap.setVisible(false);
   imgLift.setVisible(false);
-  Command1.onClick = [this] { close(); };
-  onDeactivate = [this] { close(); };
+  Command1.onClick.connect([this] { close(); });
+  onDeactivate.connect([this] { close(); });
 }
 
 void showHelpTopic(HelpService& help, const std::string& topic) {
@@ -78,18 +80,17 @@ void showHelpNote(frmHelp& window, const std::string& text, const std::string& t
   window.buttonTop = height - 1000;
   window.lblOutput.setCaption(text);
   window.setCaption("Help - " + title);
-  if (window.onNote) window.onNote({title, text, height});
+  window.onNote({title, text, height});
 }
 
 void openWithShell(Desk& desk, Services& services, const std::filesystem::path& path) {
   if (services.openFile.open(path)) return;
-  const Desk::Modal modal(desk);
-  services.messageBox.show(
+  ask(desk, services.messageBox,
       {defaultTitle,
        "The file " + path.string() +
            " could not be opened by the Verdalis.  Please open the file manually by finding it on your hard "
            "drive.",
-       MessageIcon::none, MessageButtons::ok});
+       MessageKind::failure, MessageIcon::none, MessageButtons::ok});
 }
 
 }  // namespace verdalis

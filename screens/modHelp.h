@@ -1,10 +1,10 @@
 #pragma once
 
 #include <filesystem>
-#include <functional>
 #include <string>
 #include <vector>
 
+#include "controls/Event.h"
 #include "controls/displays.h"
 #include "controls/services.h"
 
@@ -37,7 +37,7 @@ class frmHelp : public Window {
   Image imgMap{*this, "imgMap"};
   Image imgLift{*this, "imgLift"};
   /// Called after a note has been put in, with its title.
-  std::function<void(const HelpNote&)> onNote;
+  Event<const HelpNote&> onNote;
   int height = 0;     ///< Layout units
   int buttonTop = 0;  ///< Top of the close button, layout units
 };

@@ -1,5 +1,6 @@
 #include "screens/modInputTest.h"
 
+#include "controls/ask.h"
 #include "text/RunTimeError.h"
 #include "text/numbers.h"
 
@@ -46,10 +47,7 @@ void testInput(TextBox* control, double limit, const std::string& label, Message
 }
 
 void showInputError(const std::string& message, TextBox& control, MessageBoxService& messageBox) {
-  {
-    const Desk::Modal modal(control.desk());
-    messageBox.show({"Input error", message, MessageIcon::exclamation});
-  }
+  ask(control.desk(), messageBox, {"Input error", message, MessageKind::refusal, MessageIcon::exclamation});
   try {
     if (control.canUndo()) control.undo();
   } catch (const RunTimeError&) {

@@ -5,20 +5,18 @@
 
 namespace verdalis {
 
-/// What kind of fault a RunTimeError is. The values are stable: they are shown beside the text where the
-/// program tells an error's number.
+/// The kind of a RunTimeError. The values are fixed, because the program shows them beside the message.
 enum class ErrorNumber {
-  invalidCall = 5,  ///< An operation got a value that it has no meaning for.
+  invalidCall = 5,  ///< An operation received a value it cannot handle.
   overflow = 6,     ///< A result, or a number in a text, is too large for its type.
-  subscript = 9,    ///< An index lies outside the list or table that it is used on.
+  subscript = 9,    ///< An index is outside its list or table.
   divisionByZero = 11,
-  typeMismatch = 13,  ///< A text that must be a number is none.
-  fileNotFound = 53,  ///< A folder or file that must be there is missing or cannot be read.
+  typeMismatch = 13,  ///< A text that must be a number is not one.
+  fileNotFound = 53,  ///< A required folder or file is missing or cannot be read.
 };
 
-/// A fault of the values that the program was given. It ends the event or the run in which it happens;
-/// whoever catches it shows what() to the user as it stands, so the text says what was wrong, with which
-/// value, and where to mend it.
+/// An error in the values given to the program. It ends the current event or run. The catcher shows what() to
+/// the user unchanged, so the text says what is wrong, with which value, and where to correct it.
 class RunTimeError : public std::runtime_error {
  public:
   RunTimeError(ErrorNumber number, const std::string& text) : std::runtime_error(text), number_(number) {}

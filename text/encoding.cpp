@@ -12,8 +12,7 @@ namespace {
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 constexpr char32_t replacement = 0xFFFD;
 
-/// The characters of the bytes 80 to 9F in Windows-1252. All other bytes are the characters of the same
-/// number.
+/// Characters of the bytes 80 to 9F in Windows-1252. Every other byte is the character of the same number.
 constexpr std::array<char32_t, 32> windowsCharacters = {
     0x20AC,      replacement, 0x201A, 0x0192, 0x201E, 0x2026,      0x2020, 0x2021,       //
     0x02C6,      0x2030,      0x0160, 0x2039, 0x0152, replacement, 0x017D, replacement,  //
@@ -24,8 +23,8 @@ unsigned byteAt(std::string_view bytes, std::size_t pos) {
   return static_cast<unsigned char>(bytes[pos]);
 }
 
-/// Reads the character that begins at `pos` and moves `pos` behind it; nothing where no well-formed one
-/// begins there.
+/// Reads the character at `pos` and moves `pos` past it.
+/// \returns nothing if there is no well-formed character at `pos`.
 std::optional<char32_t> nextCharacter(std::string_view bytes, std::size_t& pos) {
   const unsigned lead = byteAt(bytes, pos);
   if (lead < 0x80) {
@@ -33,7 +32,7 @@ std::optional<char32_t> nextCharacter(std::string_view bytes, std::size_t& pos) 
     return lead;
   }
   std::size_t length = 0;
-  char32_t smallest = 0;  // what fits into fewer bytes must not be written with this many
+  char32_t smallest = 0;  // smallest character allowed at this length; rejects overlong forms
   if (lead >= 0xC0 && lead < 0xE0) {
     length = 2;
     smallest = 0x80;
@@ -59,7 +58,7 @@ std::optional<char32_t> nextCharacter(std::string_view bytes, std::size_t& pos) 
   return character;
 }
 
-/// Appends a character below U+10000, which all of Windows-1252 are.
+/// Appends a character below U+10000, as all characters of Windows-1252 are.
 void appendUtf8(std::string& text, char32_t character) {
   const auto tail = [](char32_t bits) { return static_cast<char>(0x80U | (bits & 0x3FU)); };
   if (character < 0x80) {
@@ -82,7 +81,7 @@ std::optional<char> windowsByte(char32_t character) {
   return static_cast<char>(0x80 + (found - windowsCharacters.begin()));
 }
 
-/// The small letter of a capital letter that Windows-1252 holds; every other character as it is.
+/// The lower case of a capital letter of Windows-1252; any other character unchanged.
 char32_t lowerLetter(char32_t character) {
   constexpr char32_t multiplicationSign = 0xD7;
   constexpr char32_t capitalYDiaeresis = 0x178;

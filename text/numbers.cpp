@@ -20,17 +20,17 @@ bool isDigit(char c) {
   return c >= '0' && c <= '9';
 }
 
-/// A number found in a text: its parts from the first digit or point on, and where it ends.
+/// A number found in a text.
 struct NumberText {
   bool negative = false;
   bool hasCommas = false;
-  std::string_view magnitude;  ///< Without the sign.
-  std::size_t end = 0;         ///< The place in the text behind the number.
+  std::string_view magnitude;  ///< From the first digit or point on, without the sign.
+  std::size_t end = 0;         ///< Position in the text after the number.
 };
 
 enum class Commas { endTheNumber, areSkipped };
 
-/// The place behind an exponent that stands at `pos`, or `pos` where none stands completely.
+/// Position after a complete exponent at `pos`, or `pos` if there is none.
 std::size_t endOfExponent(std::string_view text, std::size_t pos) {
   std::size_t i = pos;
   if (i == text.size() || (text[i] != 'e' && text[i] != 'E')) return pos;
@@ -42,8 +42,8 @@ std::size_t endOfExponent(std::string_view text, std::size_t pos) {
   return i;
 }
 
-/// The number that begins at `pos`. The grammar is read here and not left to std::from_chars, which would
-/// also take "inf" and "nan" and no plus sign.
+/// Reads the number at `pos`. std::from_chars does not fit the grammar: it accepts "inf" and "nan" and
+/// rejects a plus sign.
 std::optional<NumberText> numberAt(std::string_view text, std::size_t pos, Commas commas) {
   NumberText result;
   std::size_t i = pos;
@@ -73,14 +73,13 @@ std::optional<NumberText> numberAt(std::string_view text, std::size_t pos, Comma
   return result;
 }
 
-/// Whether a number of this form, without commas, is 1 or more; for a number so far out that it has no
-/// nearest float.
+/// Whether an out-of-range number, without commas, is 1 or more: too large rather than too small.
 bool isLarge(std::string_view magnitude) {
   const std::size_t mantissaEnd = std::min(magnitude.find_first_of("eE"), magnitude.size());
   const std::size_t point = std::min(magnitude.find('.'), mantissaEnd);
   const std::size_t leading = magnitude.find_first_of("123456789");
   if (leading >= mantissaEnd) return false;
-  // The decimal exponent of the leading digit; a text has far fewer digits than this limit.
+  // Limit for the decimal exponent of the leading digit; a text has far fewer digits.
   constexpr std::ptrdiff_t limit = std::numeric_limits<std::ptrdiff_t>::max() / 100;
   std::ptrdiff_t exponent = 0;
   bool negative = false;
@@ -93,8 +92,7 @@ bool isLarge(std::string_view magnitude) {
   return exponent > 0;
 }
 
-/// The float nearest to a number without sign and commas; infinity where it is too large, 0 where it is too
-/// small.
+/// The nearest float to a number without sign and commas; infinity if it is too large, 0 if it is too small.
 double nearestFloat(std::string_view magnitude) {
   double value = 0;
   const auto [end, error] = std::from_chars(magnitude.data(), magnitude.data() + magnitude.size(), value);
@@ -118,7 +116,7 @@ double valueOf(const NumberText& number) {
   return number.negative ? -value : value;
 }
 
-/// The value of a text that is one number as a whole, infinite where it is too large.
+/// The value of a text that is one number as a whole; infinity if it is too large.
 std::optional<double> wholeNumber(std::string_view text) {
   const std::size_t start = text.find_first_not_of(' ');
   if (start == std::string_view::npos) return std::nullopt;
@@ -167,7 +165,7 @@ double toDouble(std::string_view text) {
 std::int16_t toInt16(double value, std::string_view what) {
   using Limits = std::numeric_limits<std::int16_t>;
   const double rounded = std::nearbyint(value);
-  // Written so that a value that is not a number fails as well.
+  // Negated, so that NaN fails as well.
   if (!(rounded >= Limits::min() && rounded <= Limits::max())) {
     throw RunTimeError(ErrorNumber::overflow,
                        std::string(what) + " " + generalText(value) +

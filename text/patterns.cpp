@@ -10,7 +10,7 @@
 namespace verdalis {
 namespace {
 
-/// A number pattern taken apart. Counts are of digits.
+/// A parsed number pattern. Counts are numbers of digits.
 struct Pattern {
   std::string_view prefix;
   std::string_view suffix;
@@ -44,7 +44,7 @@ struct Pattern {
   }
 };
 
-/// The size of a number as its shortest decimal digits: 0.d1d2d3... x 10^point. No digits are the number 0.
+/// The absolute value of a number as its shortest decimal digits: 0.d1d2d3... x 10^point. No digits means 0.
 class Decimal {
  public:
   explicit Decimal(double value) {
@@ -57,7 +57,7 @@ class Decimal {
       if (*i != '.') digits_.at(static_cast<std::size_t>(count_++)) = *i;
     }
     ++i;
-    if (*i == '+') ++i;  // which std::from_chars does not take
+    if (*i == '+') ++i;  // std::from_chars rejects a plus sign
     int exponent = 0;
     std::from_chars(i, end, exponent);
     point_ = exponent + 1;
@@ -88,7 +88,7 @@ class Decimal {
   [[nodiscard]] std::ptrdiff_t integers() const { return std::max<std::ptrdiff_t>(point_, 0); }
   [[nodiscard]] std::ptrdiff_t decimals() const { return std::max<std::ptrdiff_t>(count_ - point_, 0); }
 
-  /// The digit before 10^power, 0 wherever the number has none.
+  /// The digit at 10^power, 0 if the number has none there.
   [[nodiscard]] char digit(std::ptrdiff_t power) const {
     const std::ptrdiff_t i = point_ - 1 - power;
     return i < 0 || i >= count_ ? '0' : digits_.at(static_cast<std::size_t>(i));

@@ -6,7 +6,7 @@ namespace verdalis {
 namespace {
 
 constexpr std::size_t mostCharacters = 40;
-constexpr std::size_t mostBytes = 4 * mostCharacters;  // a character has at most four
+constexpr std::size_t mostBytes = 4 * mostCharacters;  // a UTF-8 character has at most four bytes
 
 bool continuesCharacter(char c) {
   return (static_cast<unsigned char>(c) & 0xC0U) == 0x80U;

@@ -5,8 +5,8 @@
 
 namespace verdalis {
 
-/// A text in double quotation marks for use within a message: on one line, in UTF-8, and cut to its first 40
-/// characters and "..." where it is longer.
+/// Puts a text in double quotation marks for a message: on one line, in UTF-8, and cut after 40 characters,
+/// with "..." added, if it is longer.
 [[nodiscard]] std::string quoteForMessage(std::string_view text);
 
 }  // namespace verdalis

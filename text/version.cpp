@@ -2,7 +2,7 @@
 
 namespace verdalis {
 
-// The build hands both numbers in.
+// Both numbers are macros defined by the build.
 const std::string& versionNumber() {
   static const std::string number = VERDALIS_VERSION;
   return number;

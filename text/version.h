@@ -4,11 +4,11 @@
 
 namespace verdalis {
 
-/// The number of the version and that of its build, as in "1.16" and "002". The top CMakeLists.txt sets both.
+/// Version and build number, for example "1.16" and "002". Both are set in the top CMakeLists.txt.
 [[nodiscard]] const std::string& versionNumber();
 [[nodiscard]] const std::string& buildNumber();
 
-/// What --version prints, as in "1.16 build 002".
+/// Text printed by --version, for example "1.16 build 002".
 [[nodiscard]] std::string versionText();
 
 }  // namespace verdalis

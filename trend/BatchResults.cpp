@@ -23,10 +23,10 @@ BatchResults::BatchResults(Frame& container, Services& services, ProgramState& s
       trend_(trend),
       host_(host) {
   pnlBatchSteps.setVisible(false);
-  cmdBatchStep[0].onClick = [this] { LoadBatchResults(step_ + 1); };
-  cmdBatchStep[1].onClick = [this] { LoadBatchResults(step_ - 1); };
-  cmdExcel.onClick = [this] { exportVariable(); };
-  theResults.onExcel = [this] { exportFixed(); };
+  cmdBatchStep[0].onClick.connect([this] { LoadBatchResults(step_ + 1); });
+  cmdBatchStep[1].onClick.connect([this] { LoadBatchResults(step_ - 1); });
+  cmdExcel.onClick.connect([this] { exportVariable(); });
+  theResults.onExcel.connect([this] { exportFixed(); });
   theResults.trendedVariables = [this] { return trendedVariables(trend_.ProcessCollection); };
   theResults.trendOption = [this](std::int16_t i, std::int16_t j) {
     return trend_.TrendOptionArray.at(static_cast<std::size_t>(i), static_cast<std::size_t>(j));

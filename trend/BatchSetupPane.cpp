@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "controls/ask.h"
 #include "text/RunTimeError.h"
 #include "text/numbers.h"
 #include "text/quote.h"
@@ -60,41 +61,36 @@ void BatchSetupPane::makeControls() {
 
 void BatchSetupPane::wire() {
   for (std::size_t i = 0; i < optBatchVariable.size(); ++i) {
-    optBatchVariable[i]->onClick = [this, i] {
+    optBatchVariable[i]->onClick.connect([this, i] {
       SetVariableLabels(static_cast<double>(i));
       showCropHint();
       showPreview();
-    };
+    });
   }
   for (const auto& way : optBatchOption)
-    way->onClick = [this] { showPreview(); };
+    way->onClick.connect([this] { showPreview(); });
   const auto takeAutomatic = [this] {
     turnOn(batchOptions, TrendValuesKind::automatic);
     showPreview();
   };
   for (TextBox& box : txtBatchMinimum)
-    box.onChange = takeAutomatic;
-  cboBatchSteps.onChange = takeAutomatic;
-  cboBatchSteps.onClick = [this] { showPreview(); };
-  txtBatchList.onChange = [this] {
+    box.onChange.connect(takeAutomatic);
+  cboBatchSteps.onChange.connect(takeAutomatic);
+  cboBatchSteps.onClick.connect([this] { showPreview(); });
+  txtBatchList.onChange.connect([this] {
     turnOn(batchOptions, TrendValuesKind::manual);
     showPreview();
-  };
-  cboCrops.onClick = [this] { showCropUnits(); };
-  cboCrops.onChange = [this] { showCropHint(); };
-  cmdOpenBatch.onClick = [this] { chooseFile(); };
-  Command10.onClick = [this] { goBack(); };
-  cmdBatchIt.onClick = [this] {
-    if (onRun) onRun();
-  };
-  cmdHelp.onHelp = [this](int index) {
-    if (onHelp) onHelp(index);
-  };
+  });
+  cboCrops.onClick.connect([this] { showCropUnits(); });
+  cboCrops.onChange.connect([this] { showCropHint(); });
+  cmdOpenBatch.onClick.connect([this] { chooseFile(); });
+  Command10.onClick.connect([this] { goBack(); });
+  cmdBatchIt.onClick.connect([this] { onRun(); });
+  cmdHelp.onHelp.connect([this](int index) { onHelp(index); });
 }
 
 void BatchSetupPane::tell(const Message& message) {
-  const Desk::Modal modal(desk());
-  services_.messageBox.show(message);
+  ask(desk(), services_.messageBox, message);
 }
 
 void BatchSetupPane::ShowBatchScreen() {
@@ -127,7 +123,7 @@ void BatchSetupPane::openFixed() {
 
 bool BatchSetupPane::openVariable() {
   if (!host_.ready()) {
-    tell({"Error", "Please enter all of the necessary information before continuing!",
+    tell({"Error", "Please enter all of the necessary information before continuing!", MessageKind::refusal,
           MessageIcon::exclamation, MessageButtons::ok});
     return false;
   }
@@ -158,8 +154,8 @@ TrendReading BatchSetupPane::readValues(bool validate) const {
   if (optBatchOption[1]->checked()) return readValuesFile(lblBatchFile.caption(), validate);
   if (optBatchOption[2]->checked()) return readValuesList(txtBatchList.text(), validate);
   return {{},
-          Message{defaultTitle, "Please select an option for trend processing", MessageIcon::none,
-                  MessageButtons::ok}};
+          Message{defaultTitle, "Please select an option for trend processing", MessageKind::notice,
+                  MessageIcon::none, MessageButtons::ok}};
 }
 
 std::optional<Message> BatchSetupPane::refuseCrop(const std::string& cropName) const {
@@ -170,7 +166,7 @@ std::optional<Message> BatchSetupPane::refuseCrop(const std::string& cropName) c
       "There is no crop " + quoteForMessage(cropName) +
           " among the crops of the main screen. Select a crop of the list \"Crop:\" that is there, "
           "or a variable that applies to all crops.",
-      MessageIcon::exclamation, MessageButtons::ok};
+      MessageKind::refusal, MessageIcon::exclamation, MessageButtons::ok};
 }
 
 std::optional<BatchProcess> BatchSetupPane::GetBatchProcess(const std::string& cropName, bool validate) {
@@ -253,12 +249,9 @@ std::int16_t BatchSetupPane::getSelectedIndex(const OptionGroup& buttons) {
 
 void BatchSetupPane::chooseFile() {
   turnOn(batchOptions, TrendValuesKind::import);
-  {
-    const Desk::Modal modal(desk());
-    const auto path =
-        services_.fileChooser.chooseOpen({"Select a file with trend values", host_.home(), "", ""});
-    if (path) lblBatchFile.setCaption(path->string());
-  }
+  const auto path =
+      askToOpen(desk(), services_.fileChooser, {"Select a file with trend values", host_.home(), "", ""});
+  if (path) lblBatchFile.setCaption(path->string());
   showPreview();
 }
 

@@ -2,12 +2,12 @@
 
 #include <array>
 #include <cstdint>
-#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "controls/Event.h"
 #include "controls/HelpButtons.h"
 #include "controls/displays.h"
 #include "controls/inputs.h"
@@ -76,8 +76,8 @@ class BatchSetupPane : public Frame {
   Button Command10{*this, "Command10", "Back"};
   HelpButtons cmdHelp{*this, {25, 26}};
 
-  std::function<void()> onRun;  ///< cmdBatchIt
-  std::function<void(int)> onHelp;
+  Event<> onRun;  ///< cmdBatchIt
+  Event<int> onHelp;
 
   /// Opens the pane for the kind of trend that the selected option decides. A variable trend whose inputs are
   /// not complete is refused. \throws RunTimeError

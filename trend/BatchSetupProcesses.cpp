@@ -1,3 +1,4 @@
+#include "controls/ask.h"
 #include "model/listIndex.h"
 #include "text/RunTimeError.h"
 #include "trend/BatchSetupPane.h"
@@ -6,11 +7,11 @@
 namespace verdalis {
 
 void BatchSetupPane::wireProcesses() {
-  cboBatches.onClick = [this] { switchProcess(); };
-  cmdAddBatchProcess.onClick = [this] {
+  cboBatches.onClick.connect([this] { switchProcess(); });
+  cmdAddBatchProcess.onClick.connect([this] {
     if (CheckCurrentProcess()) AddBatchProcess();
-  };
-  cmdDeleteBatch.onClick = [this] { deleteProcess(); };
+  });
+  cmdDeleteBatch.onClick.connect([this] { deleteProcess(); });
 }
 
 bool BatchSetupPane::CheckCurrentProcess() {
@@ -105,12 +106,9 @@ void BatchSetupPane::switchProcess() {
 }
 
 void BatchSetupPane::deleteProcess() {
-  MessageAnswer answer = MessageAnswer::no;
-  {
-    const Desk::Modal modal(desk());
-    answer = services_.messageBox.show(
-        {"Delete", "Delete this trend process?", MessageIcon::question, MessageButtons::yesNo});
-  }
+  const MessageAnswer answer = ask(desk(), services_.messageBox,
+                                   {"Delete", "Delete this trend process?", MessageKind::question,
+                                    MessageIcon::question, MessageButtons::yesNo});
   if (answer == MessageAnswer::yes) {
     auto& processes = trend_.ProcessCollection;
     const std::size_t place = listIndex(cboBatches.index() + 1L, processes.size());

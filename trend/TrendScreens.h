@@ -18,7 +18,7 @@ class TrendScreens {
         pneBatchSetup1(window, services, state, trend, host),
         state_(state),
         host_(host) {
-    pneBatchSetup0.onRun = [this] { cmdBatchIt_Click(); };
+    pneBatchSetup0.onRun.connect([this] { cmdBatchIt_Click(); });
   }
 
   TrendState trend;

@@ -22,7 +22,7 @@ constexpr double mostOptions = 1'000'000;
 constexpr std::size_t shownValues = 20;
 
 Message invalidValue(const std::string& text) {
-  return {"Invalid value", text, MessageIcon::exclamation, MessageButtons::ok};
+  return {"Invalid value", text, MessageKind::refusal, MessageIcon::exclamation, MessageButtons::ok};
 }
 
 TrendReading refused(const std::string& text) {
@@ -148,8 +148,10 @@ TrendReading readValuesList(const std::string& list, bool validate) {
 }
 
 std::optional<Message> refuseRain(const std::vector<TrendValue>& values) {
+  // Numbers they are, so that a command goes on after it: told, and no refusal.
   const auto refusal = [](const char* text) {
-    return Message{"Please try again", text, MessageIcon::information, MessageButtons::ok};
+    return Message{"Please try again", text, MessageKind::notice, MessageIcon::information,
+                   MessageButtons::ok};
   };
   for (const TrendValue& value : values) {
     const double rain = numberOf(value);

@@ -7,6 +7,7 @@
 #include <optional>
 #include <system_error>
 
+#include "controls/ask.h"
 #include "screens/modHelp.h"
 #include "text/RunTimeError.h"
 #include "text/encoding.h"
@@ -55,37 +56,29 @@ std::optional<ExportError> saveText(const std::filesystem::path& path,
   return error;
 }
 
-MessageAnswer show(Desk& desk, Services& services, const Message& message) {
-  const Desk::Modal modal(desk);
-  return services.messageBox.show(message);
-}
-
 }  // namespace
 
 void exportForSpreadsheet(Desk& desk, Services& services, const std::filesystem::path& folder,
                           const std::function<void(std::string&)>& write, const FileWriter& writer) {
-  std::optional<std::filesystem::path> path;
-  {
-    const Desk::Modal modal(desk);
-    path = services.fileChooser.chooseSave({"", folder, "Microsoft Excel (*.xls) | *.xls", "xls"});
-  }
+  const std::optional<std::filesystem::path> path =
+      askToSave(desk, services.fileChooser, {"", folder, "Microsoft Excel (*.xls) | *.xls", "xls"});
   if (!path || path->empty()) return;
   if (const std::optional<ExportError> error = saveText(*path, write, writer)) {
-    show(desk, services,
-         {"File Error",
-          "The file '" + path->string() +
-              "' is either currently open by another program or is unaccessible at the moment.\nPlease check "
-              "the file and try again.  Error #" +
-              std::to_string(error->number) + " -> " + error->description,
-          MessageIcon::exclamation, MessageButtons::ok});
+    ask(desk, services.messageBox,
+        {"File Error",
+         "The file '" + path->string() +
+             "' is either currently open by another program or is unaccessible at the moment.\nPlease check "
+             "the file and try again.  Error #" +
+             std::to_string(error->number) + " -> " + error->description,
+         MessageKind::failure, MessageIcon::exclamation, MessageButtons::ok});
     return;
   }
   const MessageAnswer answer =
-      show(desk, services,
-           {"Export Complete",
-            "The Microsoft Excel worksheet '" + path->string() +
-                "' has been created successfully!\nDo you want to open this file now?",
-            MessageIcon::information, MessageButtons::yesNo});
+      ask(desk, services.messageBox,
+          {"Export Complete",
+           "The Microsoft Excel worksheet '" + path->string() +
+               "' has been created successfully!\nDo you want to open this file now?",
+           MessageKind::question, MessageIcon::information, MessageButtons::yesNo});
   if (answer == MessageAnswer::yes) openWithShell(desk, services, *path);
 }
 

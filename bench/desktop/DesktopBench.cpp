@@ -38,9 +38,7 @@ class Shown {
   [[nodiscard]] Program& program() { return desktop_->program(); }
   [[nodiscard]] QWidget* window() { return desktop_->mainWindow(); }
 
-  [[nodiscard]] QWidget* widget(const char* path) {
-    return desktop_->binder().widget(*desktop_->program().desk.find(path));
-  }
+  [[nodiscard]] QWidget* widget(const Control& control) { return desktop_->binder().widget(control); }
 
  private:
   QTemporaryDir folder_;
@@ -70,7 +68,7 @@ BENCHMARK(processToMainPane)->Unit(benchmark::kMillisecond)->UseRealTime();
 void keyPressToRepaint(benchmark::State& state) {
   Shown shown;
   shown.start();
-  QWidget* field = shown.widget("txtArea");
+  QWidget* field = shown.widget(shown.program().main().pneMain.txtArea);
   field->setFocus();
   bool digit = false;
   for (auto _ : state) {
@@ -86,10 +84,11 @@ BENCHMARK(keyPressToRepaint)->Unit(benchmark::kMicrosecond);
 void nextOptionToRepaint(benchmark::State& state) {
   Shown shown;
   shown.start();
-  for (const char* crop : {"cr(1).chkCrop", "cr(5).chkCrop"})
-    QTest::keyClick(shown.widget(crop), Qt::Key_Space);
+  frmMain& main = shown.program().main();
+  for (const std::size_t row : {1U, 5U})
+    QTest::keyClick(shown.widget(main.pneMain.cr[row]->chkCrop), Qt::Key_Space);
   QTest::keyClick(shown.window(), Qt::Key_F5);
-  QWidget* page = shown.widget("theResults");
+  QWidget* page = shown.widget(main.theResults);
   if (!page->isVisible()) {
     state.SkipWithError("no options came");
     return;
@@ -97,7 +96,7 @@ void nextOptionToRepaint(benchmark::State& state) {
   bool forward = false;
   for (auto _ : state) {
     forward = !forward;
-    QTest::mouseClick(shown.widget(forward ? "theResults.cmdAdvance" : "theResults.cmdPrevious"),
+    QTest::mouseClick(shown.widget(forward ? main.theResults.cmdAdvance : main.theResults.cmdPrevious),
                       Qt::LeftButton);
     page->repaint();
     QCoreApplication::processEvents();
@@ -132,7 +131,7 @@ void keyPressInTheGridToRepaint(benchmark::State& state) {
   CustomCropPane& pane = openLargestGrid(shown);
   QApplication::clipboard()->setText(numbersOfGrid(33, 24));
   pane.cmdCustomGrid4.click();
-  QWidget* grid = shown.widget("dgCustom");
+  QWidget* grid = shown.widget(pane.dgCustom);
   grid->setFocus();
   bool digit = false;
   for (auto _ : state) {
@@ -149,7 +148,7 @@ void pasteToRepaint(benchmark::State& state) {
   Shown shown;
   CustomCropPane& pane = openLargestGrid(shown);
   QApplication::clipboard()->setText(numbersOfGrid(33, 24));
-  QWidget* grid = shown.widget("dgCustom");
+  QWidget* grid = shown.widget(pane.dgCustom);
   for (auto _ : state) {
     pane.cmdCustomGrid4.click();
     grid->repaint();

@@ -105,14 +105,13 @@ std::size_t characters(std::string_view text) {
 
 ScriptSession::ScriptSession(std::filesystem::path home)
     : services_(platform_.services()), program_(services_, std::move(home)) {
-  program_.windows.onCreated = [this](Window& window) {
+  program_.windows.onCreated.connect([this](Window& window) {
     if (auto* updating = dynamic_cast<frmUpdating*>(&window)) watchProgress(*updating);
     if (auto* help = dynamic_cast<frmHelp*>(&window)) {
-      help->onNote = [this](const HelpNote& note) {
-        platform_.noteShown(note.title, note.text, note.height);
-      };
+      help->onNote.connect(
+          [this](const HelpNote& note) { platform_.noteShown(note.title, note.text, note.height); });
     }
-  };
+  });
 }
 
 bool ScriptSession::replay(std::istream& in, std::ostream& out) {
@@ -317,16 +316,16 @@ void ScriptSession::setClock(const std::string& text) {
 }
 
 void ScriptSession::watchProgress(frmUpdating& window) {
-  window.ProgressBar.watcher = [this, &window] {
+  window.ProgressBar.onStateChange.connect([this, &window] {
     // Cancel is pressed once, also when further steps follow before the run sees it.
     if (cancelAfter_ > 0 && window.isOpen() && window.ProgressBar.value() >= cancelAfter_) {
       cancelAfter_ = 0;
       window.Command1.click();
     }
-  };
-  window.watcher = [this, &window] {
+  });
+  window.onStateChange.connect([this, &window] {
     if (!window.isOpen()) cancelAfter_ = 0;
-  };
+  });
 }
 
 void ScriptSession::quit() {

@@ -1,4 +1,4 @@
-// Draws every pane of the program into pictures: verdalis-screenshots FOLDER light|dark SUFFIX HOME.
+// Draws every pane of the program into picture files: verdalis-screenshots FOLDER light|dark SUFFIX HOME.
 
 #include <QApplication>
 #include <QDir>
@@ -33,93 +33,90 @@ class Photographer {
   QString suffix_;
 };
 
-template <class Kind>
-Kind& control(Desktop& desktop, const char* path) {
-  return dynamic_cast<Kind&>(*desktop.program().desk.find(path));
-}
-
-void typeFarm(Desktop& desktop) {
-  control<TextBox>(desktop, "txtArea").type("125");
-  control<TextBox>(desktop, "txtMax").type("14");
-  control<ComboBox>(desktop, "txtAnnRain").type("17");
-  control<OptionButton>(desktop, "Option1(3)").click();
-  control<Button>(desktop, "Command7").click();
-  for (const char* crop : {"cr(1).chkCrop", "cr(2).chkCrop", "cr(5).chkCrop"})
-    control<CheckBox>(desktop, crop).click();
+void typeFarm(MainPane& pane) {
+  pane.txtArea.type("125");
+  pane.txtMax.type("14");
+  pane.txtAnnRain.type("17");
+  pane.Option1[3]->click();
+  pane.Command7.click();
+  for (const std::size_t row : {1U, 2U, 5U})
+    pane.cr[row]->chkCrop.click();
 }
 
 void photograph(Desktop& desktop, const Photographer& camera) {
-  const auto press = [&](const char* path) { control<Button>(desktop, path).click(); };
   camera.take(desktop.binder().widget(desktop.program().welcome), QStringLiteral("welcome"));
   desktop.program().welcome.Command1.click();
   MainWindow* window = desktop.mainWindow();
+  frmMain& main = desktop.program().main();
   window->resize(1180, 820);
-  typeFarm(desktop);
+  typeFarm(main.pneMain);
   camera.take(window, QStringLiteral("main"));
   window->resize(1024, 700);
   camera.take(window, QStringLiteral("main-small"));
   window->resize(1180, 820);
-  press("cr(1).cmdInputCosts");
+  main.pneMain.cr[1]->cmdInputCosts.click();
   camera.take(window, QStringLiteral("costs-grain"));
-  press("cmdCancel(1)");
-  control<CheckBox>(desktop, "cr(0).chkCrop").click();
-  press("cr(0).cmdInputCosts");
+  main.pneInputCosts.cmdCancel.click();
+  main.pneMain.cr[0]->chkCrop.click();
+  main.pneMain.cr[0]->cmdInputCosts.click();
   camera.take(window, QStringLiteral("costs-forage"));
-  press("cmdCancel(1)");
-  press("Command8");
+  main.pneInputCosts.cmdCancel.click();
+  main.pneMain.Command8.click();
   camera.take(window, QStringLiteral("irrigation"));
-  press("cmdCancel(0)");
-  press("Command1");
+  main.pneIrrigCosts.cmdCancel.click();
+  main.pneMain.Command1.click();
   camera.take(window, QStringLiteral("results"));
-  press("theResults.rh(0).cmdDetails");
+  main.theResults.rh[0].cmdDetails.click();
   camera.take(window, QStringLiteral("details"));
-  press("theDetails.Command3");
+  main.theDetails.Command3.click();
   for (int i = 0; i < 2; ++i) {
     QTimer::singleShot(0, [] {
       if (QWidget* box = QApplication::activeModalWidget()) box->close();
     });
-    press("theResults.cmdSaveResult");
-    press("theResults.cmdAdvance");
+    main.theResults.cmdSaveResult.click();
+    main.theResults.cmdAdvance.click();
   }
-  control<MenuEntry>(desktop, "mnuSummary").click();
+  main.menus.mnuSummary.click();
   camera.take(window, QStringLiteral("summary"));
-  control<MenuEntry>(desktop, "mnuCustomCrop").click();
-  control<ComboBox>(desktop, "cboCustomGrid(5)").pick(0);
+  main.menus.mnuCustomCrop.click();
+  main.pneCustomCrop.cboCustomGrid[5].pick(0);
   camera.take(window, QStringLiteral("custom-crop"));
-  press("cmdCustomGrid(5)");
+  main.pneCustomCrop.cmdCustomGrid5.click();
 }
 
 void photographTrends(Desktop& desktop, const Photographer& camera) {
-  const auto press = [&](const char* path) { control<Button>(desktop, path).click(); };
   MainWindow* window = desktop.mainWindow();
-  typeFarm(desktop);
+  frmMain& main = desktop.program().main();
+  BatchSetupPane& setup = main.trends.pneBatchSetup0;
+  Results& results = main.trends.pneBatchSetup1.theBatchResults.theResults;
+  typeFarm(main.pneMain);
   desktop.program().state.TrendNoticeShown = true;
-  control<MenuEntry>(desktop, "mnuEnableBatch").click();
-  control<MenuEntry>(desktop, "mnuFallBatch").click();
-  control<ComboBox>(desktop, "cboCrops").pick(1);
-  control<TextBox>(desktop, "txtBatchMinimum(0)").type("3");
-  control<TextBox>(desktop, "txtBatchMinimum(1)").type("7");
-  control<ComboBox>(desktop, "cboBatchSteps").pick(3);
+  main.menus.mnuEnableBatch.click();
+  main.menus.mnuFallBatch.click();
+  setup.cboCrops.pick(1);
+  setup.txtBatchMinimum[0].type("3");
+  setup.txtBatchMinimum[1].type("7");
+  setup.cboBatchSteps.pick(3);
   camera.take(window, QStringLiteral("trend-setup"));
-  press("cmdBatchIt");
+  setup.cmdBatchIt.click();
   camera.take(window, QStringLiteral("trend-results"));
-  press("theBatchResults.theResults.cmdBatchThis");
-  control<ComboBox>(desktop, "cboCrops").pick(0);
-  control<TextBox>(desktop, "txtBatchList").type("5, 6, 7.25");
-  press("cmdAddBatchProcess");
-  control<OptionButton>(desktop, "optBatchVariable(4)").click();
-  control<TextBox>(desktop, "txtBatchMinimum(0)").type("2");
-  control<TextBox>(desktop, "txtBatchMinimum(1)").type("4");
-  control<ComboBox>(desktop, "cboBatchSteps").pick(1);
+  results.cmdBatchThis.click();
+  setup.cboCrops.pick(0);
+  setup.txtBatchList.type("5, 6, 7.25");
+  setup.cmdAddBatchProcess.click();
+  setup.optBatchVariable[4]->click();
+  setup.txtBatchMinimum[0].type("2");
+  setup.txtBatchMinimum[1].type("4");
+  setup.cboBatchSteps.pick(1);
   camera.take(window, QStringLiteral("fixed-trend-setup"));
-  press("cmdBatchIt");
+  setup.cmdBatchIt.click();
   camera.take(window, QStringLiteral("fixed-trend-results"));
-  press("theBatchResults.theResults.rh(0).cmdDetails");
+  results.rh[0].cmdDetails.click();
   camera.take(window, QStringLiteral("trend-details"));
 }
 
 void photographSmallWindows(Desktop& desktop, const Photographer& camera) {
-  const auto press = [&](const char* path) { control<Button>(desktop, path).click(); };
+  frmMain& main = desktop.program().main();
   frmUpdating& progress = desktop.program().windows.updating();
   progress.setTitle("Evaluating Scenarios");
   progress.setMax(400);
@@ -127,7 +124,7 @@ void photographSmallWindows(Desktop& desktop, const Photographer& camera) {
     progress.Update();
   QEventLoop wait;
   QTimer::singleShot(400, &wait, &QEventLoop::quit);
-  wait.exec();  // it appears when a run takes a while
+  wait.exec();  // the progress window appears after a short delay
   camera.take(desktop.binder().widget(progress), QStringLiteral("progress"));
   progress.closeByUser();
   QTimer::singleShot(0, [&] {
@@ -136,13 +133,13 @@ void photographSmallWindows(Desktop& desktop, const Photographer& camera) {
       box->close();
     }
   });
-  press("theBatchResults.theResults.cmdSaveResult");
-  control<MenuEntry>(desktop, "mnuCustomCrop").click();
-  press("cmdHelp(27)");
+  main.trends.pneBatchSetup1.theBatchResults.theResults.cmdSaveResult.click();
+  main.menus.mnuCustomCrop.click();
+  main.pneCustomCrop.cmdHelp.button(27)->click();
   camera.take(desktop.binder().widget(desktop.program().windows.help()), QStringLiteral("note"));
-  control<MenuEntry>(desktop, "mnuOptions").click();
+  main.menus.mnuOptions.click();
   camera.take(desktop.binder().widget(desktop.program().windows.options()), QStringLiteral("options"));
-  control<MenuEntry>(desktop, "mnuAboutVDL").click();
+  main.menus.mnuAboutVDL.click();
   camera.take(desktop.binder().widget(desktop.program().windows.about()), QStringLiteral("about"));
   desktop.services().showTopic("index.htm");
   camera.take(&desktop.services().help(), QStringLiteral("help"));

@@ -13,7 +13,7 @@
 
 namespace verdalis::testing {
 
-/// What a call of the program has left behind.
+/// The result of a call of the program.
 struct CliResult {
   int exitCode = -1;
   std::string out;
@@ -33,9 +33,9 @@ inline std::string bytesOf(const std::filesystem::path& file) {
   return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
 }
 
-/// A home folder whose figures can be worked out by hand. "Plain" yields half of its maximum at any water,
-/// "Half" a quarter; "Thirsty" yields its maximum times net inches / 20. No crop costs anything until a test
-/// says so. The stock crop Corn yields half of its maximum as well.
+/// A home folder with crops whose results can be computed by hand. "Plain" yields half of its maximum with
+/// any water, "Half" a quarter; "Thirsty" yields its maximum times net inches / 20. Crops have no costs
+/// unless a test sets them. The stock crop Corn also yields half of its maximum.
 class SmallHome {
  public:
   SmallHome() {
@@ -48,8 +48,8 @@ class SmallHome {
   [[nodiscard]] const TemporaryFolder& folder() const { return folder_; }
   [[nodiscard]] std::string path() const { return folder_.path().string(); }
 
-  /// A crop file for 11 and 12 inches of rain; `cells` are those at 0 and at 20 inches of net irrigation,
-  /// between which the yield runs straight.
+  /// Writes a crop file for 11 and 12 inches of rain. `cells` are the cells at 0 and at 20 inches of net
+  /// irrigation; the yield is linear between them.
   void crop(const std::string& file, const std::string& name, const std::string& units,
             const std::string& cells) const {
     std::istringstream stream(cells);
@@ -71,7 +71,8 @@ class SmallHome {
                                        "\r\n\r\nYIELD_VALUES=" + values + "\r\n");
   }
 
-  /// `evaluate` on 100 acres with 10 gross inches and 11 inches of rain, undivided, with further arguments.
+  /// Runs `evaluate` on 100 undivided acres with 10 gross inches and 11 inches of rain, with additional
+  /// arguments.
   [[nodiscard]] CliResult evaluate(const std::vector<std::string>& more) const {
     return runCli(arguments(more));
   }
@@ -87,7 +88,7 @@ class SmallHome {
   TemporaryFolder folder_{"cli"};
 };
 
-/// The JSON of a call that must have gone well without a word.
+/// The JSON of a call that must have succeeded without messages.
 inline nlohmann::json jsonOf(const CliResult& result) {
   return nlohmann::json::parse(result.exitCode == 0 && result.err.empty() ? result.out : "null");
 }

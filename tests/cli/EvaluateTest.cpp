@@ -6,7 +6,7 @@
 #include "screens/RunScenario.h"
 #include "tests/cli/CliRun.h"
 
-// What `evaluate` finds: every option of the command line, with figures that can be worked out by hand.
+// Results of `evaluate` for every option of the command line, computed by hand.
 
 namespace verdalis::testing {
 namespace {
@@ -23,7 +23,7 @@ Args plus(Args args, const Args& more) {
   return args;
 }
 
-TEST(Evaluate, TellsTheWholeOption) {
+TEST(Evaluate, ReportsAllValuesOfAnOption) {
   const SmallHome home;
   json result = jsonOf(home.evaluate(plain));
   EXPECT_GE(result["seconds"].get<double>(), 0);
@@ -38,7 +38,7 @@ TEST(Evaluate, TellsTheWholeOption) {
         "costs": 0, "return": 10000, "production": 0, "irrigation": 0, "hours": 0 }] }] })"));
 }
 
-TEST(Evaluate, WritesTheKeysInTheirOrder) {
+TEST(Evaluate, WritesTheKeysInOrder) {
   const SmallHome home;
   const std::string out = home.evaluate(plain).out;
   std::size_t last = 0;
@@ -61,7 +61,7 @@ TEST(Evaluate, WritesTheKeysInTheirOrder) {
   }
 }
 
-TEST(Evaluate, CountsWaterSplitsTimesCropCombinations) {
+TEST(Evaluate, CandidatesAreWaterSplitsTimesCropCombinations) {
   const SmallHome home;
   const json result = jsonOf(home.evaluate(
       {"--split", "4", "--crop", "Plain", "--crop", "Half", "--crop", "Thirsty", "--format", "json"}));
@@ -114,9 +114,9 @@ TEST(Evaluate, FieldsAddUpToTheirOption) {
   }
 }
 
-// 100 acres, 10 gross inches, the default plant of 750 gallons a minute: 1,000 ac-in take 600 hours, and
-// pumping, labour and repairs come to 1886.575 + 500 + 330 dollars.
-TEST(Evaluate, DefaultsBringPricesAndThePlant) {
+// 100 acres, 10 gross inches, and the default plant of 750 gallons per minute: 1,000 acre-inches take 600
+// hours; pumping, labour and repairs cost 1886.575 + 500 + 330 dollars.
+TEST(Evaluate, DefaultsSetPricesAndThePlant) {
   const SmallHome home;
   const json result =
       jsonOf(home.evaluate({"--defaults", "--split", "5", "--crop", "Corn", "--format", "json"}));
@@ -141,7 +141,7 @@ TEST(Evaluate, NoSplitAddsTheUndividedFarm) {
                           [](const json& option) { return option["fields"].size() == 1; }));
 }
 
-TEST(Evaluate, KeepsAsManyOptionsAsAskedFor) {
+TEST(Evaluate, KeepsTheRequestedNumberOfOptions) {
   const SmallHome home;
   const Args args{"--split",     "0",         "--crop",   "Thirsty", "--crop",      "Plain",
                   "--price",     "Thirsty=1", "--price",  "Plain=2", "--max-yield", "Thirsty=90",
@@ -151,7 +151,7 @@ TEST(Evaluate, KeepsAsManyOptionsAsAskedFor) {
   EXPECT_GT(jsonOf(home.evaluate(args))["options"].size(), 1U);
 }
 
-TEST(Evaluate, TakesTheIterationFactor) {
+TEST(Evaluate, AcceptsTheIterationFactor) {
   const SmallHome home;
   const Args args{"--split", "0", "--crop", "Plain", "--format", "json"};
   for (const auto& [factor, splits] : std::vector<std::pair<std::string, int>>{
@@ -160,7 +160,7 @@ TEST(Evaluate, TakesTheIterationFactor) {
   }
 }
 
-TEST(Evaluate, CautionsAboveAFactorOfTenAndGoesOn) {
+TEST(Evaluate, WarnsAboutAFactorAbove10AndContinues) {
   const SmallHome home;
   for (const auto& [factor, splits] :
        std::vector<std::pair<std::string, int>>{{"11", 10}, {"20", 21}, {"99.9", 101}}) {
@@ -175,7 +175,7 @@ TEST(Evaluate, CautionsAboveAFactorOfTenAndGoesOn) {
   }
 }
 
-TEST(Evaluate, LaterValuesOverruleEarlierOnes) {
+TEST(Evaluate, LaterValuesOverrideEarlierOnes) {
   const SmallHome home;
   const json result =
       jsonOf(home.evaluate({"--set", "txtArea=40", "--set", "txtArea=80", "--price", "Corn=1", "--price",
@@ -186,7 +186,7 @@ TEST(Evaluate, LaterValuesOverruleEarlierOnes) {
   EXPECT_EQ(field["maxYield"], 220);
 }
 
-TEST(Evaluate, SoilAndEfficiencyAreTyped) {
+TEST(Evaluate, AcceptsSoilAndEfficiency) {
   const SmallHome home;
   const json result = jsonOf(home.evaluate(
       plus(plain, {"--set", "txtEff=50", "--set", "txtSoil=Loamy Sand", "--set", "txtAnnRain=12"})));
@@ -195,7 +195,7 @@ TEST(Evaluate, SoilAndEfficiencyAreTyped) {
   EXPECT_EQ(result["options"][0]["fields"][0]["grossDepth"], 10);
 }
 
-TEST(Evaluate, ACropNameMayHoldAnEqualSign) {
+TEST(Evaluate, ACropNameMayContainAnEqualSign) {
   const SmallHome home;
   home.crop("odd.txt", "a=b", "bu.,bushels", "0.5,0.5,0.5,0.5");
   const json result = jsonOf(home.evaluate(
@@ -203,7 +203,7 @@ TEST(Evaluate, ACropNameMayHoldAnEqualSign) {
   EXPECT_EQ(result["options"][0]["fields"][0]["price"], 4);
 }
 
-TEST(Evaluate, OfTwoCropsOfOneNameTheExactOneThenTheLastCounts) {
+TEST(Evaluate, OfTwoCropsOfTheSameNameTheExactMatchThenTheLastIsUsed) {
   const SmallHome home;
   home.crop("zz1.txt", "Twin", "bu.,bushels", "0.1,0.1,0.1,0.1");
   home.crop("zz2.txt", "Twin", "bu.,bushels", "0.2,0.2,0.2,0.2");
@@ -218,7 +218,7 @@ TEST(Evaluate, OfTwoCropsOfOneNameTheExactOneThenTheLastCounts) {
   EXPECT_EQ(yieldOf("twin"), 40);
 }
 
-TEST(Evaluate, ACustomCropIsNotTested) {
+TEST(Evaluate, ACustomCropHasNoRangeTest) {
   const SmallHome home;
   const json result = jsonOf(home.evaluate({"--price", "Plain=99999", "--max-yield", "Plain=99999", "--crop",
                                             "Plain", "--split", "5", "--format", "json"}));
@@ -238,7 +238,7 @@ TEST(Evaluate, APriceIsReadByItsLeadingNumber) {
   EXPECT_EQ(priceOf("-"), 0);
 }
 
-TEST(Evaluate, FallowTakesPart) {
+TEST(Evaluate, FallowCanBeACandidate) {
   const SmallHome home;
   const json result = jsonOf(home.evaluate({"--crop", "Fallow", "--split", "5", "--format", "json"}));
   const json field = result["options"][0]["fields"][0];
@@ -254,8 +254,8 @@ TEST(Evaluate, ARunWithoutWaterSplitsHasNoOptions) {
   EXPECT_EQ(result["options"], json::array());
 }
 
-/// The same farm given to the engine itself, without any of the command line.
-TEST(Evaluate, FindsWhatTheEngineFindsToTheLastBit) {
+/// Runs the same farm directly in the engine, without the command line.
+TEST(Evaluate, MatchesTheEngineToTheLastBit) {
   const SmallHome home;
   FileReader library(home.folder().path());
   library.Initialize();

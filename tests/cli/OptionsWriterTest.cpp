@@ -34,7 +34,7 @@ EvaluationResult twoOptions() {
   return result;
 }
 
-TEST(TableWriter, IsForReading) {
+TEST(TableWriter, WritesAReadableTable) {
   EXPECT_EQ(written(writeTable, twoOptions()),
             "Candidates: 370,656 (water splits: 286, crop combinations: 1,296)\n"
             "Irrigation efficiency: 85.0 %\n"
@@ -54,7 +54,7 @@ TEST(TableWriter, IsForReading) {
             "Costs include irrigation costs. Net returns to land, management, and irrigation equipment.\n");
 }
 
-TEST(TableWriter, SaysWhenThereIsNothing) {
+TEST(TableWriter, SaysIfThereAreNoOptions) {
   EvaluationResult result;
   result.cropCombinations = 3;
   result.efficiency = 0.875;
@@ -70,7 +70,7 @@ std::size_t characters(const std::string& line) {
   return count;
 }
 
-TEST(TableWriter, StaysWithin100ColumnsWhateverTheCropsAreCalled) {
+TEST(TableWriter, FitsInto100ColumnsWhateverTheCropNames) {
   EvaluationResult result = twoOptions();
   result.options[0].fields[0].crop = std::string(300, 'm');
   for (int i = 0; i < 90; ++i)
@@ -106,7 +106,7 @@ const std::string csvHead =
     "profit,"
     "option_costs,option_return,option_profit\r\n";
 
-TEST(CsvWriter, WritesARowAField) {
+TEST(CsvWriter, WritesOneRowPerField) {
   EXPECT_EQ(
       written(writeCsv, twoOptions()),
       csvHead +
@@ -117,7 +117,7 @@ TEST(CsvWriter, WritesARowAField) {
   EXPECT_EQ(written(writeCsv, {}), csvHead);
 }
 
-/// The records of an RFC 4180 text, by a reader of this test's own.
+/// The records of an RFC 4180 text, read by a separate parser.
 std::vector<std::vector<std::string>> records(const std::string& text) {
   std::vector<std::vector<std::string>> result(1, {std::string()});
   bool inside = false;
@@ -142,7 +142,7 @@ std::vector<std::vector<std::string>> records(const std::string& text) {
   return result;
 }
 
-TEST(CsvWriter, QuotesSoThatAnyNameReadsBack) {
+TEST(CsvWriter, QuotedNamesReadBack) {
   EXPECT_TRUE(rc::check([](const std::string& name, const std::string& unit) {
     EvaluationResult result = twoOptions();
     result.options[0].fields[1].crop = name;
@@ -156,7 +156,7 @@ TEST(CsvWriter, QuotesSoThatAnyNameReadsBack) {
   }));
 }
 
-TEST(CsvWriter, QuotesWhereItMustAndNowhereElse) {
+TEST(CsvWriter, QuotesOnlyWhereNecessary) {
   for (const auto& [name, text] : std::vector<std::pair<std::string, std::string>>{{"Corn", "Corn"},
                                                                                    {"a b", "a b"},
                                                                                    {"a,b", "\"a,b\""},
@@ -175,7 +175,7 @@ bool sameBits(double a, double b) {
   return std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b);
 }
 
-/// Any finite 64-bit float, from its bits.
+/// A random finite 64-bit float from any bit pattern.
 double anyFloat() {
   const std::uint64_t bits = *rc::gen::arbitrary<std::uint64_t>();
   double value = 0;
@@ -206,7 +206,7 @@ TEST(NumbersReadBack, ToTheSameBits) {
   }));
 }
 
-TEST(JsonWriter, IsOneObjectForReadingToo) {
+TEST(JsonWriter, WritesOneReadableObject) {
   EvaluationResult result = twoOptions();
   result.options = {result.options[1]};
   EXPECT_EQ(written(writeJson, result), R"({
@@ -245,8 +245,8 @@ TEST(JsonWriter, IsOneObjectForReadingToo) {
 )");
 }
 
-/// It is written piece by piece.
-TEST(JsonWriter, WritesWhatADumpOfTheWholeWouldGive) {
+/// The writer writes in pieces.
+TEST(JsonWriter, WritesTheSameTextAsADumpOfTheWholeObject) {
   EvaluationResult noFields = twoOptions();
   noFields.options[0].fields.clear();
   noFields.options[1].fields[0].crop = "two\nlines";
@@ -256,14 +256,14 @@ TEST(JsonWriter, WritesWhatADumpOfTheWholeWouldGive) {
   }
 }
 
-TEST(JsonWriter, SurvivesBytesThatAreNoText) {
+TEST(JsonWriter, AcceptsBytesThatAreNotText) {
   EvaluationResult result = twoOptions();
   result.options[0].fields[0].crop = "\xFF\xC3";
   const auto json = nlohmann::json::parse(written(writeJson, result));
   EXPECT_EQ(json["options"][0]["fields"][0]["crop"], "\xEF\xBF\xBD\xEF\xBF\xBD");
 }
 
-TEST(OptionsWriters, AreKnownByName) {
+TEST(OptionsWriters, AreFoundByName) {
   EXPECT_EQ(optionsFormats(), (std::vector<std::string>{"table", "csv", "json"}));
   EXPECT_EQ(optionsWriter("table"), &writeTable);
   EXPECT_EQ(optionsWriter("csv"), &writeCsv);

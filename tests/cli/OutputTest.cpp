@@ -10,13 +10,13 @@
 namespace verdalis::testing {
 namespace {
 
-TEST(Output, GoesToTheStream) {
+TEST(Output, IsWrittenToTheStream) {
   std::ostringstream out;
   deliver("result\r\n", std::nullopt, out);
   EXPECT_EQ(out.str(), "result\r\n");
 }
 
-TEST(Output, ReplacesTheFileAndLeavesTheStreamAlone) {
+TEST(Output, ReplacesTheFileAndWritesNothingToTheStream) {
   const TemporaryFolder folder("output");
   const std::string file = folder.write("result.txt", "something longer than the result").string();
   std::ostringstream out;
@@ -26,14 +26,14 @@ TEST(Output, ReplacesTheFileAndLeavesTheStreamAlone) {
   EXPECT_EQ(folder.names(), std::vector<std::string>{"result.txt"});
 }
 
-TEST(Output, AStreamThatTakesNothingIsAnError) {
+TEST(Output, AFailingStreamIsAnError) {
   std::ostringstream out;
   out.setstate(std::ios::badbit);
   EXPECT_EQ(errorText(ErrorNumber::fileNotFound, [&] { deliver("result", std::nullopt, out); }),
             "The result cannot be written to standard output.");
 }
 
-TEST(Output, AFileInNoFolderIsAnError) {
+TEST(Output, AFileInAMissingFolderIsAnError) {
   const TemporaryFolder folder("output");
   std::ostringstream out;
   const std::string file = (folder / "none" / "result.txt").string();
@@ -41,7 +41,7 @@ TEST(Output, AFileInNoFolderIsAnError) {
             "The file " + file + " cannot be written: No such file or directory.");
 }
 
-TEST(Output, ADeviceIsWrittenToAndStaysADevice) {
+TEST(Output, ADeviceIsWrittenToAndNotReplaced) {
   std::ostringstream out;
   deliver("result", "/dev/null", out);
   struct stat status {};

@@ -12,7 +12,7 @@
 
 #include "tests/cli/CliRun.h"
 
-// The built program as a process: exactly what it writes, where, and how it ends.
+// The built program as a process: its output and how it ends.
 
 namespace verdalis::testing {
 namespace {
@@ -21,7 +21,7 @@ using Args = std::vector<std::string>;
 
 const std::string program = VERDALIS_BINARY_DIR "/cli/verdalis-cli";
 
-/// Becomes the program with these descriptors; never returns.
+/// Replaces this process by the program, with these descriptors; never returns.
 [[noreturn]] void become(const Args& args,
                          const std::vector<std::pair<std::string, std::string>>& environment, int out,
                          int err) {
@@ -46,8 +46,8 @@ int exitCodeOf(pid_t child) {
   return WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
 }
 
-/// Runs the program to its end. Its streams are files, so neither end ever waits for the other. `beforeStart`
-/// runs in the process before it becomes the program, `meanwhile` beside it.
+/// Runs the program to its end. Its streams are files, so that neither side blocks. `beforeStart` runs in the
+/// new process before the program starts, `meanwhile` runs in parallel.
 CliResult runProcess(
     const Args& args, const std::vector<std::pair<std::string, std::string>>& environment = {},
     const std::string& outFile = "", const std::function<void()>& beforeStart = [] {},
@@ -118,7 +118,7 @@ TEST(Process, WritesAFile) {
   EXPECT_EQ(bytesOf(file), plainCsv);
 }
 
-TEST(Process, RefusesAndFails) {
+TEST(Process, RejectsArgumentsAndReportsFailures) {
   const SmallHome home;
   const CliResult refused = runProcess(plainFarm(home, {"--set", "txtEff=101"}));
   EXPECT_EQ(refused.exitCode, 2);
@@ -134,14 +134,14 @@ TEST(Process, RefusesAndFails) {
             "verdalis-cli: Annual rainfall 25 is outside the yield table of Plain (11 to 12 inches).\n");
 }
 
-TEST(Process, ToldThatStandardOutputIsFull) {
+TEST(Process, ReportsThatStandardOutputIsFull) {
   const SmallHome home;
   const CliResult result = runProcess(plainFarm(home), {}, "/dev/full");
   EXPECT_EQ(result.exitCode, 1);
   EXPECT_EQ(result.err, "verdalis-cli: The result cannot be written to standard output.\n");
 }
 
-TEST(Process, ReplaysASession) {
+TEST(Process, RunsASessionFromAScript) {
   const SmallHome home;
   const std::string file = home.folder().write("session", "click frmWelcome.Command1\nget pane\n").string();
   const CliResult result = runProcess({"script", "--home", home.path(), file});
@@ -152,14 +152,14 @@ TEST(Process, ReplaysASession) {
             "{\"ok\":true,\"pane\":\"pneMain\",\"history\":[\"pneMain\",\"pneMain\"]}\n");
 }
 
-TEST(Process, TellsItsVersion) {
+TEST(Process, PrintsItsVersion) {
   const CliResult result = runProcess({"--version"});
   EXPECT_EQ(result.exitCode, 0);
   EXPECT_EQ(result.out, "1.16 build 002\n");
   EXPECT_EQ(result.err, "");
 }
 
-TEST(Process, MakesItsHomeAtTheFirstStart) {
+TEST(Process, CreatesItsHomeFolderAtTheFirstStart) {
   const TemporaryFolder user("user");
   const std::vector<std::pair<std::string, std::string>> environment{{"XDG_DATA_HOME", user.path().string()}};
   const Args args{"evaluate", "--defaults",    "--set",    "txtArea=100", "--set",  "txtMax=10",
@@ -173,7 +173,7 @@ TEST(Process, MakesItsHomeAtTheFirstStart) {
   EXPECT_EQ(runProcess(args, environment).out, first.out);
 }
 
-TEST(Process, WithoutAUserThereIsNoHome) {
+TEST(Process, WithoutAUserHasNoHomeFolder) {
   const CliResult result = runProcess({"evaluate", "--crop", "Corn"}, {{"XDG_DATA_HOME", ""}, {"HOME", ""}});
   EXPECT_EQ(result.exitCode, 1);
   EXPECT_EQ(result.out, "");
@@ -181,9 +181,9 @@ TEST(Process, WithoutAUserThereIsNoHome) {
             "verdalis-cli: There is no home folder: HOME is not set. Name a folder with crops/ by --home.\n");
 }
 
-/// Ctrl+C is pressed while the program is being started and cannot see it yet: it is there at the first
-/// moment at which a run can be cancelled.
-TEST(Process, CtrlCCancels) {
+/// Ctrl+C is pressed before the program can handle it, so that it is pending when the run can first be
+/// cancelled.
+TEST(Process, CtrlCCancelsARun) {
   const SmallHome home;
   const std::string file = (home.folder() / "result").string();
   for (const Args& more : {Args{}, Args{"--output", file}}) {
@@ -201,8 +201,8 @@ TEST(Process, CtrlCCancels) {
   }
 }
 
-/// Whenever Ctrl+C comes, the result is whole or there is none.
-TEST(Process, CtrlCAtAnyMomentLeavesNoPartOfAResult) {
+/// Whenever Ctrl+C is pressed, the result is complete or missing.
+TEST(Process, CtrlCAtAnyTimeLeavesNoPartialResult) {
   const SmallHome home;
   const std::string whole = runProcess(plainFarm(home)).out;
   ASSERT_NE(whole, "");
@@ -222,7 +222,7 @@ TEST(Process, CtrlCAtAnyMomentLeavesNoPartOfAResult) {
   }
 }
 
-/// The program with its standard error on a terminal of the test's own.
+/// The program with its standard error on a pseudo terminal.
 class OnTerminal {
  public:
   explicit OnTerminal(const Args& args) {
@@ -245,10 +245,10 @@ class OnTerminal {
     if (master_ >= 0) ::close(master_);
   }
 
-  /// Whether the system has given a terminal; a container may have none.
+  /// Whether a terminal is available; a container may have none.
   [[nodiscard]] bool runs() const { return child_ > 0; }
 
-  /// Waits for the end.
+  /// Waits for the program to end.
   CliResult finish() {
     while (read()) {
     }

@@ -10,7 +10,7 @@
 namespace verdalis {
 namespace {
 
-/// A progress on a terminal of text, by a clock that the test moves.
+/// A progress display on a text stream, with a clock controlled by the test.
 class ProgressOnTerminal : public ::testing::Test {
  protected:
   std::string shown() {
@@ -37,7 +37,7 @@ TEST_F(ProgressOnTerminal, AShortRunShowsNothing) {
   EXPECT_EQ(shown(), "");
 }
 
-TEST_F(ProgressOnTerminal, ALongRunShowsStepsShareAndTimeLeft) {
+TEST_F(ProgressOnTerminal, ALongRunShowsStepsPercentageAndTimeLeft) {
   progress_.showProgress("title");
   progress_.setProgress(4000, "");
   for (int i = 0; i < 999; ++i)
@@ -57,7 +57,7 @@ TEST_F(ProgressOnTerminal, ALongRunShowsStepsShareAndTimeLeft) {
   EXPECT_EQ(shown(), "");
 }
 
-TEST_F(ProgressOnTerminal, TimeLeftReadsWell) {
+TEST_F(ProgressOnTerminal, FormatsTheTimeLeft) {
   for (const auto& [elapsed, text] :
        std::vector<std::pair<double, std::string>>{{0.4, "1 s left"},
                                                    {59.4, "59 s left"},
@@ -75,7 +75,7 @@ TEST_F(ProgressOnTerminal, TimeLeftReadsWell) {
   }
 }
 
-TEST_F(ProgressOnTerminal, ARunOfATrendSaysWhichOne) {
+TEST_F(ProgressOnTerminal, ATrendShowsTheNumberOfItsRun) {
   progress_.showProgress("title");
   progress_.setProgress(10, "Corn : $5");
   now_ += 1;
@@ -92,7 +92,7 @@ TEST_F(ProgressOnTerminal, ARunWithoutStepsShowsNothing) {
   EXPECT_EQ(shown(), "");
 }
 
-TEST(Progress, IsErasedWhenARunFails) {
+TEST(Progress, IsErasedIfARunFails) {
   std::ostringstream terminal;
   ProgramState state;
   double now = 0;
@@ -107,7 +107,7 @@ TEST(Progress, IsErasedWhenARunFails) {
   EXPECT_EQ(text.substr(text.size() - 4), "\r\x1b[K");
 }
 
-TEST(Progress, WithoutATerminalShowsNothing) {
+TEST(Progress, ShowsNothingWithoutATerminal) {
   ProgramState state;
   double now = 0;
   Progress progress(nullptr, state, [&] { return now; });
@@ -126,7 +126,7 @@ TEST(Progress, OnlyStandardErrorCanBeATerminal) {
   EXPECT_EQ(asTerminal(std::cout), nullptr);
 }
 
-TEST(Interrupt, CancelsTheRunAndNothingElse) {
+TEST(Interrupt, CancelsOnlyTheCurrentRun) {
   ProgramState state;
   Progress progress(nullptr, state);
   {
@@ -143,7 +143,7 @@ TEST(Interrupt, CancelsTheRunAndNothingElse) {
   EXPECT_FALSE(Interrupt::requested()) << "one Ctrl+C cancels one run";
 }
 
-TEST(Interrupt, GivesTheSignalBack) {
+TEST(Interrupt, RestoresTheSignalHandler) {
   struct sigaction before {};
   sigaction(SIGINT, nullptr, &before);
   { const Interrupt interrupt; }

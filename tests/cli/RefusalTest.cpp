@@ -6,14 +6,14 @@
 
 #include "tests/cli/CliRun.h"
 
-// What ends without a result: refusals (2), run-time errors (1), and what is said about them.
+// Calls without a result: invalid input (exit code 2) and run-time errors (exit code 1), with their messages.
 
 namespace verdalis::testing {
 namespace {
 
 using Args = std::vector<std::string>;
 
-/// Everything that a run of Corn needs, so that a test has to add one fault only.
+/// All arguments needed for a run of Corn, so that a test only adds an invalid one.
 const Args corn{"--split", "5", "--crop", "Corn", "--price", "Corn=5", "--max-yield", "Corn=200"};
 
 CliResult withCorn(const SmallHome& home, const Args& fault) {
@@ -28,7 +28,7 @@ void expectFailure(const CliResult& result, int exitCode, const std::string& err
   EXPECT_EQ(result.err, "verdalis-cli: " + err + "\n");
 }
 
-TEST(Refusal, RangeTests) {
+TEST(Refusal, RejectsValuesOutsideTheirRange) {
   const SmallHome home;
   const std::string efficiency = "Irrigation Efficiency %:  Please enter a ";
   const std::string price = "Crop Price - Corn:  Please enter a ";
@@ -49,7 +49,7 @@ TEST(Refusal, RangeTests) {
   }
 }
 
-TEST(Refusal, LimitsOfTheStockCrops) {
+TEST(Refusal, RejectsValuesAboveTheLimitsOfStockCrops) {
   const SmallHome home;
   struct Limit {
     std::string crop;
@@ -76,7 +76,7 @@ TEST(Refusal, LimitsOfTheStockCrops) {
   }
 }
 
-TEST(Refusal, EntriesHalfTypedPass) {
+TEST(Refusal, AcceptsIncompleteNumbers) {
   const SmallHome home;
   for (const char* text : {"", "-", "."}) {
     EXPECT_EQ(withCorn(home, {"--price", std::string("Corn=") + text}).exitCode, 0) << text;
@@ -84,7 +84,7 @@ TEST(Refusal, EntriesHalfTypedPass) {
   }
 }
 
-TEST(Refusal, IterationFactor) {
+TEST(Refusal, RejectsAnInvalidIterationFactor) {
   const SmallHome home;
   for (const char* text : {"abc", "", "5x", "1e400"}) {
     expectFailure(withCorn(home, {"--factor", text}), 2,
@@ -96,7 +96,7 @@ TEST(Refusal, IterationFactor) {
   }
 }
 
-TEST(Refusal, NumberOfOptions) {
+TEST(Refusal, RejectsAnInvalidNumberOfOptions) {
   const SmallHome home;
   for (const char* text : {"ten", "", "1,000", "5 or 6"}) {
     expectFailure(withCorn(home, {"--keep", text}), 2,
@@ -104,7 +104,7 @@ TEST(Refusal, NumberOfOptions) {
   }
 }
 
-TEST(Refusal, LandSplit) {
+TEST(Refusal, RejectsAnInvalidLandSplit) {
   const SmallHome home;
   for (const char* text : {"6", "-1", "half", "", "1.0", "99999999999999999999"}) {
     expectFailure(home.evaluate({"--crop", "Corn", "--split", text}), 2,
@@ -115,7 +115,7 @@ TEST(Refusal, LandSplit) {
   }
 }
 
-TEST(Refusal, UnknownCrop) {
+TEST(Refusal, RejectsAnUnknownCrop) {
   const SmallHome home;
   const std::string text =
       R"(There is no crop "Maize". The crops are "Corn", "Half", "Plain", "Thirsty", "Fallow".)";
@@ -124,14 +124,14 @@ TEST(Refusal, UnknownCrop) {
   expectFailure(withCorn(home, {"--max-yield", "Maize=1"}), 2, "--max-yield \"Maize=1\": " + text);
 }
 
-TEST(Refusal, FallowHasNeitherPriceNorYield) {
+TEST(Refusal, RejectsAPriceOrYieldForFallow) {
   const SmallHome home;
   expectFailure(withCorn(home, {"--price", "Fallow=1"}), 2, "--price \"Fallow=1\": Fallow has no price.");
   expectFailure(withCorn(home, {"--max-yield", "Fallow=1"}), 2,
                 "--max-yield \"Fallow=1\": Fallow has no maximum yield.");
 }
 
-TEST(Refusal, UnknownControl) {
+TEST(Refusal, RejectsAnUnknownControl) {
   const SmallHome home;
   for (const char* name : {"txtarea", "cr(5).txtPrice", "frmWelcome.Command1", "frmUpdating", ""}) {
     expectFailure(
@@ -140,7 +140,7 @@ TEST(Refusal, UnknownControl) {
   }
 }
 
-TEST(Refusal, AnAssignmentNeedsAnEqualSign) {
+TEST(Refusal, RejectsAnAssignmentWithoutAnEqualSign) {
   const SmallHome home;
   for (const char* option : {"--set", "--price", "--max-yield"}) {
     expectFailure(withCorn(home, {option, "Corn"}), 2,
@@ -148,7 +148,7 @@ TEST(Refusal, AnAssignmentNeedsAnEqualSign) {
   }
 }
 
-TEST(Refusal, TellsEverythingThatIsMissing) {
+TEST(Refusal, ReportsEverythingThatIsMissing) {
   const SmallHome home;
   const std::string head = "Please enter all of the necessary information before continuing! Missing: ";
   expectFailure(
@@ -166,7 +166,7 @@ TEST(Refusal, TellsEverythingThatIsMissing) {
                 head + "acres and inches whose product is at least 1 ac-in.");
 }
 
-TEST(Refusal, Arguments) {
+TEST(Refusal, RejectsInvalidArguments) {
   const SmallHome home;
   const std::string help = "\nRun with --help for the commands and their options.";
   expectFailure(runCli({}), 2, "A subcommand is required" + help);
@@ -178,7 +178,7 @@ TEST(Refusal, Arguments) {
   expectFailure(withCorn(home, {"--format", "xml"}), 2, "--format: xml not in {table,csv,json}" + help);
 }
 
-TEST(RunTimeErrors, EndWithoutAResult) {
+TEST(RunTimeErrors, GiveNoResult) {
   const SmallHome home;
   const std::vector<std::pair<Args, std::string>> faults{
       {{"--set", "txtAnnRain=25"},
@@ -202,7 +202,7 @@ TEST(RunTimeErrors, EndWithoutAResult) {
   }
 }
 
-TEST(RunTimeErrors, LeaveAnOutputFileAsItWas) {
+TEST(RunTimeErrors, LeaveTheOutputFileUnchanged) {
   const SmallHome home;
   const std::string file = home.folder().write("result.csv", "old").string();
   EXPECT_EQ(withCorn(home, {"--set", "txtAnnRain=25", "--output", file}).exitCode, 1);
@@ -212,7 +212,7 @@ TEST(RunTimeErrors, LeaveAnOutputFileAsItWas) {
   EXPECT_FALSE(std::filesystem::exists(fresh));
 }
 
-TEST(RunTimeErrors, ALibraryThatCannotBeReadIsTold) {
+TEST(RunTimeErrors, AnUnreadableLibraryIsReported) {
   const TemporaryFolder empty("empty");
   const CliResult result = runCli({"evaluate", "--home", empty.path().string(), "--crop", "Corn"});
   EXPECT_EQ(result.exitCode, 2);
@@ -223,7 +223,7 @@ TEST(RunTimeErrors, ALibraryThatCannotBeReadIsTold) {
                 "verdalis-cli: --crop \"Corn\": There is no crop \"Corn\". The library is empty.\n");
 }
 
-TEST(RunTimeErrors, MoreCropsThanRowsAreToldAndTheRunGoesOn) {
+TEST(RunTimeErrors, TooManyCropsAreReportedAndTheRunContinues) {
   const SmallHome home;  // four crops and Fallow
   for (int i = 0; i < 54; ++i) {
     home.crop("m" + std::to_string(i) + ".txt", "More" + std::to_string(i), "bu.,bushels", "1,1,1,1");
@@ -239,7 +239,7 @@ TEST(RunTimeErrors, MoreCropsThanRowsAreToldAndTheRunGoesOn) {
   EXPECT_NE(result.out, "");
 }
 
-TEST(Help, GoesToStandardOutput) {
+TEST(Help, IsWrittenToStandardOutput) {
   for (const auto& [args, word] :
        std::vector<std::pair<Args, std::string>>{{{"--help"}, "evaluate"},
                                                  {{"-h"}, "script"},
@@ -258,7 +258,7 @@ TEST(Help, GoesToStandardOutput) {
   }
 }
 
-TEST(Help, TellsTheVersion) {
+TEST(Help, PrintsTheVersion) {
   for (const Args& args : {Args{"--version"}, Args{"evaluate", "--version"}, Args{"script", "--version"}}) {
     const CliResult result = runCli(args);
     EXPECT_EQ(result.exitCode, 0);

@@ -13,7 +13,7 @@
 #include "pdf/drawPdf.h"
 #include "tests/cli/CliRun.h"
 
-// Reports as files: printed by an evaluation and by a script, as PDF and as text.
+// Reports printed to PDF and text files by `evaluate` and by scripts.
 
 namespace verdalis::testing {
 namespace {
@@ -23,7 +23,7 @@ using ::testing::HasSubstr;
 using ::testing::StartsWith;
 using Args = std::vector<std::string>;
 
-/// What a command of the system prints.
+/// The output of a shell command.
 std::string outputOf(const std::string& command) {
   struct Close {
     void operator()(std::FILE* pipe) const { ::pclose(pipe); }
@@ -43,7 +43,7 @@ bool hasPoppler() {
 #define NEEDS_POPPLER() \
   if (!hasPoppler()) GTEST_SKIP() << "pdftotext is not installed (package poppler-utils)"
 
-/// The text of a PDF file in the order in which it was drawn.
+/// The text of a PDF file, in drawing order.
 std::string textOf(const std::filesystem::path& pdf) {
   return outputOf("pdftotext -raw '" + pdf.string() + "' -");
 }
@@ -82,7 +82,7 @@ class ReportTest : public ::testing::Test {
   }
 };
 
-TEST_F(ReportTest, TheResultsReportAsText) {
+TEST_F(ReportTest, TheResultsReportCanBePrintedAsText) {
   const CliResult result = evaluate({"--report", file("r.txt").string()});
   EXPECT_EQ(result.exitCode, 0) << result.err;
   EXPECT_EQ(result.err, "");
@@ -109,7 +109,7 @@ TEST_F(ReportTest, TheResultsReportAsText) {
           rule, "", "", "*Net returns to land, management, and irrigation equipment"));
 }
 
-TEST_F(ReportTest, TheDetailsOfAField) {
+TEST_F(ReportTest, TheDetailsReportShowsOneField) {
   const CliResult result = evaluate({"--details-report", "1.1=" + file("a=b.txt").string()});
   EXPECT_EQ(result.exitCode, 0) << result.err;
   const std::vector<std::string> lines = linesOf(bytesOf(file("a=b.txt")));
@@ -120,7 +120,7 @@ TEST_F(ReportTest, TheDetailsOfAField) {
   EXPECT_EQ(lines[7], "Crop Price: \t$2.00 / bu.\tYield: \t50.0 bu./ac");
 }
 
-TEST_F(ReportTest, ThePdfHoldsTheSameWordsInTheSameOrder) {
+TEST_F(ReportTest, ThePdfContainsTheSameWordsInTheSameOrder) {
   NEEDS_POPPLER();
   ScriptSession session(home.folder().path());
   for (const std::string& line :
@@ -143,16 +143,16 @@ TEST_F(ReportTest, ThePdfHoldsTheSameWordsInTheSameOrder) {
   EXPECT_THAT(outputOf("pdfinfo '" + file("r.pdf").string() + "'"), HasSubstr("612 x 792 pts (letter)"));
 }
 
-TEST_F(ReportTest, ThePdfHoldsItsFonts) {
+TEST_F(ReportTest, ThePdfEmbedsItsFonts) {
   NEEDS_POPPLER();
   ASSERT_EQ(evaluate({"--report", file("r.pdf").string()}).exitCode, 0);
   const std::vector<std::string> fonts = linesOf(outputOf("pdffonts '" + file("r.pdf").string() + "'"));
-  ASSERT_EQ(fonts.size(), 5U);  // two lines of heading; regular, bold and italic
+  ASSERT_EQ(fonts.size(), 5U);  // two heading lines; regular, bold and italic
   for (std::size_t i = 2; i < fonts.size(); ++i)
     EXPECT_THAT(fonts[i], HasSubstr(" yes yes yes ")) << "embedded, a subset, with its characters";
 }
 
-TEST_F(ReportTest, LongReportsRunOverWithNothingCut) {
+TEST_F(ReportTest, LongReportsContinueOnFurtherPagesWithoutLoss) {
   NEEDS_POPPLER();
   const PdfFont font;
   PageLayout page(font);
@@ -177,7 +177,7 @@ TEST_F(ReportTest, LongReportsRunOverWithNothingCut) {
   EXPECT_EQ(found, expected);
 }
 
-TEST_F(ReportTest, TextOfAnyKindCanBeDrawn) {
+TEST_F(ReportTest, TextInAnyScriptCanBeDrawn) {
   const PdfFont font;
   PageLayout page(font);
   for (const std::string& text :
@@ -203,7 +203,7 @@ TEST_F(ReportTest, ADetailsReportNeedsAnOptionAFieldAndAFile) {
   EXPECT_EQ(evaluate({"--report", ""}).exitCode, 2);
 }
 
-TEST_F(ReportTest, AnOptionOrFieldThatIsNotThereIsRefusedAndNothingIsWritten) {
+TEST_F(ReportTest, AnUnknownOptionOrFieldIsRejectedAndNothingIsWritten) {
   for (const char* place : {"0.1", "1.0", "1.2", "2.1", "70000.1"}) {
     const CliResult result = evaluate({"--report", file("r.pdf").string(), "--details-report",
                                        std::string(place) + "=" + file("d.pdf").string()});
@@ -215,7 +215,7 @@ TEST_F(ReportTest, AnOptionOrFieldThatIsNotThereIsRefusedAndNothingIsWritten) {
   }
 }
 
-TEST_F(ReportTest, SeveralDetailsReports) {
+TEST_F(ReportTest, SeveralDetailsReportsCanBePrinted) {
   const CliResult result =
       home.evaluate({"--split", "0", "--crop", "Plain", "--price", "Plain=2", "--max-yield", "Plain=100",
                      "--report", file("r.pdf").string(), "--details-report", "1.1=" + file("1.txt").string(),
@@ -226,7 +226,7 @@ TEST_F(ReportTest, SeveralDetailsReports) {
   EXPECT_THAT(bytesOf(file("2.txt")), HasSubstr("Area: \t50 acres"));
 }
 
-TEST_F(ReportTest, AFileThatCannotBeWrittenIsToldAndNoResultComes) {
+TEST_F(ReportTest, AFileThatCannotBeWrittenIsReportedAndGivesNoResult) {
   home.folder().write("kept.pdf", "old");
   const CliResult result = evaluate({"--report", file("missing/r.pdf").string()});
   EXPECT_EQ(result.exitCode, 1);
@@ -303,7 +303,7 @@ TEST_F(ScriptedPrintTest, EachCopyIsAFile) {
   EXPECT_FALSE(std::filesystem::exists(file("my report-4.txt")));
 }
 
-TEST_F(ScriptedPrintTest, AnswersQueueAndWithoutOneTheDialogIsCancelled) {
+TEST_F(ScriptedPrintTest, AnswersAreQueuedAndWithoutOneTheDialogIsCancelled) {
   EXPECT_TRUE(ok("print " + file("1.txt").string()));
   EXPECT_TRUE(ok("print " + file("2.pdf").string()));
   EXPECT_TRUE(ok("click mnuPrint"));
@@ -317,14 +317,14 @@ TEST_F(ScriptedPrintTest, AnswersQueueAndWithoutOneTheDialogIsCancelled) {
   EXPECT_FALSE(std::filesystem::exists(file("2.pdf")));
 }
 
-TEST_F(ScriptedPrintTest, APlaceThatCannotBeWrittenEndsTheReportWithoutAWord) {
+TEST_F(ScriptedPrintTest, AFileThatCannotBeWrittenEndsTheReportSilently) {
   EXPECT_TRUE(ok("print " + file("missing/r.pdf").string() + " 2"));
   const auto answer = session.execute("click mnuPrint");
   EXPECT_TRUE(answer.at("ok").get<bool>());
   EXPECT_FALSE(answer.contains("messages"));
 }
 
-TEST_F(ScriptedPrintTest, ThereMustBeAPathAndACopy) {
+TEST_F(ScriptedPrintTest, RequiresAPathAndAtLeastOneCopy) {
   EXPECT_FALSE(ok("print"));
   EXPECT_FALSE(ok("print " + file("r.pdf").string() + " 0"));
   EXPECT_FALSE(ok("print " + file("r.pdf").string() + " -1"));

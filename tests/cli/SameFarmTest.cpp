@@ -7,8 +7,8 @@
 #include "tests/cli/CliRun.h"
 #include "text/numbers.h"
 
-// One farm through `evaluate`, and through a session up to the pages of its results screen: the same options,
-// in the same order, to the last figure on show.
+// Evaluates a farm with `evaluate` and in a session up to the results screen. Both must show the same options
+// in the same order, to the last digit shown.
 
 namespace verdalis::testing {
 namespace {
@@ -30,7 +30,7 @@ class ExampleHome {
   TemporaryFolder folder_{"same"};
 };
 
-/// The options of `evaluate` as the results screen has to show them, a line a label.
+/// The options of `evaluate` in the form of the results screen, one line per label.
 class ExpectedPages {
  public:
   explicit ExpectedPages(const json& result) : options_(result.at("options")) {}
@@ -120,12 +120,12 @@ void expectSame(const Args& evaluateOptions, const Args& script) {
   EXPECT_EQ(shown.page(), expected.page(expected.size() - 1)) << "there is no option behind the last";
 }
 
-TEST(SameFarm, ThreeFieldsOfTheExample) {
+TEST(SameFarm, ThreeFieldsOfTheExampleGiveTheSameOptions) {
   expectSame({"--crop", "Corn", "--crop", "Grain Sorghum", "--crop", "Wheat"},
              {"click cr(1).chkCrop", "click cr(2).chkCrop", "click cr(5).chkCrop"});
 }
 
-TEST(SameFarm, FourFieldsWithFallowAndTheUndividedFarm) {
+TEST(SameFarm, FourFieldsWithFallowAndTheUndividedFarmGiveTheSameOptions) {
   expectSame({"--defaults",  "--set",  "txtArea=123.45", "--set",          "txtMax=9.7",  "--set",
               "txtEff=72.5", "--set",  "txtAnnRain=12",  "--split",        "4",           "--crop",
               "Alfalfa",     "--crop", "Sunflower",      "--crop",         "Fallow",      "--no-split",
@@ -136,14 +136,14 @@ TEST(SameFarm, FourFieldsWithFallowAndTheUndividedFarm) {
               "type cr(4).txtMaxYield 3100"});
 }
 
-TEST(SameFarm, TwoFieldsInADryYear) {
+TEST(SameFarm, TwoFieldsInADryYearGiveTheSameOptions) {
   expectSame({"--set", "txtAnnRain=11", "--set", "txtMax=6", "--set", "Option1(1)=True", "--crop", "Corn",
               "--crop", "Soybeans", "--set", "txtSoil=Loamy Sand"},
              {"pick txtAnnRain #0", "type txtMax 6", "click Option1(1)", "click cr(1).chkCrop",
               "click cr(3).chkCrop", "pick txtSoil Loamy Sand"});
 }
 
-/// The bytes of an export but for the day on which it was written.
+/// The bytes of an exported file, without the date on which it was written.
 std::string exported(const std::string& file) {
   std::string page = bytesOf(file);
   const std::size_t day = page.find("Generated on ");
@@ -151,9 +151,9 @@ std::string exported(const std::string& file) {
   return page.erase(day, page.find("</x:Name>") - day);
 }
 
-// Without production costs many options of one crop earn the same, so a ranking that is packed once more
-// loses one.
-TEST(SameFarm, TheExportOfAVariableTrendWithManyEqualOptions) {
+// Without production costs many options with the same crop earn the same, so a ranking that is packed twice
+// would lose one.
+TEST(SameFarm, AVariableTrendWithManyEqualOptionsGivesTheSameExport) {
   const ExampleHome home;
   std::filesystem::remove(home.path() + "/inputs.txt");
   const std::string ours = home.path() + "/ours.xls";

@@ -2,14 +2,14 @@
 
 #include "tests/cli/CliRun.h"
 
-// The farm that was saved: where it is read from, and that nothing is ever written there.
+// The saved farm: where it is read from, and that it is never written.
 
 namespace verdalis::testing {
 namespace {
 
 using nlohmann::json;
 
-/// Saved inputs: the farm, a plant without costs, then the price and the maximum yield of a crop.
+/// Saved inputs: the farm, a plant without costs, then price and maximum yield of a crop.
 std::string saved(const std::string& acres, const std::string& price, const std::string& split = "5") {
   std::string text = split + "\r\n" + acres + "\r\n10\r\n85\r\n11\r\n";
   for (int i = 0; i < 8; ++i)
@@ -29,7 +29,7 @@ json fieldOf(const CliResult& result) {
   return jsonOf(result)["options"][0]["fields"][0];
 }
 
-TEST(SavedFarm, TheHomeInputsAreTheFarm) {
+TEST(SavedFarm, IsReadFromTheHomeFolder) {
   const SmallHome home;
   home.folder().write("inputs.txt", saved("40", "2"));
   const json field = fieldOf(evaluate(home, {"--crop", "Plain"}));
@@ -37,7 +37,7 @@ TEST(SavedFarm, TheHomeInputsAreTheFarm) {
   EXPECT_EQ(field["return"], 40 * 50 * 2);
 }
 
-TEST(SavedFarm, AnotherFileTakesTheirPlace) {
+TEST(SavedFarm, IsReadFromAnotherFileIfGiven) {
   const SmallHome home;
   home.folder().write("inputs.txt", saved("40", "2"));
   const std::string other = home.folder().write("other.txt", saved("60", "3")).string();
@@ -46,7 +46,7 @@ TEST(SavedFarm, AnotherFileTakesTheirPlace) {
   EXPECT_EQ(field["price"], 3);
 }
 
-TEST(SavedFarm, WhatIsTypedOverrulesIt) {
+TEST(SavedFarm, IsOverriddenByArguments) {
   const SmallHome home;
   home.folder().write("inputs.txt", saved("40", "2"));
   const json field =
@@ -56,7 +56,7 @@ TEST(SavedFarm, WhatIsTypedOverrulesIt) {
   EXPECT_EQ(field["maxYield"], 100);
 }
 
-TEST(SavedFarm, ThePriceIsThatShownInItsRow) {
+TEST(SavedFarm, ThePriceIsTheOneShownInTheRow) {
   const SmallHome home;
   home.folder().write("inputs.txt", saved("40", "0.205"));
   EXPECT_EQ(fieldOf(evaluate(home, {"--crop", "Plain"}))["price"], 0.21);
@@ -64,7 +64,7 @@ TEST(SavedFarm, ThePriceIsThatShownInItsRow) {
   EXPECT_EQ(fieldOf(evaluate(home, {"--crop", "Plain"}))["price"], 1) << "the row shows 1,234.50";
 }
 
-TEST(SavedFarm, AMissingInputsFileIsRefusedButNotThatOfTheHome) {
+TEST(SavedFarm, AMissingInputsFileIsRejectedExceptInTheHomeFolder) {
   const SmallHome home;
   const std::string missing = (home.folder() / "missing.txt").string();
   const CliResult result = evaluate(home, {"--crop", "Plain", "--inputs", missing});
@@ -74,12 +74,12 @@ TEST(SavedFarm, AMissingInputsFileIsRefusedButNotThatOfTheHome) {
   EXPECT_EQ(home.evaluate({"--crop", "Plain", "--split", "5"}).exitCode, 0);
 }
 
-TEST(SavedFarm, AFolderIsNoInputsFile) {
+TEST(SavedFarm, AFolderIsNotAnInputsFile) {
   const SmallHome home;
   EXPECT_EQ(evaluate(home, {"--crop", "Plain", "--inputs", home.path()}).exitCode, 2);
 }
 
-TEST(SavedFarm, AFileCutShortIsTold) {
+TEST(SavedFarm, AnIncompleteFileIsReported) {
   const SmallHome home;
   const std::string cut = home.folder().write("cut.txt", saved("60", "3").substr(0, 20)).string();
   const CliResult result = evaluate(home, {"--inputs", cut, "--crop", "Plain", "--set", "txtArea=5", "--set",
@@ -90,10 +90,10 @@ TEST(SavedFarm, AFileCutShortIsTold) {
                 " ends too early or holds a value that cannot be used. What was read before is in force.\n");
 }
 
-TEST(SavedFarm, WaterAboveTheCapacityWarnsAndGoesOn) {
+TEST(SavedFarm, WaterAboveTheCapacityGivesAWarningAndTheRunContinues) {
   const SmallHome home;
   std::string text = saved("100", "2");
-  // 100 gallons a minute for 1,000 hours are 2.2 inches on 100 acres.
+  // 100 gallons per minute for 1,000 hours are 2.2 inches on 100 acres.
   text.replace(text.find("11\r\n0\r\n") + 4, 1, "100");
   text.replace(text.find("False\r\n\r\n0") + 9, 1, "1000");
   home.folder().write("inputs.txt", text);
@@ -122,7 +122,7 @@ TEST(SavedFarm, IsNeverWritten) {
   EXPECT_EQ(bytesOf(home.folder() / "inputs.txt"), before);
 }
 
-TEST(SavedFarm, ATrendTokenChangesNothing) {
+TEST(SavedFarm, ATrendKeywordHasNoEffect) {
   const SmallHome home;
   home.folder().write("inputs.txt", saved("40", "2") + "batch_enabled\r\n");
   EXPECT_EQ(fieldOf(evaluate(home, {"--crop", "Plain"}))["acres"], 40);

@@ -10,8 +10,7 @@
 #include "cli/script/ScriptSession.h"
 #include "tests/cli/CliRun.h"
 
-// The command `script` itself: where it reads, what it answers, how it ends. What a session does stands in
-// tests/sessions.
+// The command `script`: its input, its answers and its exit code. Sessions are tested in tests/sessions.
 
 namespace verdalis::testing {
 namespace {
@@ -48,7 +47,7 @@ TEST(Script, ReadsAFile) {
   EXPECT_EQ(result.out, "{\"ok\":true,\"windows\":[\"frmWelcome\"]}\n");
 }
 
-TEST(Script, GoesOnAfterAFailedCommandAndEndsWithOne) {
+TEST(Script, ContinuesAfterAFailedCommandAndExitsWith1) {
   const SmallHome home;
   const CliResult result =
       runScript({"script", "--home", home.path(), "-"}, "jump\nclick frmWelcome.Command1\nget pane\n");
@@ -60,7 +59,7 @@ TEST(Script, GoesOnAfterAFailedCommandAndEndsWithOne) {
             "{\"ok\":true,\"pane\":\"pneMain\",\"history\":[\"pneMain\",\"pneMain\"]}\n");
 }
 
-TEST(Script, NeedsAScript) {
+TEST(Script, RequiresAReadableScript) {
   const SmallHome home;
   const std::string missing = (home.folder() / "missing").string();
   const auto expectRefusal = [](const CliResult& result, const std::string& err) {
@@ -82,7 +81,7 @@ TEST(Script, AnEmptyScriptHasNoAnswers) {
   EXPECT_EQ(result.out, "");
 }
 
-TEST(Script, AnswersThatCannotBeWrittenAreToldAndEndIt) {
+TEST(Script, StopsIfAnswersCannotBeWritten) {
   const SmallHome home;
   std::istringstream in("get windows\nget windows\n");
   std::ostringstream out;
@@ -92,7 +91,7 @@ TEST(Script, AnswersThatCannotBeWrittenAreToldAndEndIt) {
   EXPECT_EQ(err.str(), "verdalis-cli: The answers cannot be written to standard output.\n");
 }
 
-/// Hands out a line at a time, and notes what had been answered by then.
+/// Provides one line at a time, and records the answers written before each.
 class Dialogue : public std::streambuf {
  public:
   Dialogue(std::vector<std::string> lines, const std::ostringstream& out)
@@ -115,7 +114,7 @@ class Dialogue : public std::streambuf {
   std::size_t next_ = 0;
 };
 
-TEST(Script, EachAnswerComesBeforeTheNextCommandIsRead) {
+TEST(Script, AnswersEachCommandBeforeReadingTheNext) {
   const SmallHome home;
   std::ostringstream out;
   std::ostringstream err;
@@ -128,7 +127,7 @@ TEST(Script, EachAnswerComesBeforeTheNextCommandIsRead) {
                                       first + "{\"ok\":false,\"error\":\"There is no command jump\"}\n"}));
 }
 
-TEST(Script, ALineWithoutEndIsTooLong) {
+TEST(Script, RejectsALineThatIsTooLong) {
   const SmallHome home;
   const CliResult result = runScript({"script", "--home", home.path(), "-"},
                                      "clipboard " + std::string(17 << 20, 'x') + "\nget clipboard\n");
@@ -137,7 +136,7 @@ TEST(Script, ALineWithoutEndIsTooLong) {
             "{\"ok\":false,\"error\":\"The line is too long\"}\n{\"ok\":true,\"clipboard\":\"\"}\n");
 }
 
-TEST(Script, BytesThatAreNoTextAreAnsweredToo) {
+TEST(Script, AnswersBytesThatAreNotText) {
   const SmallHome home;
   const CliResult result =
       runScript({"script", "--home", home.path(), "-"},
@@ -152,7 +151,7 @@ TEST(Script, BytesThatAreNoTextAreAnsweredToo) {
   EXPECT_EQ(answers[4]["clipboard"], std::string("a\0z", 3));
 }
 
-TEST(Script, ListsEveryControlThatHasAName) {
+TEST(Script, ListsEveryNamedControl) {
   const SmallHome home;
   ScriptSession session(home.path());
   const auto before = session.execute("controls").at("controls").size();
@@ -175,7 +174,7 @@ TEST(Script, ListsEveryControlThatHasAName) {
     EXPECT_EQ(names.count(name), 1U) << name;
 }
 
-TEST(Script, AnyLineIsAnswered) {
+TEST(Script, AnswersAnyLine) {
   const SmallHome home;
   ScriptSession session(home.path());
   static_cast<void>(session.execute("click frmWelcome.Command1"));

@@ -10,9 +10,9 @@
 #include "cli/script/ScriptSession.h"
 #include "tests/support/TemporaryFolder.h"
 
-// Whole sessions: tests/sessions/NAME.script is replayed, and its answers are those of NAME.expected, line by
-// line. "@HOME@" stands for the home folder of the session in both. What the home folder holds says a line
-// "# home:" with the names of its parts, see fillHome(); without that line the stock crops.
+// Whole sessions: runs tests/sessions/NAME.script and compares its answers with NAME.expected, line by line.
+// "@HOME@" stands for the home folder in both. A line "# home:" lists the contents of the home folder, see
+// fillHome(); without it, the home folder contains the stock crops.
 
 namespace verdalis::testing {
 namespace {
@@ -51,8 +51,8 @@ void addManyCrops(const TemporaryFolder& home) {
   }
 }
 
-/// Adds a part to a home folder: the stock crops, 15 crops of one's own, the saved farm of the example, that
-/// trends were enabled when it was saved, or a folder of tests/sessions/homes.
+/// Adds contents to a home folder: the stock crops, 15 custom crops, the saved farm of the example, the saved
+/// setting that enables trends, or a folder of tests/sessions/homes.
 void fillHome(const TemporaryFolder& home, const std::string& part) {
   const auto recursive = fs::copy_options::recursive;
   if (part == "stock") {
@@ -89,7 +89,7 @@ std::vector<std::string> scripts() {
   return names;
 }
 
-/// first-start becomes FirstStart.
+/// Turns first-start into FirstStart.
 std::string testName(const ::testing::TestParamInfo<std::string>& info) {
   std::string name;
   bool upper = true;
@@ -106,7 +106,7 @@ std::string testName(const ::testing::TestParamInfo<std::string>& info) {
 
 class Session : public ::testing::TestWithParam<std::string> {};
 
-TEST_P(Session, AnswersAsExpected) {
+TEST_P(Session, GivesTheExpectedAnswers) {
   const TemporaryFolder home("session");
   const std::string text = textOf(sessions / (GetParam() + ".script"));
   const std::vector<std::string> script = linesOf(replaced(text, "@HOME@", home.path().string()));

@@ -6,7 +6,7 @@
 
 #include "tests/cli/CliRun.h"
 
-// `--set` types into any control of the main window, as a person at the window would.
+// `--set` enters a text in any control of the main window, as a user would.
 
 namespace verdalis::testing {
 namespace {
@@ -14,7 +14,7 @@ namespace {
 using nlohmann::json;
 using Args = std::vector<std::string>;
 
-/// Plain on the undivided farm, 100 acres: 50 of 100 bushels at $2.
+/// Plain on 100 undivided acres: 50 of 100 bushels at $2.
 CliResult withPlain(const SmallHome& home, const Args& more) {
   Args args{"--split", "5",           "--crop",    "Plain",    "--price",
             "Plain=2", "--max-yield", "Plain=100", "--format", "json"};
@@ -28,7 +28,7 @@ void expectRefusal(const CliResult& result, const std::string& err) {
   EXPECT_EQ(result.err, "verdalis-cli: " + err + "\n");
 }
 
-TEST(Set, ChecksABoxAndClearsIt) {
+TEST(Set, ChecksAndClearsACheckBox) {
   const SmallHome home;
   const auto optionsWith = [&](const Args& more) {
     return jsonOf(home.evaluate([&] {
@@ -54,7 +54,7 @@ TEST(Set, ChecksABoxAndClearsIt) {
   }
 }
 
-TEST(Set, TicksARow) {
+TEST(Set, TicksACropRow) {
   const SmallHome home;  // Corn, Half, Plain, Thirsty, Fallow
   const json result =
       jsonOf(home.evaluate({"--split", "5", "--set", "cr(2).chkCrop=True", "--set", "cr(2).txtPrice=3",
@@ -65,7 +65,7 @@ TEST(Set, TicksARow) {
   EXPECT_EQ(field["return"], 100 * 20 * 3);
 }
 
-TEST(Set, ChoosesALandSplit) {
+TEST(Set, SelectsALandSplit) {
   const SmallHome home;
   const json result = jsonOf(home.evaluate(
       {"--crop", "Plain", "--set", "Option1(1)=0", "--set", "Option1(0)=1", "--format", "json"}));
@@ -73,13 +73,13 @@ TEST(Set, ChoosesALandSplit) {
   EXPECT_EQ(result["options"][0]["fields"][0]["acres"], 50);
 }
 
-TEST(Set, AnOptionButtonIsNotTurnedOffByItself) {
+TEST(Set, AnOptionButtonCannotBeTurnedOff) {
   const SmallHome home;
   expectRefusal(withPlain(home, {"--set", "Option1(0)=1", "--set", "Option1(0)=0"}),
                 "--set \"Option1(0)=0\": It is turned off by turning another one on.");
 }
 
-TEST(Set, ABoxTakesTrueAndFalseAlone) {
+TEST(Set, ACheckBoxAcceptsOnlyTrueAndFalse) {
   const SmallHome home;
   for (const char* text : {"", "yes", "2", "True "}) {
     expectRefusal(withPlain(home, {"--set", std::string("Check1=") + text}),
@@ -87,7 +87,7 @@ TEST(Set, ABoxTakesTrueAndFalseAlone) {
   }
 }
 
-TEST(Set, IntoWhatShowsOnlyNothingCanBeTyped) {
+TEST(Set, RejectsControlsWithoutInput) {
   const SmallHome home;
   for (const auto& [name, kind] :
        std::vector<std::pair<std::string, std::string>>{{"lblVolume", "Label"},
@@ -99,13 +99,13 @@ TEST(Set, IntoWhatShowsOnlyNothingCanBeTyped) {
   }
 }
 
-TEST(Set, AHiddenFieldIsOutOfReach) {
+TEST(Set, RejectsAHiddenField) {
   const SmallHome home;
   expectRefusal(withPlain(home, {"--set", "cr(4).txtPrice=1"}),
                 "--set \"cr(4).txtPrice=1\": cr(4).txtPrice is hidden.");
 }
 
-TEST(Set, RangeTestsOfRowsRefuse) {
+TEST(Set, ChecksTheRangesOfCropRows) {
   const SmallHome home;
   expectRefusal(
       withPlain(home, {"--set", "cr(0).txtPrice=11"}),
@@ -113,7 +113,7 @@ TEST(Set, RangeTestsOfRowsRefuse) {
       "to 10");
 }
 
-TEST(Set, AFieldOfAnotherPaneIsTypedIntoAndToldToTakeNoPart) {
+TEST(Set, WarnsThatAFieldOfAnotherPaneHasNoEffect) {
   const SmallHome home;
   const CliResult result = withPlain(home, {"--set", "txtGPM=500"});
   EXPECT_EQ(result.exitCode, 0);
@@ -128,7 +128,7 @@ TEST(Set, AFieldOfAnotherPaneIsTypedIntoAndToldToTakeNoPart) {
   EXPECT_EQ(with, without);
 }
 
-TEST(Set, RangeTestsOfOtherPanesRefuse) {
+TEST(Set, ChecksTheRangesOfOtherPanes) {
   const SmallHome home;
   expectRefusal(
       withPlain(home, {"--set", "txtPSI=201"}),

@@ -20,8 +20,8 @@ namespace {
 using Args = std::vector<std::string>;
 using Clock = std::chrono::steady_clock;
 
-/// Runs the program with its streams in files and presses Ctrl+C after a time. The program is started with
-/// that signal blocked, so it waits until the program is ready to see it.
+/// Runs the program with its streams in files and presses Ctrl+C after a delay. The program starts with the
+/// signal blocked, so the signal waits until the program can handle it.
 CliResult interruptAfter(useconds_t delay, const Args& args) {
   const TemporaryFolder folder("trend");
   const std::string out = (folder / "out").string();
@@ -83,7 +83,7 @@ class TrendProcessTest : public ::testing::Test {
   }
 };
 
-/// A trend that would take minutes.
+/// This trend would take minutes.
 TEST_F(TrendProcessTest, CtrlCEndsALongVariableTrend) {
   const auto start = Clock::now();
   for (const useconds_t delay : {0, 100'000, 300'000})
@@ -100,9 +100,9 @@ TEST_F(TrendProcessTest, CtrlCEndsTheEvaluationOfAFixedTrend) {
   }
 }
 
-/// Whenever Ctrl+C comes, the result of a fixed trend with as many combinations as there may be is whole, or
-/// there is none and no export either.
-TEST_F(TrendProcessTest, CtrlCAtAnyMomentLeavesNoPartOfAResult) {
+/// Whenever Ctrl+C is pressed, a fixed trend with the maximum number of combinations gives a complete result,
+/// or neither a result nor an export.
+TEST_F(TrendProcessTest, CtrlCAtAnyTimeLeavesNoPartialResult) {
   const Args args{"--steps", "32767", "--option", "1", "--format", "csv"};
   std::size_t cancelled = 0;
   for (useconds_t delay = 0; delay <= 500'000; delay += 100'000) {

@@ -10,7 +10,7 @@
 
 #include "tests/cli/CliRun.h"
 
-// A trend that cannot be run says why, and leaves nothing behind.
+// A trend that cannot run reports the reason and writes nothing.
 
 namespace verdalis::testing {
 namespace {
@@ -52,8 +52,7 @@ class TrendRefusalTest : public ::testing::Test {
     return runCli(args);
   }
 
-  /// Runs a trend that is to be exported; it must end with a message and without a result, and the files are
-  /// those that there were.
+  /// Runs a trend with an export. It must fail with a message and without a result, and no file may change.
   void expectEnd(int exitCode, const Args& more,
                  const ::testing::Matcher<const std::string&>& message) const {
     static_cast<void>(home.folder().write("trend.xls", "an export of before"));
@@ -75,7 +74,7 @@ class TrendRefusalTest : public ::testing::Test {
     expectEnd(1, more, message);
   }
 
-  /// A file of values is refused with this message, for both kinds of trend.
+  /// Requires that both kinds of trend reject a file of values with this message.
   void expectFileRefused(const std::string& path,
                          const ::testing::Matcher<const std::string&>& message) const {
     expectRefused(irrigationCosts + Args{"--values-file", path}, message);
@@ -83,7 +82,7 @@ class TrendRefusalTest : public ::testing::Test {
   }
 };
 
-TEST_F(TrendRefusalTest, AFileOfValuesThatCannotBeRead) {
+TEST_F(TrendRefusalTest, RejectsAFileThatCannotBeRead) {
   const auto cannot = [](const std::string& path) {
     return "--values-file: Please select a file! The file " + path + " cannot be read.";
   };
@@ -96,7 +95,7 @@ TEST_F(TrendRefusalTest, AFileOfValuesThatCannotBeRead) {
       "--values-file2: Please select a file! The file none cannot be read.");
 }
 
-TEST_F(TrendRefusalTest, AFileOfValuesThatNobodyMayRead) {
+TEST_F(TrendRefusalTest, RejectsAFileWithoutReadPermission) {
   if (::geteuid() == 0) GTEST_SKIP() << "root may read every file";
   const auto secret = home.folder().write("secret.txt", "1,2");
   std::filesystem::permissions(secret, std::filesystem::perms::none);
@@ -104,13 +103,13 @@ TEST_F(TrendRefusalTest, AFileOfValuesThatNobodyMayRead) {
                     "--values-file: Please select a file! The file " + secret.string() + " cannot be read.");
 }
 
-TEST_F(TrendRefusalTest, AFileWithoutValues) {
+TEST_F(TrendRefusalTest, RejectsAFileWithoutValues) {
   const std::string empty = home.folder().write("empty.txt", "");
   expectFileRefused(empty, "--values-file: Please select a file! The file " + empty + " is empty.");
   expectFileRefused(home.folder().write("lines.txt", "\r\n\n"), "--values-file: Please select a file!");
 }
 
-TEST_F(TrendRefusalTest, AFileWithAnEntryThatIsNoNumber) {
+TEST_F(TrendRefusalTest, RejectsAFileWithAnEntryThatIsNotANumber) {
   const auto entry = [](const std::string& place, const std::string& path, const std::string& what) {
     return "--values-file: Entry " + place + " of the file " + path + what +
            " Every entry must be a number, with commas only between the numbers, such as 2, 2.5, 3. The end "
@@ -124,7 +123,7 @@ TEST_F(TrendRefusalTest, AFileWithAnEntryThatIsNoNumber) {
   expectFileRefused(large, entry("3", large, ", \"1e999\", is not a number."));
 }
 
-TEST_F(TrendRefusalTest, AFileThatIsNoText) {
+TEST_F(TrendRefusalTest, RejectsAFileThatIsNotText) {
   std::string bytes;
   for (int i = 0; i < 5000; ++i)
     bytes += static_cast<char>(i * 7 % 256 == ',' ? 0 : i * 7 % 256);
@@ -132,12 +131,12 @@ TEST_F(TrendRefusalTest, AFileThatIsNoText) {
   expectFileRefused(binary, AllOf(StartsWith("--values-file: Entry 1 of the file " + binary + ", \""),
                                   HasSubstr("is not a number.")));
   const CliResult result = trend(irrigationCosts + Args{"--values-file", binary});
-  EXPECT_LT(result.err.size(), 1000U);  // a message, not the file
+  EXPECT_LT(result.err.size(), 1000U);  // a message, not the contents of the file
   for (std::size_t i = 0; i + 1 < result.err.size(); ++i)
     EXPECT_FALSE(std::iscntrl(static_cast<unsigned char>(result.err[i]))) << i;
 }
 
-TEST_F(TrendRefusalTest, AFileWithAMillionValues) {
+TEST_F(TrendRefusalTest, RejectsAFileWithAMillionValues) {
   std::string million;
   for (int i = 0; i < 1'000'000; ++i)
     million += i == 0 ? "12" : ",12";
@@ -157,15 +156,15 @@ TEST_F(TrendRefusalTest, AFileWithAMillionValues) {
                     "--values-file: The file " + path + " has more than 1,000,000 values. Use fewer values.");
 }
 
-TEST_F(TrendRefusalTest, AFileThatIsTooLarge) {
+TEST_F(TrendRefusalTest, RejectsAFileThatIsTooLarge) {
   const std::string path = home.folder().write("large.txt", "1,2");
-  std::filesystem::resize_file(path, (std::uintmax_t{32} << 20U) + 1);  // takes no room on the disk
+  std::filesystem::resize_file(path, (std::uintmax_t{32} << 20U) + 1);  // a sparse file takes no disk space
   expectFileRefused(path, "--values-file: The file " + path +
                               " has more than 32 MB, which is too much for a list of trend values. Select "
                               "a file with fewer values.");
 }
 
-TEST_F(TrendRefusalTest, AListWithoutNumbers) {
+TEST_F(TrendRefusalTest, RejectsAListWithoutNumbers) {
   for (const std::string list : {"x", ",,", "nan", "inf", "1e999", "0x10"}) {
     expectRefused(irrigationCosts + Args{"--values", list},
                   "--values: The list \"" + list +
@@ -173,7 +172,7 @@ TEST_F(TrendRefusalTest, AListWithoutNumbers) {
   }
 }
 
-TEST_F(TrendRefusalTest, NumbersThatAreTooLarge) {
+TEST_F(TrendRefusalTest, RejectsNumbersThatAreTooLarge) {
   const std::string tooLarge = " is too large to calculate with. Check the numbers that were entered.";
   for (const Args& kind : {Args{}, Args{"--option", "1"}}) {
     for (const std::string value : {"1e308", "-1e308"}) {
@@ -188,7 +187,7 @@ TEST_F(TrendRefusalTest, NumbersThatAreTooLarge) {
                 "The values of the trend: The distance of the trend values" + tooLarge);
 }
 
-TEST_F(TrendRefusalTest, TakesAZeroBelowZeroAndPassesOverHoles) {
+TEST_F(TrendRefusalTest, AcceptsANegativeZeroAndIgnoresEmptyEntries) {
   const CliResult zero = trend(ofPlain("0") + Args{"--values", "-0", "--format", "csv"});
   EXPECT_EQ(zero.exitCode, 0) << zero.err;
   EXPECT_THAT(zero.out, HasSubstr("\r\n1,-0,,1,1,Plain,100,8.5,10,50,bu.,"));
@@ -197,7 +196,7 @@ TEST_F(TrendRefusalTest, TakesAZeroBelowZeroAndPassesOverHoles) {
   EXPECT_THAT(hole.out, AllOf(HasSubstr("\r\n1,1,,"), HasSubstr("\r\n2,2,,")));
 }
 
-TEST_F(TrendRefusalTest, AWrongRange) {
+TEST_F(TrendRefusalTest, RejectsAnInvalidRange) {
   const std::string order = "--from: Please select a maximum value greater than the minimum value!";
   expectRefused(irrigationCosts + range("2", "1", "3"), order);
   expectRefused(irrigationCosts + range("2", "2", "3"), order);
@@ -218,7 +217,7 @@ TEST_F(TrendRefusalTest, AWrongRange) {
   }
 }
 
-TEST_F(TrendRefusalTest, RainfallOutOfTheTables) {
+TEST_F(TrendRefusalTest, RejectsRainfallOutsideTheYieldTables) {
   const std::string below =
       "Values for Annual Rainfall cannot be below 11 inches.  Please modify the values.";
   const std::string above = "Values for Annual Rainfall cannot exceed 21 inches.  Please modify the values.";
@@ -234,7 +233,7 @@ TEST_F(TrendRefusalTest, RainfallOutOfTheTables) {
   }
 }
 
-TEST_F(TrendRefusalTest, AnOptionThatIsNotThere) {
+TEST_F(TrendRefusalTest, RejectsAnUnknownOption) {
   const Args one = irrigationCosts + Args{"--values", "1,2"};
   for (const std::string option : {"0", "-1", "", "1.0", "1x", " 1"}) {
     expectRefused(one + Args{"--option", option},
@@ -245,7 +244,7 @@ TEST_F(TrendRefusalTest, AnOptionThatIsNotThere) {
                 "--option 18446744073709551615: The evaluation has found 1 option.");
 }
 
-TEST_F(TrendRefusalTest, AVariableThatThereIsNot) {
+TEST_F(TrendRefusalTest, RejectsAnUnknownVariable) {
   const std::string names =
       "0 is \"Crop Price\", 1 is \"General Production Costs\", 2 is \"Maximum Yield\", 3 is \"Irrigation "
       "System Efficiency\", 4 is \"Irrigation Costs\", 5 is \"Annual Rainfall\".";
@@ -259,7 +258,7 @@ TEST_F(TrendRefusalTest, AVariableThatThereIsNot) {
   expectRefused(second, "A trend needs a variable (--variable2 N): " + names);
 }
 
-TEST_F(TrendRefusalTest, ACropThatThereIsNot) {
+TEST_F(TrendRefusalTest, RejectsAnUnknownCrop) {
   for (const std::string variable : {"0", "1", "2"}) {
     const Args values{"--variable", variable, "--values", "1"};
     expectRefused(values, "This variable belongs to a crop (--trend-crop NAME).");
@@ -272,7 +271,7 @@ TEST_F(TrendRefusalTest, ACropThatThereIsNot) {
   }
 }
 
-TEST_F(TrendRefusalTest, TooManyCombinations) {
+TEST_F(TrendRefusalTest, RejectsTooManyCombinations) {
   const std::string message = " combinations, and a fixed trend can have at most 32,767. Use fewer values.";
   expectRefused(irrigationCosts + range("1", "2", "32768") + Args{"--option", "1"},
                 "The values make 32,768" + message);
@@ -282,7 +281,7 @@ TEST_F(TrendRefusalTest, TooManyCombinations) {
       "The values make 32,942" + message);
 }
 
-TEST_F(TrendRefusalTest, AnExportThatCannotBeWritten) {
+TEST_F(TrendRefusalTest, ReportsAnExportThatCannotBeWritten) {
   struct Place {
     std::string path;
     std::string why;
@@ -292,7 +291,7 @@ TEST_F(TrendRefusalTest, AnExportThatCannotBeWritten) {
                             {file("a-file/trend.xls"), ": Not a directory.\n"},
                             {home.path(), ": Is a directory.\n"},
                             {"/proc/trend.xls", ""}};
-  if (::geteuid() != 0) {  // root may write everywhere
+  if (::geteuid() != 0) {  // root can write everywhere
     std::filesystem::create_directory(file("closed"));
     std::filesystem::permissions(file("closed"),
                                  std::filesystem::perms::owner_read | std::filesystem::perms::owner_exec);
@@ -311,8 +310,8 @@ TEST_F(TrendRefusalTest, AnExportThatCannotBeWritten) {
   }
 }
 
-/// A trend that runs, and tells on standard error that a crop was named for nothing.
-TEST_F(TrendRefusalTest, ACropThatIsNamedForNothingIsTold) {
+/// The trend runs, and standard error says that the crop name is not used.
+TEST_F(TrendRefusalTest, ReportsAnUnusedCropName) {
   const auto told = [this](const Args& more) {
     const CliResult result = trend(more + Args{"--values", "1,2"});
     EXPECT_EQ(result.exitCode, 0);

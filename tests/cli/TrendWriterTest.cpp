@@ -10,7 +10,7 @@
 #include "cli/TrendCommandText.h"
 #include "cli/TrendCommandWriter.h"
 
-// What becomes of a trend as text.
+// The output formats of a trend.
 
 namespace verdalis {
 namespace {
@@ -62,12 +62,12 @@ std::string written(const TrendResult& trend, std::string_view format) {
   return out.str();
 }
 
-/// JSON is written piece by piece; a dump of the whole must be the same text.
+/// JSON is written in pieces; the text must equal a dump of the whole object.
 void expectAsDumped(const std::string& text) {
   EXPECT_EQ(Ordered::parse(text).dump(2) + '\n', text);
 }
 
-TEST(TrendWriter, WritesJsonAsADumpOfTheWhole) {
+TEST(TrendWriter, WritesJsonLikeADumpOfTheWholeObject) {
   expectAsDumped(written(variableTrend(), "json"));
   expectAsDumped(written(fixedTrend(), "json"));
   TrendResult none = variableTrend();
@@ -78,8 +78,8 @@ TEST(TrendWriter, WritesJsonAsADumpOfTheWhole) {
   expectAsDumped(written(none, "json"));
 }
 
-/// The options of a step and of a combination are those that an evaluation writes.
-TEST(TrendWriter, WritesOptionsAsAnEvaluationDoes) {
+/// Options of a step or a combination are written as by `evaluate`.
+TEST(TrendWriter, WritesOptionsLikeAnEvaluation) {
   std::ostringstream json;
   writeJson(json, variableTrend().steps.at(0).result);
   const Ordered options = Ordered::parse(json.str())["options"];
@@ -125,7 +125,7 @@ TEST(TrendWriter, WritesTheJsonOfAStep) {
 )");
 }
 
-TEST(TrendWriter, WritesJsonOfBytesThatAreNoText) {
+TEST(TrendWriter, WritesJsonForBytesThatAreNotText) {
   TrendResult trend = fixedTrend();
   trend.variables[0].crop = "\xFF";
   trend.options[0].trend[0].variable = "Crop Price - \xC3";
@@ -136,7 +136,7 @@ TEST(TrendWriter, WritesJsonOfBytesThatAreNoText) {
   EXPECT_EQ(json["options"][0]["fields"][0]["crop"], "\xEF\xBF\xBD");
 }
 
-TEST(TrendWriter, CountsTheOptionsOfEachStepInCsv) {
+TEST(TrendWriter, NumbersTheOptionsOfEachStepInCsv) {
   TrendResult trend = variableTrend();
   trend.steps[0].result.options[1] = optionOf(5, {"Corn"});
   trend.steps[1].result.options = {optionOf(7, {"Corn"})};
@@ -149,7 +149,7 @@ TEST(TrendWriter, CountsTheOptionsOfEachStepInCsv) {
                                                   corn + "7,7,0,0,7\r\n");
 }
 
-TEST(TextPieces, JoinToWhatWasWritten) {
+TEST(TextPieces, JoinGivesTheWrittenText) {
   constexpr std::size_t size = TextPieces::pieceSize;
   TextPieces pieces;
   std::ostream out(&pieces);

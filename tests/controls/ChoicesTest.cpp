@@ -11,14 +11,15 @@ class Choices : public ::verdalis::testing::ControlsFixture {
     for (int i = 0; i < 3; ++i) {
       options.push_back(
           std::make_unique<OptionButton>(window, "Option1(" + std::to_string(i) + ")", group, "50 - 50"));
-      options.back()->onClick = writes("option " + std::to_string(i));
+      clicks.push_back(options.back()->onClick.connectScoped(writes("option " + std::to_string(i))));
     }
-    check.onClick = [this] { log.push_back(check.checked() ? "on" : "off"); };
+    check.onClick.connect([this] { log.push_back(check.checked() ? "on" : "off"); });
   }
 
   CheckBox check{window, "chkNoSplit", "Evaluate no land split scenario"};
   OptionGroup group;
   std::vector<std::unique_ptr<OptionButton>> options;
+  std::vector<Connection> clicks;
 };
 
 TEST_F(Choices, CheckBoxToggles) {
@@ -38,7 +39,7 @@ TEST_F(Choices, ProgramFiresTheCheckBoxOnlyWhereItChanges) {
 }
 
 TEST_F(Choices, CheckBoxCaption) {
-  check.watcher = writes("watcher");
+  check.onStateChange.connect(writes("watcher"));
   check.setCaption("Corn");
   check.setCaption("Corn");
   EXPECT_EQ(check.caption(), "Corn");
@@ -69,9 +70,9 @@ TEST_F(Choices, SelectByIndex) {
 
 TEST_F(Choices, EveryOptionThatChangesIsWatched) {
   options[0]->setChecked(true);
-  options[0]->watcher = writes("0 watched");
-  options[1]->watcher = writes("1 watched");
-  options[2]->watcher = writes("2 watched");
+  options[0]->onStateChange.connect(writes("0 watched"));
+  options[1]->onStateChange.connect(writes("1 watched"));
+  options[2]->onStateChange.connect(writes("2 watched"));
   static_cast<void>(take());
   options[1]->click();
   EXPECT_EQ(take(), (Log{"0 watched", "1 watched", "option 1"}));
@@ -79,7 +80,7 @@ TEST_F(Choices, EveryOptionThatChangesIsWatched) {
 
 TEST_F(Choices, HandlerSeesTheOthersOff) {
   options[0]->setChecked(true);
-  options[1]->onClick = [this] { log.push_back(std::to_string(group.selected())); };
+  clicks[1] = options[1]->onClick.connectScoped([this] { log.push_back(std::to_string(group.selected())); });
   static_cast<void>(take());
   options[1]->click();
   EXPECT_EQ(take(), Log{"1"});

@@ -7,8 +7,8 @@ class Combos : public ::verdalis::testing::ControlsFixture {
  protected:
   Combos() {
     for (ComboBox* box : {&combo, &list}) {
-      box->onChange = [this, box] { log.push_back("change " + box->text()); };
-      box->onClick = [this, box] { log.push_back("click " + std::to_string(box->index())); };
+      box->onChange.connect([this, box] { log.push_back("change " + box->text()); });
+      box->onClick.connect([this, box] { log.push_back("click " + std::to_string(box->index())); });
     }
   }
 

@@ -7,7 +7,7 @@ using Displays = ::verdalis::testing::ControlsFixture;
 
 TEST_F(Displays, Captions) {
   Label label(window, "lblVolume");
-  label.watcher = writes("watcher");
+  label.onStateChange.connect(writes("watcher"));
   EXPECT_EQ(label.caption(), "");
   label.setCaption("1,300");
   label.setCaption("1,300");
@@ -28,7 +28,7 @@ TEST_F(Displays, ShownCaption) {
 TEST_F(Displays, ButtonClicks) {
   Button button(window, "Command1", "Generate Output");
   button.click();
-  button.onClick = writes("click");
+  button.onClick.connect(writes("click"));
   button.click();
   EXPECT_EQ(take(), Log{"click"});
   EXPECT_EQ(desk.focus(), &button);
@@ -36,19 +36,19 @@ TEST_F(Displays, ButtonClicks) {
 
 TEST_F(Displays, FrameClicks) {
   Frame frame(window, "frmRow");
-  frame.onClick = writes("click");
+  frame.onClick.connect(writes("click"));
   frame.click();
   EXPECT_EQ(take(), Log{"click"});
 }
 
 TEST_F(Displays, MenuEntryTakesNoFocus) {
   TextBox box(window, "txtArea");
-  box.onLeave = writes("leave");
+  box.onLeave.connect(writes("leave"));
   box.enter();
   MenuEntry menu(window, "mnuTools(2)", "Tools");
   MenuEntry entry(window, "mnuEnableBatch", "Enable Trend Processing", &menu);
-  entry.onClick = writes("click");
-  entry.watcher = writes("watcher");
+  entry.onClick.connect(writes("click"));
+  entry.onStateChange.connect(writes("watcher"));
   entry.click();
   EXPECT_EQ(take(), Log{"click"});
   EXPECT_EQ(desk.focus(), &box);
@@ -62,7 +62,7 @@ TEST_F(Displays, MenuEntryTakesNoFocus) {
 
 TEST_F(Displays, ProgressBar) {
   ProgressBar bar(window, "pgb");
-  bar.watcher = writes("watcher");
+  bar.onStateChange.connect(writes("watcher"));
   EXPECT_EQ(bar.maximum(), 100);
   bar.setMaximum(286);
   bar.setValue(143);
@@ -73,7 +73,7 @@ TEST_F(Displays, ProgressBar) {
 
 TEST_F(Displays, ScrollBarStopsAtItsEnds) {
   ScrollBar bar(window, "cropScroll");
-  bar.onChange = [&] { log.push_back(std::to_string(bar.value())); };
+  bar.onChange.connect([&] { log.push_back(std::to_string(bar.value())); });
   bar.scroll(5);
   EXPECT_TRUE(take().empty());
   bar.setMaximum(300);

@@ -8,25 +8,28 @@ class Focus : public ::verdalis::testing::ControlsFixture {
  protected:
   Focus() {
     for (TextBox* box : {&first, &second}) {
-      box->onEnter = writes("enter " + box->name());
-      box->onLeave = writes("leave " + box->name());
-      box->onChange = writes("change " + box->name());
+      box->onEnter.connect(writes("enter " + box->name()));
+      box->onChange.connect(writes("change " + box->name()));
     }
-    button.onClick = writes("click");
-    desk.onMoveFocus = [this](Control& control) { log.push_back("moved to " + control.name()); };
+    second.onLeave.connect(writes("leave txtSecond"));
+    desk.onMoveFocus.connect([this](Control& control) { log.push_back("moved to " + control.name()); });
   }
 
   /// The first field fails its test: the focus goes back to it.
   void failFirst() {
-    first.onLeave = [this] {
+    ofFirst = first.onLeave.connectScoped([this] {
       log.emplace_back("test fails");
       desk.moveFocus(first);
-    };
+    });
   }
 
   TextBox first{window, "txtFirst"};
   TextBox second{window, "txtSecond"};
   Button button{window, "Command1", "Press"};
+
+  // Some tests put other listeners in their place.
+  Connection ofFirst = first.onLeave.connectScoped(writes("leave txtFirst"));
+  Connection ofButton = button.onClick.connectScoped(writes("click"));
 };
 
 TEST_F(Focus, EnteringAndLeaving) {
@@ -96,7 +99,7 @@ TEST_F(Focus, ActionIsCarriedOutAfterAFailedTest) {
 TEST_F(Focus, ControlThatGoesAwayLosesIt) {
   {
     TextBox passing(window, "txtPassing");
-    passing.onLeave = writes("never");
+    passing.onLeave.connect(writes("never"));
     passing.enter();
     EXPECT_EQ(desk.focus(), &passing);
   }
@@ -108,7 +111,7 @@ TEST_F(Focus, ControlThatGoesAwayLosesIt) {
 TEST_F(Focus, FieldOfAClosedWindowIsNotTested) {
   Window options(desk, "frmOptions");
   TextBox factor(options, "txtFineFactor");
-  factor.onLeave = writes("leave txtFineFactor");
+  factor.onLeave.connect(writes("leave txtFineFactor"));
   options.open();
   factor.type("5");
   options.close();
@@ -121,15 +124,15 @@ TEST_F(Focus, RunTimeErrorsAreToldOnce) {
   std::vector<std::string> told;
   desk.onRunTimeError = [&](const RunTimeError& error) { told.emplace_back(error.what()); };
   const auto fails = [] { throw RunTimeError(ErrorNumber::overflow, "too large"); };
-  button.onClick = fails;
+  ofButton = button.onClick.connectScoped(fails);
   button.click();
-  first.onChange = fails;
+  first.onChange.connect(fails);
   first.type("1");
   EXPECT_EQ(first.text(), "1");
-  first.onEnter = fails;
+  first.onEnter.connect(fails);
   second.enter();
   first.enter();
-  first.onLeave = fails;
+  ofFirst = first.onLeave.connectScoped(fails);
   first.leave();
   EXPECT_EQ(told, Log(4, "too large"));
 }
@@ -138,7 +141,7 @@ TEST_F(Focus, FailingLeaveDoesNotStopTheAction) {
   std::vector<std::string> told;
   desk.onRunTimeError = [&](const RunTimeError& error) { told.emplace_back(error.what()); };
   first.enter();
-  first.onLeave = [] { throw RunTimeError(ErrorNumber::overflow, "too large"); };
+  ofFirst = first.onLeave.connectScoped([] { throw RunTimeError(ErrorNumber::overflow, "too large"); });
   static_cast<void>(take());
   button.click();
   EXPECT_EQ(told, Log{"too large"});
@@ -147,13 +150,13 @@ TEST_F(Focus, FailingLeaveDoesNotStopTheAction) {
 }
 
 TEST_F(Focus, WithoutAListenerTheErrorGoesOn) {
-  button.onClick = [] { throw RunTimeError(ErrorNumber::overflow, "too large"); };
+  ofButton = button.onClick.connectScoped([] { throw RunTimeError(ErrorNumber::overflow, "too large"); });
   EXPECT_THROW(button.click(), RunTimeError);
 }
 
 TEST_F(Focus, OtherExceptionsAreNotTaken) {
   desk.onRunTimeError = [this](const RunTimeError&) { log.emplace_back("told"); };
-  button.onClick = [] { throw std::logic_error("a mistake of the program"); };
+  ofButton = button.onClick.connectScoped([] { throw std::logic_error("a mistake of the program"); });
   EXPECT_THROW(button.click(), std::logic_error);
   EXPECT_TRUE(take().empty());
 }

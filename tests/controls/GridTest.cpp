@@ -10,7 +10,7 @@ namespace {
 
 class Grids : public ::verdalis::testing::ControlsFixture {
  protected:
-  Grids() { grid.watcher = writes("watcher"); }
+  Grids() { grid.onStateChange.connect(writes("watcher")); }
 
   Grid grid{window, "grdCustom", 3, 2};
 };
@@ -96,7 +96,8 @@ TEST_F(Grids, BatchTellsOnceAtItsEnd) {
 }
 
 TEST_F(Grids, ClickMakesTheCellCurrent) {
-  grid.onClick = [this] { log.push_back(std::to_string(grid.row()) + "," + std::to_string(grid.column())); };
+  grid.onClick.connect(
+      [this] { log.push_back(std::to_string(grid.row()) + "," + std::to_string(grid.column())); });
   grid.clickCell(2, 1);
   EXPECT_EQ(take(), (Log{"watcher", "2,1"}));
   EXPECT_EQ(desk.focus(), &grid);
@@ -106,15 +107,17 @@ TEST_F(Grids, ClickMakesTheCellCurrent) {
 }
 
 TEST_F(Grids, CharactersAndKeys) {
-  grid.onCharacter = [this](const std::string& character) { log.push_back(character); };
-  grid.onKey = [this](GridKey key) { log.push_back("key " + std::to_string(static_cast<int>(key))); };
+  Connection characters =
+      grid.onCharacter.connectScoped([this](const std::string& character) { log.push_back(character); });
+  Connection keys = grid.onKey.connectScoped(
+      [this](GridKey key) { log.push_back("key " + std::to_string(static_cast<int>(key))); });
   grid.typeCharacter("5");
   grid.typeCharacter("\xC3\xA9");
   grid.pressKey(GridKey::enter);
   grid.pressKey(GridKey::cut);
   EXPECT_EQ(take(), (Log{"5", "\xC3\xA9", "key 0", "key 5"}));
-  grid.onCharacter = nullptr;
-  grid.onKey = nullptr;
+  characters = Connection();
+  keys = Connection();
   grid.typeCharacter("5");
   grid.pressKey(GridKey::paste);
   EXPECT_TRUE(take().empty());

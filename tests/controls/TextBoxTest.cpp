@@ -6,9 +6,9 @@ namespace {
 class TextBoxes : public ::verdalis::testing::ControlsFixture {
  protected:
   TextBoxes() {
-    box.onChange = [this] { log.push_back("change " + box.text()); };
-    box.onKey = writes("key");
-    box.watcher = writes("watcher");
+    box.onChange.connect([this] { log.push_back("change " + box.text()); });
+    box.onKey.connect(writes("key"));
+    box.onStateChange.connect(writes("watcher"));
   }
 
   TextBox box{window, "txtArea", "7"};
@@ -82,9 +82,9 @@ TEST_F(TextBoxes, TypingBackToTheOldTextCanStillBeUndone) {
 }
 
 TEST_F(TextBoxes, HandlerMaySetTheTextItself) {
-  box.onChange = [this] {
+  box.onChange.connect([this] {
     if (box.text() == "x") box.setText("y");
-  };
+  });
   box.type("x");
   EXPECT_EQ(box.text(), "y");
   EXPECT_FALSE(box.canUndo());

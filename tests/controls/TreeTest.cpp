@@ -96,7 +96,7 @@ TEST_F(Tree, ReachableOnlyWhereAllAroundItIs) {
 }
 
 TEST_F(Tree, StateIsWatchedWhereItChanges) {
-  price.watcher = writes("watcher");
+  price.onStateChange.connect(writes("watcher"));
   price.setEnabled(true);
   price.setVisible(true);
   EXPECT_TRUE(take().empty());

@@ -7,11 +7,11 @@ namespace {
 class Windows : public ::verdalis::testing::ControlsFixture {
  protected:
   Windows() {
-    window.onDeactivate = writes("main inactive");
-    help.onDeactivate = [this] {
+    window.onDeactivate.connect(writes("main inactive"));
+    help.onDeactivate.connect([this] {
       log.emplace_back("help inactive");
       help.close();
-    };
+    });
   }
 
   Window help{desk, "frmHelp"};

@@ -19,7 +19,7 @@
 
 namespace verdalis::testing {
 
-/// Any finite number, each bit pattern as likely as any other, or a short one as people type it.
+/// Any finite number with each bit pattern equally likely, or a short number as users type it.
 inline rc::Gen<double> anyNumber() {
   const auto bits = rc::gen::resize(rc::kNominalSize, rc::gen::arbitrary<std::uint64_t>());
   const auto finite =
@@ -28,7 +28,7 @@ inline rc::Gen<double> anyNumber() {
   return rc::gen::oneOf(finite, rc::gen::map(rc::gen::inRange(-5, 10'000), [](int n) { return n / 100.0; }));
 }
 
-/// A text that a saved file gives back: without commas and line ends, and with no blank in front.
+/// A text that survives saving and loading: without commas, line ends or a leading blank.
 inline rc::Gen<std::string> anySavedText() {
   const auto text =
       rc::gen::oneOf(rc::gen::container<std::string>(rc::gen::inRange<char>(32, 127)),
@@ -41,7 +41,7 @@ inline rc::Gen<std::string> anySavedText() {
   });
 }
 
-/// All that a saved inputs file holds.
+/// The contents of a saved inputs file.
 struct AnyInputs {
   GeneralInputs general;
   IrrigationCosts plant;
@@ -55,7 +55,7 @@ struct AnyInputs {
     return names;
   }
 
-  /// The bytes of the file, put together from the texts of its parts.
+  /// The bytes of the file, composed from the texts of its parts.
   [[nodiscard]] std::string file() const {
     std::string text = general.writeData() + "\r\n" + plant.writeData() + "\r\n";
     for (const auto& crop : crops)

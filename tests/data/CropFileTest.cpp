@@ -10,7 +10,7 @@
 #include "tests/data/CropLibrary.h"
 #include "tests/data/PlainCropReader.h"
 
-// What stands in one crop file, and what the crop has of it.
+// The format of a single crop file.
 
 namespace verdalis {
 namespace {
@@ -21,7 +21,7 @@ using testing::PlainTable;
 using testing::plainTable;
 using testing::smallCrop;
 
-/// The crop of a file with these bytes; nothing when it is none.
+/// The crop from a file with these bytes; nothing if it is not a crop file.
 std::shared_ptr<Crop> cropOf(std::string_view bytes) {
   const CropLibrary library;
   library.stock("a.txt", bytes);
@@ -29,7 +29,7 @@ std::shared_ptr<Crop> cropOf(std::string_view bytes) {
   return reader.cropCollection.Count() == 0 ? nullptr : reader.cropCollection.Item(1);
 }
 
-/// A small crop file with one line, counted from 1, exchanged.
+/// A small crop file with one line replaced, counted from 1.
 std::string withLine(std::size_t line, const std::string& text, const std::string& lineEnd = "\r\n") {
   auto lines = testing::plainLines(smallCrop("Corn"));
   lines.at(line - 1) = text;
@@ -39,7 +39,7 @@ std::string withLine(std::size_t line, const std::string& text, const std::strin
   return bytes;
 }
 
-TEST(CropFile, EachLineGoesToItsField) {
+TEST(CropFile, EachLineSetsItsField) {
   const auto crop = cropOf(
       "CROP=Custom Crop 1\r\n\r\nUNITS=ton,tons\r\n\r\nANNUAL_RAIN=2,3,4\r\n\r\nEFF_IRRIG=0,1\r\n\r\n"
       "YIELD_VALUES=1,2.5,3,4,5,6\r\n");
@@ -60,7 +60,7 @@ TEST(CropFile, EachLineGoesToItsField) {
   EXPECT_EQ(crop->soilName, "");
 }
 
-TEST(CropFile, AllLineEndsMakeTheSameCrop) {
+TEST(CropFile, LineEndsDoNotMatter) {
   const auto expected = testing::plainCrop(*cropOf(smallCrop("Corn")));
   for (const char* lineEnd : {"\r\n", "\n", "\r"}) {
     const auto crop = cropOf(withLine(1, "CROP=Corn", lineEnd));
@@ -69,7 +69,7 @@ TEST(CropFile, AllLineEndsMakeTheSameCrop) {
   }
 }
 
-TEST(CropFile, TheLastLineNeedsNoEnd) {
+TEST(CropFile, LastLineNeedsNoLineEnd) {
   std::string bytes = smallCrop("Corn");
   bytes.resize(bytes.size() - 2);
   const auto crop = cropOf(bytes);
@@ -77,13 +77,13 @@ TEST(CropFile, TheLastLineNeedsNoEnd) {
   EXPECT_EQ(crop->yieldTable->cell(0, 12), 2);
 }
 
-TEST(CropFile, KeysDoNotCount) {
+TEST(CropFile, TextBeforeTheEqualSignIsIgnored) {
   const auto crop = cropOf("=Corn\n\nx=bu.,bushels\n\nYIELD_VALUES=11,12\n\n =0\n\nCROP=1,2\n");
   ASSERT_NE(crop, nullptr);
   EXPECT_EQ(testing::plainCrop(*crop), testing::plainCrop(smallCrop("Corn")));
 }
 
-TEST(CropFile, EvenLinesAreSkippedWhateverTheyHold) {
+TEST(CropFile, EvenLinesAreIgnored) {
   for (const std::size_t line : {2U, 4U, 6U, 8U}) {
     for (const char* text : {"CROP=Wheat", "no sign", "=", "YIELD_VALUES=7,7,7,7,7", "\xC3\xA9"}) {
       const auto crop = cropOf(withLine(line, text));
@@ -93,19 +93,19 @@ TEST(CropFile, EvenLinesAreSkippedWhateverTheyHold) {
   }
 }
 
-TEST(CropFile, WhatFollowsTheNinthLineDoesNotCount) {
+TEST(CropFile, LinesAfterTheNinthAreIgnored) {
   const auto crop = cropOf(smallCrop("Corn") + "CROP=Wheat\r\nno sign\r\n1e400\r\n");
   ASSERT_NE(crop, nullptr);
   EXPECT_EQ(testing::plainCrop(*crop), testing::plainCrop(smallCrop("Corn")));
 }
 
-TEST(CropFile, TheFirstSignSplitsALine) {
+TEST(CropFile, LinesAreSplitAtTheFirstEqualSign) {
   EXPECT_EQ(cropOf(withLine(1, "CROP=A=B"))->cropType, "A=B");
   EXPECT_EQ(cropOf(withLine(1, "CROP==A"))->cropType, "=A");
   EXPECT_EQ(cropOf(withLine(3, "UNITS=bu.=,bushels"))->cropUnitsArray[0], "bu.=");
 }
 
-TEST(CropFile, ANameIsTakenAsItStands) {
+TEST(CropFile, NameIsTakenUnchanged) {
   EXPECT_EQ(cropOf(withLine(1, "CROP= Corn, white "))->cropType, " Corn, white ");
   EXPECT_EQ(cropOf(withLine(1, "CROP="))->cropType, "");
   EXPECT_EQ(cropOf(withLine(1, "CROP=cOrN"))->cropType, "cOrN");
@@ -127,14 +127,14 @@ TEST(CropFile, UnitsAreSplitAtTheComma) {
   EXPECT_EQ(cropOf(withLine(3, "UNITS=a,b,c"))->cropUnits, "a,b,c");
 }
 
-TEST(CropFile, OnlyTheExactShortUnitMakesAForageCrop) {
+TEST(CropFile, OnlyTheExactUnitTonMakesAForageCrop) {
   EXPECT_TRUE(cropOf(withLine(3, "UNITS=ton,tons"))->isForage());
   EXPECT_FALSE(cropOf(withLine(3, "UNITS=Ton,tons"))->isForage());
   EXPECT_FALSE(cropOf(withLine(3, "UNITS=tons,ton"))->isForage());
   EXPECT_FALSE(cropOf(withLine(3, "UNITS= ton,tons"))->isForage());
 }
 
-TEST(CropFile, FewerValuesLeaveTheOtherCellsAt0) {
+TEST(CropFile, MissingValuesLeaveCellsAt0) {
   const auto crop = cropOf(withLine(9, "YIELD_VALUES=7"));
   ASSERT_NE(crop, nullptr);
   EXPECT_EQ(crop->yieldTable->cell(0, 11), 7);
@@ -149,39 +149,39 @@ TEST(CropFile, BlankValuesAre0) {
   EXPECT_EQ(crop->yieldTable->cell(0, 12), 5);
 }
 
-TEST(CropFile, IsNoneWithMoreValuesThanCells) {
+TEST(CropFile, WithMoreValuesThanCellsIsInvalid) {
   EXPECT_EQ(cropOf(withLine(9, "YIELD_VALUES=1,2,3")), nullptr);
   EXPECT_EQ(cropOf(withLine(9, "YIELD_VALUES=1,2,")), nullptr);
 }
 
-TEST(CropFile, IsNoneWithANumberThatIsTooLarge) {
+TEST(CropFile, WithANumberThatIsTooLargeIsInvalid) {
   EXPECT_EQ(cropOf(withLine(9, "YIELD_VALUES=1,1e400")), nullptr);
   EXPECT_EQ(cropOf(withLine(5, "ANNUAL_RAIN=11,1e400")), nullptr);
   EXPECT_EQ(cropOf(withLine(7, "EFF_IRRIG=1e400")), nullptr);
 }
 
-TEST(CropFile, IsNoneWithABoundThatIsNoNumber) {
+TEST(CropFile, WithABoundThatIsNotANumberIsInvalid) {
   for (const char* list : {"", "x", "11,", ",12"})
     EXPECT_EQ(cropOf(withLine(5, std::string("ANNUAL_RAIN=") + list)), nullptr) << list;
   for (const char* list : {"", "x", "0,"})
     EXPECT_EQ(cropOf(withLine(7, std::string("EFF_IRRIG=") + list)), nullptr) << list;
 }
 
-TEST(CropFile, IsNoneWithATableBeyondTheLimit) {
+TEST(CropFile, WithATableBeyondTheLimitIsInvalid) {
   EXPECT_EQ(cropOf(withLine(5, "ANNUAL_RAIN=11,1000")), nullptr);
   EXPECT_EQ(cropOf(withLine(7, "EFF_IRRIG=0,1000")), nullptr);
   EXPECT_NE(cropOf(withLine(5, "ANNUAL_RAIN=11,999")), nullptr);
   EXPECT_NE(cropOf(withLine(7, "EFF_IRRIG=0,999")), nullptr);
 }
 
-TEST(CropFile, IsNoneWithoutASignInAnOddLine) {
+TEST(CropFile, WithoutAnEqualSignInAnOddLineIsInvalid) {
   for (const std::size_t line : {1U, 3U, 5U, 7U, 9U}) {
     EXPECT_EQ(cropOf(withLine(line, "")), nullptr) << line;
     EXPECT_EQ(cropOf(withLine(line, std::string(500'000, 'x'))), nullptr) << line;
   }
 }
 
-TEST(CropFile, IsNoneWithLessThanNineLines) {
+TEST(CropFile, WithFewerThanNineLinesIsInvalid) {
   const std::string whole = smallCrop("Corn");
   const std::size_t ninth = whole.find("YIELD_VALUES");
   const std::size_t sign = whole.find('=', ninth);
@@ -191,22 +191,23 @@ TEST(CropFile, IsNoneWithLessThanNineLines) {
   }
 }
 
-TEST(CropFile, ReadsWindows1252AndUtf8) {
+TEST(CropFile, CanBeWindows1252OrUtf8) {
   EXPECT_EQ(cropOf(smallCrop("Ma\xEFs"))->cropType, "Ma\xC3\xAFs");
   EXPECT_EQ(cropOf(smallCrop("Ma\xC3\xAFs"))->cropType, "Ma\xC3\xAFs");
   EXPECT_EQ(cropOf("\xEF\xBB\xBF" + smallCrop("Ma\xC3\xAFs"))->cropType, "Ma\xC3\xAFs");
   EXPECT_EQ(cropOf("\xEF\xBB\xBF=Corn" + smallCrop("").substr(5))->cropType, "Corn");
 }
 
-TEST(CropFile, OfMoreThanTheLargestSizeIsNone) {
+TEST(CropFile, AboveTheMaximumSizeIsInvalid) {
   const CropLibrary library;
   library.stock("a.txt", smallCrop("A"));
-  fs::resize_file(library.home() / "crops/a.txt", std::uintmax_t{1} << 32U);  // takes no room on the disk
+  fs::resize_file(library.home() / "crops/a.txt",
+                  std::uintmax_t{1} << 32U);  // a sparse file takes no disk space
   library.stock("b.txt", smallCrop("B"));
   EXPECT_EQ(library.names(), std::vector<std::string>{"B"});
 }
 
-TEST(CropFile, IsCustomWhereItsAbsolutePathSaysSo) {
+TEST(CropFile, IsCustomIfItsAbsolutePathContainsCustom) {
   const CropLibrary library;
   library.stock("corn.txt", smallCrop("Corn"));
   library.stock("my customs.txt", smallCrop("Named"));
@@ -218,7 +219,7 @@ TEST(CropFile, IsCustomWhereItsAbsolutePathSaysSo) {
   EXPECT_EQ(reader.cropCollection.Count(), 5);
 }
 
-TEST(CropFile, IsCustomBelowAHomeFolderOfThatName) {
+TEST(CropFile, IsCustomIfTheHomeFolderContainsCustom) {
   const testing::TemporaryFolder folder;
   folder.write("our customers/crops/corn.txt", smallCrop("Corn"));
   FileReader reader(folder / "our customers");
@@ -227,7 +228,7 @@ TEST(CropFile, IsCustomBelowAHomeFolderOfThatName) {
   EXPECT_FALSE(reader.cropCollection.Item(2)->Custom) << "Fallow is of no file";
 }
 
-TEST(CropFile, ARelativeHomeFolderIsSeenByItsAbsolutePath) {
+TEST(CropFile, IsCustomByTheAbsolutePathOfARelativeHomeFolder) {
   const testing::TemporaryFolder folder;
   folder.write("custom/crops/corn.txt", smallCrop("Corn"));
   const fs::path before = fs::current_path();
@@ -239,8 +240,8 @@ TEST(CropFile, ARelativeHomeFolderIsSeenByItsAbsolutePath) {
   EXPECT_TRUE(reader.cropCollection.Item(1)->Custom);
 }
 
-// The files that come with the program, through the program's reader.
-TEST(CropFile, OfTheStockLibraryAreReadAsTheyStand) {
+// The crop files that come with the program, read by the program.
+TEST(CropFile, OfTheStockLibraryGivesTheExpectedCrop) {
   const CropLibrary library;
   const fs::path source = fs::path(VERDALIS_SOURCE_DIR) / "crops";
   fs::copy(source, library.home() / "crops", fs::copy_options::recursive);

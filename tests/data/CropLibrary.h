@@ -10,13 +10,13 @@
 
 namespace verdalis::testing {
 
-/// A crop file with the two cells 1 and 2: 11 and 12 inches of rain, no irrigation.
+/// A crop file with two cells, 1 and 2: 11 and 12 inches of rain, no irrigation.
 inline std::string smallCrop(const std::string& name) {
   return "CROP=" + name +
          "\r\n\r\nUNITS=bu.,bushels\r\n\r\nANNUAL_RAIN=11,12\r\n\r\nEFF_IRRIG=0\r\n\r\nYIELD_VALUES=1,2\r\n";
 }
 
-/// A home folder of a test with an empty crop library.
+/// A home folder for tests, with an empty crop library.
 class CropLibrary {
  public:
   CropLibrary() { std::filesystem::create_directories(folder_ / "crops"); }

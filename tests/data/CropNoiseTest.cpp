@@ -11,8 +11,7 @@
 #include "tests/data/PlainCropReader.h"
 #include "text/encoding.h"
 
-// Crop files, soils files and whole libraries that are cut, oversized or full of noise, against the plain
-// reader.
+// Truncated, oversized and corrupted crop files, soils files and libraries, compared with the simple reader.
 
 namespace verdalis {
 namespace {
@@ -71,7 +70,7 @@ void assertSame(const Crop& crop, const testing::PlainCrop& expected) {
   RC_ASSERT(plainCrop(crop) == expected);
 }
 
-RC_GTEST_PROP(CropNoise, AFileIsTheCropOfThePlainReaderOrNone, ()) {
+RC_GTEST_PROP(CropNoise, FileGivesTheSameCropAsTheSimpleReader, ()) {
   const auto bytes = *rc::gen::oneOf(anyCropFile(), damaged(anyCropFile()), damaged(damaged(anyCropFile())),
                                      rc::gen::arbitrary<std::string>());
   const CropLibrary library;
@@ -85,7 +84,7 @@ RC_GTEST_PROP(CropNoise, AFileIsTheCropOfThePlainReaderOrNone, ()) {
   assertSame(*reader.cropCollection.Item(expected ? 2 : 1), *plainCrop(smallCrop("Last")));
 }
 
-RC_GTEST_PROP(CropNoise, ASoilsFileGivesTheRecordsOfThePlainReader, ()) {
+RC_GTEST_PROP(CropNoise, SoilsFileGivesTheSameRecordsAsTheSimpleReader, ()) {
   const auto bytes =
       *rc::gen::oneOf(anySoilsFile(), damaged(anySoilsFile()), rc::gen::arbitrary<std::string>());
   const CropLibrary library;
@@ -110,7 +109,7 @@ RC_GTEST_PROP(CropNoise, ASoilsFileGivesTheRecordsOfThePlainReader, ()) {
   }
 }
 
-/// The crop names of a library that has these stock and custom files, in order.
+/// The expected crop names of a library with these stock and custom files, in order.
 std::vector<std::string> expectedNames(const std::vector<std::string>& stock,
                                        const std::vector<std::string>& custom) {
   std::vector<std::string> files = stock;
@@ -119,14 +118,14 @@ std::vector<std::string> expectedNames(const std::vector<std::string>& stock,
   for (const auto& file : files) {
     if (const auto crop = plainCrop(decodeText(file))) names.push_back(crop->name);
   }
-  // Fallow stands behind as many crops as there are stock files, where there are so many.
+  // Fallow follows as many crops as there are stock files, if there are that many.
   if (!stock.empty() && names.size() >= stock.size()) {
     names.insert(names.begin() + static_cast<std::ptrdiff_t>(stock.size()), "Fallow");
   }
   return names;
 }
 
-RC_GTEST_PROP(CropNoise, ALibraryHasItsGoodFilesInOrderAndFallowInItsPlace, ()) {
+RC_GTEST_PROP(CropNoise, LibraryHasItsValidFilesInOrderAndFallowInItsPlace, ()) {
   const auto file = rc::gen::weightedOneOf<std::string>(
       {{3, anyCropFile()}, {1, damaged(anyCropFile())}, {1, rc::gen::arbitrary<std::string>()}});
   const auto files = rc::gen::resize(6, rc::gen::container<std::vector<std::string>>(file));

@@ -5,7 +5,7 @@
 namespace verdalis {
 namespace {
 
-TEST(RemoveIllegals, TakesTheNineCharactersOut) {
+TEST(RemoveIllegals, RemovesTheNineIllegalCharacters) {
   EXPECT_EQ(RemoveIllegals("a*b?c/d\\e:f|g<h>i\"j"), "abcdefghij");
   EXPECT_EQ(RemoveIllegals("*?/\\:|<>\"*?/\\:|<>\""), "");
   EXPECT_EQ(RemoveIllegals(""), "");

@@ -11,7 +11,7 @@
 #include "tests/data/PlainTarget.h"
 #include "tests/support/TemporaryFolder.h"
 
-// The example farm with the crops that come with the program.
+// The saved inputs of the example farm, with the stock crops.
 
 namespace verdalis {
 namespace {
@@ -43,7 +43,7 @@ class ExampleInputs : public ::testing::Test {
   TemporaryFolder home_{"example"};
 };
 
-TEST_F(ExampleInputs, AreReadToTheirEnd) {
+TEST_F(ExampleInputs, LoadCompletely) {
   EXPECT_TRUE(complete);
   EXPECT_EQ(target.events.back(), "refresh");
   EXPECT_TRUE(target.has("split " + target.general.splitIndex));
@@ -69,7 +69,7 @@ TEST_F(ExampleInputs, HaveABlockForEveryCrop) {
   }
 }
 
-TEST_F(ExampleInputs, AreSavedAgainAsTheyStand) {
+TEST_F(ExampleInputs, AreUnchangedWhenSavedAgain) {
   const TemporaryFolder folder;
   ASSERT_TRUE(saveInputs(folder / "inputs.txt", target.general, target.plant, library, target.has("trends")));
   EXPECT_EQ(folder.read("inputs.txt"), folder.read(example));

@@ -9,8 +9,8 @@
 
 namespace verdalis::testing {
 
-/// The text of the RunTimeError that `action` throws. It is a failure of the test when there is none, or one
-/// of another number.
+/// Requires that `action` throws a RunTimeError with this number.
+/// \returns the text of the error.
 inline std::string failureOf(ErrorNumber number, const std::function<void()>& action) {
   try {
     action();

@@ -23,7 +23,7 @@ using testing::failureOf;
 using testing::smallCrop;
 using Names = std::vector<std::string>;
 
-TEST(FileReader, GivesStockCropsThenFallowThenCustomCrops) {
+TEST(FileReader, ReadsStockCropsThenFallowThenCustomCrops) {
   const CropLibrary library;
   library.stock("b.txt", smallCrop("Beans"));
   library.stock("a.txt", smallCrop("Alfalfa"));
@@ -32,7 +32,7 @@ TEST(FileReader, GivesStockCropsThenFallowThenCustomCrops) {
   EXPECT_EQ(library.names(), (Names{"Alfalfa", "Beans", "Fallow", "Mine", "Yours"}));
 }
 
-TEST(FileReader, ReturnsTrueAndTellsFoldersAndFiles) {
+TEST(FileReader, ReturnsTrueAndRecordsFoldersAndFiles) {
   const CropLibrary library;
   library.stock("b.txt", smallCrop("Beans"));
   library.stock("a", "no crop");
@@ -53,14 +53,14 @@ TEST(FileReader, SortsByNameIgnoringCase) {
             (Names{"10", "9", "_x", "Aa", "alfa", "BEANS", "corn", "Corn2", "Zinnia", "Fallow"}));
 }
 
-TEST(FileReader, SortsLettersWithAccentsIgnoringCaseToo) {
+TEST(FileReader, SortsAccentedLettersIgnoringCase) {
   const CropLibrary library;
   for (const char* name : {"\xC3\x89-1", "\xC3\xA9", "\xC3\x89-3", "\xC3\xA9-2"})  // É-1 é É-3 é-2
     library.stock(name, smallCrop(name));
   EXPECT_EQ(library.names(), (Names{"\xC3\xA9", "\xC3\x89-1", "\xC3\xA9-2", "\xC3\x89-3", "Fallow"}));
 }
 
-TEST(FileReader, TakesEveryFileWhateverItsName) {
+TEST(FileReader, ReadsEveryFileWhateverItsName) {
   const CropLibrary library;
   library.stock(".hidden", smallCrop("Hidden"));
   library.stock("no extension", smallCrop("None"));
@@ -70,14 +70,14 @@ TEST(FileReader, TakesEveryFileWhateverItsName) {
   EXPECT_EQ(library.names(), (Names{"Hidden", "Backup", "None", "Page", "Fallow", "Mine"}));
 }
 
-TEST(FileReader, HiddenFilesThatAreNoCropsCountToo) {
+TEST(FileReader, CountsHiddenFilesThatAreNotCrops) {
   const CropLibrary library;
   library.stock(".DS_Store", "x");
   library.stock("corn.txt", smallCrop("Corn"));
   EXPECT_EQ(library.names(), Names{"Corn"});
 }
 
-TEST(FileReader, PassesFoldersOver) {
+TEST(FileReader, SkipsFolders) {
   const CropLibrary library;
   library.stock("corn.txt", smallCrop("Corn"));
   library.stock("archive/old.txt", smallCrop("Old"));
@@ -94,14 +94,14 @@ TEST(FileReader, ReadsLinkedFiles) {
   EXPECT_EQ(library.names(), (Names{"Corn", "Fallow"}));
 }
 
-TEST(FileReader, ABrokenLinkIsAFileThatCannotBeRead) {
+TEST(FileReader, CountsABrokenLinkAsAnUnreadableFile) {
   const CropLibrary library;
   library.stock("corn.txt", smallCrop("Corn"));
   fs::create_symlink("nowhere", library.home() / "crops/link");
   EXPECT_EQ(library.names(), Names{"Corn"});
 }
 
-TEST(FileReader, MakesTheFolderOfCustomCrops) {
+TEST(FileReader, CreatesTheFolderOfCustomCrops) {
   const CropLibrary library;
   library.stock("corn.txt", smallCrop("Corn"));
   EXPECT_EQ(library.names(), (Names{"Corn", "Fallow"}));
@@ -109,7 +109,7 @@ TEST(FileReader, MakesTheFolderOfCustomCrops) {
   EXPECT_EQ(library.names(), (Names{"Corn", "Fallow"})) << "with an empty folder of custom crops";
 }
 
-// Fallow comes behind the last stock file that counts; no file, no Fallow.
+// Fallow follows the last stock file, so there is none without stock files.
 TEST(FileReader, HasNoFallowWithoutStockFiles) {
   const CropLibrary library;
   EXPECT_EQ(library.names(), Names{});
@@ -129,7 +129,7 @@ TEST(FileReader, FallowHasNoUnitsAndNoTable) {
   EXPECT_FALSE(fallow.Custom);
 }
 
-TEST(FileReader, ABadFileKeepsFallowWaitingForOneMore) {
+TEST(FileReader, ABadFileMovesFallowBackByOne) {
   const CropLibrary library;
   library.stock("a.txt", smallCrop("A"));
   library.stock("b.txt", "no crop");
@@ -141,7 +141,7 @@ TEST(FileReader, ABadFileKeepsFallowWaitingForOneMore) {
   EXPECT_EQ(library.names(), (Names{"A", "C", "Mine", "Fallow", "Yours"}));
 }
 
-TEST(FileReader, ABadLastStockFileDoesTheSame) {
+TEST(FileReader, ABadLastStockFileMovesFallowBackByOne) {
   const CropLibrary library;
   library.stock("a.txt", smallCrop("A"));
   library.stock("z.txt", "no crop");
@@ -150,7 +150,7 @@ TEST(FileReader, ABadLastStockFileDoesTheSame) {
   EXPECT_EQ(library.names(), (Names{"A", "Mine", "Fallow"}));
 }
 
-TEST(FileReader, TwoBadFilesKeepFallowWaitingForTwo) {
+TEST(FileReader, TwoBadFilesMoveFallowBackByTwo) {
   const CropLibrary library;
   library.stock("a.txt", "");
   library.stock("b.txt", smallCrop("B"));
@@ -160,7 +160,7 @@ TEST(FileReader, TwoBadFilesKeepFallowWaitingForTwo) {
   EXPECT_EQ(library.names(), (Names{"B", "1", "2", "Fallow", "3"}));
 }
 
-TEST(FileReader, ABadCustomFileIsPassedOver) {
+TEST(FileReader, SkipsABadCustomFile) {
   const CropLibrary library;
   library.stock("a.txt", smallCrop("A"));
   library.custom("a.txt", "no crop");
@@ -168,8 +168,8 @@ TEST(FileReader, ABadCustomFileIsPassedOver) {
   EXPECT_EQ(library.names(), (Names{"A", "Fallow", "Mine"}));
 }
 
-// The next file is read over what a bad one has left, and nothing of the bad one stays.
-TEST(FileReader, ACropBehindABadFileIsItsOwn) {
+// A crop is read into the object that a bad file has partly filled; nothing of the bad file may remain.
+TEST(FileReader, ACropAfterABadFileKeepsNothingOfIt) {
   const std::string bad =
       "CROP=Bad\r\n\r\nUNITS=ton,tons,more\r\n\r\nANNUAL_RAIN=1,2\r\n\r\nEFF_IRRIG=0,1\r\n\r\nYIELD_VALUES=9,"
       "9,9,9\r\n";
@@ -190,7 +190,7 @@ TEST(FileReader, ACropBehindABadFileIsItsOwn) {
   }
 }
 
-TEST(FileReader, ASingleUnitBehindABadFileHasNoPluralOfThat) {
+TEST(FileReader, ASingleUnitAfterABadFileDoesNotKeepItsPlural) {
   const CropLibrary library;
   library.stock("a.txt", "CROP=Bad\r\n\r\nUNITS=ton,tons\r\n");
   std::string single = smallCrop("Good");
@@ -200,7 +200,7 @@ TEST(FileReader, ASingleUnitBehindABadFileHasNoPluralOfThat) {
   EXPECT_EQ(reader.cropCollection.Item(1)->cropUnitsArray, (std::array<std::string, 2>{"bu.", ""}));
 }
 
-TEST(FileReader, DoesNotWaitForAPipe) {
+TEST(FileReader, DoesNotBlockOnAPipe) {
   const CropLibrary library;
   library.stock("a.txt", smallCrop("A"));
   library.custom("b.txt", smallCrop("B"));
@@ -211,7 +211,7 @@ TEST(FileReader, DoesNotWaitForAPipe) {
   EXPECT_EQ(library.names(), (Names{"A", "B", "Fallow"}));
 }
 
-TEST(FileReader, EveryCallStartsAnew) {
+TEST(FileReader, EveryCallReadsTheLibraryAgain) {
   const CropLibrary library;
   library.stock("corn.txt", smallCrop("Corn"));
   FileReader reader(library.home());
@@ -226,7 +226,7 @@ TEST(FileReader, EveryCallStartsAnew) {
   EXPECT_EQ(reader.cropCollection.Item(1)->price, 0);
 }
 
-TEST(FileReader, TellsAMissingFolderOfCropsWithItsPath) {
+TEST(FileReader, ReportsAMissingCropFolderWithItsPath) {
   const testing::TemporaryFolder home;
   FileReader reader(home.path());
   const auto text = failureOf(ErrorNumber::fileNotFound, [&] { reader.Initialize(); });
@@ -234,7 +234,7 @@ TEST(FileReader, TellsAMissingFolderOfCropsWithItsPath) {
   EXPECT_EQ(reader.cropCollection.Count(), 0);
 }
 
-TEST(FileReader, TellsAFileInThePlaceOfTheFolderOfCrops) {
+TEST(FileReader, ReportsAFileInPlaceOfTheCropFolder) {
   const testing::TemporaryFolder home;
   home.write("crops", smallCrop("Corn"));
   FileReader reader(home.path());
@@ -242,7 +242,7 @@ TEST(FileReader, TellsAFileInThePlaceOfTheFolderOfCrops) {
   EXPECT_NE(text.find((home / "crops").string()), std::string::npos) << text;
 }
 
-TEST(FileReader, ForgetsTheOldCropsWhenTheFolderHasGone) {
+TEST(FileReader, ClearsTheCropsIfTheFolderHasBeenRemoved) {
   const CropLibrary library;
   library.stock("corn.txt", smallCrop("Corn"));
   FileReader reader(library.home());
@@ -253,7 +253,7 @@ TEST(FileReader, ForgetsTheOldCropsWhenTheFolderHasGone) {
   EXPECT_TRUE(reader.fileCollection.empty());
 }
 
-TEST(FileReader, TellsAFolderOfCropsThatCannotBeRead) {
+TEST(FileReader, ReportsAnUnreadableCropFolder) {
   const CropLibrary library;
   library.stock("corn.txt", smallCrop("Corn"));
   openToAll(library.folder());
@@ -271,7 +271,7 @@ TEST(FileReader, TellsAFolderOfCropsThatCannotBeRead) {
   EXPECT_TRUE(*told);
 }
 
-TEST(FileReader, ACropFileThatCannotBeReadIsPassedOver) {
+TEST(FileReader, SkipsAnUnreadableCropFile) {
   const CropLibrary library;
   library.stock("corn.txt", smallCrop("Corn"));
   library.stock("secret.txt", smallCrop("Secret"));
@@ -283,7 +283,7 @@ TEST(FileReader, ACropFileThatCannotBeReadIsPassedOver) {
   EXPECT_TRUE(*passed);
 }
 
-TEST(FileReader, AHomeFolderThatCannotBeWrittenHasItsStockCrops) {
+TEST(FileReader, ReadsStockCropsFromAReadOnlyHomeFolder) {
   const CropLibrary library;
   library.stock("corn.txt", smallCrop("Corn"));
   openToAll(library.folder());
@@ -294,7 +294,7 @@ TEST(FileReader, AHomeFolderThatCannotBeWrittenHasItsStockCrops) {
   EXPECT_FALSE(fs::exists(library.home() / "crops/custom"));
 }
 
-TEST(FileReader, ManyFilesOfOneNameAreManyCrops) {
+TEST(FileReader, KeepsCropsWithTheSameName) {
   const CropLibrary library;
   library.stock("a.txt", smallCrop("Corn"));
   library.stock("A.txt", smallCrop("Corn"));

@@ -16,7 +16,7 @@ using testing::failureOf;
 using testing::PlainTarget;
 using Events = std::vector<std::string>;
 
-TEST(GeneralInputs, WritesFiveLinesWithoutALineEndBehindTheLast) {
+TEST(GeneralInputs, WritesFiveLinesWithoutAFinalLineEnd) {
   const GeneralInputs general{"2", "100", "12", "85", "16"};
   EXPECT_EQ(general.writeData(), "2\r\n100\r\n12\r\n85\r\n16");
   EXPECT_EQ(GeneralInputs().writeData(), "\r\n\r\n\r\n\r\n");
@@ -28,14 +28,14 @@ TEST(GeneralInputs, SetsItsControlsInOrder) {
   EXPECT_EQ(target.events, (Events{"txtAnnRain=16", "txtEff=85", "split 2", "txtArea=100", "txtMax=12"}));
 }
 
-TEST(GeneralInputs, SetsTextsAsTheyStand) {
+TEST(GeneralInputs, SetsTextsUnchanged) {
   PlainTarget target;
   GeneralInputs{"", "a lot", " 1,200 ", "", "-3"}.setData(target);
   EXPECT_EQ(target.events,
             (Events{"txtAnnRain=-3", "txtEff=", "no split", "txtArea=a lot", "txtMax= 1,200 "}));
 }
 
-TEST(GeneralInputs, ReadsTheSplitAsAWholeNumber) {
+TEST(GeneralInputs, ReadsTheSplitIndexAsAWholeNumber) {
   for (const auto& [text, event] : {std::pair{"0", "split 0"},
                                     {"5", "split 5"},
                                     {" 4 ", "split 4"},
@@ -49,7 +49,7 @@ TEST(GeneralInputs, ReadsTheSplitAsAWholeNumber) {
   }
 }
 
-TEST(GeneralInputs, FailsForASplitThatThereIsNot) {
+TEST(GeneralInputs, FailsForAnUnknownSplitIndex) {
   for (const auto& [text, number] : {std::pair{"6", ErrorNumber::subscript},
                                      {"-1", ErrorNumber::subscript},
                                      {"5.6", ErrorNumber::subscript},

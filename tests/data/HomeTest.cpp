@@ -9,7 +9,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The places of a program: it lies in bin/, its crops are installed in share/, the user's data in data/.
+/// A program in bin/, with installed crops in share/ and the user's data in data/.
 class Home : public ::testing::Test {
  protected:
   Home() {
@@ -26,13 +26,13 @@ class Home : public ::testing::Test {
   TemporaryFolder folder_{"home"};
 };
 
-TEST_F(Home, IsTheProgramsFolderIfThatHoldsCrops) {
+TEST_F(Home, IsTheProgramFolderIfItContainsCrops) {
   fs::create_directories(folder_ / "bin/crops");
   EXPECT_EQ(homeFolder(places()), folder_ / "bin");
   EXPECT_FALSE(fs::exists(folder_ / "user"));
 }
 
-TEST_F(Home, IsElseTheUsersDataFolderMadeAtTheFirstStart) {
+TEST_F(Home, IsOtherwiseTheUsersDataFolderCreatedAtTheFirstStart) {
   EXPECT_EQ(homeFolder(places()), folder_ / "user/data");
   EXPECT_EQ(folder_.read("user/data/crops/corn.txt"), "corn");
   EXPECT_EQ(folder_.read("user/data/crops/soils/corn.txt"), "soil");
@@ -40,7 +40,7 @@ TEST_F(Home, IsElseTheUsersDataFolderMadeAtTheFirstStart) {
   EXPECT_EQ(folder_.names("user/data"), std::vector<std::string>{"crops"}) << "nothing is left of the making";
 }
 
-TEST_F(Home, IsNotMadeASecondTime) {
+TEST_F(Home, IsCreatedOnlyOnce) {
   static_cast<void>(homeFolder(places()));
   folder_.write("user/data/crops/corn.txt", "my own corn");
   folder_.write("user/data/inputs.txt", "my farm");
@@ -48,14 +48,14 @@ TEST_F(Home, IsNotMadeASecondTime) {
   EXPECT_EQ(folder_.read("user/data/crops/corn.txt"), "my own corn");
 }
 
-TEST_F(Home, ADataFolderWithoutCropsKeepsWhatItHolds) {
+TEST_F(Home, KeepsTheContentsOfADataFolderWithoutCrops) {
   folder_.write("user/data/inputs.txt", "my farm");
   EXPECT_EQ(homeFolder(places()), folder_ / "user/data");
   EXPECT_EQ(folder_.read("user/data/inputs.txt"), "my farm");
   EXPECT_EQ(folder_.read("user/data/crops/corn.txt"), "corn");
 }
 
-TEST_F(Home, CopiesOfProtectedCropsCanBeChanged) {
+TEST_F(Home, CopiesOfReadOnlyCropsAreWritable) {
   fs::permissions(folder_ / "share/crops/corn.txt", fs::perms::owner_read);
   fs::permissions(folder_ / "share/crops/custom", fs::perms::owner_read | fs::perms::owner_exec);
   static_cast<void>(homeFolder(places()));
@@ -67,14 +67,14 @@ TEST_F(Home, CopiesOfProtectedCropsCanBeChanged) {
   EXPECT_TRUE(writable("custom"));
 }
 
-TEST_F(Home, WithoutAUserItIsAnError) {
+TEST_F(Home, WithoutAUserIsAnError) {
   HomePlaces none = places();
   none.dataHome.reset();
   EXPECT_EQ(errorText(ErrorNumber::fileNotFound, [&] { static_cast<void>(homeFolder(none)); }),
             "There is no home folder: HOME is not set. Name a folder with crops/ by --home.");
 }
 
-TEST_F(Home, WithoutInstalledCropsItIsAnError) {
+TEST_F(Home, WithoutInstalledCropsIsAnError) {
   HomePlaces none = places();
   none.stockCrops.pop_back();
   EXPECT_EQ(
@@ -83,13 +83,13 @@ TEST_F(Home, WithoutInstalledCropsItIsAnError) {
   EXPECT_FALSE(fs::exists(folder_ / "user"));
 }
 
-TEST_F(Home, ThatCannotBeMadeIsAnError) {
+TEST_F(Home, ThatCannotBeCreatedIsAnError) {
   folder_.write("user", "a file in the way");
   EXPECT_EQ(errorText(ErrorNumber::fileNotFound, [&] { static_cast<void>(homeFolder(places())); }),
             "The home folder " + (folder_ / "user/data").string() + " cannot be made: Not a directory.");
 }
 
-TEST(HomePlaces, AreThoseOfTheRunningProgram) {
+TEST(HomePlaces, AreCorrectForTheRunningProgram) {
   const HomePlaces places = homePlaces();
   EXPECT_TRUE(fs::is_directory(places.programFolder));
   ASSERT_FALSE(places.stockCrops.empty());

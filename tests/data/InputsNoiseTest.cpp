@@ -16,7 +16,8 @@
 #include "tests/support/TemporaryFolder.h"
 #include "text/encoding.h"
 
-// Saved inputs that are cut or full of noise, against the plain reader: what was read so far stays in force.
+// Truncated and corrupted saved inputs, compared with the simple reader: values read before an error are
+// kept.
 
 namespace verdalis {
 namespace {
@@ -26,7 +27,7 @@ using testing::PlainInputsReader;
 using testing::PlainTarget;
 using testing::TemporaryFolder;
 
-/// A target whose values are none of the file's, so that it shows what was read.
+/// A target filled with values that the file does not contain, to show which values were read.
 struct FilledTarget : PlainTarget {
   explicit FilledTarget(const std::vector<std::string>& names) : PlainTarget(names) {
     general = {"1", "2", "3", "4", "5"};
@@ -45,7 +46,7 @@ struct FilledTarget : PlainTarget {
   static void fill(bool& field) { field = true; }
 };
 
-TEST(InputsNoise, CutAtAnyByteLeavesInForceWhatWasReadSoFar) {
+TEST(InputsNoise, CutAtAnyByteKeepsTheValuesReadSoFar) {
   const TemporaryFolder folder;
   const std::vector<std::string> names{"Corn", "Fallow"};
   const std::string whole = testing::sampleInputs + "batch_enabled\r\n";
@@ -64,8 +65,8 @@ TEST(InputsNoise, CutAtAnyByteLeavesInForceWhatWasReadSoFar) {
   EXPECT_GT(complete, 2U);
 }
 
-// The same without the plain reader: a cut never touches what stands behind it.
-TEST(InputsNoise, CutInAnyLineLeavesAllLinesBehindIt) {
+// Without the simple reader: a cut never changes the values after it.
+TEST(InputsNoise, CutInAnyLineLeavesLaterValuesUnchanged) {
   const TemporaryFolder folder;
   const auto lines = testing::plainLines(testing::sampleGeneral + testing::samplePlant + testing::sampleCorn);
   const std::size_t head = 16;
@@ -97,14 +98,14 @@ void assertReadsLikeThePlainReader(const std::string& bytes, const std::vector<s
   RC_ASSERT(contentOf(target) == contentOf(expected));
 }
 
-RC_GTEST_PROP(InputsNoise, DamagedFilesReadLikeThePlainReader, ()) {
+RC_GTEST_PROP(InputsNoise, DamagedFilesLoadLikeInTheSimpleReader, ()) {
   const auto inputs = *testing::anyInputs();
   const auto file = rc::gen::just(inputs.file());
   const auto bytes = *rc::gen::oneOf(testing::damaged(file), testing::damaged(testing::damaged(file)));
   assertReadsLikeThePlainReader(bytes, inputs.names());
 }
 
-/// Files of short lines, among them names of crops, words and all that a reader could stumble over.
+/// Files of short lines, among them crop names, keywords and difficult values.
 rc::Gen<std::string> anyLines() {
   const auto value = rc::gen::weightedOneOf<std::string>(
       {{6, rc::gen::map(rc::gen::inRange(0, 6), [](int n) { return std::to_string(n); })},
@@ -121,11 +122,11 @@ rc::Gen<std::string> anyLines() {
   });
 }
 
-RC_GTEST_PROP(InputsNoise, AnyLinesReadLikeThePlainReader, ()) {
+RC_GTEST_PROP(InputsNoise, AnyLinesLoadLikeInTheSimpleReader, ()) {
   assertReadsLikeThePlainReader(*anyLines(), {"Corn", "7", "Corn", "", "True"});
 }
 
-RC_GTEST_PROP(InputsNoise, AnyBytesReadLikeThePlainReader, (const std::string& bytes)) {
+RC_GTEST_PROP(InputsNoise, AnyBytesLoadLikeInTheSimpleReader, (const std::string& bytes)) {
   assertReadsLikeThePlainReader(bytes, {"Corn", ""});
 }
 

@@ -13,7 +13,7 @@ using testing::contentOf;
 using testing::PlainTarget;
 using testing::TemporaryFolder;
 
-RC_GTEST_PROP(InputsRoundTrip, WhatWasSavedIsLoadedToTheLastBit, ()) {
+RC_GTEST_PROP(InputsRoundTrip, LoadedValuesEqualTheSavedOnesToTheLastBit, ()) {
   const auto inputs = *testing::anyInputs();
   const TemporaryFolder folder;
   RC_ASSERT(saveInputs(folder / "inputs.txt", inputs.general, inputs.plant, inputs.crops, inputs.trends));
@@ -29,7 +29,7 @@ RC_GTEST_PROP(InputsRoundTrip, WhatWasSavedIsLoadedToTheLastBit, ()) {
   RC_ASSERT(target.events.back() == "refresh");
 }
 
-RC_GTEST_PROP(InputsRoundTrip, SavingWhatWasLoadedGivesTheSameFile, ()) {
+RC_GTEST_PROP(InputsRoundTrip, SavingLoadedInputsGivesTheSameFile, ()) {
   const auto inputs = *testing::anyInputs();
   const TemporaryFolder folder;
   RC_ASSERT(saveInputs(folder / "a.txt", inputs.general, inputs.plant, inputs.crops, inputs.trends));

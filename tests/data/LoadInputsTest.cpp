@@ -33,14 +33,14 @@ bool load(const std::string& bytes, PlainTarget& target) {
   return loadInputs(folder.write("inputs.txt", bytes), target);
 }
 
-/// A text with one piece, which must be there, exchanged.
+/// Replaces a part of a text, which must exist.
 std::string with(std::string text, const std::string& from, const std::string& to) {
   const std::size_t at = text.find(from);
   EXPECT_NE(at, std::string::npos) << from;
   return text.replace(at, from.size(), to);
 }
 
-/// The block of the sample for another crop.
+/// The sample block, with another crop name.
 std::string blockOf(const std::string& name) {
   return with(sampleCorn, "Corn", name);
 }
@@ -54,7 +54,7 @@ TEST(LoadInputs, ReadsTheSampleLineByLine) {
   EXPECT_EQ(contentOf(*target.rows[1]), contentOf(*testing::fallowOfSample()));
 }
 
-TEST(LoadInputs, PutsTheValuesIntoTheirControlsInOrderAndRefreshesLast) {
+TEST(LoadInputs, SetsTheControlsInOrderAndRefreshesLast) {
   PlainTarget target({"Corn", "Fallow"});
   ASSERT_TRUE(load(sampleInputs, target));
   EXPECT_EQ(target.events,
@@ -63,14 +63,14 @@ TEST(LoadInputs, PutsTheValuesIntoTheirControlsInOrderAndRefreshesLast) {
                     "txtLaborPerHour=12", "txtRepairsPerAcre=0.33", "refresh"}));
 }
 
-TEST(LoadInputs, ShowsThePlantAsGeneralNumberText) {
+TEST(LoadInputs, ShowsPlantValuesAsGeneralNumberText) {
   PlainTarget target;
   ASSERT_TRUE(load(with(with(sampleHead, "650\r\n", "0650.50\r\n"), "1800", "1e15 h"), target));
   EXPECT_TRUE(target.has("txtGPM=650.5"));
   EXPECT_TRUE(target.has("txtEstHours=1E+15"));
 }
 
-TEST(LoadInputs, AMissingFileLeavesAllAsItIs) {
+TEST(LoadInputs, AMissingFileChangesNothing) {
   const TemporaryFolder folder;
   PlainTarget target({"Corn"});
   target.general.totalAcres = "7";
@@ -82,13 +82,13 @@ TEST(LoadInputs, AMissingFileLeavesAllAsItIs) {
   EXPECT_TRUE(target.events.empty());
 }
 
-TEST(LoadInputs, AnEmptyFileLeavesAllAsItIs) {
+TEST(LoadInputs, AnEmptyFileChangesNothing) {
   PlainTarget target({"Corn"});
   EXPECT_FALSE(load("", target));
   EXPECT_TRUE(target.events.empty());
 }
 
-TEST(LoadInputs, TakesEachOfTheThreeLineEnds) {
+TEST(LoadInputs, AcceptsAllThreeLineEnds) {
   PlainTarget expected({"Corn", "Fallow"});
   ASSERT_TRUE(load(sampleInputs, expected));
   for (const char lineEnd : {'\n', '\r'}) {
@@ -100,7 +100,7 @@ TEST(LoadInputs, TakesEachOfTheThreeLineEnds) {
   }
 }
 
-TEST(LoadInputs, ACommaEndsAValueToo) {
+TEST(LoadInputs, ACommaEndsAValue) {
   PlainTarget target({"Corn"});
   std::string bytes = sampleHead + sampleCorn;
   for (std::size_t at = bytes.find("\r\n"); at + 2 < bytes.size(); at = bytes.find("\r\n", at))
@@ -110,7 +110,7 @@ TEST(LoadInputs, ACommaEndsAValueToo) {
   EXPECT_EQ(contentOf(target.plant), contentOf(testing::plantOfSample()));
 }
 
-TEST(LoadInputs, AThousandsCommaMovesAllThatFollows) {
+TEST(LoadInputs, AThousandsCommaShiftsTheFollowingValues) {
   PlainTarget target;
   ASSERT_TRUE(load(
       "3\r\n1,200\r\n14\r\n85\r\n650\r\n180\r\n30\r\n12\r\n0\r\n0\r\n60\r\n5\r\n7\r\nTrue\r\nDiesel\r\n9\r\n",
@@ -122,7 +122,7 @@ TEST(LoadInputs, AThousandsCommaMovesAllThatFollows) {
   EXPECT_EQ(target.plant.GPM, 650);
 }
 
-TEST(LoadInputs, DropsBlanksInFrontAndKeepsThoseBehind) {
+TEST(LoadInputs, DropsLeadingBlanksAndKeepsTrailingOnes) {
   PlainTarget target({"Corn", "Wheat "});
   ASSERT_TRUE(load("  3\r\n \t125\r\n14 \r\n85\r\n17\r\n" + with(samplePlant, "Natural", "   Natural") +
                        "  Corn\r\n  7\r\n" + sampleCorn.substr(sampleCorn.find("205")) +
@@ -136,7 +136,7 @@ TEST(LoadInputs, DropsBlanksInFrontAndKeepsThoseBehind) {
   EXPECT_EQ(target.rows[1]->price, 4.6);
 }
 
-TEST(LoadInputs, AnEmptyLineKeepsItsFieldEmptyAndClearsASetOne) {
+TEST(LoadInputs, AnEmptyLineClearsAnOptionalNumber) {
   PlainTarget target({"Corn"});
   target.rows[0]->inputCosts.HarvestFlatRate = 9;
   ASSERT_TRUE(load(sampleHead + with(sampleCorn, "0.5\r\n", "\r\n"), target));
@@ -145,7 +145,7 @@ TEST(LoadInputs, AnEmptyLineKeepsItsFieldEmptyAndClearsASetOne) {
   EXPECT_EQ(static_cast<double>(target.rows[0]->inputCosts.AlfalfaSwathing), 9.1);
 }
 
-TEST(LoadInputs, ANumberThatIsNoneIsASetNumberOf0) {
+TEST(LoadInputs, ATextThatIsNotANumberIsReadAs0) {
   PlainTarget target({"Corn"});
   ASSERT_TRUE(load(sampleHead + with(with(sampleCorn, "0.5\r\n", "x\r\n"), "4.6", ""), target));
   EXPECT_FALSE(target.rows[0]->inputCosts.HarvestFlatRate.isEmpty());
@@ -175,7 +175,7 @@ TEST(LoadInputs, OnlyTheWordTrueInAnyCaseIsTrue) {
   }
 }
 
-TEST(LoadInputs, EachSwitchHasItsLine) {
+TEST(LoadInputs, EachBooleanIsReadFromItsOwnLine) {
   const std::string block = with(with(with(sampleCorn, "True", "?"), "False", "?"), "True", "?");
   for (int on = 0; on < 3; ++on) {
     std::string bytes = block;
@@ -189,7 +189,7 @@ TEST(LoadInputs, EachSwitchHasItsLine) {
   }
 }
 
-TEST(LoadInputs, AnEmptyFirstLineChoosesNoSplitAndGoesOn) {
+TEST(LoadInputs, AnEmptyFirstLineSelectsNoSplit) {
   PlainTarget target({"Corn"});
   ASSERT_TRUE(load(with(sampleHead, "3\r\n", "\r\n") + sampleCorn, target));
   EXPECT_EQ(target.general.splitIndex, "");
@@ -198,7 +198,7 @@ TEST(LoadInputs, AnEmptyFirstLineChoosesNoSplitAndGoesOn) {
   EXPECT_EQ(target.rows[0]->price, 4.6);
 }
 
-TEST(LoadInputs, EverySplitCanBeChosen) {
+TEST(LoadInputs, EverySplitCanBeSelected) {
   for (const char* index : {"0", "1", "2", "3", "4", "5"}) {
     PlainTarget target;
     ASSERT_TRUE(load(with(sampleHead, "3\r\n", std::string(index) + "\r\n"), target));
@@ -206,8 +206,8 @@ TEST(LoadInputs, EverySplitCanBeChosen) {
   }
 }
 
-// The rainfall and the efficiency have their controls before the split; nothing follows it.
-TEST(LoadInputs, ASplitThatThereIsNotEndsTheReading) {
+// Rainfall and efficiency are set before the split; nothing is set after it.
+TEST(LoadInputs, AnUnknownSplitStopsLoading) {
   for (const char* index : {"6", "-1", "x", "32768", "1e400", "True"}) {
     PlainTarget target({"Corn"});
     EXPECT_FALSE(load(with(sampleInputs, "3\r\n", std::string(index) + "\r\n"), target)) << index;
@@ -218,7 +218,7 @@ TEST(LoadInputs, ASplitThatThereIsNotEndsTheReading) {
   }
 }
 
-TEST(LoadInputs, EnablesTrendsWhereTheWordStands) {
+TEST(LoadInputs, EnablesTrendsIfTheFileHasTheKeyword) {
   for (const std::string& bytes :
        {sampleHead + "batch_enabled\r\n", sampleInputs + "batch_enabled\r\n", sampleInputs + "batch_enabled",
         sampleHead + "batch_enabled\r\n" + sampleCorn}) {
@@ -229,7 +229,7 @@ TEST(LoadInputs, EnablesTrendsWhereTheWordStands) {
   }
 }
 
-TEST(LoadInputs, OtherWordsEnableNoTrends) {
+TEST(LoadInputs, OtherWordsDoNotEnableTrends) {
   for (const char* word : {"Batch_Enabled", "batch_enabled ", "batch", "True", ""}) {
     PlainTarget target({"Corn"});
     EXPECT_TRUE(load(sampleHead + word + "\r\n", target)) << word;
@@ -237,7 +237,7 @@ TEST(LoadInputs, OtherWordsEnableNoTrends) {
   }
 }
 
-TEST(LoadInputs, TheBlockOfACropWithoutARowPassesBy) {
+TEST(LoadInputs, SkipsTheBlockOfACropWithoutARow) {
   PlainTarget target({"Corn"});
   ASSERT_TRUE(
       load(sampleHead + blockOf("Gone") + sampleCorn + blockOf("Gone too") + "batch_enabled\r\n", target));
@@ -245,7 +245,7 @@ TEST(LoadInputs, TheBlockOfACropWithoutARowPassesBy) {
   EXPECT_TRUE(target.has("trends"));
 }
 
-TEST(LoadInputs, ACropWithoutABlockKeepsWhatItHas) {
+TEST(LoadInputs, ACropWithoutABlockKeepsItsValues) {
   PlainTarget target({"Wheat", "Corn", "Soybeans"});
   target.rows[0]->price = 6;
   target.rows[2]->inputCosts.HarvestFlatRate = 0.25;
@@ -255,21 +255,21 @@ TEST(LoadInputs, ACropWithoutABlockKeepsWhatItHas) {
   EXPECT_EQ(static_cast<double>(target.rows[2]->inputCosts.HarvestFlatRate), 0.25);
 }
 
-TEST(LoadInputs, BlocksMayComeInAnyOrder) {
+TEST(LoadInputs, BlocksMayBeInAnyOrder) {
   PlainTarget target({"Wheat", "Corn"});
   ASSERT_TRUE(load(sampleHead + with(sampleCorn, "4.6", "1") + with(blockOf("Wheat"), "4.6", "2"), target));
   EXPECT_EQ(target.rows[0]->price, 2);
   EXPECT_EQ(target.rows[1]->price, 1);
 }
 
-TEST(LoadInputs, NamesCompareWithCaseAndAsAWhole) {
+TEST(LoadInputs, MatchesNamesExactlyAndCaseSensitively) {
   PlainTarget target({"corn", "Corn ", "Cor", "Corn2"});
   ASSERT_TRUE(load(sampleHead + sampleCorn, target));
   for (const auto& crop : target.rows)
     EXPECT_EQ(crop->price, 0) << crop->cropType;
 }
 
-// A name with a comma is not found again, and its values pass by.
+// A name with a comma is split and not found, so its values are skipped.
 TEST(LoadInputs, ANameWithACommaLosesItsBlock) {
   PlainTarget target({"Corn, white", "Fallow"});
   ASSERT_TRUE(load(sampleHead + blockOf("Corn, white") + with(blockOf("Fallow"), "4.6", "9"), target));
@@ -277,9 +277,9 @@ TEST(LoadInputs, ANameWithACommaLosesItsBlock) {
   EXPECT_EQ(target.rows[1]->price, 9);
 }
 
-TEST(LoadInputs, ANameThatEqualsAValueOfAPassingBlockTakesWhatFollows) {
+TEST(LoadInputs, ANameEqualToASkippedValueTakesTheFollowingValues) {
   PlainTarget target({"205", "Wheat"});
-  // Behind the value 205 there are 31 values in its own block; the name "Wheat" and its price are the rest.
+  // After the value 205 its own block has 31 values left; the name "Wheat" and its price complete the 33.
   ASSERT_TRUE(load(sampleHead + blockOf("Gone") + with(blockOf("Wheat"), "205", "206"), target));
   const Crop& number = *target.rows[0];
   EXPECT_EQ(number.price, 0.44);
@@ -291,7 +291,7 @@ TEST(LoadInputs, ANameThatEqualsAValueOfAPassingBlockTakesWhatFollows) {
   EXPECT_EQ(target.rows[1]->price, 0) << "its name has been taken for a number";
 }
 
-TEST(LoadInputs, TwoCropsOfOneNameHaveABlockEach) {
+TEST(LoadInputs, TwoCropsOfTheSameNameGetOneBlockEach) {
   PlainTarget target({"Corn", "Wheat", "Corn"});
   ASSERT_TRUE(load(sampleHead + with(sampleCorn, "4.6", "1") + with(blockOf("Wheat"), "4.6", "2") +
                        with(sampleCorn, "4.6", "3"),
@@ -301,20 +301,20 @@ TEST(LoadInputs, TwoCropsOfOneNameHaveABlockEach) {
   EXPECT_EQ(target.rows[2]->price, 3);
 }
 
-TEST(LoadInputs, AFurtherBlockOfANameGoesToItsFirstCrop) {
+TEST(LoadInputs, AnExtraBlockOfANameGoesToItsFirstCrop) {
   PlainTarget target({"Corn"});
   ASSERT_TRUE(load(sampleHead + sampleCorn + with(sampleCorn, "4.6", "9"), target));
   EXPECT_EQ(target.rows[0]->price, 9);
 }
 
-TEST(LoadInputs, ARowWithoutACropIsPassedOver) {
+TEST(LoadInputs, SkipsARowWithoutACrop) {
   PlainTarget target({"", "Corn"});
   target.rows[0] = nullptr;
   ASSERT_TRUE(load(sampleHead + "\r\n" + sampleCorn, target));
   EXPECT_EQ(target.rows[1]->price, 4.6);
 }
 
-TEST(LoadInputs, ANumberThatIsTooLargeEndsTheReading) {
+TEST(LoadInputs, ANumberThatIsTooLargeStopsLoading) {
   PlainTarget target({"Corn", "Wheat"});
   EXPECT_FALSE(load(sampleHead + with(sampleCorn, "20.01", "1e400") + blockOf("Wheat"), target));
   EXPECT_EQ(target.rows[0]->price, 4.6);
@@ -325,7 +325,7 @@ TEST(LoadInputs, ANumberThatIsTooLargeEndsTheReading) {
   EXPECT_TRUE(target.has("txtGPM=650"));
 }
 
-TEST(LoadInputs, ANumberOfThePlantThatIsTooLargeReachesNoControl) {
+TEST(LoadInputs, APlantNumberThatIsTooLargeSetsNoControl) {
   PlainTarget target({"Corn"});
   target.plant.cost = 7;
   EXPECT_FALSE(load(with(sampleInputs, "5.1\r\n", "-1e400\r\n"), target));
@@ -335,7 +335,7 @@ TEST(LoadInputs, ANumberOfThePlantThatIsTooLargeReachesNoControl) {
   EXPECT_EQ(target.plant.cost, 7);
 }
 
-TEST(LoadInputs, ANumberThatIsTooLargeMayStandWhereNobodyReadsIt) {
+TEST(LoadInputs, ANumberThatIsTooLargeIsAllowedInASkippedBlock) {
   PlainTarget target({"Corn"});
   EXPECT_TRUE(load(sampleHead + with(blockOf("Gone"), "20.01", "1e400") + sampleCorn, target));
   EXPECT_EQ(target.rows[0]->price, 4.6);
@@ -352,7 +352,7 @@ TEST(LoadInputs, ReadsUtf8WithAndWithoutAByteOrderMarkAndWindows1252) {
   }
 }
 
-TEST(LoadInputs, ManyMegabytesOfValuesPassBy) {
+TEST(LoadInputs, SkipsManyMegabytesOfValues) {
   PlainTarget target({"Corn", "Wheat"});
   std::string bytes = sampleHead;
   for (int i = 0; i < 1'000'000; ++i)

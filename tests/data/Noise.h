@@ -8,7 +8,7 @@
 
 namespace verdalis::testing {
 
-/// What turns up in a file that a person, an editor or a failing disk has spoilt.
+/// Damage that a user, an editor or a failing disk may do to a file.
 inline rc::Gen<std::string> noise() {
   const auto pieces =
       rc::gen::element<std::string>("", ",", "=", "\r", "\n", "\r\n", " ", "\t", "1e400", "-1e400", "1e-400",
@@ -17,7 +17,7 @@ inline rc::Gen<std::string> noise() {
   return rc::gen::weightedOneOf<std::string>({{5, pieces}, {1, rc::gen::arbitrary<std::string>()}});
 }
 
-/// A file with one damage: cut at the end, a piece lost, a piece twice, or noise in it.
+/// A file with one error: truncated, a part missing, a part duplicated, or noise inserted.
 inline rc::Gen<std::string> damaged(const rc::Gen<std::string>& file) {
   return rc::gen::exec([=] {
     std::string bytes = *file;

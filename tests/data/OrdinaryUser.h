@@ -12,7 +12,7 @@
 
 namespace verdalis::testing {
 
-/// Lets every user read and write a folder of a test.
+/// Allows every user to read and write a test folder.
 inline void openToAll(const TemporaryFolder& folder) {
   namespace fs = std::filesystem;
   fs::permissions(folder.path(), fs::perms::all);
@@ -21,8 +21,10 @@ inline void openToAll(const TemporaryFolder& folder) {
   }
 }
 
-/// What `test` returns when a user runs it whom permissions bind. They do not bind root: then a process of
-/// the user "nobody" runs it. Nothing where no such process can be made; then there is nothing to test.
+/// Runs `test` as a user who is subject to permissions. Root is not, so root runs it in a process of the user
+/// "nobody".
+/// \returns the result of `test`; nothing if no such process can be started, and then there is nothing to
+/// test.
 inline std::optional<bool> asOrdinaryUser(const std::function<bool()>& test) {
   if (::geteuid() != 0) return test();
   constexpr unsigned nobody = 65534;

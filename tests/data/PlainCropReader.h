@@ -9,14 +9,14 @@
 
 #include "model/Crop.h"
 
-// A second reader of crop and soils files, as plain as can be: it copies freely, knows all values before it
-// makes a table, and shares no code with the program's. The tests compare the two.
+// A second, simple reader of crop and soils files, for comparison. It copies freely, reads all values before
+// it builds a table, and shares no code with the program's reader.
 
 namespace verdalis::testing {
 
 using Texts = std::vector<std::string>;
 
-/// The lines of a text. What follows the last line end is a line if it holds anything.
+/// The lines of a text. Text after the last line end counts as a line unless it is empty.
 inline Texts plainLines(const std::string& text) {
   Texts lines;
   std::string line;
@@ -33,7 +33,7 @@ inline Texts plainLines(const std::string& text) {
   return lines;
 }
 
-/// The entries between commas; an empty text has none.
+/// The entries of a comma separated list; an empty text has none.
 inline Texts plainSplit(const std::string& text) {
   if (text.empty()) return {};
   Texts entries{""};
@@ -47,7 +47,7 @@ inline Texts plainSplit(const std::string& text) {
   return entries;
 }
 
-/// The length of the longest number that a text begins with, 0 for none.
+/// The length of the longest number at the start of a text, 0 if there is none.
 inline std::size_t plainNumberLength(const std::string& text) {
   const auto digits = [&](std::size_t from) {
     std::size_t count = 0;
@@ -75,7 +75,7 @@ inline std::size_t plainNumberLength(const std::string& text) {
   return at;
 }
 
-/// The leading number of a text, 0 without one; nothing when it is too large.
+/// The number at the start of a text, 0 if there is none; nothing if it is too large.
 inline std::optional<double> plainVal(const std::string& text) {
   const std::size_t start = text.find_first_not_of(" \t");
   if (start == std::string::npos) return 0;
@@ -87,7 +87,7 @@ inline std::optional<double> plainVal(const std::string& text) {
   return value;
 }
 
-/// The whole number that stands for an inch of rain or irrigation; nothing for any other text.
+/// A whole number of inches of rain or irrigation; nothing for any other text.
 inline std::optional<int> plainInches(const std::string& text) {
   const std::size_t start = text.find_first_not_of(' ');
   if (start == std::string::npos) return std::nullopt;
@@ -162,7 +162,7 @@ inline PlainCrop plainCrop(const Crop& crop) {
           crop.yieldTable ? plainTable(*crop.yieldTable) : PlainTable{}};
 }
 
-/// What follows the first "=" of a line, counted from 1; nothing without such a line or "=".
+/// The text after the first "=" of a line, counted from 1; nothing without such a line or "=".
 inline std::optional<std::string> plainValue(const Texts& lines, std::size_t line) {
   if (line > lines.size()) return std::nullopt;
   const std::size_t sign = lines[line - 1].find('=');
@@ -170,7 +170,7 @@ inline std::optional<std::string> plainValue(const Texts& lines, std::size_t lin
   return lines[line - 1].substr(sign + 1);
 }
 
-/// The crop of a file; nothing when it is none.
+/// The crop in a file; nothing if it is not a crop file.
 inline std::optional<PlainCrop> plainCrop(const std::string& text) {
   const Texts lines = plainLines(text);
   const auto name = plainValue(lines, 1);
@@ -187,12 +187,12 @@ inline std::optional<PlainCrop> plainCrop(const std::string& text) {
 }
 
 struct PlainSoil {
-  std::string name;  ///< In lower case
+  std::string name;  ///< Lower case
   PlainTable yield;
   PlainTable relative;
 };
 
-/// The records of a soils file up to the first broken one.
+/// The records of a soils file before the first broken one.
 inline std::vector<PlainSoil> plainSoils(const std::string& text) {
   const Texts lines = plainLines(text);
   std::vector<PlainSoil> soils;

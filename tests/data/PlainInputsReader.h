@@ -12,8 +12,8 @@
 #include "tests/data/PlainCropReader.h"
 #include "tests/data/PlainTarget.h"
 
-// A second reader of the saved inputs, which knows all values before it begins and shares no code with the
-// program's.
+// A second, simple reader of saved inputs, for comparison. It splits all values first and shares no code with
+// the program's reader.
 
 namespace verdalis::testing {
 
@@ -56,7 +56,7 @@ inline const std::array<CostField, 31>& costFields() {
   return fields;
 }
 
-/// The values of a file: they end at a comma or a line end, and blanks in front are dropped.
+/// The values of a file. They end at a comma or a line end; leading blanks are dropped.
 inline Texts plainInputValues(const std::string& text) {
   Texts values;
   for (const std::string& line : plainLines(text)) {
@@ -65,7 +65,7 @@ inline Texts plainInputValues(const std::string& text) {
     for (const std::string& part : parts)
       values.push_back(part.substr(std::min(part.size(), part.find_first_not_of(" \t"))));
   }
-  // Behind a comma at the very end there is no further value.
+  // There is no value after a comma at the very end.
   if (!text.empty() && text.back() == ',') values.pop_back();
   return values;
 }
@@ -77,7 +77,7 @@ inline bool plainSwitch(std::string word) {
   return word == "true";
 }
 
-/// Reads a file's text into a target. \returns whether it was read to its end.
+/// Reads the text of a file into a target. read() returns whether it was read completely.
 class PlainInputsReader {
  public:
   PlainInputsReader(const std::string& text, PlainTarget& target)
@@ -150,7 +150,7 @@ class PlainInputsReader {
     if (target_.general.splitIndex.empty()) {
       target_.chooseLandSplit(std::nullopt);
     } else {
-      const auto index = plainInches(target_.general.splitIndex);  // a whole number as well
+      const auto index = plainInches(target_.general.splitIndex);  // also parses a whole number
       if (!index || *index < 0 || *index > 5) return false;
       target_.chooseLandSplit(*index);
     }
@@ -174,7 +174,7 @@ class PlainInputsReader {
     number("txtRepairsPerAcre", plant.RepairsPerAcreInch);
   }
 
-  /// The first row of that name without a block so far, else the first of that name.
+  /// The first row of that name that has no block yet, else the first row of that name.
   std::optional<std::size_t> rowOf(const std::string& name, std::vector<bool>& filled) const {
     std::vector<std::size_t> rows;
     for (std::size_t i = 0; i < target_.rows.size(); ++i) {

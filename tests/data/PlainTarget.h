@@ -11,7 +11,7 @@
 
 namespace verdalis::testing {
 
-/// Takes saved inputs and notes what happened to its controls, in order: "txtArea=125", "split 3", "no
+/// Receives saved inputs and records the calls for its controls in order: "txtArea=125", "split 3", "no
 /// split", "refresh", "trends".
 class PlainTarget : public SavedInputsTarget {
  public:

@@ -23,7 +23,7 @@ void expectUnreadable(const std::filesystem::path& path) {
   EXPECT_NE(text.find(path.string()), std::string::npos) << text;
 }
 
-TEST(ReadFile, GivesTheBytesOfUtf8AsTheyStand) {
+TEST(ReadFile, ReturnsUtf8Unchanged) {
   const TemporaryFolder folder;
   const std::string bytes("Ma\xC3\xAFs, \xE2\x82\xAC 5\r\n\0x\t\n", 18);
   EXPECT_EQ(readFile(folder.write("a.txt", bytes)), bytes);
@@ -43,7 +43,7 @@ TEST(ReadFile, ReadsOtherBytesAsWindows1252) {
   EXPECT_EQ(readFile(folder.write("a.txt", "Ma\xEFs \x80")), "Ma\xC3\xAFs \xE2\x82\xAC");
 }
 
-TEST(ReadFile, GivesNothingForAnEmptyFile) {
+TEST(ReadFile, ReturnsAnEmptyTextForAnEmptyFile) {
   const TemporaryFolder folder;
   EXPECT_EQ(readFile(folder.write("a.txt", "")), "");
 }
@@ -55,7 +55,7 @@ TEST(ReadFile, FollowsALink) {
   EXPECT_EQ(readFile(folder / "link"), "here");
 }
 
-TEST(ReadFile, FailsWithThePathForWhatIsNoOrdinaryFile) {
+TEST(ReadFile, FailsWithThePathIfNotARegularFile) {
   const TemporaryFolder folder;
   expectUnreadable(folder / "missing.txt");
   expectUnreadable(folder.path());
@@ -70,16 +70,16 @@ TEST(ReadFile, FailsWithThePathForWhatIsNoOrdinaryFile) {
   expectUnreadable("/dev/null");
 }
 
-TEST(ReadFile, DoesNotWaitForAPipe) {
+TEST(ReadFile, DoesNotBlockOnAPipe) {
   const TemporaryFolder folder;
   ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
   expectUnreadable(folder / "pipe");
 }
 
-TEST(ReadFile, FailsForAFileBeyondTheLimit) {
+TEST(ReadFile, FailsForAFileAboveTheLimit) {
   const TemporaryFolder folder;
   const auto file = folder.write("large.txt", "");
-  std::filesystem::resize_file(file, maxFileSize + 1);  // takes no room on the disk
+  std::filesystem::resize_file(file, maxFileSize + 1);  // a sparse file takes no disk space
   expectUnreadable(file);
 }
 
@@ -90,7 +90,7 @@ TEST(ReadFile, ReadsAFileOfManyMegabytes) {
   EXPECT_TRUE(readFile(folder.write("a.txt", bytes)) == bytes);
 }
 
-TEST(ReadFile, FailsWithoutThePermissionToRead) {
+TEST(ReadFile, FailsWithoutReadPermission) {
   const TemporaryFolder folder;
   const auto file = folder.write("a.txt", "secret");
   openToAll(folder);
@@ -117,7 +117,7 @@ std::vector<std::string> linesOf(std::string_view text) {
 
 using Lines = std::vector<std::string>;
 
-TEST(LineReader, TakesEachOfTheThreeLineEnds) {
+TEST(LineReader, AcceptsAllThreeLineEnds) {
   EXPECT_EQ(linesOf("a\r\nb\r\n"), (Lines{"a", "b"}));
   EXPECT_EQ(linesOf("a\nb\n"), (Lines{"a", "b"}));
   EXPECT_EQ(linesOf("a\rb\r"), (Lines{"a", "b"}));
@@ -132,7 +132,7 @@ TEST(LineReader, KeepsEmptyLines) {
   EXPECT_EQ(linesOf("a\r\r\nb"), (Lines{"a", "", "b"}));
 }
 
-TEST(LineReader, TakesALastLineWithoutAnEnd) {
+TEST(LineReader, AcceptsALastLineWithoutAnEnd) {
   EXPECT_EQ(linesOf("a"), (Lines{"a"}));
   EXPECT_EQ(linesOf("a\r\n "), (Lines{"a", " "}));
   EXPECT_EQ(linesOf(""), Lines{});
@@ -142,7 +142,7 @@ TEST(LineReader, KeepsBlanksAndZeroBytes) {
   EXPECT_EQ(linesOf(std::string_view(" a\0b \t\r\n", 8)), (Lines{std::string(" a\0b \t", 6)}));
 }
 
-TEST(LineReader, FailsAtTheEnd) {
+TEST(LineReader, FailsAtTheEndOfTheText) {
   LineReader reader("a\r\n");
   EXPECT_EQ(reader.next(), "a");
   EXPECT_TRUE(reader.atEnd());

@@ -12,7 +12,7 @@
 namespace verdalis::testing {
 
 inline void tell(std::ostringstream& out, double value) {
-  // To the last bit; the sign of a zero is not kept in the file.
+  // All bits, except the sign of a zero, which the file does not store.
   out << std::hex << std::bit_cast<std::uint64_t>(value + 0.0) << std::dec << '\n';
 }
 inline void tell(std::ostringstream& out, const std::string& value) {
@@ -29,7 +29,7 @@ inline void tell(std::ostringstream& out, const Number& value) {
   }
 }
 
-/// All that a crop keeps in the saved inputs.
+/// The values of a crop that are saved.
 inline std::string contentOf(const Crop& crop) {
   std::ostringstream out;
   tell(out, crop.cropType);
@@ -60,7 +60,7 @@ inline std::string contentOf(const GeneralInputs& general) {
   return out.str();
 }
 
-/// All that saved inputs can change in a target, as one text; two targets are the same when these are.
+/// All values that saved inputs can change in a target, as one text, for comparison.
 inline std::string contentOf(const PlainTarget& target) {
   std::ostringstream out;
   out << contentOf(target.general) << contentOf(target.plant);

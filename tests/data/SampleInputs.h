@@ -4,8 +4,7 @@
 
 namespace verdalis::testing {
 
-// A saved inputs file as it must be, line by line. No number stands in it twice, so that two lines that
-// changed places would show.
+// A valid saved inputs file, line by line. No number occurs twice, so that exchanged lines are noticed.
 
 /// Lines 1 to 5: the land split, then acres, water, efficiency and rain.
 inline const std::string sampleGeneral = "3\r\n125.5\r\n14.25\r\n85\r\n17\r\n";
@@ -50,9 +49,9 @@ inline const std::string sampleCorn =
     "35\r\n"     // AlfalfaPerTon
     "6\r\n"      // AlfalfaStand
     "18\r\n"     // MiscCost
-    "5.12\r\n";  // FertilizerApplication, out of its family
+    "5.12\r\n";  // FertilizerApplication, apart from the other operations
 
-/// The 34 lines of "Fallow": numbers of 0, and empty lines for what was never set.
+/// The 34 lines of "Fallow": numbers of 0, and empty lines for numbers that were never set.
 inline const std::string sampleFallow =
     "Fallow\r\n0\r\n0\r\n0\r\n0\r\nFalse\r\n0\r\n0\r\nTrue\r\n0\r\n0\r\nFalse\r\n"
     "0\r\n0\r\n0\r\n0\r\n0\r\n0\r\n0\r\n"

@@ -8,7 +8,7 @@
 
 namespace verdalis::testing {
 
-// The objects that SampleInputs.h holds as a file.
+// The objects that correspond to the file in SampleInputs.h.
 
 inline GeneralInputs generalOfSample() {
   return {.splitIndex = "3",

@@ -29,7 +29,7 @@ CropScenario sampleCrops() {
   return crops;
 }
 
-/// The file that is saved for these values.
+/// The file saved for these values.
 std::string saved(const GeneralInputs& general, const IrrigationCosts& plant, const CropScenario& crops,
                   bool trendEnabled) {
   const TemporaryFolder folder;
@@ -47,8 +47,8 @@ std::string savedCrop(const std::shared_ptr<Crop>& crop) {
   return file.substr(head.size());
 }
 
-// A test of the sample itself: it shows that two lines changed places only if no two are the same.
-TEST(SaveInputs, TheSampleHoldsNoNumberTwice) {
+// Checks the sample: with no number twice, exchanged lines cannot go unnoticed.
+TEST(SaveInputs, SampleContainsNoNumberTwice) {
   auto lines = testing::plainLines(testing::sampleGeneral + testing::samplePlant + testing::sampleCorn);
   EXPECT_EQ(lines.size(), 5U + 11U + 34U);
   lines.erase(std::remove_if(lines.begin(), lines.end(),
@@ -62,14 +62,14 @@ TEST(SaveInputs, WritesTheSampleLineByLine) {
   EXPECT_EQ(saved(generalOfSample(), plantOfSample(), sampleCrops(), false), testing::sampleInputs);
 }
 
-TEST(SaveInputs, WritesWhetherTrendsAreEnabledLast) {
+TEST(SaveInputs, WritesTheTrendKeywordLast) {
   EXPECT_EQ(saved(generalOfSample(), plantOfSample(), sampleCrops(), true),
             testing::sampleInputs + "batch_enabled\r\n");
   EXPECT_EQ(saved(generalOfSample(), plantOfSample(), {}, true),
             testing::sampleGeneral + testing::samplePlant + "batch_enabled\r\n");
 }
 
-TEST(SaveInputs, HasA34LineBlockForEachCropInTheOrderOfTheLibrary) {
+TEST(SaveInputs, WritesA34LineBlockForEachCropInLibraryOrder) {
   CropScenario crops;
   for (const char* name : {"Wheat", "Corn", "Fallow", "Mine", "Corn"}) {
     crops.Add(std::make_shared<Crop>());
@@ -86,12 +86,12 @@ TEST(SaveInputs, WritesEmptyTextsAsEmptyLines) {
             "\r\n\r\n\r\n\r\n\r\n0\r\n0\r\n0\r\n0\r\n0\r\n0\r\n0\r\n0\r\nFalse\r\n\r\n0\r\n");
 }
 
-TEST(SaveInputs, WritesTheGeneralInputsAsTheyStand) {
+TEST(SaveInputs, WritesGeneralInputsUnchanged) {
   const GeneralInputs general{"0", "1,200", " 14 ", "eighty", "17.50"};
   EXPECT_TRUE(saved(general, {}, {}, false).starts_with("0\r\n1,200\r\n 14 \r\neighty\r\n17.50\r\n"));
 }
 
-TEST(SaveInputs, EachSwitchHasItsLine) {
+TEST(SaveInputs, WritesEachBooleanToItsOwnLine) {
   for (const std::size_t line : {6U, 9U, 12U}) {
     Crop crop;
     (line == 6   ? crop.inputCosts.NOptimal
@@ -104,7 +104,7 @@ TEST(SaveInputs, EachSwitchHasItsLine) {
   }
 }
 
-TEST(SaveInputs, ASetNumberOf0IsNoEmptyLine) {
+TEST(SaveInputs, WritesANumberSetTo0AsANonEmptyLine) {
   auto crop = std::make_shared<Crop>();
   const std::vector<Number inputCosts::*> numbers{
       &inputCosts::HarvestBasePerAcre, &inputCosts::HarvestExceedBu,  &inputCosts::HarvestExceedRate,
@@ -145,8 +145,8 @@ TEST(SaveInputs, WritesNumbersInTheirShortestForm) {
   EXPECT_EQ(lines.at(23), "5E-324");
 }
 
-// What the file does not keep has no line.
-TEST(SaveInputs, LeavesOutResultsAndTrendFigures) {
+// Values that are not saved have no line.
+TEST(SaveInputs, OmitsResultsAndTrendValues) {
   auto crop = cornOfSample();
   crop->inputCost = 1;
   crop->normalFactor = 2;
@@ -180,8 +180,8 @@ TEST(SaveInputs, ReplacesTheOldFile) {
   EXPECT_EQ(folder.read("inputs.txt"), testing::sampleInputs);
 }
 
-// A run goes on when its inputs cannot be saved: nothing is thrown.
-TEST(SaveInputs, TellsAFailureAndThrowsNothing) {
+// A run continues if its inputs cannot be saved, so nothing is thrown.
+TEST(SaveInputs, ReturnsFalseOnFailureWithoutThrowing) {
   const TemporaryFolder folder;
   EXPECT_FALSE(
       saveInputs(folder / "missing/inputs.txt", generalOfSample(), plantOfSample(), sampleCrops(), true));

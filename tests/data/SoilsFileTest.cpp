@@ -15,7 +15,7 @@ using testing::PlainTable;
 using testing::plainTable;
 using testing::smallCrop;
 
-/// A record of one cell a table.
+/// A record whose tables have one cell each.
 std::string soil(const std::string& name, int yield, double relative) {
   return "SOIL=" + name + "\r\nANNUAL_RAIN=0\r\nEFF_IRRIG=0\r\nYIELD=" + std::to_string(yield) +
          "\r\nRELATIVE=" + std::to_string(relative) + "\r\n";
@@ -31,12 +31,12 @@ std::shared_ptr<Crop> cropWith(std::string_view bytes) {
   return reader.cropCollection.Item(1);
 }
 
-/// The yield of a soil's one cell, -1 without tables.
+/// The yield in a soil's only cell, -1 without tables.
 double yieldOf(const FirstUse<SoilTables>& tables) {
   return tables->empty() ? -1 : tables->front().second->cell(0, 0);
 }
 
-TEST(SoilsFile, EachRecordGoesToItsSoil) {
+TEST(SoilsFile, EachRecordSetsItsSoil) {
   const auto crop =
       cropWith(soil("Ulysses", 10, 0.5) + soil("Valent", 20, 0.25) + soil("Valentine", 30, 0.125));
   for (const auto& [tables, yield, relative] :
@@ -57,12 +57,12 @@ TEST(SoilsFile, BothTablesHaveTheSameBounds) {
   EXPECT_EQ(plainTable(*crop->soil_ulysses->at(1).second), (PlainTable{1, {{0, 0.1, 0.2}, {0, 0, 0.4}}}));
 }
 
-TEST(SoilsFile, TheCropKeepsItsOwnTable) {
+TEST(SoilsFile, LeavesTheCropsOwnTableUnchanged) {
   const auto crop = cropWith(soil("Ulysses", 10, 0.5));
   EXPECT_EQ(testing::plainCrop(*crop), testing::plainCrop(smallCrop("Grain Sorghum")));
 }
 
-TEST(SoilsFile, IsFoundByTheNameInLowerCase) {
+TEST(SoilsFile, IsFoundByTheLowerCaseCropName) {
   for (const char* name : {"CORN", "Corn", "corn", "cORN"}) {
     const CropLibrary library;
     library.stock("a.txt", smallCrop(name));
@@ -72,7 +72,7 @@ TEST(SoilsFile, IsFoundByTheNameInLowerCase) {
 }
 
 TEST(SoilsFile, IsFoundByANameWithAccents) {
-  for (const char* name : {"\xC3\x96L", "\xC3\xB6l", "\xD6L"}) {  // the last as Windows-1252 writes ÖL
+  for (const char* name : {"\xC3\x96L", "\xC3\xB6l", "\xD6L"}) {  // the last is ÖL in Windows-1252
     const CropLibrary library;
     library.stock("a.txt", smallCrop(name));
     library.soils("\xC3\xB6l.txt", soil("ulysses", 7, 1));
@@ -80,7 +80,7 @@ TEST(SoilsFile, IsFoundByANameWithAccents) {
   }
 }
 
-TEST(SoilsFile, IsNotFoundByTheNameOfTheCropFile) {
+TEST(SoilsFile, IsNotFoundByTheCropFileName) {
   const CropLibrary library;
   library.stock("corn.txt", smallCrop("Maize"));
   library.soils("corn.txt", soil("ulysses", 7, 1));
@@ -88,7 +88,7 @@ TEST(SoilsFile, IsNotFoundByTheNameOfTheCropFile) {
   EXPECT_TRUE(library.read().cropCollection.Item(1)->soil_ulysses->empty());
 }
 
-TEST(SoilsFile, IsOfNoOtherCrop) {
+TEST(SoilsFile, IsUsedOnlyForItsCrop) {
   const CropLibrary library;
   library.stock("a.txt", smallCrop("Corn"));
   library.stock("b.txt", smallCrop("Wheat"));
@@ -100,7 +100,7 @@ TEST(SoilsFile, IsOfNoOtherCrop) {
   EXPECT_EQ(yieldOf(reader.cropCollection.Item(4)->soil_valent), 7) << "the custom crop of that name";
 }
 
-TEST(SoilsFile, IsBelowItsFolderWhateverTheNameOfTheCrop) {
+TEST(SoilsFile, IsInItsFolderWhateverTheNameOfTheCrop) {
   const CropLibrary library;
   library.folder().write("outside.txt", soil("ulysses", 7, 1));
   const std::string outside = (library.home() / "outside").string();
@@ -114,35 +114,35 @@ TEST(SoilsFile, IsBelowItsFolderWhateverTheNameOfTheCrop) {
   EXPECT_TRUE(reader.cropCollection.Item(3)->soil_ulysses->empty());
 }
 
-TEST(SoilsFile, SoilNamesCompareInLowerCaseAndAsAWhole) {
+TEST(SoilsFile, MatchesSoilNamesExactlyInLowerCase) {
   const auto crop = cropWith(soil("uLYSSES", 1, 0) + soil("VALENT ", 2, 0) + soil(" valentine", 3, 0));
   EXPECT_EQ(yieldOf(crop->soil_ulysses), 1);
   EXPECT_TRUE(crop->soil_valent->empty());
   EXPECT_TRUE(crop->soil_valentine->empty());
 }
 
-TEST(SoilsFile, ARecordOfAnotherSoilIsReadAndDropped) {
+TEST(SoilsFile, IgnoresRecordsOfOtherSoils) {
   const auto crop = cropWith(soil("Silt Loam", 1, 0) + soil("", 2, 0) + soil("Valent", 3, 0));
   EXPECT_TRUE(crop->soil_ulysses->empty());
   EXPECT_EQ(yieldOf(crop->soil_valent), 3);
 }
 
-TEST(SoilsFile, TheLastRecordOfASoilCounts) {
+TEST(SoilsFile, TheLastRecordOfASoilIsUsed) {
   EXPECT_EQ(yieldOf(cropWith(soil("valent", 1, 0) + soil("valent", 2, 0))->soil_valent), 2);
 }
 
-TEST(SoilsFile, MayHaveAnyNumberOfRecords) {
+TEST(SoilsFile, CanHaveAnyNumberOfRecords) {
   std::string bytes;
   for (int i = 0; i < 2000; ++i)
     bytes += soil("dropped", i, 0);
   EXPECT_EQ(yieldOf(cropWith(bytes + soil("valentine", 5, 0))->soil_valentine), 5);
 }
 
-TEST(SoilsFile, OfNoLinesIsNothing) {
+TEST(SoilsFile, IfEmptySetsNoSoils) {
   EXPECT_TRUE(cropWith("")->soil_ulysses->empty());
 }
 
-TEST(SoilsFile, WhatStandsBeforeABrokenRecordStays) {
+TEST(SoilsFile, KeepsTheRecordsBeforeABrokenOne) {
   const std::string good = soil("ulysses", 1, 0.5);
   for (const std::string& broken :
        {std::string("\r\n"), std::string("valent\r\n"), std::string("a=valent\r\n"),
@@ -157,11 +157,11 @@ TEST(SoilsFile, WhatStandsBeforeABrokenRecordStays) {
   }
 }
 
-TEST(SoilsFile, ABrokenRecordLeavesTheSoilsEarlierTables) {
+TEST(SoilsFile, ABrokenRecordKeepsEarlierTablesOfItsSoil) {
   EXPECT_EQ(yieldOf(cropWith(soil("valent", 1, 0) + "a=valent\nb=0\nc=0\nd=2\n")->soil_valent), 1);
 }
 
-TEST(SoilsFile, CutAnywhereGivesTheRecordsThatAreWhole) {
+TEST(SoilsFile, CutAnywhereGivesTheCompleteRecords) {
   const std::string whole = soil("ulysses", 1, 0.5) + soil("valent", 2, 0.5) + soil("valentine", 3, 0.5);
   for (std::size_t length = 0; length <= whole.size(); ++length) {
     const std::string cut = whole.substr(0, length);
@@ -173,14 +173,14 @@ TEST(SoilsFile, CutAnywhereGivesTheRecordsThatAreWhole) {
   }
 }
 
-TEST(SoilsFile, OfManyLargeTablesDoesNotHang) {
+TEST(SoilsFile, WithManyLargeTablesDoesNotHang) {
   std::string bytes;
   for (int i = 0; i < 20'000; ++i)
     bytes += "=x\n=0,999\n=999\n=\n=\n";
   EXPECT_TRUE(cropWith(soil("valent", 1, 0) + bytes)->soil_ulysses->empty());
 }
 
-TEST(SoilsFile, OfABadCropFileIsNotRead) {
+TEST(SoilsFile, IsNotReadForABadCropFile) {
   const CropLibrary library;
   library.stock("a.txt", "CROP=Corn\r\n");
   library.stock("b.txt", smallCrop("Wheat"));
@@ -188,7 +188,7 @@ TEST(SoilsFile, OfABadCropFileIsNotRead) {
   EXPECT_TRUE(library.read().cropCollection.Item(1)->soil_ulysses->empty());
 }
 
-TEST(SoilsFile, ThatIsAFolderIsPassedOver) {
+TEST(SoilsFile, IsIgnoredIfItIsAFolder) {
   const CropLibrary library;
   library.stock("a.txt", smallCrop("Corn"));
   std::filesystem::create_directories(library.home() / "crops/soils/corn.txt");

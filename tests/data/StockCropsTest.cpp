@@ -13,8 +13,8 @@
 #include <system_error>
 #include <vector>
 
-// The crop files that come with the program, read byte by byte with a parser of this test's own, so that a
-// fault of the program's reader cannot hide one of the files.
+// The stock crop files, read byte by byte with a separate parser, so that an error in the program's reader
+// cannot hide an error in a file.
 
 namespace {
 
@@ -52,7 +52,7 @@ struct GivenRow {
   std::array<double, columns> yields;
 };
 
-// The yields per acre that the tables are built on, for 11 to 21 inches of rain.
+// The known yields per acre that the tables are based on, for 11 to 21 inches of rain.
 const std::vector<GivenRow>& givenRows() {
   static const std::vector<GivenRow> rows = {
       {"Corn", 0, {0, 0, 0, 0, 0, 0, 0, 11.1, 25.6, 39.9, 54}},
@@ -92,7 +92,7 @@ std::string bytesOf(const StockCrop& crop) {
   return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 
-/// The lines that end in CR LF, without it. What follows the last of them is not among them.
+/// The lines that end with CR LF, without it. An incomplete last line is not included.
 std::vector<std::string> linesOf(const std::string& bytes) {
   std::vector<std::string> lines;
   std::size_t begin = 0;
@@ -103,7 +103,7 @@ std::vector<std::string> linesOf(const std::string& bytes) {
   return lines;
 }
 
-/// The texts of line 9, one a cell; empty when the file has no such line.
+/// The texts of line 9, one per cell; empty if the file has no such line.
 std::vector<std::string> cellTexts(const StockCrop& crop) {
   const auto lines = linesOf(bytesOf(crop));
   const std::string key = "YIELD_VALUES=";
@@ -122,8 +122,8 @@ double number(const std::string& text) {
   return value;
 }
 
-/// The yields by row (net irrigation) and column (rain from 11 inches). A missing cell reads as -1, which no
-/// test takes for a yield.
+/// The yields by row (net irrigation) and column (rain from 11 inches). A missing cell is -1, which is never
+/// a yield.
 std::vector<std::array<double, columns>> tableOf(const StockCrop& crop) {
   const auto texts = cellTexts(crop);
   std::vector<std::array<double, columns>> table(crop.lastRow + 1);
@@ -161,7 +161,7 @@ TEST_P(StockCrops, HasNineLinesEndedByCrLf) {
   EXPECT_EQ(std::count(bytes.begin(), bytes.end(), '\r'), 9);
 }
 
-TEST_P(StockCrops, HasNameUnitsRainAndIrrigationInTheirLines) {
+TEST_P(StockCrops, HasNameUnitsRainAndIrrigationInTheRightLines) {
   const auto lines = linesOf(bytesOf(GetParam()));
   ASSERT_EQ(lines.size(), 9U);
   EXPECT_EQ(lines[0], "CROP=" + GetParam().name);
@@ -173,11 +173,11 @@ TEST_P(StockCrops, HasNameUnitsRainAndIrrigationInTheirLines) {
     EXPECT_EQ(lines[even], "") << "line " << even + 1;
 }
 
-TEST_P(StockCrops, HasOneValueForEachCell) {
+TEST_P(StockCrops, HasOneValuePerCell) {
   EXPECT_EQ(cellTexts(GetParam()).size(), (GetParam().lastRow + 1) * columns);
 }
 
-TEST_P(StockCrops, WritesItsYieldsInShortestForm) {
+TEST_P(StockCrops, WritesYieldsInShortestForm) {
   for (const auto& text : cellTexts(GetParam())) {
     std::array<char, 64> shortest{};
     const auto end = std::to_chars(shortest.data(), shortest.data() + shortest.size(), number(text),
@@ -189,7 +189,7 @@ TEST_P(StockCrops, WritesItsYieldsInShortestForm) {
   }
 }
 
-TEST_P(StockCrops, HoldsTheGivenRows) {
+TEST_P(StockCrops, ContainsTheKnownRows) {
   const auto table = tableOf(GetParam());
   int compared = 0;
   for (const auto& row : givenRows()) {
@@ -203,7 +203,7 @@ TEST_P(StockCrops, HoldsTheGivenRows) {
   EXPECT_EQ(compared, 4);
 }
 
-TEST_P(StockCrops, NeverFallsAsRainRises) {
+TEST_P(StockCrops, YieldNeverFallsAsRainRises) {
   const auto table = tableOf(GetParam());
   for (std::size_t r = 0; r < table.size(); ++r) {
     for (std::size_t c = 1; c < columns; ++c) {
@@ -212,7 +212,7 @@ TEST_P(StockCrops, NeverFallsAsRainRises) {
   }
 }
 
-TEST_P(StockCrops, NeverFallsAsWaterRisesButForSunflowersLostPound) {
+TEST_P(StockCrops, YieldNeverFallsAsWaterRisesExceptSunflowerByOnePound) {
   const auto table = tableOf(GetParam());
   for (std::size_t r = 1; r < table.size(); ++r) {
     for (std::size_t c = 0; c < columns; ++c) {
@@ -226,8 +226,8 @@ TEST_P(StockCrops, NeverFallsAsWaterRisesButForSunflowersLostPound) {
   }
 }
 
-// In wet years an inch among the last three buys less than half of what one in the middle of the table buys.
-TEST_P(StockCrops, FlattensTowardsItsLastRowsWhereRainIsHigh) {
+// In wet years an inch near the last row adds less than half the yield of an inch in the middle of the table.
+TEST_P(StockCrops, YieldLevelsOffTowardsTheLastRowsIfRainIsHigh) {
   const auto table = tableOf(GetParam());
   const auto last = GetParam().lastRow;
   for (int rain = 18; rain <= lastRain; ++rain) {
@@ -238,9 +238,9 @@ TEST_P(StockCrops, FlattensTowardsItsLastRowsWhereRainIsHigh) {
   }
 }
 
-// A lookup takes a yield of at most 1 for a fraction of the maximum yield. Such cells would make a crop that
-// hardly stands look like a good one, so the tables hold none but the one that was given.
-TEST_P(StockCrops, HasNoCellThatReadsAsAFractionButCornsGivenOne) {
+// A yield of at most 1 would be read as a fraction of the maximum yield, so that a nearly failed crop looks
+// like a good one. So the tables contain no such cell except the known one.
+TEST_P(StockCrops, HasNoCellThatReadsAsAFractionExceptOneOfCorn) {
   const auto table = tableOf(GetParam());
   int fractions = 0;
   for (const auto& row : table) {
@@ -257,7 +257,7 @@ INSTANTIATE_TEST_SUITE_P(Files, StockCrops, testing::ValuesIn(stockCrops()),
                            return name;
                          });
 
-TEST(StockCropsExtraCells, CornBeginsToYieldWithTheFirstInchAt15InchesOfRain) {
+TEST(StockCropsExtraCells, CornYieldsFromTheFirstInchAt15InchesOfRain) {
   const auto& corn = cropNamed("Corn");
   EXPECT_EQ(cell(corn, 1, 15), 0.4);
   EXPECT_EQ(cell(corn, 1, 14), 0);
@@ -271,8 +271,8 @@ TEST(StockCropsExtraCells, SunflowerPeaksOneRowBeforeTheLast) {
   EXPECT_EQ(cell(cropNamed("Sunflower"), 21, 21), 3487);
 }
 
-// Any other file in these folders, a hidden one too, would become a crop.
-TEST(StockCropsFolder, HoldsTheSixFilesAndNoOther) {
+// Any other file in these folders, even a hidden one, would become a crop.
+TEST(StockCropsFolder, ContainsOnlyTheSixFiles) {
   std::vector<std::string> found;
   for (const auto& entry : std::filesystem::recursive_directory_iterator(cropFolder())) {
     if (!entry.is_directory())

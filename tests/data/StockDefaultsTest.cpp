@@ -16,7 +16,7 @@ namespace {
 using testing::contentOf;
 using testing::CostField;
 
-constexpr double unset = -1;  // an empty cell: the field stays as it was
+constexpr double unset = -1;  // an empty cell: the field is unchanged
 
 const std::vector<std::string>& cropNames() {
   static const std::vector<std::string> names{"alfalfa",       "wheat",    "corn",  "sunflower",
@@ -29,7 +29,7 @@ struct DefaultRow {
   std::array<double, 7> values;
 };
 
-// Every default a second time, so that a slip in either table shows.
+// A second copy of every default, so that an error in either table is found.
 const std::vector<DefaultRow>& defaultRows() {
   using C = inputCosts;
   static const std::vector<DefaultRow> rows{
@@ -73,7 +73,7 @@ std::string textOf(const inputCosts& costs) {
   return contentOf(crop);
 }
 
-/// Costs with a number of its own in each field, or none in any.
+/// Costs with a different number in each field, or all empty.
 inputCosts before(bool filled) {
   inputCosts costs;
   double value = 1000;
@@ -101,7 +101,7 @@ TEST_P(StockDefaults, SetEveryCellOfTheTableAndNothingElse) {
   }
 }
 
-TEST_P(StockDefaults, LeaveWhatTheFileDoesNotKeep) {
+TEST_P(StockDefaults, LeaveUnsavedFieldsUnchanged) {
   inputCosts costs;
   costs.AlfalfaFlat = 1;
   costs.NPerAcre = 2;
@@ -123,7 +123,7 @@ INSTANTIATE_TEST_SUITE_P(Crops, StockDefaults, ::testing::Range(std::size_t{0}, 
                            return name;
                          });
 
-TEST(StockDefaultPrices, AreThoseOfEachCrop) {
+TEST(StockDefaultPrices, MatchEachCrop) {
   const std::vector<std::pair<double, double>> prices{{85, 10},    {6.2, 75},   {6.52, 220},
                                                       {0.2, 3500}, {5.75, 120}, {10.22, 65}};
   for (std::size_t i = 0; i < prices.size(); ++i) {
@@ -134,13 +134,13 @@ TEST(StockDefaultPrices, AreThoseOfEachCrop) {
   }
 }
 
-TEST(StockDefaultPrices, AreNoneForFallowAndOtherCrops) {
+TEST(StockDefaultPrices, DoNotExistForFallowAndOtherCrops) {
   for (const char* name :
        {"fallow", "", "Corn", "CORN", "corn ", " corn", "custom crop 1", "grain  sorghum", "soy"})
     EXPECT_EQ(defaultPrice(name), nullptr) << name;
 }
 
-TEST(StockDefaultCosts, OfAnyOtherCropAreTheThreeSwitchesAlone) {
+TEST(StockDefaultCosts, OfAnyOtherCropOnlySetTheThreeSwitches) {
   for (const char* name : {"", "Corn", "corn ", "custom crop 1", "Grain Sorghum"}) {
     inputCosts expected = before(true);
     expected.NOptimal = expected.POptimal = expected.SeedOptimal = true;
@@ -150,7 +150,7 @@ TEST(StockDefaultCosts, OfAnyOtherCropAreTheThreeSwitchesAlone) {
   }
 }
 
-TEST(StockDefaultPlant, IsActiveAndPumpsWithNaturalGas) {
+TEST(StockDefaultPlant, IsActiveAndUsesNaturalGas) {
   IrrigationCosts plant;
   plant.FixedPerAcre = 1;
   plant.dblMaxInches = 2;

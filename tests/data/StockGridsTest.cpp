@@ -18,7 +18,7 @@ namespace fs = std::filesystem;
 using testing::plainSplit;
 using testing::Texts;
 
-/// The entries of a line of a file behind its key.
+/// The entries of a line of a file, after its key.
 Texts entries(const Texts& lines, std::size_t line, const std::string& key) {
   EXPECT_GT(lines.size(), line);
   if (lines.size() <= line) return {};
@@ -26,7 +26,7 @@ Texts entries(const Texts& lines, std::size_t line, const std::string& key) {
   return plainSplit(lines[line].substr(key.size()));
 }
 
-TEST(StockGrids, EqualTheCropFilesCellForCell) {
+TEST(StockGrids, EqualTheCropFilesCellByCell) {
   std::size_t files = 0;
   for (const auto& entry : fs::directory_iterator(fs::path(VERDALIS_SOURCE_DIR) / "crops")) {
     if (entry.is_directory()) continue;
@@ -53,7 +53,7 @@ TEST(StockGrids, EqualTheCropFilesCellForCell) {
   EXPECT_EQ(stockGrids().size(), files);
 }
 
-TEST(StockGrids, KnowNoOtherCrop) {
+TEST(StockGrids, DoNotExistForOtherCrops) {
   for (const char* name : {"", "fallow", "Corn", "corn ", "oats"})
     EXPECT_EQ(stockGrid(name), nullptr) << name;
 }

@@ -31,8 +31,8 @@ void expectNotWritten(const fs::path& path) {
   EXPECT_NE(text.find(path.string()), std::string::npos) << text;
 }
 
-/// While it lives, no file of this process can grow beyond `bytes`: a write beyond fails halfway, as on a
-/// full disk.
+/// While this object exists, files of this process cannot grow beyond `bytes`: a write beyond that fails
+/// halfway, like on a full disk.
 class FullDisk {
  public:
   explicit FullDisk(rlim_t bytes) {
@@ -53,7 +53,7 @@ class FullDisk {
   void (*handler_)(int) = nullptr;
 };
 
-TEST(WriteFile, TakesANameAsLongAsTheFileSystemDoes) {
+TEST(WriteFile, AcceptsANameOfTheMaximumLength) {
   const TemporaryFolder folder;
   const std::string name(255, 'n');
   writeFile(folder / name, "long");
@@ -61,7 +61,7 @@ TEST(WriteFile, TakesANameAsLongAsTheFileSystemDoes) {
   expectNotWritten(folder / (name + "n"));
 }
 
-TEST(WriteFile, MakesANewFile) {
+TEST(WriteFile, CreatesANewFile) {
   const TemporaryFolder folder;
   const std::string bytes("one\r\ntwo\n\0\xFF", 11);
   writeFile(folder / "a.txt", bytes);
@@ -69,7 +69,7 @@ TEST(WriteFile, MakesANewFile) {
   EXPECT_EQ(folder.names(), Names{"a.txt"});
 }
 
-TEST(WriteFile, ReplacesAFileAsAWhole) {
+TEST(WriteFile, ReplacesAFileCompletely) {
   const TemporaryFolder folder;
   folder.write("a.txt", "a long old text");
   writeFile(folder / "a.txt", "new");
@@ -87,8 +87,8 @@ TEST(WriteFile, WritesManyMegabytes) {
   EXPECT_TRUE(folder.read("a.txt") == bytes);
 }
 
-// Whoever reads the old file goes on reading it: it is replaced and not written over.
-TEST(WriteFile, LeavesTheOldFileToItsReaders) {
+// The file is replaced, not overwritten, so a process that has it open still reads the old contents.
+TEST(WriteFile, OpenReadersKeepTheOldFile) {
   const TemporaryFolder folder;
   folder.write("a.txt", "old");
   fs::create_hard_link(folder / "a.txt", folder / "reader");
@@ -97,7 +97,7 @@ TEST(WriteFile, LeavesTheOldFileToItsReaders) {
   EXPECT_EQ(folder.read("a.txt"), "new");
 }
 
-TEST(WriteFile, TakesANameWithoutAFolder) {
+TEST(WriteFile, AcceptsANameWithoutAFolder) {
   const TemporaryFolder folder;
   const fs::path before = fs::current_path();
   fs::current_path(folder.path());
@@ -115,7 +115,7 @@ TEST(WriteFile, KeepsThePermissions) {
   }
 }
 
-TEST(WriteFile, GivesANewFileThePermissionsThatTheMaskAllows) {
+TEST(WriteFile, CreatesFilesWithThePermissionsOfTheMask) {
   const TemporaryFolder folder;
   const mode_t before = ::umask(027);
   writeFile(folder / "a.txt", "new");
@@ -136,7 +136,7 @@ TEST(WriteFile, FollowsLinks) {
   EXPECT_EQ(folder.names("real"), Names{"a.txt"});
 }
 
-TEST(WriteFile, FollowsALinkToAFileThatIsYetToCome) {
+TEST(WriteFile, FollowsALinkToAFileThatDoesNotExistYet) {
   const TemporaryFolder folder;
   fs::create_directory(folder / "real");
   fs::create_symlink("real/a.txt", folder / "link");
@@ -145,7 +145,7 @@ TEST(WriteFile, FollowsALinkToAFileThatIsYetToCome) {
   EXPECT_TRUE(fs::is_symlink(folder / "link"));
 }
 
-TEST(WriteFile, FollowsALinkOfAFolder) {
+TEST(WriteFile, FollowsALinkToAFolder) {
   const TemporaryFolder folder;
   fs::create_directory(folder / "real");
   fs::create_directory_symlink("real", folder / "link");
@@ -153,7 +153,7 @@ TEST(WriteFile, FollowsALinkOfAFolder) {
   EXPECT_EQ(folder.read("real/a.txt"), "new");
 }
 
-TEST(WriteFile, FailsForLinksInACircle) {
+TEST(WriteFile, FailsForALoopOfLinks) {
   const TemporaryFolder folder;
   fs::create_symlink("two", folder / "one");
   fs::create_symlink("one", folder / "two");
@@ -162,7 +162,7 @@ TEST(WriteFile, FailsForLinksInACircle) {
   EXPECT_TRUE(fs::is_symlink(folder / "one"));
 }
 
-TEST(WriteFile, FailsWithoutAFolderForIt) {
+TEST(WriteFile, FailsIfTheFolderDoesNotExist) {
   const TemporaryFolder folder;
   expectNotWritten(folder / "missing/a.txt");
   expectNotWritten(folder.write("a.txt", "x") / "below a file.txt");
@@ -188,7 +188,7 @@ TEST(WriteFile, DoesNotReplaceAPipe) {
   EXPECT_EQ(folder.names(), (Names{"link", "pipe"}));
 }
 
-TEST(WriteFile, LeavesTheOldFileWhenTheDiskIsFull) {
+TEST(WriteFile, KeepsTheOldFileIfTheDiskIsFull) {
   const TemporaryFolder folder;
   folder.write("a.txt", "old");
   for (const rlim_t room : {0U, 1U, 4096U, 99'999U}) {
@@ -204,14 +204,14 @@ TEST(WriteFile, LeavesTheOldFileWhenTheDiskIsFull) {
   EXPECT_EQ(folder.read("a.txt").size(), 100'000U);
 }
 
-TEST(WriteFile, MakesNoFileWhenTheDiskIsFull) {
+TEST(WriteFile, CreatesNoFileIfTheDiskIsFull) {
   const TemporaryFolder folder;
   const FullDisk full(2);
   expectNotWritten(folder / "a.txt");
   EXPECT_EQ(folder.names(), Names{});
 }
 
-/// Whether writing fails and leaves the old text, for a user whom permissions bind.
+/// Whether writing fails and keeps the old text, as a user who is subject to permissions.
 std::optional<bool> staysAsItWas(const TemporaryFolder& folder, const fs::path& file) {
   return asOrdinaryUser([&] {
     try {
@@ -224,7 +224,7 @@ std::optional<bool> staysAsItWas(const TemporaryFolder& folder, const fs::path& 
   });
 }
 
-TEST(WriteFile, LeavesAProtectedFile) {
+TEST(WriteFile, DoesNotReplaceAWriteProtectedFile) {
   const TemporaryFolder folder;
   const auto file = folder.write("a.txt", "old");
   openToAll(folder);
@@ -234,7 +234,7 @@ TEST(WriteFile, LeavesAProtectedFile) {
   EXPECT_TRUE(*stayed);
 }
 
-TEST(WriteFile, LeavesAFileOfAFolderThatCannotBeWritten) {
+TEST(WriteFile, DoesNotReplaceAFileInAReadOnlyFolder) {
   const TemporaryFolder folder;
   const auto file = folder.write("below/a.txt", "old");
   openToAll(folder);

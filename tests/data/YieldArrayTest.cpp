@@ -36,7 +36,7 @@ std::string repeated(const std::string& entry, int count) {
   return list;
 }
 
-TEST(ParseEquals, GivesWhatFollowsTheFirstSign) {
+TEST(ParseEquals, ReturnsTheTextAfterTheFirstEqualSign) {
   EXPECT_EQ(FileReader::parseEquals("CROP=Corn"), "Corn");
   EXPECT_EQ(FileReader::parseEquals("CROP=a=b=c"), "a=b=c");
   EXPECT_EQ(FileReader::parseEquals("CROP=="), "=");
@@ -46,33 +46,33 @@ TEST(ParseEquals, GivesWhatFollowsTheFirstSign) {
   EXPECT_EQ(FileReader::parseEquals(" key = Corn "), " Corn ");
 }
 
-TEST(ParseEquals, FailsAtOnceWithoutOne) {
+TEST(ParseEquals, FailsWithoutAnEqualSign) {
   for (const std::string& line : {std::string(), std::string("CROP Corn"), std::string(1'000'000, 'x')}) {
     static_cast<void>(
         failureOf(ErrorNumber::invalidCall, [&] { static_cast<void>(FileReader::parseEquals(line)); }));
   }
 }
 
-TEST(MakeYieldArray, FillsRowAfterRowFromTheFirstRainfallColumn) {
+TEST(MakeYieldArray, FillsRowByRowFromTheFirstRainfallColumn) {
   const PlainTable expected{2, {{0, 0, 1, 2, 3}, {0, 0, 4, 5, 6}}};
   EXPECT_EQ(tableOf("2,3,4", "0,1", "1,2,3,4,5,6"), expected);
 }
 
-TEST(MakeYieldArray, TakesASingleCell) {
+TEST(MakeYieldArray, AcceptsASingleCell) {
   EXPECT_EQ(tableOf("0", "0", "7.5"), (PlainTable{0, {{7.5}}}));
 }
 
-TEST(MakeYieldArray, ASingleRainfallMakesEachValueARow) {
+TEST(MakeYieldArray, ASingleRainfallGivesOneValuePerRow) {
   EXPECT_EQ(tableOf("1", "0,1,2", "7,8,9"), (PlainTable{1, {{0, 7}, {0, 8}, {0, 9}}}));
 }
 
-TEST(MakeYieldArray, CountsOnlyTheFirstAndLastRainfallAndTheLastIrrigation) {
+TEST(MakeYieldArray, UsesOnlyTheFirstAndLastRainfallAndTheLastIrrigation) {
   const PlainTable expected{1, {{0, 1, 2}, {0, 3, 4}}};
   EXPECT_EQ(tableOf("1,99999,x,,1e400,2", "17,no number,-3,1", "1,2,3,4"), expected);
   EXPECT_EQ(tableOf("1,2", "1", "1,2,3,4"), expected);
 }
 
-TEST(MakeYieldArray, RoundsItsBoundsToWholeInchesHalvesToTheEvenOne) {
+TEST(MakeYieldArray, RoundsItsBoundsToWholeInchesHalvesToEven) {
   EXPECT_EQ(tableOf("0.5,1.5", "0.5", "1,2,3"), (PlainTable{0, {{1, 2, 3}}}));
   EXPECT_EQ(tableOf(" 1 , 2 ", " 1 ", "1,2,3,4"), (PlainTable{1, {{0, 1, 2}, {0, 3, 4}}}));
   EXPECT_EQ(tableOf("1e0,+2.", "0.6", "1,2,3,4"), (PlainTable{1, {{0, 1, 2}, {0, 3, 4}}}));
@@ -92,11 +92,11 @@ TEST(MakeYieldArray, ReadsTheLeadingNumberOfEachValue) {
 TEST(MakeYieldArray, FailsForMoreValuesThanCells) {
   EXPECT_EQ(tableOf("11,12", "0,1", "1,2,3,4").rows.size(), 2U);
   expectFailure(ErrorNumber::subscript, "11,12", "0,1", "1,2,3,4,5");
-  expectFailure(ErrorNumber::subscript, "11,12", "0,1", "1,2,3,4,");  // an empty value is one too
+  expectFailure(ErrorNumber::subscript, "11,12", "0,1", "1,2,3,4,");  // an empty value counts too
   expectFailure(ErrorNumber::subscript, "0", "0", repeated("1", 100'000));
 }
 
-TEST(MakeYieldArray, FailsForBoundsThatAreNoNumbers) {
+TEST(MakeYieldArray, FailsForBoundsThatAreNotNumbers) {
   for (const char* bound : {"", " ", "x", "1,", "1,x", ",", "1 2", "1-2", "0x10"}) {
     expectFailure(ErrorNumber::typeMismatch, bound, "0", "1");
     expectFailure(ErrorNumber::typeMismatch, "1", bound, "1");
@@ -118,13 +118,13 @@ TEST(MakeYieldArray, FailsForNegativeBounds) {
   expectFailure(ErrorNumber::subscript, "-1,1", "0", "1");
 }
 
-// A list that falls has no column for its first value.
-TEST(MakeYieldArray, FailsForAValueWhereRainfallFalls) {
+// With decreasing rainfall, the first value has no column.
+TEST(MakeYieldArray, FailsForAValueIfRainfallDecreases) {
   expectFailure(ErrorNumber::subscript, "21,11", "0,1", "1");
   EXPECT_EQ(tableOf("3,1", "0", ""), (PlainTable{3, {{0, 0}}}));
 }
 
-TEST(MakeYieldArray, HasAtMost1000RowsAnd1000Columns) {
+TEST(MakeYieldArray, AllowsAtMost1000RowsAnd1000Columns) {
   const PlainTable wide = tableOf("0,999", "0", repeated("3", 1000));
   EXPECT_EQ(wide.rows.size(), 1U);
   EXPECT_EQ(wide.rows[0], std::vector<double>(1000, 3.0));
@@ -138,7 +138,7 @@ TEST(MakeYieldArray, HasAtMost1000RowsAnd1000Columns) {
   expectFailure(ErrorNumber::subscript, "0,32767", "0,32767", "");
 }
 
-/// Entries of a list: whole numbers of a range, and now and then something odd.
+/// List entries: whole numbers in a range, and sometimes an unusual one.
 rc::Gen<std::string> anyList(int least, int most, std::size_t length) {
   const auto plain = rc::gen::map(rc::gen::inRange(least, most), [](int n) { return std::to_string(n); });
   const auto odd = rc::gen::element<std::string>("", " ", "x", "1.5", "2.5", "-0.4", "1e1", "1e400", "1e-400",
@@ -153,7 +153,7 @@ rc::Gen<std::string> anyList(int least, int most, std::size_t length) {
                       });
 }
 
-RC_GTEST_PROP(MakeYieldArray, IsThatOfThePlainReader, ()) {
+RC_GTEST_PROP(MakeYieldArray, GivesTheSameTableAsTheSimpleReader, ()) {
   const auto rainfall = *anyList(0, 4, 1) + "," + *anyList(2, 7, *rc::gen::inRange<std::size_t>(1, 4));
   const auto irrigation = *anyList(0, 5, *rc::gen::inRange<std::size_t>(0, 4));
   const auto values = *anyList(-5, 300, *rc::gen::inRange<std::size_t>(0, 20));

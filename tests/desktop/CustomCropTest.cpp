@@ -13,7 +13,7 @@
 namespace verdalis::testing {
 namespace {
 
-/// The custom crop editor with mouse, keys and the real clipboard.
+/// Tests the custom crop editor with the mouse, the keyboard and the real clipboard.
 class CustomCrop : public RunningDesktop {
  protected:
   [[nodiscard]] CustomCropPane& editor() { return program().main().pneCustomCrop; }
@@ -27,7 +27,7 @@ class CustomCrop : public RunningDesktop {
     QTest::qWait(0);
   }
 
-  /// Goes through a list with the keys until it shows a text.
+  /// Selects a list entry by its text, with the arrow keys.
   void pick(int list, const char* text) {
     auto* shown = widget<QComboBox>("cboCustomGrid(" + std::to_string(list) + ")");
     shown->setFocus(Qt::TabFocusReason);
@@ -38,7 +38,7 @@ class CustomCrop : public RunningDesktop {
     ASSERT_EQ(shown->currentText(), QLatin1String(text));
   }
 
-  /// Goes to the entry of a list with its first letter, past no other one.
+  /// Selects a list entry directly by its first letter.
   void pickByLetter(int list, Qt::Key letter, const char* text) {
     auto* shown = widget<QComboBox>("cboCustomGrid(" + std::to_string(list) + ")");
     shown->setFocus(Qt::TabFocusReason);
@@ -68,7 +68,7 @@ class CustomCrop : public RunningDesktop {
     return names;
   }
 
-  /// The row of a crop on the main pane; empty without one.
+  /// The row of a crop on the main pane; empty if there is none.
   [[nodiscard]] std::string rowOf(const std::string& crop) {
     for (const auto& row : program().main().pneMain.cr) {
       if (row->GetCrop() == crop) return row->path();
@@ -77,8 +77,8 @@ class CustomCrop : public RunningDesktop {
   }
 };
 
-TEST_F(CustomCrop, LivesFromTheFirstCellToItsDeletion) {
-  // Made: named, sized, pasted from a spreadsheet, one cell mended by hand.
+TEST_F(CustomCrop, ACropCanBeCreatedUsedRenamedAndDeleted) {
+  // Create: name it, set its size, paste from a spreadsheet, correct one cell by hand.
   open();
   type("txtCustom(0)", "Oats/new");
   pick(1, "11");
@@ -103,7 +103,7 @@ TEST_F(CustomCrop, LivesFromTheFirstCellToItsDeletion) {
             "CROP=Oats/new\r\n\r\nUNITS=lb,pounds\r\n\r\nANNUAL_RAIN=11,12\r\n\r\nEFF_IRRIG=0,1,2\r\n\r\n"
             "YIELD_VALUES=1000,1100,2000,2200,3000,3300\r\n");
 
-  // Used: it is a row of the main pane and takes part in an evaluation.
+  // Use: it has a row on the main pane and takes part in an evaluation.
   press("cmdCustomGrid(5)");
   ASSERT_EQ(pane(), "pneMain");
   type("txtArea", "100");
@@ -123,7 +123,7 @@ TEST_F(CustomCrop, LivesFromTheFirstCellToItsDeletion) {
   pressKey(Qt::Key_Escape);
   ASSERT_EQ(pane(), "pneMain");
 
-  // Renamed: with No the old file gets the new name in it.
+  // Rename: the answer No keeps the old file and writes the new name into it.
   choose(program().main().menus.mnuCustomCrop);
   QTest::qWait(0);
   EXPECT_FALSE(widget("cmdCustomGrid(6)")->isVisible());
@@ -144,7 +144,7 @@ TEST_F(CustomCrop, LivesFromTheFirstCellToItsDeletion) {
   EXPECT_EQ(files(), std::vector<std::string>{"Oatsnew.txt"});
   EXPECT_EQ(contents(folder() / "Oatsnew.txt").substr(0, 10), "CROP=Rye\r\n");
 
-  // Deleted, after a question that can be answered with No.
+  // Delete: the first question is answered with No.
   choose(program().main().menus.mnuCustomCrop);
   QTest::qWait(0);
   pick(0, "Rye");
@@ -178,7 +178,7 @@ TEST_F(CustomCrop, ATypedNameIsNotLostWithoutAQuestion) {
   EXPECT_EQ(pane(), "pneMain");
 }
 
-TEST_F(CustomCrop, TheWholeGridGoesToASpreadsheetAndBack) {
+TEST_F(CustomCrop, TheCopiedGridHasHeadsAndCannotBePastedBack) {
   open();
   pickByLetter(5, Qt::Key_A, "Alfalfa");
   EXPECT_EQ(grid()->rowCount(), 24);
@@ -192,7 +192,7 @@ TEST_F(CustomCrop, TheWholeGridGoesToASpreadsheetAndBack) {
   const QString copied = QApplication::clipboard()->text();
   EXPECT_TRUE(copied.contains(QStringLiteral("\t11 in.\t12 in."))) << copied.left(60).toStdString();
   EXPECT_EQ(copied.count(QLatin1Char('\n')), 23);
-  // With its heads it is no table of numbers.
+  // A pasted text that includes row and column heads is not a table of numbers.
   boxes.clear();
   expectBox();
   press("cmdCustomGrid(4)");
@@ -201,7 +201,7 @@ TEST_F(CustomCrop, TheWholeGridGoesToASpreadsheetAndBack) {
   EXPECT_EQ(cell(1, 1), "1.391");
 }
 
-TEST_F(CustomCrop, TheShadesFollowTheYieldsInBothSchemes) {
+TEST_F(CustomCrop, CellShadesFollowTheYieldsInBothSchemes) {
   open();
   pickByLetter(5, Qt::Key_C, "Corn");
   const auto ground = [&](int row, int column) { return grid()->item(row, column)->background().color(); };
@@ -226,7 +226,7 @@ TEST_F(CustomCrop, TheShadesFollowTheYieldsInBothSchemes) {
   EXPECT_LT(low[1].lightness() + 100, low[0].lightness()) << "the shades of the dark scheme are dark";
 }
 
-TEST_F(CustomCrop, ALargePasteIsImmediate) {
+TEST_F(CustomCrop, ALargePasteIsFast) {
   open();
   pick(1, "9");
   pick(2, "32");
@@ -250,7 +250,7 @@ TEST_F(CustomCrop, ALargePasteIsImmediate) {
   EXPECT_LE(updates, 3) << "the table is drawn once, not once a cell";
 }
 
-TEST_F(CustomCrop, ACharacterOutsideTheCommonPlaneIsOneCharacter) {
+TEST_F(CustomCrop, ACharacterOfTwoUtf16UnitsIsOneCharacter) {
   open();
   clickCell(1, 1);
   QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, QString::fromUtf8("🌽"));

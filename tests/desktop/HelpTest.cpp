@@ -29,7 +29,7 @@ QStringList pages() {
   return QDir(helpFolder).entryList({QStringLiteral("*.htm")}, QDir::Files, QDir::Name);
 }
 
-/// What a page has for an attribute, such as href.
+/// The values of an attribute in a page, such as href.
 QStringList valuesOf(const QString& page, const QString& attribute) {
   QStringList values;
   const QRegularExpression wanted(QStringLiteral("\\b%1=\"([^\"]*)\"").arg(attribute));
@@ -44,7 +44,7 @@ QSet<QString> anchorsOf(const QString& page) {
   return {names.begin(), names.end()};
 }
 
-/// Every topic that a button or a menu entry of the program asks for.
+/// Every topic that a button or a menu entry opens.
 QStringList topicsOfTheProgram() {
   QStringList topics{QStringLiteral("batchoption.htm"), QStringLiteral("index.htm"),
                      QStringLiteral("mainInput.htm#SplitFactor"),
@@ -81,7 +81,7 @@ class Help : public ::testing::Test {
   desktop::HelpViewer help_{helpFolder};
 };
 
-TEST_F(Help, EveryTopicOpensWhateverTheCaseOfItsFile) {
+TEST_F(Help, EveryTopicOpensWhateverTheCaseOfItsFileName) {
   const QStringList files = pages();
   for (const QString& topic : topicsOfTheProgram()) {
     const QString file = topic.section(QLatin1Char('#'), 0, 0);
@@ -99,7 +99,7 @@ TEST_F(Help, EveryTopicOpensWhateverTheCaseOfItsFile) {
   }
 }
 
-TEST_F(Help, EveryAnchorStandsInItsFileInTheSameCase) {
+TEST_F(Help, EveryAnchorExistsInItsFileInTheSameCase) {
   for (const QString& topic : topicsOfTheProgram()) {
     const QString anchor = topic.section(QLatin1Char('#'), 1);
     if (anchor.isEmpty()) continue;
@@ -108,7 +108,7 @@ TEST_F(Help, EveryAnchorStandsInItsFileInTheSameCase) {
   }
 }
 
-TEST_F(Help, EveryLinkAndPictureResolves) {
+TEST_F(Help, EveryLinkAndPictureExists) {
   ASSERT_GT(pages().size(), 10);
   for (const QString& file : pages()) {
     const QString page = readPage(file);
@@ -129,7 +129,7 @@ TEST_F(Help, EveryLinkAndPictureResolves) {
   }
 }
 
-TEST_F(Help, EveryPageHasATitleOfItsOwn) {
+TEST_F(Help, EveryPageHasItsOwnTitle) {
   QSet<QString> titles;
   for (const QString& file : pages()) {
     QTextDocument page;
@@ -141,7 +141,7 @@ TEST_F(Help, EveryPageHasATitleOfItsOwn) {
   }
 }
 
-TEST_F(Help, EveryPageIsReachedFromTheFirst) {
+TEST_F(Help, EveryPageCanBeReachedFromTheFirst) {
   QSet<QString> reached;
   QStringList open{QStringLiteral("index.htm")};
   while (!open.isEmpty()) {
@@ -155,7 +155,7 @@ TEST_F(Help, EveryPageIsReachedFromTheFirst) {
     EXPECT_TRUE(reached.contains(file)) << file.toStdString();
 }
 
-TEST_F(Help, AMissingTopicShowsNothingAndBreaksNothing) {
+TEST_F(Help, AMissingTopicHasNoEffect) {
   for (const char* missing :
        {"nowhere.htm", "", "#", "../../README.md", "/etc/passwd", "nowhere.htm#TotalAcres"}) {
     help_.showTopic(QString::fromUtf8(missing));
@@ -169,7 +169,7 @@ TEST_F(Help, AMissingTopicShowsNothingAndBreaksNothing) {
   EXPECT_FALSE(shownText().isEmpty());
 }
 
-TEST_F(Help, BackForwardAndHome) {
+TEST_F(Help, BackForwardAndHomeWork) {
   EXPECT_FALSE(action("Back")->isEnabled());
   EXPECT_FALSE(action("Forward")->isEnabled());
   help_.showTopic(QStringLiteral("results.htm"));
@@ -185,14 +185,14 @@ TEST_F(Help, BackForwardAndHome) {
   EXPECT_EQ(shownFile(), QStringLiteral("index.htm"));
 }
 
-TEST_F(Help, AnEscapeClosesIt) {
+TEST_F(Help, EscapeClosesIt) {
   help_.showTopic(QStringLiteral("index.htm"));
   ASSERT_TRUE(QTest::qWaitForWindowActive(&help_));
   QTest::keyClick(&help_, Qt::Key_Escape);
   EXPECT_FALSE(help_.isVisible());
 }
 
-TEST_F(Help, ASearchListsTheTopicsThatHaveTheWord) {
+TEST_F(Help, ASearchListsTheTopicsThatContainTheWord) {
   help_.showTopic(QStringLiteral("index.htm"));
   searchFor("FALLOW");
   EXPECT_TRUE(shownText().contains(QStringLiteral("Topics with “FALLOW”")));
@@ -202,13 +202,13 @@ TEST_F(Help, ASearchListsTheTopicsThatHaveTheWord) {
   EXPECT_LT(found.size(), pages().size());
 }
 
-TEST_F(Help, AFoundTopicOpensByItsLinkAndTheListIsLeftByBack) {
+TEST_F(Help, ASearchResultOpensByItsLinkAndBackReturnsToTheList) {
   help_.showTopic(QStringLiteral("index.htm"));
   searchFor("horsepower");
   searchFor("fallow");
   const QStringList found = valuesOf(browser()->toHtml(), QStringLiteral("href"));
   ASSERT_FALSE(found.isEmpty());
-  // From the search field to the first link, and along it.
+  // From the search field to the first link, and open it.
   browser()->setFocus();
   QTest::keyClick(browser(), Qt::Key_Tab);
   QTest::keyClick(browser(), Qt::Key_Return);
@@ -216,7 +216,7 @@ TEST_F(Help, AFoundTopicOpensByItsLinkAndTheListIsLeftByBack) {
   EXPECT_FALSE(shownText().contains(QLatin1String("Topics with")));
 }
 
-TEST_F(Help, ASearchForNothingThatIsThereSaysSo) {
+TEST_F(Help, ASearchWithoutResultsSaysSo) {
   help_.showTopic(QStringLiteral("index.htm"));
   searchFor("zeppelin");
   EXPECT_TRUE(shownText().contains(QLatin1String("No topic mentions this.")));
@@ -228,7 +228,7 @@ TEST_F(Help, ASearchForNothingThatIsThereSaysSo) {
   EXPECT_EQ(shownText(), before);
 }
 
-TEST_F(Help, TheHomeTopicComesBackAfterASearchOnIt) {
+TEST_F(Help, HomeWorksAfterASearchOnTheHomeTopic) {
   help_.showTopic(QStringLiteral("index.htm"));
   const QString home = shownText();
   searchFor("zeppelin");

@@ -16,10 +16,10 @@
 namespace verdalis::testing {
 namespace {
 
-/// What the keyboard reaches, and with which keys.
+/// Tests which controls the keyboard reaches, and with which keys.
 class Keys : public RunningDesktop {
  protected:
-  /// The keys that lead to a widget; empty without any.
+  /// The keys assigned to a widget; empty if there are none.
   [[nodiscard]] static std::vector<QKeySequence> keysOf(QWidget* widget) {
     std::vector<QKeySequence> keys;
     if (const auto* button = qobject_cast<QAbstractButton*>(widget)) {
@@ -38,7 +38,7 @@ class Keys : public RunningDesktop {
     return keys;
   }
 
-  /// What a person can use on a page with a key of its own: no repeated rows, no "?" buttons.
+  /// The controls on a page that need a key: no repeated rows, no "?" buttons.
   [[nodiscard]] static std::vector<QWidget*> usableOn(QWidget* page) {
     std::vector<QWidget*> usable;
     for (QWidget* widget : page->findChildren<QWidget*>()) {
@@ -58,7 +58,7 @@ class Keys : public RunningDesktop {
     return usable;
   }
 
-  /// Each has a key, and no two of those that can be in sight together have the same.
+  /// Requires that each control has a key, and that controls visible together have different keys.
   void expectKeys(QWidget* page, const std::set<QString>& taken = {}) {
     std::map<QString, QWidget*> owners;
     for (QWidget* widget : usableOn(page)) {
@@ -91,7 +91,7 @@ class Keys : public RunningDesktop {
   }
 };
 
-TEST_F(Keys, EveryControlOfEveryPaneHasOne) {
+TEST_F(Keys, EveryControlOfEveryPaneHasAKey) {
   start();
   const std::set<QString> taken = menuKeys();
   frmMain& main = program().main();
@@ -108,7 +108,7 @@ TEST_F(Keys, EveryControlOfEveryPaneHasOne) {
   }
 }
 
-TEST_F(Keys, EveryControlOfTheSmallWindowsHasOne) {
+TEST_F(Keys, EveryControlOfTheSmallWindowsHasAKey) {
   expectKeys(widget("frmWelcome"));
   start();
   program().windows.updating();
@@ -121,7 +121,7 @@ TEST_F(Keys, EveryControlOfTheSmallWindowsHasOne) {
   }
 }
 
-TEST_F(Keys, EveryEntryOfAMenuHasOne) {
+TEST_F(Keys, EveryMenuEntryHasAKey) {
   start();
   for (const QAction* title : window()->findChild<QMenuBar*>()->actions()) {
     if (title->menu() == nullptr) continue;
@@ -135,7 +135,7 @@ TEST_F(Keys, EveryEntryOfAMenuHasOne) {
   }
 }
 
-TEST_F(Keys, TheLetterLeadsToTheFieldOrPressesTheButton) {
+TEST_F(Keys, AltAndTheLetterFocusesTheFieldOrPressesTheButton) {
   start();
   typeFarm();
   for (const char* name :
@@ -149,11 +149,10 @@ TEST_F(Keys, TheLetterLeadsToTheFieldOrPressesTheButton) {
   }
   const QKeyCombination costs = keysOf(widget("Command8")).front()[0];
   QTest::keyClick(window(), costs.key(), costs.keyboardModifiers());
-  EXPECT_TRUE(
-      comes([&] { return pane() == std::string("pneIrrigCosts"); }));  // the button is seen to go down first
+  EXPECT_TRUE(comes([&] { return pane() == std::string("pneIrrigCosts"); }));  // the button is animated first
 }
 
-TEST_F(Keys, TheSecondFieldOfALineHasAKeyThatItsToolTipTells) {
+TEST_F(Keys, TheSecondFieldOfALineShowsItsKeyInTheToolTip) {
   start();
   typeFarm();
   RunningDesktop::press("cr(1).cmdInputCosts");
@@ -183,7 +182,7 @@ TEST_F(Keys, AChangedCaptionKeepsItsLetter) {
   EXPECT_TRUE(comes([&] { return widget<QLineEdit>("txtTillage")->text() == QStringLiteral("31.26"); }));
 }
 
-TEST_F(Keys, ArrowsGoThroughTheCropRows) {
+TEST_F(Keys, ArrowsMoveThroughTheCropRows) {
   start();
   tick("cr(1).chkCrop");
   tick("cr(3).chkCrop");
@@ -209,7 +208,7 @@ TEST_F(Keys, ArrowsGoThroughTheCropRows) {
   EXPECT_TRUE(widget("cr(6).chkCrop")->hasFocus()) << "the last row";
 }
 
-TEST_F(Keys, TheFocusIsAlwaysInSight) {
+TEST_F(Keys, TheFocusedControlIsAlwaysVisible) {
   start();
   window()->resize(window()->minimumSize());
   QTest::qWait(0);
@@ -227,7 +226,7 @@ TEST_F(Keys, TheFocusIsAlwaysInSight) {
   EXPECT_TRUE(inSight());
 }
 
-TEST_F(Keys, APaneThatIsComeBackToHasTheFocusWhereItWas) {
+TEST_F(Keys, ReturningToAPaneRestoresItsFocus) {
   start();
   typeFarm();
   widget("cr(5).cmdInputCosts")->setFocus(Qt::TabFocusReason);
@@ -252,11 +251,13 @@ TEST_F(Keys, F1ReachesEveryHelpButtonThatOpensSomething) {
   start();
   std::set<QString> reached;
   for (const QWidget* widget : window()->findChildren<QWidget*>()) {
-    if (widget->focusPolicy() != Qt::NoFocus) reached.insert(desktop::helpOf(widget));
+    if (widget->focusPolicy() == Qt::NoFocus) continue;
+    if (const Control* help = desktop::helpOf(widget)) reached.insert(desktop::qText(help->path()));
   }
   for (const QPushButton* button : window()->findChildren<QPushButton*>()) {
     if (button->property("role") != QLatin1String("help")) continue;
-    // The soil's opens nothing; the two heads of the crop list and of the volume share a topic with a field.
+    // The soil's button opens nothing; the buttons of two crop list columns and of the volume share a topic
+    // with a field.
     if (button->objectName() == QLatin1String("cmdHelp(29)") ||
         button->objectName() == QLatin1String("cmdHelp(5)")) {
       continue;

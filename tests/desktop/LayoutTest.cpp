@@ -12,10 +12,10 @@
 namespace verdalis::testing {
 namespace {
 
-/// Whether what the panes show has its place, in the smallest window and in a large font.
+/// Tests whether the contents of the panes fit, in the smallest window and with a large font.
 class Layout : public RunningDesktop {
  protected:
-  /// Shows each pane as in use, and hands its name over.
+  /// Shows each pane in typical use and calls `look` with its name.
   void forEachPane(QSize size, const std::function<void(const std::string&)>& look) {
     const auto shown = [&](const std::string& name) {
       QTest::qWait(20);
@@ -65,7 +65,7 @@ class Layout : public RunningDesktop {
     shown("pneBatchSetup(1)");
   }
 
-  /// The texts that have less room than they need.
+  /// Requires that every text has enough room.
   void expectRoom(const std::string& pane) { expectRoomIn(window(), pane); }
 
   static void expectRoomIn(const QWidget* shownWindow, const std::string& pane) {
@@ -99,7 +99,7 @@ class Layout : public RunningDesktop {
     }
   }
 
-  /// No page has to be moved sideways.
+  /// Requires that no page scrolls sideways.
   void expectNoSidewaysScrolling(const std::string& pane) {
     for (QScrollArea* area : window()->findChildren<QScrollArea*>()) {
       if (!area->isVisible()) continue;
@@ -109,7 +109,7 @@ class Layout : public RunningDesktop {
   }
 };
 
-TEST_F(Layout, TabStopsAtControlsAlone) {
+TEST_F(Layout, TabStopsOnlyAtControls) {
   forEachPane({1180, 820}, [this](const std::string& pane) {
     const QWidget* page = desktop().mainWindow()->currentPage();
     int stops = 0;
@@ -125,7 +125,7 @@ TEST_F(Layout, TabStopsAtControlsAlone) {
   });
 }
 
-TEST_F(Layout, EverythingHasItsPlaceInTheSmallestWindow) {
+TEST_F(Layout, EverythingFitsInTheSmallestWindow) {
   forEachPane({1, 1}, [this](const std::string& pane) {
     EXPECT_LE(window()->width(), 1024);
     EXPECT_LE(window()->height(), 700);
@@ -134,7 +134,7 @@ TEST_F(Layout, EverythingHasItsPlaceInTheSmallestWindow) {
   });
 }
 
-/// The same with a font as people choose it who see badly.
+/// The same with a large font, as used by people with poor eyesight.
 class LargeFont : public Layout {
  protected:
   LargeFont() {
@@ -152,7 +152,7 @@ class LargeFont : public Layout {
   }};
 };
 
-TEST_F(LargeFont, TheSmallWindowsHaveRoom) {
+TEST_F(LargeFont, EverythingFitsInTheSmallWindows) {
   start();
   program().windows.help();
   showHelpNote(program().windows.help(), "A note that is so long that it takes more than one line.", "A",

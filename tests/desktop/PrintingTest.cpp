@@ -9,7 +9,7 @@
 namespace verdalis::testing {
 namespace {
 
-/// Reports through the print dialog of a machine without a printer, which offers PDF.
+/// Prints reports through the print dialog of a machine without a printer, which offers PDF.
 class Printing : public RunningDesktop {
  protected:
   void startWithOptions() {
@@ -20,7 +20,7 @@ class Printing : public RunningDesktop {
     QTest::qWait(0);
   }
 
-  /// Answers the print dialog that comes next: prints to a file, or cancels where the path is empty.
+  /// Answers the next print dialog: prints to a file, or cancels if the path is empty.
   void expectDialog(const std::filesystem::path& path, int copies = 1) {
     QTimer::singleShot(0, qApp, [this, path, copies] { answer(path, copies, 50); });
   }
@@ -68,7 +68,7 @@ class Printing : public RunningDesktop {
   }
 };
 
-TEST_F(Printing, TheResultsGoToAFile) {
+TEST_F(Printing, TheResultsReportPrintsToAFile) {
   startWithOptions();
   expectDialog(home() / "report.pdf");
   press("theResults.Command2");
@@ -84,7 +84,7 @@ TEST_F(Printing, TheResultsGoToAFile) {
   EXPECT_EQ(pane(), "pneResults");
 }
 
-TEST_F(Printing, TheDetailsOfAFieldGoToAFileByTheMenu) {
+TEST_F(Printing, TheDetailsReportPrintsToAFileFromTheMenu) {
   startWithOptions();
   press("theResults.rh(0).cmdDetails");
   ASSERT_EQ(pane(), "pneDetails");
@@ -99,7 +99,7 @@ TEST_F(Printing, TheDetailsOfAFieldGoToAFileByTheMenu) {
   }
 }
 
-TEST_F(Printing, EachCopyIsADocumentOfItsOwn) {
+TEST_F(Printing, EachCopyIsASeparateDocument) {
   startWithOptions();
   expectDialog(home() / "report.pdf", 3);
   press("theResults.Command2");
@@ -111,13 +111,13 @@ TEST_F(Printing, EachCopyIsADocumentOfItsOwn) {
   EXPECT_FALSE(std::filesystem::exists(home() / "report-4.pdf"));
 }
 
-TEST_F(Printing, ACancelledDialogAndAPathThatCannotBeWrittenEndTheReportWithoutAWord) {
+TEST_F(Printing, ACancelledDialogAndAnUnwritablePathEndTheReportSilently) {
   startWithOptions();
   expectDialog({});
   press("theResults.Command2");
   EXPECT_EQ(dialogs, 1);
   expectDialog(home() / "no such folder" / "report.pdf");
-  expectBox();  // of the dialog itself, where it looks at the path
+  expectBox();  // from the dialog itself, if it checks the path
   press("theResults.Command2");
   EXPECT_EQ(dialogs, 2);
   EXPECT_EQ(pane(), "pneResults");

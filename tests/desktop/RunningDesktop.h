@@ -22,13 +22,13 @@
 
 namespace verdalis::testing {
 
-/// The program in its windows, in a home folder of its own with the stock crops.
+/// Runs the program with its windows, in a separate home folder with the stock crops.
 class RunningDesktop : public ::testing::Test {
  protected:
   RunningDesktop() {
     std::filesystem::copy(VERDALIS_SOURCE_DIR "/crops", folder_.path() / "crops",
                           std::filesystem::copy_options::recursive);
-    // A box that nobody expected must not hold the tests for ever.
+    // Closes an unexpected message box, which would block the tests forever.
     QObject::connect(&guard_, &QTimer::timeout, &guard_, [this] {
       QWidget* box = QApplication::activeModalWidget();
       if (box == nullptr || box != unanswered_) {
@@ -43,7 +43,7 @@ class RunningDesktop : public ::testing::Test {
     restart();
   }
 
-  /// Begins anew at the welcome window.
+  /// Restarts the program at the welcome window.
   void restart() {
     desktop_.reset();
     desktop_ =
@@ -66,7 +66,8 @@ class RunningDesktop : public ::testing::Test {
     return qobject_cast<Kind*>(desktop_->binder().widget(*program().desk.find(path)));
   }
 
-  /// Whether something comes true within a while. (The toolkit's own waiting checks report to nobody here.)
+  /// Whether a condition becomes true within a time limit. Replaces Qt's own checks, which only report in Qt
+  /// Test.
   [[nodiscard]] static bool comes(const std::function<bool()>& condition) {
     return QTest::qWaitFor(condition, 3000);
   }
@@ -91,7 +92,7 @@ class RunningDesktop : public ::testing::Test {
 
   void press(const std::string& path) { QTest::mouseClick(widget(path), Qt::LeftButton); }
 
-  /// A check box or option button is pressed at its mark, not somewhere beside its text.
+  /// Clicks a check box or option button on its mark, because a click beside its text has no effect.
   void tick(const std::string& path) {
     QWidget* box = widget(path);
     QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(10, box->height() / 2));
@@ -105,7 +106,7 @@ class RunningDesktop : public ::testing::Test {
     QTest::keyClicks(field, QString::fromUtf8(text));
   }
 
-  /// From the welcome window to the main pane.
+  /// Goes from the welcome window to the main pane.
   void start() {
     press("frmWelcome.Command1");
     ASSERT_NE(window(), nullptr);
@@ -113,7 +114,7 @@ class RunningDesktop : public ::testing::Test {
     QTest::qWait(0);
   }
 
-  /// 100 acres, 12 inches, rain 16, two halves, Corn and Wheat, typed and clicked.
+  /// Enters 100 acres, 12 inches, 16 inches of rain, two halves, Corn and Wheat, by typing and clicking.
   void typeFarm() {
     type("txtArea", "100");
     type("txtMax", "12");
@@ -126,17 +127,17 @@ class RunningDesktop : public ::testing::Test {
 
   [[nodiscard]] std::string pane() { return program().main().panes.top().name(); }
 
-  /// Closes the message box that comes next with a key, and keeps its title and text.
+  /// Closes the next message box with a key, and stores its title and text.
   void expectBox(Qt::Key key = Qt::Key_Return) {
     QTimer::singleShot(0, qApp, [this, key] { answerBox(key, 50); });
   }
 
-  /// Presses a button of the message box that comes next, and keeps its title and text.
+  /// Presses a button of the next message box, and stores its title and text.
   void expectAnswer(QMessageBox::StandardButton button) {
     QTimer::singleShot(0, qApp, [this, button] { answerBox(button, 50); });
   }
 
-  /// A key in the main window, which a box or a chooser may have left inactive.
+  /// Presses a key in the main window, and activates it first, because a dialog may have left it inactive.
   void pressKey(Qt::Key wanted, Qt::KeyboardModifiers with = Qt::NoModifier) {
     window()->activateWindow();
     QTest::qWait(0);
@@ -144,13 +145,13 @@ class RunningDesktop : public ::testing::Test {
     QTest::keyClick(focus == nullptr ? window() : focus, wanted, with);
   }
 
-  /// Answers the file chooser that comes next with a path, typed; an empty one cancels it.
+  /// Answers the next file chooser by typing a path; an empty path cancels it.
   void expectChooser(const QString& path) {
     QTimer::singleShot(0, qApp, [this, path] { answerChooser(path, 50); });
   }
 
-  std::vector<std::string> boxes;   ///< "title|text" of those that were answered
-  std::vector<std::string> titles;  ///< Of the choosers that were answered
+  std::vector<std::string> boxes;   ///< "title|text" of the answered boxes
+  std::vector<std::string> titles;  ///< Titles of the answered choosers
 
  private:
   void answerBox(Qt::Key key, int tries) {

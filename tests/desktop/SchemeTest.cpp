@@ -8,7 +8,7 @@
 
 namespace verdalis::desktop {
 
-/// A scheme in the name of a test.
+/// Prints a scheme in test output.
 void PrintTo(Scheme scheme, std::ostream* out) {
   *out << (scheme == Scheme::dark ? "dark" : "light");
 }
@@ -23,8 +23,8 @@ using desktop::accents;
 using desktop::Scheme;
 using desktop::schemeOf;
 
-constexpr double readable = 4.5;  // ratio that a text of ordinary size needs on its ground
-constexpr double visible = 3.0;   // and a mark or a border that tells something
+constexpr double readable = 4.5;  // minimum contrast of text of ordinary size
+constexpr double visible = 3.0;   // minimum contrast of a mark or border with a meaning
 
 /// Relative luminance of a colour, from 0 for black to 1 for white.
 double luminance(const QColor& colour) {
@@ -44,7 +44,7 @@ class Schemes : public ::testing::TestWithParam<Scheme> {};
 INSTANTIATE_TEST_SUITE_P(Both, Schemes, ::testing::Values(Scheme::light, Scheme::dark),
                          [](const auto& one) { return one.param == Scheme::dark ? "dark" : "light"; });
 
-TEST_P(Schemes, EveryTextIsReadableOnItsGround) {
+TEST_P(Schemes, EveryTextIsReadableOnItsBackground) {
   const QPalette palette = desktop::palette(GetParam());
   const auto ratio = [&](QPalette::ColorRole text, QPalette::ColorRole ground) {
     return contrast(palette.color(text), palette.color(ground));
@@ -59,7 +59,7 @@ TEST_P(Schemes, EveryTextIsReadableOnItsGround) {
   EXPECT_GE(ratio(QPalette::Link, QPalette::Base), readable);
 }
 
-TEST_P(Schemes, EveryAccentIsReadableWhereItStands) {
+TEST_P(Schemes, EveryAccentIsReadableOnItsBackground) {
   const QPalette palette = desktop::palette(GetParam());
   const Accents colours = accents(GetParam());
   EXPECT_GE(contrast(colours.brandText, colours.brand), readable);
@@ -72,11 +72,11 @@ TEST_P(Schemes, EveryAccentIsReadableWhereItStands) {
   EXPECT_GE(contrast(colours.warning, palette.color(QPalette::Base)), visible);
 }
 
-TEST_P(Schemes, APaletteTellsItsScheme) {
+TEST_P(Schemes, SchemeOfAPaletteIsRecognized) {
   EXPECT_EQ(schemeOf(desktop::palette(GetParam())), GetParam());
 }
 
-TEST_P(Schemes, TheProgramTakesTheColours) {
+TEST_P(Schemes, TheProgramUsesTheColours) {
   desktop::applyTheme(*qApp, GetParam());
   EXPECT_EQ(schemeOf(QApplication::palette()), GetParam());
   EXPECT_FALSE(qApp->styleSheet().contains(QLatin1Char('@'))) << "a colour has no value";
@@ -84,7 +84,7 @@ TEST_P(Schemes, TheProgramTakesTheColours) {
   desktop::applyTheme(*qApp, Scheme::light);
 }
 
-/// The middles of the lines across the picture in the brand's colour, in its width, from 0 to 1.
+/// The horizontal centres of the lines in the brand colour, from 0 to 1 across the picture.
 std::vector<double> linesOf(const QImage& picture, const QColor& colour) {
   std::vector<double> lines;
   const int row = picture.height() / 2;
@@ -118,7 +118,7 @@ TEST_F(Pictures, EveryLandSplitIsDrawnToScale) {
     const QImage picture = button->icon().pixmap(desktop::landSplitPictureSize, scale).toImage();
     ASSERT_EQ(picture.width(), desktop::landSplitPictureSize.width() * scale);
     const std::vector<double> lines = linesOf(picture, accents(Scheme::light).brand);
-    // The farm's own two edges, and a line between every two parts.
+    // Two outer edges, and a line between every two parts.
     ASSERT_EQ(lines.size(), percentages.size() + 1) << button->text().toStdString();
     double total = 0;
     for (const double percent : percentages)
@@ -132,7 +132,7 @@ TEST_F(Pictures, EveryLandSplitIsDrawnToScale) {
   }
 }
 
-TEST_F(Pictures, ThePartsOfASplitDiffer) {
+TEST_F(Pictures, ThePartsOfASplitHaveDifferentColours) {
   for (const Scheme scheme : {Scheme::light, Scheme::dark}) {
     const QImage picture =
         desktop::landSplitPicture({25, 25, 25, 25}, scheme).pixmap(desktop::landSplitPictureSize).toImage();

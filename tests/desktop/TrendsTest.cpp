@@ -9,13 +9,13 @@
 namespace verdalis::testing {
 namespace {
 
-/// Trends with the mouse, the keys and the choosers.
+/// Tests trends with the mouse, the keyboard and the file choosers.
 class Trends : public RunningDesktop {
  protected:
   [[nodiscard]] BatchSetupPane& setup() { return program().main().trends.pneBatchSetup0; }
   [[nodiscard]] BatchResults& results() { return program().main().trends.pneBatchSetup1.theBatchResults; }
 
-  /// A typed farm, with trends turned on.
+  /// Enters a farm and enables trends.
   void startWithTrends() {
     start();
     typeFarm();
@@ -31,7 +31,7 @@ class Trends : public RunningDesktop {
     ASSERT_EQ(pane(), setup().name());
   }
 
-  /// The best option of an evaluation, in the setup of a fixed trend.
+  /// Evaluates and opens the setup of a fixed trend for the best option.
   void openFixedTrend() {
     startWithTrends();
     press("Command1");
@@ -42,7 +42,7 @@ class Trends : public RunningDesktop {
     QTest::qWait(0);
   }
 
-  /// Goes through a list with the keys until it shows a text.
+  /// Selects a list entry by its text, with the arrow keys.
   void pick(ComboBox& list, const char* text) {
     auto* shown = widget<QComboBox>(list.path());
     shown->setFocus(Qt::TabFocusReason);
@@ -65,7 +65,7 @@ class Trends : public RunningDesktop {
   void write(const char* name, const char* bytes) { std::ofstream(home() / name) << bytes; }
 };
 
-TEST_F(Trends, ValuesTypedAsAList) {
+TEST_F(Trends, ValuesCanBeTypedAsAList) {
   openVariableTrend();
   type(setup().txtBatchList.path(), "4, 5.5,x,6");
   EXPECT_TRUE(setup().optBatchOption[2]->checked());
@@ -76,7 +76,7 @@ TEST_F(Trends, ValuesTypedAsAList) {
   EXPECT_EQ(text(results().lblFreeBatchDescription), "Corn Crop Price: $4.00 / bu.");
 }
 
-TEST_F(Trends, ValuesFromAFile) {
+TEST_F(Trends, ValuesCanBeReadFromAFile) {
   write("prices.txt", "3,4.5,\r\n6");
   openVariableTrend();
   expectChooser(QString::fromStdString((home() / "prices.txt").string()));
@@ -89,7 +89,7 @@ TEST_F(Trends, ValuesFromAFile) {
   press(setup().cmdBatchIt.path());
   ASSERT_EQ(pane(), "pneBatchSetup(1)");
   EXPECT_EQ(text(results().lblBatchDescription1), "Step 1 of 3");
-  // Another file, and one that holds no numbers.
+  // Then another file, and one without numbers.
   pressKey(Qt::Key_Escape);
   ASSERT_EQ(pane(), setup().name());
   expectChooser({});
@@ -106,7 +106,7 @@ TEST_F(Trends, ValuesFromAFile) {
   EXPECT_EQ(pane(), setup().name());
 }
 
-TEST_F(Trends, TheUnitsAndThePreviewFollowTheChoiceAtOnce) {
+TEST_F(Trends, UnitsAndPreviewFollowTheSelectionImmediately) {
   openVariableTrend();
   EXPECT_EQ(text(setup().lblgeneric24), "($ / bu.)");
   tick(setup().optBatchVariable[5]->path());
@@ -127,7 +127,7 @@ TEST_F(Trends, TheUnitsAndThePreviewFollowTheChoiceAtOnce) {
       "Please try again|Values for Annual Rainfall cannot be below 11 inches.  Please modify the values.");
 }
 
-TEST_F(Trends, AFixedTrendOverTwoVariablesToItsSpreadsheet) {
+TEST_F(Trends, AFixedTrendOverTwoVariablesCanBeExportedToASpreadsheet) {
   openFixedTrend();
   EXPECT_TRUE(widget(setup().frmBatches.path())->isVisible());
   EXPECT_FALSE(widget(setup().cmdDeleteBatch.path())->isEnabled());
@@ -144,7 +144,7 @@ TEST_F(Trends, AFixedTrendOverTwoVariablesToItsSpreadsheet) {
   type(setup().cboBatchSteps.path(), "2");
   EXPECT_EQ(text(setup().lblBatchPreview), "80, 90");
 
-  // To the first process and back: what was typed is still there.
+  // To the first process and back: the typed values are kept.
   pick(setup().cboBatches, "1");
   EXPECT_EQ(widget<QLineEdit>(setup().txtBatchList.path())->text(), QStringLiteral("5,6,7"));
   pick(setup().cboBatches, "2");
@@ -157,7 +157,7 @@ TEST_F(Trends, AFixedTrendOverTwoVariablesToItsSpreadsheet) {
   EXPECT_EQ(text(program().main().trends.pneBatchSetup1.batchTitle), "Fixed Trend Results");
   EXPECT_FALSE(widget(results().pnlBatchSteps.path())->isVisible());
   Results& options = results().theResults;
-  // The dearest corn with the most water on the crop is the best.
+  // The best combination is the highest corn price with the most water on corn.
   EXPECT_EQ(text(options.lblBatchDescriptions[0]), "Crop Price - Corn : $7.00 / bu.");
   EXPECT_EQ(text(options.lblBatchDescriptions[1]), "Irrigation System Efficiency : 90.00 %");
   pressKey(Qt::Key_Right, Qt::AltModifier);
@@ -165,7 +165,7 @@ TEST_F(Trends, AFixedTrendOverTwoVariablesToItsSpreadsheet) {
 
   const std::filesystem::path file = home() / "trend.xls";
   expectChooser(QString::fromStdString(file.string()));
-  QTimer::singleShot(100, qApp, [this] { expectAnswer(QMessageBox::No); });  // not to be opened
+  QTimer::singleShot(100, qApp, [this] { expectAnswer(QMessageBox::No); });  // do not open the file
   press(options.cmdExcel.path());
   ASSERT_EQ(boxes.size(), 1U);
   EXPECT_EQ(boxes[0], "Export Complete|The Microsoft Excel worksheet '" + file.string() +
@@ -200,7 +200,7 @@ TEST_F(Trends, AProcessIsDeletedAfterAQuestion) {
   EXPECT_TRUE(widget(setup().cmdAddBatchProcess.path())->isEnabled());
 }
 
-TEST_F(Trends, ACancelledTrendStaysOnTheSetup) {
+TEST_F(Trends, CancellingATrendStaysOnTheSetup) {
   openVariableTrend();
   type(setup().txtBatchList.path(), "4,5,6");
   program().windows.updating();
@@ -218,7 +218,7 @@ TEST_F(Trends, ACancelledTrendStaysOnTheSetup) {
   EXPECT_EQ(pane(), "pneMain");
 }
 
-TEST_F(Trends, EscapeGoesBackAgainAfterACancelledFixedTrendThatLeavesItsWindowOpen) {
+TEST_F(Trends, EscapeGoesBackAfterACancelledFixedTrendLeavesItsWindowOpen) {
   openFixedTrend();
   pick(setup().cboCrops, "Corn");
   type(setup().txtBatchList.path(), "5,6,7,8");

@@ -19,7 +19,7 @@ namespace {
 
 using Use = RunningDesktop;
 
-TEST_F(Use, RunsInACountryThatWritesACommaForDecimals) {
+TEST_F(Use, WorksInALocaleWithADecimalComma) {
   ASSERT_TRUE(germanLocaleIsSet) << "the locale de_DE.UTF-8 is missing: run tools/install-deps test";
   start();
   typeFarm();
@@ -39,7 +39,7 @@ TEST_F(Use, TheWelcomeWindowLeadsToTheMainPane) {
   EXPECT_EQ(pane(), "pneMain");
 }
 
-TEST_F(Use, FromATypedFarmToTheOptionsAndBack) {
+TEST_F(Use, ATypedFarmLeadsToTheOptionsAndBack) {
   start();
   typeFarm();
   press("Command1");
@@ -59,7 +59,7 @@ TEST_F(Use, FromATypedFarmToTheOptionsAndBack) {
   EXPECT_EQ(pane(), "pneMain");
 }
 
-TEST_F(Use, TheDetailsOfAFieldAndTheWayBack) {
+TEST_F(Use, TheDetailsOfAFieldOpenAndClose) {
   start();
   typeFarm();
   press("Command1");
@@ -70,7 +70,7 @@ TEST_F(Use, TheDetailsOfAFieldAndTheWayBack) {
   EXPECT_EQ(pane(), "pneResults");
 }
 
-TEST_F(Use, TheCostPanesOpenTakeValuesAndApplyThem) {
+TEST_F(Use, TheCostPanesOpenAcceptValuesAndApplyThem) {
   start();
   typeFarm();
   press("cr(1).cmdInputCosts");
@@ -98,7 +98,7 @@ TEST_F(Use, AForageCropShowsItsOwnHarvestCosts) {
   EXPECT_FALSE(widget("txtHarvestBase")->isVisible());
 }
 
-TEST_F(Use, AFailedTestTellsTakesTheTextBackAndKeepsTheField) {
+TEST_F(Use, AnInvalidValueShowsAMessageIsUndoneAndKeepsTheFocus) {
   start();
   type("txtEff", "101");
   expectBox();
@@ -107,14 +107,14 @@ TEST_F(Use, AFailedTestTellsTakesTheTextBackAndKeepsTheField) {
   EXPECT_EQ(boxes[0],
             "Input error|Irrigation Efficiency %:  Please enter a value that's less than or equal to 100");
   EXPECT_EQ(widget<QLineEdit>("txtEff")->text(), QStringLiteral("85"));
-  // Without a window manager the window is not activated again after the box.
+  // Without a window manager the window is not activated again after the message box.
   EXPECT_TRUE(comes([&] { return window()->focusWidget() == widget("txtEff"); }));
   EXPECT_TRUE(widget("txtEff")->property("failed").toBool());
   QTest::keyClicks(widget("txtEff"), QStringLiteral("9"));
   EXPECT_FALSE(widget("txtEff")->property("failed").toBool());
 }
 
-TEST_F(Use, APressOnAButtonIsCarriedOutAfterTheMessage) {
+TEST_F(Use, APressedButtonStillWorksAfterTheMessage) {
   start();
   type("txtEff", "-5");
   expectBox();
@@ -125,7 +125,7 @@ TEST_F(Use, APressOnAButtonIsCarriedOutAfterTheMessage) {
   EXPECT_EQ(widget<QLineEdit>("txtEff")->text(), QStringLiteral("85"));
 }
 
-TEST_F(Use, IncompleteInputsAreToldInABox) {
+TEST_F(Use, IncompleteInputsShowAMessage) {
   start();
   expectBox();
   press("Command1");
@@ -133,7 +133,7 @@ TEST_F(Use, IncompleteInputsAreToldInABox) {
   EXPECT_EQ(boxes[0], "Error|Please enter all of the necessary information before continuing!");
 }
 
-TEST_F(Use, ACancelledRunStaysOnTheMainPane) {
+TEST_F(Use, CancellingARunStaysOnTheMainPane) {
   start();
   typeFarm();
   program().windows.updating();
@@ -168,7 +168,7 @@ TEST_F(Use, ALongRunShowsItsProgressAndBlocksNothing) {
   auto& bar = control<ProgressBar>("frmUpdating.ProgressBar");
   desktop().binder().alsoWatch(bar, [&] {
     if (bar.value() != 3) return;
-    QTest::qWait(500);  // as long as a step of a large farm
+    QTest::qWait(500);  // as long as a step on a large farm
     EXPECT_TRUE(progress->isVisible());
     EXPECT_FALSE(progress->isModal());
     EXPECT_TRUE(window()->isEnabled());
@@ -181,7 +181,7 @@ TEST_F(Use, ALongRunShowsItsProgressAndBlocksNothing) {
     EXPECT_FALSE(
         texts.filter(QRegularExpression(QStringLiteral("^Step [0-9,]+ of [0-9,]+, [0-9]+ %"))).isEmpty())
         << texts.join(QLatin1Char('|')).toStdString();
-    type("txtArea", "200");  // the main window takes what is typed; the run keeps its own inputs
+    type("txtArea", "200");  // the main window accepts input during the run; the run keeps its own inputs
     QTest::mouseClick(widget("frmUpdating.Command1"), Qt::LeftButton);
   });
   press("Command1");
@@ -190,7 +190,7 @@ TEST_F(Use, ALongRunShowsItsProgressAndBlocksNothing) {
   EXPECT_EQ(program().main().pneMain.txtArea.text(), "200");
 }
 
-TEST_F(Use, KeyboardAloneLeadsFromTheStartToTheOptions) {
+TEST_F(Use, TheKeyboardAloneLeadsFromTheStartToTheOptions) {
   QWidget* welcome = widget("frmWelcome");
   welcome->activateWindow();
   ASSERT_TRUE(comes([&] { return widget("frmWelcome.Command1")->hasFocus(); }));
@@ -231,14 +231,14 @@ TEST_F(Use, KeyboardAloneLeadsFromTheStartToTheOptions) {
   EXPECT_EQ(pane(), "pneResults");
 }
 
-TEST_F(Use, ReturnInAFieldSurprisesNobody) {
+TEST_F(Use, ReturnInAFieldDoesNothing) {
   start();
   typeFarm();
   QTest::keyClick(widget("txtArea"), Qt::Key_Return);
   EXPECT_EQ(pane(), "pneMain");
 }
 
-TEST_F(Use, TheWheelChangesNothingInAFieldWithoutTheFocus) {
+TEST_F(Use, TheMouseWheelDoesNotChangeAFieldWithoutFocus) {
   start();
   widget("txtArea")->setFocus();
   QComboBox* soil = widget<QComboBox>("txtSoil");
@@ -248,7 +248,7 @@ TEST_F(Use, TheWheelChangesNothingInAFieldWithoutTheFocus) {
   EXPECT_EQ(soil->currentText(), QStringLiteral("Silt Loam"));
 }
 
-TEST_F(Use, TheWheelGivesNoFieldTheFocus) {
+TEST_F(Use, TheMouseWheelDoesNotFocusAField) {
   start();
   for (const QWidget* field : window()->findChildren<QWidget*>()) {
     if (field->inherits("QComboBox") || field->inherits("QLineEdit")) {
@@ -257,21 +257,21 @@ TEST_F(Use, TheWheelGivesNoFieldTheFocus) {
   }
 }
 
-TEST_F(Use, FreeTextKeepsTheCaseThatWasTyped) {
+TEST_F(Use, FreeTextKeepsItsCase) {
   start();
   type("txtSoil", "silt loam");
   QTest::keyClick(widget("txtSoil"), Qt::Key_Return);
   EXPECT_EQ(program().main().pneMain.currentSoil, "silt loam");
 }
 
-TEST_F(Use, F1OpensTheTopicOfTheFieldWithTheFocus) {
+TEST_F(Use, F1OpensTheTopicOfTheFocusedField) {
   start();
   widget("txtEff")->setFocus();
   QTest::keyClick(window(), Qt::Key_F1);
   EXPECT_TRUE(desktop().services().help().isVisible());
 }
 
-TEST_F(Use, TheWindowIsHeldAtAWidthThatClipsNothing) {
+TEST_F(Use, TheMinimumWidthOfTheWindowClipsNothing) {
   start();
   window()->resize(300, 300);
   EXPECT_GE(window()->width(), 1000);
@@ -282,7 +282,7 @@ TEST_F(Use, TheWindowIsHeldAtAWidthThatClipsNothing) {
   }
 }
 
-TEST_F(Use, AReloadMakesNewRowsThatWork) {
+TEST_F(Use, ReloadedCropRowsWork) {
   start();
   program().main().loadCropRows();
   tick("cr(2).chkCrop");

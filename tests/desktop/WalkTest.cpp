@@ -12,7 +12,7 @@ namespace {
 
 class Walk : public RunningDesktop {
  protected:
-  /// Every control of the windows that are there, frames included.
+  /// Visits every control of the existing windows, including frames.
   void forEach(const Frame& frame, const std::function<void(Control&)>& visit) {
     for (Control* control : frame.controls()) {
       visit(*control);
@@ -47,7 +47,7 @@ TEST_F(Walk, EveryControlHasAWidgetWithItsName) {
   EXPECT_GT(seen, 250);
 }
 
-TEST_F(Walk, EveryControlThatTakesInputHasAnAccessibleName) {
+TEST_F(Walk, EveryInputControlHasAnAccessibleName) {
   start();
   forEachControl([&](Control& control) {
     switch (control.kind()) {
@@ -61,7 +61,7 @@ TEST_F(Walk, EveryControlThatTakesInputHasAnAccessibleName) {
   });
 }
 
-TEST_F(Walk, EnabledAndVisibleFollowTheControl) {
+TEST_F(Walk, WidgetsFollowTheEnabledAndVisibleStates) {
   start();
   forEachControl([&](Control& control) {
     QWidget* shown = desktop().binder().widget(control);
@@ -79,7 +79,7 @@ TEST_F(Walk, EnabledAndVisibleFollowTheControl) {
   });
 }
 
-TEST_F(Walk, TextsGoBothWays) {
+TEST_F(Walk, TextsAreSynchronizedBothWays) {
   start();
   forEachControl([&](Control& control) {
     if (auto* box = dynamic_cast<TextBox*>(&control)) {
@@ -129,7 +129,7 @@ TEST_F(Walk, TheTabOrderFollowsTheReadingOrder) {
   EXPECT_NE(place("Command1"), static_cast<long>(order.size()));
 }
 
-TEST_F(Walk, TheTabOrderOfAFormGoesAlongItsLines) {
+TEST_F(Walk, TheTabOrderOfAFormFollowsItsLines) {
   start();
   typeFarm();
   QTest::mouseClick(widget("cr(1).cmdInputCosts"), Qt::LeftButton);

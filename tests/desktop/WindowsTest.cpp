@@ -12,7 +12,7 @@
 namespace verdalis::testing {
 namespace {
 
-/// The menus, the small windows, the yield grid and the trends, with the mouse and the keys.
+/// Tests the menus, the small windows, the yield grid and trends, with the mouse and the keyboard.
 class Windows : public RunningDesktop {
  protected:
   [[nodiscard]] QTableWidget* grid() { return widget<QTableWidget>("dgCustom"); }
@@ -36,7 +36,7 @@ class Windows : public RunningDesktop {
   }
 };
 
-TEST_F(Windows, TheOptionsTakeAFactorAndWarnOfALargeOne) {
+TEST_F(Windows, TheOptionsAcceptAFactorAndWarnAboutALargeOne) {
   start();
   choose(program().main().menus.mnuOptions);
   EXPECT_TRUE(widget("frmOptions")->isVisible());
@@ -50,7 +50,7 @@ TEST_F(Windows, TheOptionsTakeAFactorAndWarnOfALargeOne) {
   EXPECT_FALSE(widget("frmOptions")->isVisible());
 }
 
-TEST_F(Windows, TheOptionsRefuseWhatIsNoFactorAndStayOpen) {
+TEST_F(Windows, TheOptionsRejectAnInvalidFactorAndStayOpen) {
   start();
   choose(program().main().menus.mnuOptions);
   type("frmOptions.txtFineFactor", "x");
@@ -62,7 +62,7 @@ TEST_F(Windows, TheOptionsRefuseWhatIsNoFactorAndStayOpen) {
   EXPECT_TRUE(widget("frmOptions")->isVisible());
 }
 
-TEST_F(Windows, AnEscapeClosesTheOptionsAndChangesNothing) {
+TEST_F(Windows, EscapeClosesTheOptionsWithoutChanges) {
   start();
   choose(program().main().menus.mnuOptions);
   type("frmOptions.txtFineFactor", "5");
@@ -87,7 +87,7 @@ TEST_F(Windows, AClickAnywhereClosesTheAboutWindow) {
   EXPECT_FALSE(about->isVisible());
 }
 
-TEST_F(Windows, ANoteOpensByItsButtonAndClosesByEscape) {
+TEST_F(Windows, ANoteIsOpenedByItsButtonAndClosedByEscape) {
   start();
   choose(program().main().menus.mnuCustomCrop);
   press(program().main().pneCustomCrop.cmdHelp.buttons().front()->path());
@@ -100,7 +100,7 @@ TEST_F(Windows, ANoteOpensByItsButtonAndClosesByEscape) {
   ASSERT_TRUE(comes([&] { return !note->isVisible(); }));
 }
 
-TEST_F(Windows, TheSummaryShowsItsHeadsAndAsksAtAClickOnAny) {
+TEST_F(Windows, TheSummaryShowsItsHeadsAndAsksWhenOneIsClicked) {
   start();
   typeFarm();
   press("Command1");
@@ -132,7 +132,7 @@ TEST_F(Windows, TheSummaryShowsItsHeadsAndAsksAtAClickOnAny) {
   EXPECT_FALSE(table->isVisible()) << "the only option is gone";
 }
 
-TEST_F(Windows, ASavedOptionIsRemovedByKeyboardToo) {
+TEST_F(Windows, ASavedOptionCanBeRemovedByKeyboard) {
   start();
   typeFarm();
   press("Command1");
@@ -155,7 +155,7 @@ TEST_F(Windows, ASavedOptionIsRemovedByKeyboardToo) {
   EXPECT_FALSE(table->isVisible());
 }
 
-TEST_F(Windows, TheWindowRemembersItsPlaceHoweverItIsClosed) {
+TEST_F(Windows, TheWindowRemembersItsSize) {
   const QScopeGuard forget([] { QSettings().clear(); });
   start();
   window()->resize(1100, 720);
@@ -167,7 +167,7 @@ TEST_F(Windows, TheWindowRemembersItsPlaceHoweverItIsClosed) {
   again.mainWindow()->close();
 }
 
-TEST_F(Windows, ANoteIsShownWhole) {
+TEST_F(Windows, ANoteIsShownCompletely) {
   start();
   choose(program().main().menus.mnuCustomCrop);
   press(program().main().pneCustomCrop.cmdHelp.buttons().front()->path());
@@ -190,7 +190,7 @@ TEST_F(Windows, TheProgramEndsWhenItsWindowIsClosedByItsFrame) {
   EXPECT_TRUE(program().ended());
 }
 
-TEST_F(Windows, CharactersReturnAndBackspaceInTheYieldGrid) {
+TEST_F(Windows, TheYieldGridAcceptsCharactersReturnAndBackspace) {
   openGrid();
   QTest::keyClicks(grid(), QStringLiteral("12.5"));
   EXPECT_EQ(cell(1, 1), "12.5");
@@ -204,7 +204,7 @@ TEST_F(Windows, CharactersReturnAndBackspaceInTheYieldGrid) {
   EXPECT_EQ(cell(1, 2), "");
 }
 
-TEST_F(Windows, TheArrowsMoveTheCellOfTheYieldGrid) {
+TEST_F(Windows, ArrowsMoveTheCurrentCellOfTheYieldGrid) {
   openGrid();
   key(Qt::Key_Down);
   key(Qt::Key_Right);
@@ -219,7 +219,7 @@ TEST_F(Windows, TheArrowsMoveTheCellOfTheYieldGrid) {
   EXPECT_EQ(program().main().pneCustomCrop.dgCustom.row(), 3);
 }
 
-TEST_F(Windows, CopyCutAndPasteInTheYieldGrid) {
+TEST_F(Windows, TheYieldGridSupportsCopyCutAndPaste) {
   openGrid();
   QTest::keyClicks(grid(), QStringLiteral("88"));
   key(Qt::Key_C, Qt::ControlModifier);
@@ -232,7 +232,7 @@ TEST_F(Windows, CopyCutAndPasteInTheYieldGrid) {
   EXPECT_EQ(cell(1, 1), "88");
 }
 
-TEST_F(Windows, AVariableTrendFromTheToolsMenuToItsSecondStepAndBack) {
+TEST_F(Windows, AVariableTrendLeadsFromTheToolsMenuToItsSecondStepAndBack) {
   start();
   typeFarm();
   MainMenus& menus = program().main().menus;
@@ -257,14 +257,14 @@ TEST_F(Windows, AVariableTrendFromTheToolsMenuToItsSecondStepAndBack) {
   EXPECT_TRUE(step->text().startsWith(QLatin1String("Step 1 of "))) << step->text().toStdString();
   const QString first = value->text();
   window()->activateWindow();
-  QTest::qWait(0);  // the pane is laid out
+  QTest::qWait(0);  // lets the pane be laid out
   press(steps.cmdBatchStep[0].path());
   EXPECT_TRUE(step->text().startsWith(QLatin1String("Step 2 of "))) << step->text().toStdString();
   EXPECT_NE(value->text(), first);
   press(steps.cmdBatchStep[1].path());
   EXPECT_TRUE(step->text().startsWith(QLatin1String("Step 1 of ")));
   EXPECT_EQ(value->text(), first);
-  widget(steps.cmdBatchStep[0].path())->setFocus();  // the keys work from there, too
+  widget(steps.cmdBatchStep[0].path())->setFocus();  // the keys also work from there
   QTest::keyClick(window(), Qt::Key_Escape);
   EXPECT_EQ(pane(), setup.name());
   QTest::keyClick(window(), Qt::Key_Escape);

@@ -12,8 +12,8 @@ namespace verdalis::testing {
 bool germanLocaleIsSet = false;
 }
 
-// The window's tests run without a screen, in a country that writes a comma for decimals, and away from the
-// settings of whoever runs them.
+// Runs the window tests without a screen, in a locale with a decimal comma, and without the user's own
+// settings.
 int main(int argc, char** argv) {
   const QTemporaryDir settings;
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");

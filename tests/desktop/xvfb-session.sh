@@ -1,12 +1,12 @@
 #!/bin/sh
-# From the welcome window to a page of options in the built program, on a screen of its own and with keys alone,
-# as a person presses them: real windows, real focus, real shortcuts.
+# Runs the built program from the welcome window to a page of options, on a virtual screen and with the keyboard only:
+# real windows, real focus, real shortcuts.
 #
 # usage: xvfb-session.sh PROGRAM CROPS
 set -eu
 
 skipped=77
-limit=300 # tenths of a second for every step, on however slow a machine
+limit=300 # per step, in tenths of a second; enough for a slow machine
 
 for tool in xvfb-run xdotool; do
   if ! command -v "$tool" >/dev/null; then
@@ -39,7 +39,7 @@ fail() {
   exit 1
 }
 
-# Calls a test until it holds.
+# Repeats a check until it succeeds.
 await() {
   what=$1
   shift
@@ -51,21 +51,21 @@ await() {
   done
 }
 
-# The window with a title, as the variable `window`.
+# Finds the window with a title and stores it in the variable `window`.
 find_window() {
   title=$1
   window=$(xdotool search --onlyvisible --pid "$program" --name "^$1\$" 2>/dev/null | head -n 1)
   [ -n "$window" ]
 }
 
-# Looks for the window each time: the first one found may have been gone before it came to stay.
+# Looks for the window each time, because the first one found may be replaced.
 has_focus() {
   find_window "$title" || return 1
-  xdotool windowfocus "$window" 2>/dev/null || true # no window manager gives the focus here
+  xdotool windowfocus "$window" 2>/dev/null || true # there is no window manager to set the focus
   [ "$(xdotool getwindowfocus 2>/dev/null)" = "$window" ]
 }
 
-# What the window shows, in one number.
+# A checksum of the window's contents.
 picture() {
   if command -v import >/dev/null; then
     import -window "$window" -depth 8 rgb:- 2>/dev/null | cksum
@@ -74,7 +74,7 @@ picture() {
   fi
 }
 
-# The picture has stayed the same for two looks, a while apart: the program waits for the next key.
+# Whether two pictures in a row are equal: the program waits for the next key.
 is_still() {
   first=$(picture)
   sleep 0.2
@@ -101,7 +101,7 @@ has_ended() {
 await "no welcome window" find_window "Welcome"
 await "the welcome window takes no focus" has_focus
 sleep 0.3
-press space # the focus is on the button that starts
+press space # the start button has the focus
 await "no main window" find_window "Verdalis.*"
 await "the main window takes no focus" has_focus
 await "the main window does not come to rest" is_still
@@ -114,13 +114,13 @@ press alt+r # Annual Rainfall
 xdotool type --delay 60 16
 press alt+7 # 75 - 25
 press alt+d # Load Default Values
-press alt+w # fallow for negative returns: on, and off again, which leaves the focus in front of the crops
+press alt+w # fallow for negative returns: on and off again, which leaves the focus before the crops
 sleep 0.3
 press alt+w
 sleep 0.3
-press Tab Tab Tab Tab Tab # past the "?" of the columns to the first crop
+press Tab Tab Tab Tab Tab # past the "?" buttons of the columns to the first crop
 press space
-press Tab Tab Tab Tab # past its fields to the second
+press Tab Tab Tab Tab # past its fields to the second crop
 press space
 await "the typed farm does not come to rest" is_still
 before=$(picture)

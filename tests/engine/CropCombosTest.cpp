@@ -38,15 +38,15 @@ std::vector<std::string> combos(const std::vector<std::string>& names, std::int1
   return listOf(makeCropCombos(cropsNamed(names), n));
 }
 
-TEST(CropCombinations, BeginWithTheLastCropOnEveryField) {
+TEST(CropCombinations, StartWithTheLastCropOnEveryField) {
   EXPECT_THAT(combos({"A", "B"}, 2), ElementsAre("B, B", "B, A", "A, B", "A, A"));
 }
 
-TEST(CropCombinations, OfOneFieldAreTheCropsInReverse) {
+TEST(CropCombinations, OfOneFieldAreTheCropsInReverseOrder) {
   EXPECT_THAT(combos({"A", "B", "C"}, 1), ElementsAre("C", "B", "A"));
 }
 
-TEST(CropCombinations, OfOneCropAreOne) {
+TEST(CropCombinations, OfOneCropIsASingleCombination) {
   EXPECT_THAT(combos({"A"}, 4), ElementsAre("A, A, A, A"));
 }
 
@@ -55,18 +55,18 @@ TEST(CropCombinations, OfTwoCropsOnThreeFieldsAreEight) {
                                                  "A, B, A", "A, A, B", "A, A, A"));
 }
 
-TEST(CropCombinations, OfNoCropsAreNone) {
+TEST(CropCombinations, WithoutCropsAreEmpty) {
   for (std::int16_t n = 1; n <= 4; ++n)
     EXPECT_EQ(makeCropCombos(CropScenario(), n).Count(), 0U) << n;
 }
 
-TEST(CropCombinations, AreTheCropsToThePowerOfTheFields) {
+TEST(CropCombinations, CountIsTheCropsToThePowerOfTheFields) {
   const std::vector<std::string> names(10, "Corn");
   EXPECT_EQ(makeCropCombos(cropsNamed(names), 4).Count(), 10'000U);
   EXPECT_EQ(makeCropCombos(cropsNamed({"A", "B", "C"}), 4).Count(), 81U);
 }
 
-TEST(CropCombinations, HoldCopiesOfTheCropsFromTheStart) {
+TEST(CropCombinations, CopyTheCropsWhenCreated) {
   const CropScenario crops = cropsNamed({"A", "B"});
   crops.Item(1)->price = 5;
   const CropCombinations combinations = makeCropCombos(crops, 2);
@@ -78,24 +78,24 @@ TEST(CropCombinations, HoldCopiesOfTheCropsFromTheStart) {
   EXPECT_NE(combinations.Item(4).Item(1), crops.Item(1));
 }
 
-TEST(CropCombinations, TreatFallowLikeAnyCrop) {
+TEST(CropCombinations, TreatFallowLikeAnyOtherCrop) {
   EXPECT_THAT(combos({"Corn", "Fallow"}, 2),
               ElementsAre("Fallow, Fallow", "Fallow, Corn", "Corn, Fallow", "Corn, Corn"));
 }
 
-TEST(CropCombinations, TellAnIndexOutsideThem) {
+TEST(CropCombinations, RejectAnInvalidIndex) {
   const CropCombinations combinations = makeCropCombos(cropsNamed({"A", "B"}), 2);
   EXPECT_THAT(errorText(ErrorNumber::subscript, [&] { (void)combinations.Item(0); }), HasSubstr("0"));
   EXPECT_THAT(errorText(ErrorNumber::subscript, [&] { (void)combinations.Item(5); }), HasSubstr("5"));
 }
 
-TEST(CropCombinations, TellANumberThatCannotBeCounted) {
+TEST(CropCombinations, RejectACountThatOverflows) {
   std::vector<std::string> names(66'000, "A");
   EXPECT_THAT(errorText(ErrorNumber::overflow, [&] { (void)makeCropCombos(cropsNamed(names), 4); }),
               HasSubstr("too many crops"));
 }
 
-RC_GTEST_PROP(CropCombinations, AreAllSequencesInFallingOrderOfTheCropPositions, ()) {
+RC_GTEST_PROP(CropCombinations, AreAllSequencesInDescendingOrderOfCropPositions, ()) {
   const int k = *rc::gen::inRange(1, 7);
   const auto n = static_cast<std::int16_t>(*rc::gen::inRange(1, 5));
   const std::vector<std::string> letters{"a", "b", "c", "d", "e", "f"};
@@ -105,7 +105,7 @@ RC_GTEST_PROP(CropCombinations, AreAllSequencesInFallingOrderOfTheCropPositions,
   for (int i = 0; i < n; ++i)
     expected *= static_cast<std::size_t>(k);
   RC_ASSERT(list.size() == expected);
-  // One letter a crop: falling positions are falling texts, and none comes twice.
+  // With one letter per crop, descending positions give descending texts without duplicates.
   RC_ASSERT(std::is_sorted(list.begin(), list.end(), std::greater<>()));
   RC_ASSERT(std::adjacent_find(list.begin(), list.end()) == list.end());
 }

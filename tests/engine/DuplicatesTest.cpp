@@ -8,7 +8,7 @@
 #include "tests/support/Candidates.h"
 #include "tests/support/Plant.h"
 
-// Which neighbours in the ranking count as the same option, what is left without them, and the reports.
+// Which neighbours in the ranking count as duplicates, the ranking without them, and its reports.
 
 namespace verdalis::testing {
 namespace {
@@ -27,11 +27,11 @@ bool same(const std::vector<Plot>& lower, const std::vector<Plot>& upper, bool c
   return BestMix::sameScenario(a, b, compare);
 }
 
-TEST_F(Duplicates, AreOfEqualProfitAndLookAlike) {
+TEST_F(Duplicates, HaveEqualProfitAndLookAlike) {
   EXPECT_TRUE(same({{"Corn", 10}}, {{"Corn", 10}}));
 }
 
-TEST_F(Duplicates, AreNotAskedForWithoutTheSwitch) {
+TEST_F(Duplicates, AreNotRemovedIfTheSwitchIsOff) {
   EXPECT_FALSE(same({{"Corn", 10}}, {{"Corn", 10}}, false));
 }
 
@@ -39,7 +39,7 @@ TEST_F(Duplicates, MustHaveExactlyEqualProfits) {
   EXPECT_FALSE(same({{"Corn", 10}}, {{"Corn", std::nextafter(10.0, 11.0)}}));
 }
 
-TEST_F(Duplicates, MustHaveTheSameCropByItsExactName) {
+TEST_F(Duplicates, MustHaveTheSameCropByExactName) {
   EXPECT_FALSE(same({{"Corn", 10}}, {{"Wheat", 10}}));
   EXPECT_FALSE(same({{"Corn", 10}}, {{"corn", 10}}));
 }
@@ -49,18 +49,18 @@ TEST_F(Duplicates, MustHaveExactlyTheSameAcres) {
   EXPECT_TRUE(same({{"Corn", 16, 2}}, {{"Corn", 16, 2}}));
 }
 
-TEST_F(Duplicates, MustShowTheSameWholeYield) {
+TEST_F(Duplicates, MustShowTheSameRoundedYield) {
   EXPECT_TRUE(same({{"Corn", 10, 1, 183.6}}, {{"Corn", 10, 1, 184.4}}));
-  EXPECT_FALSE(same({{"Corn", 10, 1, 184.4}}, {{"Corn", 10, 1, 184.5}}));  // 184 and 185
-  EXPECT_TRUE(same({{"Corn", 10, 1, 0.4}}, {{"Corn", 10, 1, -0.4}}));      // both show 0
+  EXPECT_FALSE(same({{"Corn", 10, 1, 184.4}}, {{"Corn", 10, 1, 184.5}}));  // shown as 184 and 185
+  EXPECT_TRUE(same({{"Corn", 10, 1, 0.4}}, {{"Corn", 10, 1, -0.4}}));      // both shown as 0
 }
 
 TEST_F(Duplicates, MustShowTheSameDepthToTwoDecimals) {
-  EXPECT_TRUE(same({{"Corn", 10, 1, 100, 8.495}}, {{"Corn", 10, 1, 100, 8.504}}));  // both show 8.50
+  EXPECT_TRUE(same({{"Corn", 10, 1, 100, 8.495}}, {{"Corn", 10, 1, 100, 8.504}}));  // both shown as 8.50
   EXPECT_FALSE(same({{"Corn", 10, 1, 100, 8.494}}, {{"Corn", 10, 1, 100, 8.495}}));
 }
 
-TEST_F(Duplicates, OfEqualProfitWithAnotherNumberOfFieldsAreTheSame) {
+TEST_F(Duplicates, OfEqualProfitMayHaveDifferentNumbersOfFields) {
   EXPECT_TRUE(same({{"Corn", 10}}, {{"Wheat", 4}, {"Wheat", 6}}));
   EXPECT_FALSE(same({{"Corn", 10}}, {{"Wheat", 4}, {"Wheat", 7}}));
   EXPECT_TRUE(same({}, {{"Corn", 0}}));
@@ -76,13 +76,13 @@ TEST_F(Duplicates, MayHaveTheirFieldsInAnotherOrder) {
   EXPECT_TRUE(same({wheat, corn}, {corn, wheat}));
 }
 
-TEST_F(Duplicates, NeedAPartnerOnlyForTheFirstFieldOfTheLowerOne) {
+TEST_F(Duplicates, OnlyNeedAMatchForTheFirstFieldOfTheLowerOption) {
   const Plot corn{"Corn", 5};
   const Plot wheat{"Wheat", 5};
   const Plot oats{"Oats", 5};
   const Plot rye{"Rye", 5};
   EXPECT_TRUE(same({corn, oats}, {corn, wheat}));
-  EXPECT_TRUE(same({wheat, oats}, {corn, wheat}));  // a partner anywhere
+  EXPECT_TRUE(same({wheat, oats}, {corn, wheat}));  // the match may be any field
   EXPECT_FALSE(same({oats, corn}, {corn, wheat}));
   EXPECT_TRUE(same({corn, oats, rye}, {corn, wheat, wheat}));
   EXPECT_FALSE(same({oats, rye}, {corn, wheat}));
@@ -96,34 +96,34 @@ BestMix rankingOf(std::int16_t size, const std::vector<std::vector<Plot>>& bestF
   return best;
 }
 
-TEST_F(Duplicates, ShrinkARunOfEqualsToItsFirst) {
+TEST_F(Duplicates, ReduceARunOfEqualOptionsToItsFirst) {
   BestMix best = rankingOf(6, {{{"Corn", 9}}, {{"Corn", 9}}, {{"Corn", 9}}, {{"Wheat", 9}}, {{"Corn", 5}}});
   EXPECT_THAT(namesIn(best.returnCollection(true)), ElementsAre("Corn", "Wheat", "Corn", "-", "-", "-"));
 }
 
-TEST_F(Duplicates, StayWithoutTheSwitch) {
+TEST_F(Duplicates, AreKeptIfTheSwitchIsOff) {
   BestMix best = rankingOf(4, {{{"Corn", 9}}, {{"Corn", 9}}, {{"Wheat", 9}}});
   EXPECT_THAT(namesIn(best.returnCollection(false)), ElementsAre("Corn", "Corn", "Wheat", "-"));
 }
 
-TEST_F(Duplicates, AreSoughtAmongNeighboursOnly) {
+TEST_F(Duplicates, AreFoundOnlyBetweenNeighbours) {
   BestMix best = rankingOf(3, {{{"Corn", 9}}, {{"Wheat", 9}}, {{"Corn", 9}}});
   EXPECT_THAT(namesIn(best.returnCollection(true)), ElementsAre("Corn", "Wheat", "Corn"));
 }
 
-TEST_F(Duplicates, DropTheLowerOfASwap) {
+TEST_F(Duplicates, OfSwappedFieldsKeepOnlyTheUpperOption) {
   const Plot corn{"Corn", 7, 50, 180, 12};
   const Plot wheat{"Wheat", 3, 50, 60, 4};
   BestMix best = rankingOf(2, {{corn, wheat}, {wheat, corn}});
   EXPECT_THAT(namesIn(best.returnCollection(true)), ElementsAre("Corn", "-"));
 }
 
-TEST_F(Duplicates, AreComparedWithTheNeighbourAboveEvenWhereThatIsDropped) {
+TEST_F(Duplicates, AreFoundByComparisonWithARemovedNeighbourToo) {
   const Plot p{"P", 5};
   const Plot q{"Q", 5};
   const Plot r{"R", 5};
   const Plot s{"S", 5};
-  // The second looks like the first, the third like the second, but the third not like the first.
+  // The second matches the first, and the third matches the second but not the first.
   ASSERT_TRUE(same({p, r}, {p, q}));
   ASSERT_TRUE(same({r, s}, {p, r}));
   ASSERT_FALSE(same({r, s}, {p, q}));
@@ -131,13 +131,12 @@ TEST_F(Duplicates, AreComparedWithTheNeighbourAboveEvenWhereThatIsDropped) {
   EXPECT_THAT(namesIn(best.returnCollection(true)), ElementsAre("P", "-", "-"));
 }
 
-TEST_F(Duplicates, MayAriseAnewWhenTheListIsPacked) {
+TEST_F(Duplicates, CanAppearAgainWhenTheListIsPacked) {
   const Plot p{"P", 5};
   const Plot q{"Q", 5};
   const Plot r{"R", 5};
   const Plot s{"S", 5};
-  // The second goes as it looks like the first. The third looks like the first too, which now stands above
-  // it.
+  // The second matches the first and is removed. The third matches the first too, and is now its neighbour.
   ASSERT_FALSE(same({q, s}, {p, r}));
   ASSERT_TRUE(same({q, s}, {p, q}));
   BestMix best = rankingOf(3, {{p, q}, {p, r}, {q, s}});
@@ -145,7 +144,7 @@ TEST_F(Duplicates, MayAriseAnewWhenTheListIsPacked) {
   EXPECT_THAT(namesIn(best.returnCollection(true)), ElementsAre("P", "-", "-"));
 }
 
-TEST_F(Duplicates, DoNotComeBackInASecondCall) {
+TEST_F(Duplicates, DoNotReappearInASecondCall) {
   BestMix best = rankingOf(5, {{{"Corn", 9}}, {{"Corn", 9}}, {{"Wheat", 9}}});
   const auto first = namesIn(best.returnCollection(true));
   EXPECT_EQ(namesIn(best.returnCollection(true)), first);
@@ -161,7 +160,7 @@ TEST_F(Duplicates, LeaveCopiesInTheirPlaces) {
   EXPECT_THAT(namesIn(after), ElementsAre("Corn", "-"));
 }
 
-TEST_F(Duplicates, GiveRoomForFurtherCandidates) {
+TEST_F(Duplicates, MakeRoomForMoreCandidates) {
   BestMix best = rankingOf(2, {{{"Corn", 9}}, {{"Corn", 9}}});
   (void)best.returnCollection(true);
   submit(best, candidate("Wheat", 3));
@@ -188,7 +187,7 @@ TEST_F(Duplicates, AreCountedInTheReport) {
           "\r\n\r\nThere were 1 duplicates");
 }
 
-TEST_F(Duplicates, StandInTheShorterReport) {
+TEST_F(Duplicates, AreInTheShortReport) {
   BestMix best = rankingOf(2, {{{"Corn", 1234.5}}, {{"Corn", 1234.5}}});
   FieldCollection corn = candidate("Corn", 1234.5);
   const std::string option = "\r\n\r\n" + corn.toString() +
@@ -197,7 +196,7 @@ TEST_F(Duplicates, StandInTheShorterReport) {
   EXPECT_EQ(best.getCollection(), option + option);
 }
 
-TEST(BestMixReport, OfPlaceholdersWorksBeforeTheFirstRun) {
+TEST(BestMixReport, WithOnlyPlaceholdersWorksBeforeTheFirstRun) {
   const ScopedEfficiency none(0);
   BestMix best;
   best.setSize(1);

@@ -21,7 +21,7 @@ std::vector<std::uint64_t> bitsOf(const Split& split) {
   return bits;
 }
 
-/// The engine's splits of a volume against the plain ones, and both counters.
+/// Compares the engine's splits of a volume, and both counters, with the simple version.
 void expectPlainSplits(std::int16_t n, std::int16_t factor) {
   SCOPED_TRACE("factor " + std::to_string(factor) + ", fields " + std::to_string(n));
   constexpr double volume = 1020;
@@ -40,21 +40,21 @@ void expectPlainSplits(std::int16_t n, std::int16_t factor) {
   }
 }
 
-TEST(Enumeration, WaterSplitsAreThoseOfTheStackForEveryFactor) {
+TEST(Enumeration, WaterSplitsMatchTheReferenceForEveryFactor) {
   for (std::int16_t factor = 1; factor <= 99; ++factor) {
     for (std::int16_t n = 1; n <= 3; ++n)
       expectPlainSplits(n, factor);
   }
 }
 
-TEST(Enumeration, WaterSplitsOfFourFieldsAreThoseOfTheStack) {
+TEST(Enumeration, WaterSplitsOfFourFieldsMatchTheReference) {
   for (std::int16_t factor = 1; factor <= 31; ++factor)
     expectPlainSplits(4, factor);
   expectPlainSplits(4, 99);
 }
 
-/// A level that no split has would be priced, and might end a run that should not end.
-TEST(Enumeration, EveryLevelStandsInSomeSplit) {
+/// An unused level would still be priced, and a failure there would end the run for no reason.
+TEST(Enumeration, EveryLevelIsUsedInSomeSplit) {
   for (const std::int16_t factor : std::initializer_list<std::int16_t>{1, 3, 6, 7, 12, 30, 66, 99}) {
     for (std::int16_t n = 1; n <= 4; ++n) {
       ProgramState state;
@@ -71,7 +71,7 @@ TEST(Enumeration, EveryLevelStandsInSomeSplit) {
   }
 }
 
-TEST(Enumeration, RemovingASplitRemovesTheLevelsThatItAloneHad) {
+TEST(Enumeration, RemovingASplitRemovesLevelsThatOnlyItUsed) {
   ProgramState state;
   state.FineFactor = 2;
   SplitCollection splits = makeWaterSplits(2, 100, 100, state);
@@ -81,7 +81,7 @@ TEST(Enumeration, RemovingASplitRemovesTheLevelsThatItAloneHad) {
   EXPECT_EQ(splits.Item(2), (Split{0, 100}));
 }
 
-TEST(Enumeration, CropCombinationsAreThoseOfTheStack) {
+TEST(Enumeration, CropCombinationsMatchTheReference) {
   for (const std::size_t count : {1U, 2U, 3U, 5U}) {
     CropScenario crops;
     for (std::size_t i = 0; i < count; ++i) {

@@ -26,7 +26,7 @@ using reference::FarmKind;
 using reference::RandomFarm;
 using testing::ScopedEfficiency;
 
-/// Counts the calls of a run and lets a test step in.
+/// Counts the calls of a run and lets a test act during them.
 class CountingHooks : public RunHooks {
  public:
   std::size_t updates = 0;
@@ -46,8 +46,8 @@ class CountingHooks : public RunHooks {
   void closeProgress() override { ++closings; }
 };
 
-/// Four fields, factor 99 and 59 crops whose gains differ by rounding alone: more than two million million
-/// candidates, of which no bound turns any away.
+/// Four fields, factor 99, and 59 crops whose gains differ only by rounding: more than two million million
+/// candidates, none of which a bound can skip.
 class EndlessFarm {
  public:
   EndlessFarm() : plant_(testing::defaultPlant()), efficiency_(0.85) {
@@ -80,7 +80,7 @@ class EndlessFarm {
   std::unique_ptr<CropCombinations> combinations_;
 };
 
-/// The first random farm with at least so many water splits.
+/// The first random farm with at least this many water splits.
 RandomFarm farmWithSplits(FarmKind kind, long splits) {
   std::uint64_t seed = 0;
   while (RandomFarm(kind, seed).inputs().depths.Count() < splits)
@@ -95,7 +95,7 @@ std::vector<std::string> optionsOf(BestMix& best) {
   return result;
 }
 
-TEST(FastSearchRun, ProgressAdvancesOnceForEachWaterSplit) {
+TEST(FastSearchRun, ProgressAdvancesOncePerWaterSplit) {
   for (const FarmKind kind : {FarmKind::ordinary, FarmKind::fallowOnly, FarmKind::equalGainsNoPlant}) {
     for (std::uint64_t seed = 0; seed < 30; ++seed) {
       const RandomFarm farm(kind, seed);
@@ -110,7 +110,7 @@ TEST(FastSearchRun, ProgressAdvancesOnceForEachWaterSplit) {
   }
 }
 
-TEST(FastSearchRun, ProgressAdvancesOnceForEachWaterSplitWithoutCrops) {
+TEST(FastSearchRun, ProgressAdvancesOncePerWaterSplitEvenWithoutCrops) {
   const ScopedEfficiency efficiency(0.85);
   const Split landSplit{50, 50};
   ProgramState state;
@@ -124,7 +124,7 @@ TEST(FastSearchRun, ProgressAdvancesOnceForEachWaterSplitWithoutCrops) {
   EXPECT_EQ(hooks.updates, 11U);
 }
 
-TEST(FastSearchRun, CancelAtAnyStepOfTheProgressGivesNothing) {
+TEST(FastSearchRun, CancellingAtAnyStepGivesNoResult) {
   const RandomFarm farm = farmWithSplits(FarmKind::ordinary, 20);
   const ScopedEfficiency efficiency(farm.efficiency());
   const auto splits = static_cast<std::size_t>(farm.inputs().depths.Count());
@@ -139,7 +139,7 @@ TEST(FastSearchRun, CancelAtAnyStepOfTheProgressGivesNothing) {
   }
 }
 
-TEST(FastSearchRun, CancelFromBeforeTheSearchDoesNotCount) {
+TEST(FastSearchRun, ACancelBeforeTheSearchIsIgnored) {
   const RandomFarm farm = farmWithSplits(FarmKind::ordinary, 20);
   const ScopedEfficiency efficiency(farm.efficiency());
   ProgramState state;
@@ -150,8 +150,8 @@ TEST(FastSearchRun, CancelFromBeforeTheSearchDoesNotCount) {
   EXPECT_FALSE(state.CancelRequested);
 }
 
-/// A run that did not serve events would not come back.
-TEST(FastSearchRun, CancelEndsASearchThatWouldTakeHours) {
+/// Would not return if the run did not process events.
+TEST(FastSearchRun, CancellingEndsASearchThatWouldTakeHours) {
   const EndlessFarm farm;
   for (const std::size_t at : {2U, 3U, 10U}) {
     ProgramState state;
@@ -163,9 +163,9 @@ TEST(FastSearchRun, CancelEndsASearchThatWouldTakeHours) {
   }
 }
 
-/// What a press of the run button does while a search pumps events: another run, with an efficiency of its
-/// own.
-TEST(FastSearchRun, RunInsideARunLeavesTheOuterOneAsItWas) {
+/// Simulates a press of the run button while a search pumps events: starts another run with its own
+/// efficiency.
+TEST(FastSearchRun, ANestedRunDoesNotChangeTheOuterRun) {
   const RandomFarm outer = farmWithSplits(FarmKind::ordinary, 50);
   const RandomFarm inner(FarmKind::highFactor, 6);
   const ScopedEfficiency efficiency(outer.efficiency());
@@ -189,7 +189,7 @@ TEST(FastSearchRun, RunInsideARunLeavesTheOuterOneAsItWas) {
   EXPECT_EQ(optionsOf(*best), optionsOf(*expected));
 }
 
-/// The error text of a search, or its options.
+/// The error text of a search, or else its options.
 template <class Evaluate>
 std::vector<std::string> outcome(const RandomFarm& farm, Evaluate evaluate) {
   ProgramState state;
@@ -204,7 +204,7 @@ std::vector<std::string> outcome(const RandomFarm& farm, Evaluate evaluate) {
   }
 }
 
-TEST(FastSearchRun, FaultyFarmsEndInTheErrorOfThePlainLoop) {
+TEST(FastSearchRun, FaultyFarmsGiveTheSameErrorAsTheSimpleLoop) {
   std::size_t faults = 0;
   for (std::uint64_t seed = 0; seed < 400; ++seed) {
     SCOPED_TRACE("farm " + std::to_string(seed));
@@ -218,7 +218,7 @@ TEST(FastSearchRun, FaultyFarmsEndInTheErrorOfThePlainLoop) {
   EXPECT_LT(faults, 380U);
 }
 
-TEST(FastSearchRun, NoPlacesAreAnError) {
+TEST(FastSearchRun, ARankingWithoutPlacesIsAnError) {
   const RandomFarm farm(FarmKind::ordinary, 1);
   const ScopedEfficiency efficiency(farm.efficiency());
   const SearchInputs inputs = farm.inputs();

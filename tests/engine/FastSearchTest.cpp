@@ -23,10 +23,10 @@ using reference::FarmKind;
 using reference::RandomFarm;
 using testing::ScopedEfficiency;
 
-/// Farms of each kind in a run of the suite: 2,520 in all, about 10 million candidates.
+/// Farms of each kind per run of the suite: 2,520 in total, about 10 million candidates.
 constexpr std::uint64_t farmsPerKind = 180;
 
-/// The first farm of a run. Every run takes the same ones, unless VERDALIS_SEED asks for others.
+/// The seed of the first farm. It is the same in every run, unless VERDALIS_SEED is set.
 std::uint64_t firstSeed() {
   const char* text = std::getenv("VERDALIS_SEED");
   return text == nullptr ? 0 : std::strtoull(text, nullptr, 10);
@@ -40,7 +40,7 @@ std::vector<std::string> bytesOf(const std::vector<BestMix::Option>& options) {
   return result;
 }
 
-/// Each crop on the undivided farm, as the run driver adds them.
+/// Submits each crop on the undivided farm, as a run does.
 void submitUndivided(const RandomFarm& farm, BestMix& best) {
   const SearchInputs inputs = farm.inputs();
   for (const auto& crop : farm.crops()) {
@@ -58,7 +58,7 @@ void submitUndivided(const RandomFarm& farm, BestMix& best) {
   }
 }
 
-/// Compares two rankings whole, and what they become. Both are spent.
+/// Compares two complete rankings, also after further operations. Both are used up.
 void expectSame(BestMix& fast, BestMix& plain, const RandomFarm& farm) {
   ASSERT_EQ(fast.getSize(), plain.getSize());
   EXPECT_EQ(std::bit_cast<std::uint64_t>(fast.LowEnd), std::bit_cast<std::uint64_t>(plain.LowEnd));
@@ -78,7 +78,7 @@ void expectSame(BestMix& fast, BestMix& plain, const RandomFarm& farm) {
 
 class FastSearchOn : public ::testing::TestWithParam<FarmKind> {};
 
-TEST_P(FastSearchOn, RandomFarmsGivesTheOptionsOfPricingEveryCandidate) {
+TEST_P(FastSearchOn, RandomFarmsGivesTheSameOptionsAsPricingEveryCandidate) {
   std::uint64_t candidates = 0;
   for (std::uint64_t seed = firstSeed(); seed < firstSeed() + farmsPerKind; ++seed) {
     SCOPED_TRACE("farm " + std::to_string(seed) + " of " + std::string(name(GetParam())));
@@ -105,8 +105,8 @@ INSTANTIATE_TEST_SUITE_P(All, FastSearchOn,
                                            FarmKind::linearYields, FarmKind::fewCandidates),
                          [](const auto& test) { return std::string(name(test.param)); });
 
-/// Farms that are too large for the plain loop.
-TEST_P(FastSearchOn, LargeRandomFarmsKeepsWhatPricingAllByTablesKeeps) {
+/// For farms that are too large for the simple loop.
+TEST_P(FastSearchOn, LargeRandomFarmsKeepsTheSameCandidatesAsPricingAllFromTables) {
   constexpr double mostCandidates = 3e6;
   for (std::uint64_t seed = firstSeed(); seed < firstSeed() + 4; ++seed) {
     SCOPED_TRACE("farm " + std::to_string(seed) + " of " + std::string(name(GetParam())));
@@ -127,7 +127,7 @@ TEST_P(FastSearchOn, LargeRandomFarmsKeepsWhatPricingAllByTablesKeeps) {
   }
 }
 
-TEST(FastSearch, GivesTheOptionsOfTheLiteralSearch) {
+TEST(FastSearch, GivesTheSameOptionsAsTheLiteralSearch) {
   for (std::uint64_t seed = 0; seed < 20; ++seed) {
     for (const FarmKind kind : {FarmKind::ordinary, FarmKind::twinCrops, FarmKind::wholeDollars}) {
       SCOPED_TRACE("farm " + std::to_string(seed) + " of " + std::string(name(kind)));

@@ -9,8 +9,7 @@
 #include "model/LandDivision.h"
 #include "tests/support/Errors.h"
 
-// A split as a list of numbers, the choice of a land division, and the conversions from shares to acres,
-// volumes and depths.
+// Splits, the choice of a land division, and the conversion of shares to acres, volumes and depths.
 
 namespace verdalis::testing {
 namespace {
@@ -28,7 +27,7 @@ TEST(Split, IsAListOfNumbers) {
   EXPECT_THAT(split.splits, ElementsAre(50, 33.5));
 }
 
-TEST(Split, TotalsItsValuesAfterRoundingEachHalvesToEven) {
+TEST(Split, TotalRoundsEachValueHalvesToEven) {
   EXPECT_EQ(Split().total(), 0);
   EXPECT_EQ((Split{100.0 / 3, 100.0 / 3, 100.0 / 3}).total(), 99);
   EXPECT_EQ((Split{100.0 / 3, 200.0 / 3}).total(), 100);
@@ -39,7 +38,7 @@ TEST(Split, TotalsItsValuesAfterRoundingEachHalvesToEven) {
   EXPECT_EQ((Split{99.99999999999997}).total(), 100);
 }
 
-TEST(Split, ReportsEachValueWithItsUnitOnOneLine) {
+TEST(Split, ReportShowsEachValueWithItsUnitOnOneLine) {
   EXPECT_EQ(Split().toString(), "");
   EXPECT_EQ((Split{918, 102.5, 0}).toString(), "918 ac-in      102.5 ac-in      0 ac-in      ");
 }
@@ -59,24 +58,24 @@ TEST(LandDivision, HasThePercentagesOfItsTable) {
   EXPECT_NE(errorText(ErrorNumber::subscript, [] { (void)landDivision(landDivisions().size()); }), "");
 }
 
-TEST(LandAcres, AreTheSharesOfTheFarm) {
+TEST(LandAcres, AreSharesOfTheFarm) {
   EXPECT_THAT(percentToAcres({75, 25}, 160).getSplits(), ElementsAre(120, 40));
   EXPECT_THAT(percentToAcres({33, 33, 33}, 100).getSplits(), ElementsAre(33, 33, 33));
   EXPECT_THAT(percentToAcres({100}, 0).getSplits(), ElementsAre(0));
 }
 
-TEST(LandAcres, DivideBy100BeforeTheyMultiply) {
+TEST(LandAcres, AreDividedBy100BeforeMultiplying) {
   const double acres = 70.1;
   EXPECT_THAT(percentToAcres({33}, acres).getSplits(), ElementsAre((33.0 / 100) * acres));
-  EXPECT_NE((33.0 / 100) * acres, 33.0 * acres / 100);  // the order shows in the last digit
+  EXPECT_NE((33.0 / 100) * acres, 33.0 * acres / 100);  // the order affects the last digit
 }
 
-TEST(WaterVolume, IsTheShareOfTheNetVolume) {
+TEST(WaterVolume, IsAShareOfTheNetVolume) {
   EXPECT_THAT(percentToVolume(1020, {90, 10, 0}).getSplits(), ElementsAre(918, 102, 0));
   EXPECT_THAT(percentToVolume(1037.3, {100.0 / 3}).getSplits(), ElementsAre(((100.0 / 3) / 100) * 1037.3));
 }
 
-TEST(WaterDepth, IsTheVolumeOverTheAcresOfTheField) {
+TEST(WaterDepth, IsTheVolumeDividedByTheAcresOfTheField) {
   SplitCollection water;
   water.Add({1020, 0}, 2);
   water.Add({340, 680}, 2);
@@ -86,11 +85,11 @@ TEST(WaterDepth, IsTheVolumeOverTheAcresOfTheField) {
   EXPECT_THAT(depths.Item(2).getSplits(), ElementsAre(340.0 / 75, 680.0 / 25));
 }
 
-TEST(WaterDepth, OfNoSplitsIsNoDepths) {
+TEST(WaterDepth, OfNoSplitsIsEmpty) {
   EXPECT_EQ(volumesToDepths(SplitCollection(), {0, 0}).Count(), 0);
 }
 
-TEST(WaterDepth, NeedsAcres) {
+TEST(WaterDepth, RequiresAcres) {
   SplitCollection water;
   water.Add({0, 10}, 2);
   EXPECT_THAT(errorText(ErrorNumber::divisionByZero,
@@ -100,7 +99,7 @@ TEST(WaterDepth, NeedsAcres) {
               AllOf(HasSubstr("0 acres"), HasSubstr("Total Acres:")));
 }
 
-TEST(SplitConversions, TellResultsThatAreTooLarge) {
+TEST(SplitConversions, RejectResultsThatAreTooLarge) {
   EXPECT_THAT(errorText(ErrorNumber::overflow, [] { (void)percentToAcres({1e300}, 1e300); }),
               HasSubstr("size of a field"));
   EXPECT_THAT(errorText(ErrorNumber::overflow, [] { (void)percentToVolume(1e300, {1e300}); }),

@@ -34,12 +34,12 @@ BestMix rankingOf(std::int16_t size) {
   return best;
 }
 
-TEST_F(Ranking, StartsWithoutPlaces) {
+TEST_F(Ranking, HasNoPlacesInitially) {
   EXPECT_EQ(BestMix().getSize(), 0);
   EXPECT_TRUE(BestMix().returnCollection(true).empty());
 }
 
-TEST_F(Ranking, StartsWithPlaceholdersInAllPlaces) {
+TEST_F(Ranking, HasOnlyPlaceholdersInitially) {
   BestMix best = rankingOf(3);
   EXPECT_EQ(best.getSize(), 3);
   const auto options = best.returnCollection(false);
@@ -51,7 +51,7 @@ TEST_F(Ranking, StartsWithPlaceholdersInAllPlaces) {
   }
 }
 
-TEST_F(Ranking, NeedsAPlaceOrMore) {
+TEST_F(Ranking, RequiresAtLeastOnePlace) {
   for (const std::int16_t size : std::vector<std::int16_t>{0, -1, -32768}) {
     EXPECT_THAT(errorText(ErrorNumber::subscript, [&] { (void)rankingOf(size); }),
                 HasSubstr(std::to_string(size)));
@@ -60,7 +60,7 @@ TEST_F(Ranking, NeedsAPlaceOrMore) {
   errorText(ErrorNumber::subscript, [&] { submit(unsized, candidate("A", 1)); });
 }
 
-TEST_F(Ranking, TakesTheLargestSize) {
+TEST_F(Ranking, AcceptsTheLargestSize) {
   BestMix best = rankingOf(32767);
   submit(best, candidate("A", 1));
   EXPECT_EQ(namesIn(best)[0], "A");
@@ -75,14 +75,14 @@ TEST_F(Ranking, PutsTheLargerProfitFirst) {
   EXPECT_THAT(namesIn(best), ElementsAre("B", "D", "A", "C", "-"));
 }
 
-TEST_F(Ranking, PutsTheLaterOfEqualsFirst) {
+TEST_F(Ranking, PutsTheLaterOfEqualProfitsFirst) {
   BestMix best = rankingOf(4);
   for (const char* name : {"A", "B", "C"})
     submit(best, candidate(name, 10));
   EXPECT_THAT(namesIn(best), ElementsAre("C", "B", "A", "-"));
 }
 
-TEST_F(Ranking, WithOnePlaceKeepsTheBestAndTheLaterOfEquals) {
+TEST_F(Ranking, WithOnePlaceKeepsTheBestAndTheLaterOfEqualProfits) {
   BestMix best = rankingOf(1);
   submit(best, candidate("A", 10));
   submit(best, candidate("B", 9));
@@ -93,7 +93,7 @@ TEST_F(Ranking, WithOnePlaceKeepsTheBestAndTheLaterOfEquals) {
   EXPECT_THAT(namesIn(best), ElementsAre("D"));
 }
 
-TEST_F(Ranking, DropsWhatIsBelowTheLastPlace) {
+TEST_F(Ranking, DropsCandidatesBelowTheLastPlace) {
   BestMix best = rankingOf(2);
   submit(best, candidate("A", 10));
   submit(best, candidate("B", 10));
@@ -101,7 +101,7 @@ TEST_F(Ranking, DropsWhatIsBelowTheLastPlace) {
   EXPECT_THAT(namesIn(best), ElementsAre("B", "A"));
 }
 
-TEST_F(Ranking, LeavesTheFreePlacesBehindItsEntries) {
+TEST_F(Ranking, HasItsFreePlacesAtTheEnd) {
   BestMix best = rankingOf(10);
   for (const char* name : {"A", "B", "C", "D", "E"})
     submit(best, candidate(name, -100));
@@ -109,7 +109,7 @@ TEST_F(Ranking, LeavesTheFreePlacesBehindItsEntries) {
   EXPECT_EQ(best.LowEnd, 0);
 }
 
-TEST_F(Ranking, FillsAFreePlaceWithALossToo) {
+TEST_F(Ranking, FillsFreePlacesEvenWithLosses) {
   BestMix best = rankingOf(2);
   submit(best, candidate("A", -1000));
   EXPECT_THAT(namesIn(best), ElementsAre("A", "-"));
@@ -119,7 +119,7 @@ TEST_F(Ranking, FillsAFreePlaceWithALossToo) {
   EXPECT_THAT(namesIn(best), ElementsAre("C", "A"));
 }
 
-TEST_F(Ranking, ComparesWithoutTolerance) {
+TEST_F(Ranking, ComparesProfitsExactly) {
   BestMix best = rankingOf(3);
   const double hair = std::nextafter(10.0, 11.0);
   submit(best, candidate("A", hair));
@@ -129,21 +129,21 @@ TEST_F(Ranking, ComparesWithoutTolerance) {
   EXPECT_THAT(namesIn(best), ElementsAre("C", "A", "B"));
 }
 
-TEST_F(Ranking, TakesBothZerosAsEqual) {
+TEST_F(Ranking, TreatsPositiveAndNegativeZeroAsEqual) {
   BestMix best = rankingOf(2);
   submit(best, candidate("A", 0.0));
   submit(best, candidate("B", -0.0));
   EXPECT_THAT(namesIn(best), ElementsAre("B", "A"));
 }
 
-TEST_F(Ranking, RanksByTheTotalAndNotByTheAcre) {
+TEST_F(Ranking, RanksByTotalProfitNotProfitPerAcre) {
   BestMix best = rankingOf(2);
   submit(best, candidateOf({{"Small", 1000, 1}}));
   submit(best, candidateOf({{"Large", 2000, 100}}));
   EXPECT_THAT(namesIn(best), ElementsAre("Large", "Small"));
 }
 
-TEST_F(Ranking, KnowsTheProfitInItsLastPlaceAfterEachCandidate) {
+TEST_F(Ranking, LowEndIsTheProfitInTheLastPlace) {
   BestMix best = rankingOf(2);
   submit(best, candidate("A", 10));
   EXPECT_EQ(best.LowEnd, 0);
@@ -155,7 +155,7 @@ TEST_F(Ranking, KnowsTheProfitInItsLastPlaceAfterEachCandidate) {
   EXPECT_EQ(best.LowEnd, 7);
 }
 
-TEST_F(Ranking, KeepsCopies) {
+TEST_F(Ranking, StoresCopiesOfCandidates) {
   BestMix best = rankingOf(1);
   FieldCollection offered = candidate("A", 10);
   best.submit(offered);
@@ -166,14 +166,14 @@ TEST_F(Ranking, KeepsCopies) {
   EXPECT_EQ(best.returnCollection(false)[0]->getProfit(), 10);
 }
 
-TEST_F(Ranking, TellsACandidateThatCannotBePriced) {
+TEST_F(Ranking, RejectsACandidateThatCannotBePriced) {
   const ScopedEfficiency none(0);
   BestMix best = rankingOf(1);
   EXPECT_THAT(errorText(ErrorNumber::divisionByZero, [&] { submit(best, candidate("A", 10)); }),
               HasSubstr("efficiency"));
 }
 
-TEST_F(Ranking, SizesAnew) {
+TEST_F(Ranking, ChangingTheSizeClearsIt) {
   BestMix best = rankingOf(2);
   submit(best, candidate("A", 10));
   best.setSize(3);
@@ -187,7 +187,7 @@ TEST_F(Ranking, CopySharesItsOptions) {
   BestMix copy = best.Copy();
   EXPECT_EQ(copy.getSize(), 2);
   EXPECT_EQ(copy.LowEnd, 5);
-  submit(copy, candidate("C", 20));  // the places are the copy's own
+  submit(copy, candidate("C", 20));  // the copy has its own places
   EXPECT_THAT(namesIn(copy), ElementsAre("C", "A"));
   EXPECT_THAT(namesIn(best), ElementsAre("A", "B"));
 }
@@ -211,7 +211,7 @@ TEST_F(Ranking, HasTwoOperationsThatDoNothing) {
   EXPECT_THAT(namesIn(best), ElementsAre("A", "A"));
 }
 
-RC_GTEST_PROP(RankingOrder, IsThatOfAStableSortWithTheLaterFirst, ()) {
+RC_GTEST_PROP(RankingOrder, IsAStableSortWithLaterCandidatesFirst, ()) {
   const ScopedEfficiency efficiency(0.85);
   const auto size = static_cast<std::int16_t>(*rc::gen::inRange(1, 30));
   const auto profits = *rc::gen::container<std::vector<double>>(
@@ -220,7 +220,7 @@ RC_GTEST_PROP(RankingOrder, IsThatOfAStableSortWithTheLaterFirst, ()) {
   std::vector<std::pair<double, std::string>> sorted;
   for (std::size_t i = 0; i < profits.size(); ++i) {
     submit(best, candidate(std::to_string(i), profits[i]));
-    sorted.insert(sorted.begin(), {profits[i], std::to_string(i)});  // the later first
+    sorted.insert(sorted.begin(), {profits[i], std::to_string(i)});  // later candidates first
   }
   std::stable_sort(sorted.begin(), sorted.end(),
                    [](const auto& a, const auto& b) { return a.first > b.first; });

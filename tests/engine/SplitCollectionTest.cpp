@@ -16,15 +16,15 @@ namespace {
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 
-TEST(SplitCollection, FillsASplitWithZerosUpToTheFields) {
+TEST(SplitCollection, PadsASplitWithZerosUpToTheNumberOfFields) {
   Split split{100};
   EXPECT_THAT(SplitCollection::fillSplits(split, 3).getSplits(), ElementsAre(100, 0, 0));
-  EXPECT_THAT(split.getSplits(), ElementsAre(100, 0, 0));  // the very split it was given
+  EXPECT_THAT(split.getSplits(), ElementsAre(100, 0, 0));  // the split itself, not a copy
   EXPECT_THAT(SplitCollection::fillSplits(split, 2).getSplits(), ElementsAre(100, 0, 0));
   EXPECT_THAT(SplitCollection::fillSplits(split, 3).getSplits(), ElementsAre(100, 0, 0));
 }
 
-TEST(SplitCollection, IsAListCountedFrom1) {
+TEST(SplitCollection, IndicesStartAt1) {
   SplitCollection splits;
   EXPECT_EQ(splits.Count(), 0);
   splits.Add({100}, 2);
@@ -34,7 +34,7 @@ TEST(SplitCollection, IsAListCountedFrom1) {
   EXPECT_THAT(splits.Item(2).getSplits(), ElementsAre(90, 10));
 }
 
-TEST(SplitCollection, RemovesAnEntryAndMovesTheOthersUp) {
+TEST(SplitCollection, RemoveClosesTheGap) {
   SplitCollection splits;
   for (const double first : {1.0, 2.0, 3.0})
     splits.Add({first, 0}, 2);
@@ -44,7 +44,7 @@ TEST(SplitCollection, RemovesAnEntryAndMovesTheOthersUp) {
   EXPECT_EQ(splits.Item(2).getSplits()[0], 3);
 }
 
-TEST(SplitCollection, TellsAnIndexOutsideIt) {
+TEST(SplitCollection, RejectsAnIndexOutsideTheCollection) {
   SplitCollection splits;
   splits.Add({1}, 1);
   for (const long index : {0L, 2L, -1L}) {
@@ -55,7 +55,7 @@ TEST(SplitCollection, TellsAnIndexOutsideIt) {
   EXPECT_EQ(splits.Count(), 1);
 }
 
-TEST(SplitCollection, ReportsEachSplitOnALineOfItsOwn) {
+TEST(SplitCollection, ReportHasOneLinePerSplit) {
   SplitCollection splits;
   EXPECT_EQ(splits.toString(), "");
   splits.Add({918, 102}, 2);
@@ -64,7 +64,7 @@ TEST(SplitCollection, ReportsEachSplitOnALineOfItsOwn) {
             "\r\n918 ac-in      102 ac-in      \r\n\r\n0 ac-in      1020.5 ac-in      \r\n");
 }
 
-TEST(SplitCollection, GoesThroughItsSplitsInOrder) {
+TEST(SplitCollection, IteratesOverItsSplitsInOrder) {
   SplitCollection splits;
   splits.Add({7}, 1);
   splits.Add({3}, 1);
@@ -84,7 +84,7 @@ std::vector<std::uint64_t> bitsOf(const std::vector<double>& values) {
   return bits;
 }
 
-RC_GTEST_PROP(SplitCollection, HoldsWhatAPlainListHolds, ()) {
+RC_GTEST_PROP(SplitCollection, ContainsTheSameSplitsAsASimpleList, ()) {
   const auto n = static_cast<std::int16_t>(*rc::gen::inRange(1, 5));
   const auto value = rc::gen::map(rc::gen::inRange(-3, 30), [](int k) { return k == -1 ? -0.0 : k / 3.0; });
   SplitCollection splits;

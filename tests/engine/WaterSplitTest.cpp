@@ -12,7 +12,7 @@
 #include "engine/MakingSplits.h"
 #include "tests/support/Errors.h"
 
-// The ways to share the water: which there are, how many, and in which order.
+// The water splits, their number and their order.
 
 namespace verdalis::testing {
 namespace {
@@ -31,7 +31,7 @@ std::vector<std::vector<double>> waterSplits(std::int16_t n, std::int16_t factor
   return result;
 }
 
-/// The shares that a factor allows.
+/// The possible shares for a factor.
 std::vector<double> shares(std::int16_t factor) {
   std::vector<double> levels;
   for (double level = 0; level <= 100; level += 100.0 / factor)
@@ -39,7 +39,7 @@ std::vector<double> shares(std::int16_t factor) {
   return levels;
 }
 
-/// All tuples of shares whose rounded sum is 100, largest first: first share, then second and so on.
+/// All tuples of shares whose rounded sum is 100, in descending order by first share, second share and so on.
 void addTuples(const std::vector<double>& levels, std::size_t n, double rounded, std::vector<double>& tuple,
                std::vector<std::vector<double>>& result) {
   if (tuple.size() == n) {
@@ -60,7 +60,7 @@ std::vector<std::vector<double>> tuples(std::int16_t n, std::int16_t factor) {
   return result;
 }
 
-TEST(WaterSplits, HaveTheKnownNumbers) {
+TEST(WaterSplits, HaveTheKnownCounts) {
   struct Row {
     std::int16_t factor;
     std::array<std::size_t, 4> counts;  ///< For one to four fields
@@ -78,7 +78,7 @@ TEST(WaterSplits, HaveTheKnownNumbers) {
   }
 }
 
-TEST(WaterSplits, ComeInFallingOrder) {
+TEST(WaterSplits, AreInDescendingOrder) {
   const auto splits = waterSplits(3, 10);
   ASSERT_EQ(splits.size(), 66U);
   EXPECT_THAT(splits[0], ElementsAre(100, 0, 0));
@@ -100,7 +100,7 @@ TEST(WaterSplits, OfTwoFieldsRunFromAllToNothing) {
   }
 }
 
-TEST(WaterSplits, OfFourFieldsBeginAndEndWithAllInOne) {
+TEST(WaterSplits, OfFourFieldsStartAndEndWithAllWaterOnOneField) {
   const auto splits = waterSplits(4, 10);
   ASSERT_EQ(splits.size(), 286U);
   EXPECT_THAT(splits.front(), ElementsAre(100, 0, 0, 0));
@@ -110,15 +110,15 @@ TEST(WaterSplits, OfFourFieldsBeginAndEndWithAllInOne) {
   EXPECT_THAT(splits.back(), ElementsAre(0, 0, 0, 100));
 }
 
-TEST(WaterSplits, OfOneFieldGiveItEverything) {
+TEST(WaterSplits, OfOneFieldGiveItAllWater) {
   EXPECT_THAT(waterSplits(1, 10), ElementsAre(ElementsAre(100)));
 }
 
-TEST(WaterSplits, WithFactor1GiveAllToOneField) {
+TEST(WaterSplits, WithFactor1GiveAllWaterToOneField) {
   EXPECT_THAT(waterSplits(2, 1), ElementsAre(ElementsAre(100, 0), ElementsAre(0, 100)));
 }
 
-TEST(WaterSplits, WithFactor3KeepThirdsOnlyWhereTheyRoundTo100) {
+TEST(WaterSplits, WithFactor3OmitThreeThirdsBecauseTheyRoundTo99) {
   const double third = 100.0 / 3;
   const double twoThirds = third + third;
   EXPECT_THAT(waterSplits(2, 3),
@@ -129,10 +129,10 @@ TEST(WaterSplits, WithFactor3KeepThirdsOnlyWhereTheyRoundTo100) {
   }
 }
 
-TEST(WaterSplits, HaveNoFullShareWhereTheSumOfTheStepsLandsAbove100) {
+TEST(WaterSplits, HaveNoFullShareIfTheStepsAddUpToMoreThan100) {
   for (const std::int16_t factor : std::vector<std::int16_t>{6, 7, 9, 11, 15}) {
     EXPECT_EQ(shares(factor).size(), static_cast<std::size_t>(factor))
-        << factor;  // one less than there are steps
+        << factor;  // one less than the number of steps
     EXPECT_TRUE(waterSplits(1, factor).empty()) << factor;
     for (std::int16_t n = 2; n <= 4; ++n) {
       for (const auto& split : waterSplits(n, factor)) {
@@ -143,7 +143,7 @@ TEST(WaterSplits, HaveNoFullShareWhereTheSumOfTheStepsLandsAbove100) {
   }
 }
 
-TEST(WaterSplits, HaveAFullShareALittleUnder100WhereTheSumLandsThere) {
+TEST(WaterSplits, HaveAFullShareSlightlyBelow100IfTheStepsAddUpToIt) {
   for (const std::int16_t factor : std::vector<std::int16_t>{12, 14}) {
     const auto splits = waterSplits(1, factor);
     ASSERT_EQ(splits.size(), 1U) << factor;
@@ -153,13 +153,13 @@ TEST(WaterSplits, HaveAFullShareALittleUnder100WhereTheSumLandsThere) {
   }
 }
 
-TEST(WaterSplits, WithFactor30BeginWithAShareThatRoundsTo100) {
+TEST(WaterSplits, WithFactor30StartWithAShareThatRoundsTo100) {
   EXPECT_EQ(shares(30).back(), 99.99999999999997);
   const auto splits = waterSplits(4, 30, 1020);
   EXPECT_THAT(splits.front(), ElementsAre((99.99999999999997 / 100) * 1020, 0, 0, 0));
 }
 
-TEST(WaterSplits, WithFactor6AreThrownAwayWhereTheyRoundTo101) {
+TEST(WaterSplits, WithFactor6OmitSplitsThatRoundTo101) {
   // 16.67, 33.33, 50, 66.67 and 83.33 round to 17, 33, 50, 67 and 83.
   EXPECT_EQ(waterSplits(2, 6).size(), 5U);
   std::size_t overfull = 0;
@@ -179,7 +179,7 @@ TEST(WaterSplits, WithFactor6AreThrownAwayWhereTheyRoundTo101) {
   }
 }
 
-TEST(WaterSplits, AreAllTuplesOfSharesThatRoundTo100InFallingOrder) {
+TEST(WaterSplits, AreAllTuplesOfSharesThatRoundTo100InDescendingOrder) {
   const auto expectTuples = [](std::int16_t n, std::int16_t factor) {
     auto expected = tuples(n, factor);
     for (auto& split : expected) {
@@ -199,7 +199,7 @@ TEST(WaterSplits, AreAllTuplesOfSharesThatRoundTo100InFallingOrder) {
     expectTuples(4, factor);
 }
 
-RC_GTEST_PROP(WaterSplits, RoundTo100EachAndComeOnce, ()) {
+RC_GTEST_PROP(WaterSplits, AllRoundTo100AndAreUnique, ()) {
   const auto n = static_cast<std::int16_t>(*rc::gen::inRange(1, 5));
   const auto factor = static_cast<std::int16_t>(*rc::gen::inRange(1, n == 4 ? 41 : 100));
   ProgramState state;
@@ -208,7 +208,7 @@ RC_GTEST_PROP(WaterSplits, RoundTo100EachAndComeOnce, ()) {
   const auto levels = shares(factor);
   std::vector<double> previous;
   for (const Split& split : splits) {
-    // Back from acre-inches to the shares that they were made of.
+    // Converts acre-inches back to shares.
     Split percentages;
     for (const double volume : split.getSplits()) {
       const auto level =
@@ -223,7 +223,7 @@ RC_GTEST_PROP(WaterSplits, RoundTo100EachAndComeOnce, ()) {
   }
 }
 
-TEST(WaterSplits, TakeNoNoteOfTheAcres) {
+TEST(WaterSplits, DoNotDependOnTheAcres) {
   ProgramState state;
   for (const double acres : {0.0, 100.0, -5.0}) {
     EXPECT_EQ(makeWaterSplits(2, 1020, acres, state).Item(2).getSplits(), (std::vector<double>{918, 102}));
@@ -233,15 +233,15 @@ TEST(WaterSplits, TakeNoNoteOfTheAcres) {
 TEST(WaterSplits, CountCompletedAndOverfullSplitsOfAllRuns) {
   ProgramState state;
   (void)makeWaterSplits(2, 1020, 100, state);
-  // 10 splits are completed by their second share; after 9 of them the next share is too much.
+  // 10 splits are completed by their second share; after 9 of them the next share exceeds 100.
   EXPECT_EQ(state.splitCounter, 19);
   (void)makeWaterSplits(2, 1020, 100, state);
   EXPECT_EQ(state.splitCounter, 38);
-  (void)makeWaterSplits(1, 1020, 100, state);  // one field: the full share is complete from the start
+  (void)makeWaterSplits(1, 1020, 100, state);  // one field: the full share completes the split immediately
   EXPECT_EQ(state.splitCounter, 38);
 }
 
-TEST(WaterSplits, NeedAnIterationFactorAbove0) {
+TEST(WaterSplits, RequireAnIterationFactorAbove0) {
   ProgramState state;
   state.FineFactor = 0;
   EXPECT_THAT(errorText(ErrorNumber::divisionByZero, [&] { (void)makeWaterSplits(2, 1020, 100, state); }),

@@ -9,8 +9,8 @@
 #include "tests/fuzz/Fuzzing.h"
 #include "text/encoding.h"
 
-// The bytes up to the first "|" are a crop file, those behind it the soils file of another crop. The library
-// with both must be what the plain reader makes of them.
+// The input up to the first "|" is a crop file, the rest is the soils file of another crop. The library of
+// both must equal the result of the simple reader.
 
 namespace verdalis {
 namespace {

@@ -11,8 +11,8 @@
 #include "tests/support/TemporaryFolder.h"
 #include "text/encoding.h"
 
-// Any bytes as saved inputs: they set what the plain reader sets, and what they have set can be saved and
-// loaded again.
+// Any input as saved inputs: it must set the same values as the simple reader, and these values must survive
+// saving and loading.
 
 namespace verdalis {
 namespace {
@@ -23,7 +23,7 @@ using testing::PlainInputsReader;
 using testing::PlainTarget;
 using testing::TemporaryFolder;
 
-// Short names are found sooner. "1" is a value as well, and there are two crops "C".
+// Short names, so that the fuzzer finds them sooner. "1" is also a value, and there are two crops "C".
 const std::vector<std::string> names{"C", "1", "C", "Fallow", ""};
 
 void check(const std::string& bytes) {

@@ -14,14 +14,14 @@
 #include "text/numbers.h"
 #include "text/quote.h"
 
-// The bytes as a number's text, as a pattern and, the first eight, as a number.
+// The input is used as the text of a number, as a pattern, and its first eight bytes as a number.
 
 namespace verdalis {
 namespace {
 
 using fuzz::require;
 
-/// What a reading gives, or nothing where it fails.
+/// The result of a reading, or nothing if it fails.
 template <class Reading>
 auto attempt(Reading reading) -> std::optional<decltype(reading())> {
   try {
@@ -49,7 +49,7 @@ void checkText(const std::string& text) {
     require(std::fabs(*whole - value.value_or(0)) <= 0.5, "the nearest whole number");
   }
   const std::string quoted = quoteForMessage(text);
-  // What is no UTF-8 counts by its bytes, and each can become a character of three.
+  // In invalid UTF-8 each byte counts, and can become a character of three bytes.
   const std::size_t longest = isUtf8(text) ? 4 * 40 : 3 * 4 * 40;
   require(isUtf8(quoted) && quoted.size() <= longest + 5, "a quotation is short and valid");
 }

@@ -250,9 +250,9 @@ TEST_F(OtherWindows, AllCloseWithTheMainWindow) {
        std::vector<Window*>{&windows.help(), &windows.helpEff(), &windows.options(), &windows.about()})
     window->setVisible(true);
   for (Window* window : running.program->desk.windows()) {
-    window->watcher = [window, &closed] {
+    window->onStateChange.connect([window, &closed] {
       if (!window->isOpen()) closed.push_back(window->name());
-    };
+    });
   }
   main.closeByUser();
   EXPECT_TRUE(running.program->ended());

@@ -88,9 +88,9 @@ TEST(ProgressWindow, BeginsEachRunAtZero) {
   running.press("theResults.Command1");
   frmUpdating& progress = running.program->windows.updating();
   std::vector<double> values;
-  progress.ProgressBar.watcher = [&] {
+  progress.ProgressBar.onStateChange.connect([&] {
     if (progress.isOpen()) values.push_back(progress.ProgressBar.value());
-  };
+  });
   running.press("Command1");
   ASSERT_FALSE(values.empty());
   EXPECT_EQ(values.front(), 0);

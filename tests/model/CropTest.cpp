@@ -11,7 +11,7 @@
 #include "tests/support/Crops.h"
 #include "tests/support/Errors.h"
 
-// The crop as an object, the lists of crops, and the yield table as a value.
+// Crops, lists of crops, and yield tables as values.
 
 namespace verdalis::testing {
 namespace {
@@ -20,7 +20,7 @@ using ::testing::AllOf;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 
-TEST(Crop, ShowsItsYieldWithTheUnitPerAcre) {
+TEST(Crop, YieldTextHasTheUnitPerAcre) {
   Crop corn = cornCrop();
   corn.Yield = 184.4;
   EXPECT_EQ(corn.yieldToString(), "184.4 bu./ac");
@@ -31,18 +31,18 @@ TEST(Crop, ShowsItsYieldWithTheUnitPerAcre) {
   EXPECT_EQ(corn.yieldToString(), "10.0 lb/ac");
 }
 
-TEST(Crop, ShowsTheYieldOfFallowWithoutAUnit) {
+TEST(Crop, YieldTextOfFallowHasNoUnit) {
   Crop fallow = fallowCrop();
   fallow.setYield(fallow.Yield, 16);
   EXPECT_EQ(fallow.yieldToString(), "0.0 /ac");
 }
 
-TEST(Crop, PricesItsYieldByTheFirstUnitWord) {
+TEST(Crop, PriceUnitIsTheFirstUnitWord) {
   EXPECT_EQ(cornCrop().priceUnits(), "bu.");
   EXPECT_EQ(fallowCrop().priceUnits(), "");
 }
 
-TEST(Crop, IsAForageCropWhenItsUnitIsTheTon) {
+TEST(Crop, IsAForageCropIfItsUnitIsTon) {
   EXPECT_TRUE(alfalfaCrop().isForage());
   EXPECT_TRUE(namedCrop("Clover", "ton,tons").isForage());
   EXPECT_FALSE(cornCrop().isForage());
@@ -50,7 +50,7 @@ TEST(Crop, IsAForageCropWhenItsUnitIsTheTon) {
   EXPECT_FALSE(namedCrop("Alfalfa", "tons,ton").isForage());
 }
 
-TEST(Crop, StartsWithoutATableAndWithNothingEntered) {
+TEST(Crop, IsEmptyAndHasNoTableInitially) {
   const Crop crop;
   EXPECT_EQ(crop.yieldTable, nullptr);
   EXPECT_EQ(crop.price, 0);
@@ -61,7 +61,7 @@ TEST(Crop, StartsWithoutATableAndWithNothingEntered) {
   EXPECT_TRUE(crop.soil_valentine->empty());
 }
 
-TEST(Crop, StoresACopyOfATable) {
+TEST(Crop, SetYieldTableStoresACopy) {
   YieldTable table = tableOf(11, {{1}, {2}});
   Crop crop;
   crop.setYieldTable(table);
@@ -85,7 +85,7 @@ Crop fullCrop() {
   return crop;
 }
 
-TEST(Crop, CopiesEveryFieldByValue) {
+TEST(Crop, CopyHasAllFields) {
   const Crop crop = fullCrop();
   const Crop copy = crop.Copy();
   EXPECT_EQ(copy.cropType, "Corn");
@@ -103,11 +103,11 @@ TEST(Crop, CopiesEveryFieldByValue) {
   EXPECT_EQ(copy.inputCosts.NPerAcre, 6);
 }
 
-TEST(Crop, LeavesTheReservedForageFigureOutOfACopy) {
+TEST(Crop, CopyOmitsTheReservedForageCost) {
   EXPECT_EQ(fullCrop().Copy().inputCosts.AlfalfaFlat, 0);
 }
 
-TEST(Crop, SharesTheSoilTablesWithItsCopy) {
+TEST(Crop, CopySharesTheSoilTables) {
   const Crop crop = fullCrop();
   const Crop copy = crop.Copy();
   EXPECT_EQ(copy.soil_ulysses.shared(), crop.soil_ulysses.shared());
@@ -141,10 +141,10 @@ TEST(Crop, WritesItsNamePriceAndYieldBeforeItsCosts) {
   std::size_t lineEnds = 0;
   for (const char c : text)
     lineEnds += c == '\n' ? 1 : 0;
-  EXPECT_EQ(lineEnds, 33U);  // 34 lines, and none ends behind the last
+  EXPECT_EQ(lineEnds, 33U);  // 34 lines, without a line end after the last
 }
 
-TEST(CropKind, KnowsTheFixedNamesExactly) {
+TEST(CropKind, RequiresTheExactName) {
   EXPECT_EQ(cropKind("Alfalfa"), CropKind::alfalfa);
   EXPECT_EQ(cropKind("Corn"), CropKind::corn);
   EXPECT_EQ(cropKind("Grain Sorghum"), CropKind::grainSorghum);
@@ -159,7 +159,7 @@ TEST(CropKind, KnowsTheFixedNamesExactly) {
   }
 }
 
-TEST(YieldTable, StartsFilledWithZeros) {
+TEST(YieldTable, IsInitiallyFilledWithZeros) {
   const YieldTable table(3, 11, 21);
   EXPECT_EQ(table.maxIrrigation(), 3);
   EXPECT_EQ(table.firstRain(), 11);
@@ -170,7 +170,7 @@ TEST(YieldTable, StartsFilledWithZeros) {
   }
 }
 
-TEST(YieldTable, ContainsItsBoundsAndNothingBeyond) {
+TEST(YieldTable, ContainsExactlyTheCellsWithinItsBounds) {
   const YieldTable table(3, 11, 21);
   EXPECT_TRUE(table.contains(0, 0));
   EXPECT_TRUE(table.contains(3, 21));
@@ -180,7 +180,7 @@ TEST(YieldTable, ContainsItsBoundsAndNothingBeyond) {
   EXPECT_FALSE(table.contains(0, -1));
 }
 
-TEST(YieldTable, KeepsEachCellAtItsPlace) {
+TEST(YieldTable, StoresEachCellSeparately) {
   YieldTable table(2, 11, 13);
   for (int water = 0; water <= 2; ++water) {
     for (int rain = 0; rain <= 13; ++rain)
@@ -192,7 +192,7 @@ TEST(YieldTable, KeepsEachCellAtItsPlace) {
   }
 }
 
-TEST(YieldTable, TellsACellOutsideItAndBoundsBelow0) {
+TEST(YieldTable, RejectsCellsOutsideAndNegativeBounds) {
   YieldTable table(2, 11, 13);
   EXPECT_THAT(errorText(ErrorNumber::subscript, [&] { table.setCell(3, 11, 1); }),
               AllOf(HasSubstr("3 inches of irrigation"), HasSubstr("11 inches of rain")));
@@ -208,14 +208,14 @@ CropScenario scenarioOf(const std::vector<std::string>& names) {
   return scenario;
 }
 
-TEST(CropScenario, IsAListCountedFrom1) {
+TEST(CropScenario, IndicesStartAt1) {
   const CropScenario scenario = scenarioOf({"Corn", "Wheat", "Fallow"});
   EXPECT_EQ(scenario.Count(), 3);
   EXPECT_EQ(scenario.Item(1)->cropType, "Corn");
   EXPECT_EQ(scenario.Item(3)->cropType, "Fallow");
 }
 
-TEST(CropScenario, AppendsTheVeryCropItIsGiven) {
+TEST(CropScenario, AddsTheCropItselfAndNotACopy) {
   const auto corn = std::make_shared<Crop>(cornCrop());
   CropScenario scenario;
   scenario.Add(corn);
@@ -224,7 +224,7 @@ TEST(CropScenario, AppendsTheVeryCropItIsGiven) {
   EXPECT_EQ(scenario.Item(2), corn);
 }
 
-TEST(CropScenario, RemovesAnEntryAndMovesTheOthersUp) {
+TEST(CropScenario, RemoveClosesTheGap) {
   CropScenario scenario = scenarioOf({"Corn", "Wheat", "Fallow"});
   scenario.Remove(2);
   EXPECT_EQ(scenario.toString(), "Corn, Fallow");
@@ -233,7 +233,7 @@ TEST(CropScenario, RemovesAnEntryAndMovesTheOthersUp) {
   EXPECT_EQ(scenario.Count(), 0);
 }
 
-TEST(CropScenario, TellsAnIndexOutsideTheList) {
+TEST(CropScenario, RejectsAnIndexOutsideTheList) {
   CropScenario scenario = scenarioOf({"Corn", "Wheat"});
   for (const long index : {0L, 3L, -1L}) {
     EXPECT_THAT(errorText(ErrorNumber::subscript, [&] { (void)scenario.Item(index); }),
@@ -249,7 +249,7 @@ TEST(CropScenario, JoinsTheNamesWithCommas) {
   EXPECT_EQ(scenarioOf({"Corn", "Wheat", "Corn"}).toString(), "Corn, Wheat, Corn");
 }
 
-TEST(CropScenario, GoesThroughItsCropsInOrder) {
+TEST(CropScenario, IteratesOverItsCropsInOrder) {
   std::vector<std::string> names;
   const CropScenario scenario = scenarioOf({"Wheat", "Corn"});
   for (const auto& crop : scenario)
@@ -259,7 +259,7 @@ TEST(CropScenario, GoesThroughItsCropsInOrder) {
   EXPECT_THAT(names, ElementsAre("Wheat", "Corn", "Wheat", "Corn"));
 }
 
-TEST(CropScenario, CopiesTheListAndSharesTheCrops) {
+TEST(CropScenario, CopyIsANewListThatSharesTheCrops) {
   const CropScenario scenario = scenarioOf({"Corn", "Wheat"});
   CropScenario copy = scenario.Copy();
   EXPECT_EQ(copy.Item(1), scenario.Item(1));

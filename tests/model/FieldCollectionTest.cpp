@@ -10,7 +10,7 @@
 #include "tests/support/Errors.h"
 #include "tests/support/Plant.h"
 
-// The farm as an ordered set of fields with its totals.
+// The farm as an ordered list of fields with totals.
 
 namespace verdalis::testing {
 namespace {
@@ -43,7 +43,7 @@ class Farm : public ::testing::Test {
   ScopedEfficiency efficiency_{0.85};
 };
 
-TEST_F(Farm, WithoutFieldsIsWorthNothing) {
+TEST_F(Farm, WithoutFieldsHasTotalsOfZero) {
   FieldCollection farm;
   EXPECT_TRUE(farm.isNothing);
   EXPECT_FALSE(farm.isNew);
@@ -55,7 +55,7 @@ TEST_F(Farm, WithoutFieldsIsWorthNothing) {
   EXPECT_EQ(farm.toString(), "");
 }
 
-TEST_F(Farm, TakesTheVeryFieldItIsGivenAndCountsFrom1) {
+TEST_F(Farm, AddsTheFieldItselfAndCountsFrom1) {
   FieldCollection farm;
   const auto first = fieldOf(cornCrop(), 50, 12);
   const auto second = fieldOf(wheatCrop(), 50, 12);
@@ -68,7 +68,7 @@ TEST_F(Farm, TakesTheVeryFieldItIsGivenAndCountsFrom1) {
   EXPECT_EQ(farm.mCol.size(), 2U);
 }
 
-TEST_F(Farm, GoesThroughItsFieldsInOrder) {
+TEST_F(Farm, IteratesOverItsFieldsInOrder) {
   const FieldCollection farm = cornAndWheat();
   std::vector<std::string> names;
   for (const auto& field : farm)
@@ -78,7 +78,7 @@ TEST_F(Farm, GoesThroughItsFieldsInOrder) {
   EXPECT_THAT(names, ElementsAre("Corn", "Wheat", "Corn", "Wheat"));
 }
 
-TEST_F(Farm, TellsAnIndexOutsideItsFields) {
+TEST_F(Farm, RejectsAnIndexOutsideItsFields) {
   FieldCollection farm = cornAndWheat();
   for (const long index : {0L, 3L, -1L}) {
     EXPECT_THAT(errorText(ErrorNumber::subscript, [&] { (void)farm.Item(index); }),
@@ -90,7 +90,7 @@ TEST_F(Farm, TellsAnIndexOutsideItsFields) {
   EXPECT_EQ(farm.Item(1)->theCrop->cropType, "Wheat");
 }
 
-TEST_F(Farm, SumsItsFields) {
+TEST_F(Farm, TotalsAreSumsOverTheFields) {
   FieldCollection farm = cornAndWheat();
   const double costs = farm.Item(1)->getCosts() + farm.Item(2)->getCosts();
   const double returns = farm.Item(1)->getReturn() + farm.Item(2)->getReturn();
@@ -100,7 +100,7 @@ TEST_F(Farm, SumsItsFields) {
   EXPECT_EQ(farm.getVolume(), 50 * 12.0 + 8.4 * 50);
 }
 
-TEST_F(Farm, KeepsItsCostAndNotItsReturn) {
+TEST_F(Farm, CachesItsCostButNotItsReturn) {
   FieldCollection farm = cornAndWheat();
   const double costs = farm.getCosts();
   const double returns = farm.getReturn();
@@ -111,20 +111,20 @@ TEST_F(Farm, KeepsItsCostAndNotItsReturn) {
   EXPECT_EQ(farm.getCosts(), costs);
   EXPECT_EQ(farm.getReturn(), 4);
   EXPECT_NE(returns, 4);
-  farm.Add(fieldOf(cornCrop(), 10, 5));  // a further field does not touch the sum
+  farm.Add(fieldOf(cornCrop(), 10, 5));  // adding a field does not change the cached sum
   EXPECT_EQ(farm.getCosts(), costs);
   farm.TotalCost = 0;
   EXPECT_GT(farm.getCosts(), 2);
 }
 
-TEST_F(Farm, ReportsEachFieldAndItsCosts) {
+TEST_F(Farm, ReportListsEachFieldAndItsCosts) {
   FieldCollection farm = cornAndWheat();
   farm.Item(2)->theCrop->inputCosts.theString = "notes";
   EXPECT_EQ(farm.toString(),
             farm.Item(1)->toString() + "\r\n" + "\r\n" + farm.Item(2)->toString() + "\r\n" + "notes\r\n");
 }
 
-TEST_F(Farm, NamesItsCropsOnceInOrderOfAppearance) {
+TEST_F(Farm, ListsEachCropOnceInOrderOfAppearance) {
   FieldCollection farm;
   for (const char* name : {"Wheat", "Corn", "Wheat", "corn"}) {
     auto field = std::make_shared<Field>();
@@ -134,18 +134,18 @@ TEST_F(Farm, NamesItsCropsOnceInOrderOfAppearance) {
   EXPECT_THAT(farm.getCrops(), ElementsAre("Wheat", "Corn", "corn"));
 }
 
-TEST_F(Farm, WithoutFieldsHasNoCropsToName) {
+TEST_F(Farm, WithoutFieldsGetCropsFails) {
   const FieldCollection farm;
   EXPECT_THAT(errorText(ErrorNumber::subscript, [&] { (void)farm.getCrops(); }), HasSubstr("1"));
 }
 
-TEST_F(Farm, HasNoHashAndKeepsItsOrder) {
+TEST_F(Farm, HashIsAlwaysEmpty) {
   const FieldCollection farm = cornAndWheat();
   EXPECT_EQ(FieldCollection::hashFields(), "");
   EXPECT_EQ(farm.Item(1)->theCrop->cropType, "Corn");
 }
 
-TEST_F(Farm, CollectsWhatATrendDid) {
+TEST_F(Farm, StoresTheTrendDescription) {
   FieldCollection farm;
   farm.AddBatchDescription("Crop Price", 6.5, {"$", "/ bu."});
   farm.AddBatchDescription("Annual Rainfall", 17, {"", "inches"});
@@ -154,7 +154,7 @@ TEST_F(Farm, CollectsWhatATrendDid) {
   EXPECT_THAT(farm.theUnits, ElementsAre(UnitsPair{"$", "/ bu."}, UnitsPair{"", "inches"}));
 }
 
-TEST_F(Farm, CopiesItsFieldsDeeply) {
+TEST_F(Farm, CopyIsDeep) {
   FieldCollection farm = cornAndWheat();
   farm.isNew = true;
   farm.AddBatchDescription("Crop Price", 6.5, {"$", "/ bu."});
@@ -186,13 +186,13 @@ TEST_F(Farm, CopiesItsFieldsDeeply) {
   EXPECT_THAT(farm.theUnits, ElementsAre(UnitsPair{"$", "/ bu."}));
 }
 
-TEST_F(Farm, DoesNotCarryThatItHasFieldsIntoACopy) {
+TEST_F(Farm, CopyResetsIsNothing) {
   FieldCollection farm = cornAndWheat();
   EXPECT_FALSE(farm.isNothing);
   EXPECT_TRUE(farm.Copy().isNothing);
 }
 
-TEST_F(Farm, AnswersFromTheCopiedCostAtOnce) {
+TEST_F(Farm, CopyUsesTheCachedCost) {
   FieldCollection farm = cornAndWheat();
   const double costs = farm.getCosts();
   FieldCollection copy = farm.Copy();
@@ -202,7 +202,7 @@ TEST_F(Farm, AnswersFromTheCopiedCostAtOnce) {
   EXPECT_EQ(copy.getCosts(), costs);
 }
 
-TEST_F(Farm, IsMadeReadyForANewTrendValue) {
+TEST_F(Farm, ResetBatchClearsTrendValuesAndCachedFieldTotals) {
   FieldCollection farm = cornAndWheat();
   for (const auto& field : farm) {
     field->theCrop->inputCosts.UseBatch = true;
@@ -228,7 +228,7 @@ TEST_F(Farm, IsMadeReadyForANewTrendValue) {
   EXPECT_TRUE(farm.isNew);
 }
 
-TEST_F(Farm, KeepsItsOldCostAfterThatWhileItsFieldsCostAnew) {
+TEST_F(Farm, ResetBatchKeepsTheCachedTotalCost) {
   FieldCollection farm = cornAndWheat();
   const double before = farm.getCosts();
   const double fieldBefore = farm.Item(1)->getCosts();
@@ -240,7 +240,7 @@ TEST_F(Farm, KeepsItsOldCostAfterThatWhileItsFieldsCostAnew) {
   EXPECT_NEAR(farm.getCosts(), before + 500, 1e-6);
 }
 
-TEST_F(Farm, TellsTotalsThatAreTooLarge) {
+TEST_F(Farm, RejectsTotalsThatAreTooLarge) {
   FieldCollection farm = cornAndWheat();
   for (const auto& field : farm) {
     field->TotalReturn = 1e308;

@@ -10,14 +10,14 @@
 #include "tests/support/PlainFarm.h"
 #include "tests/support/Plant.h"
 
-// One field: its return, its costs, what it remembers of them, and its report.
+// One field: returns, costs, cached values, and its report.
 
 namespace verdalis::testing {
 namespace {
 
 using ::testing::HasSubstr;
 
-/// A field that is ready to be priced.
+/// A field that is ready for pricing.
 Field fieldOf(Crop crop, double acres, double depth, double rain = 16) {
   Field field;
   field.acres = acres;
@@ -35,7 +35,7 @@ class FieldPricing : public ::testing::Test {
   ScopedEfficiency efficiency_{0.85};
 };
 
-TEST(NewField, HasAnEmptyCropAndAnEmptyPlant) {
+TEST(NewField, HasAnEmptyCropAndPlant) {
   const ScopedEfficiency efficiency(0.85);
   Field field;
   EXPECT_EQ(field.theCrop->cropType, "");
@@ -54,7 +54,7 @@ TEST_F(FieldPricing, ReturnIsSalesAndOtherIncome) {
   EXPECT_EQ(other.getReturn(), 6.52 * 200 * 50 + 500);
 }
 
-TEST_F(FieldPricing, CostIsProductionByTheGrossAndIrrigationByTheNetDepth) {
+TEST_F(FieldPricing, ProductionUsesTheGrossDepthAndIrrigationTheNetDepth) {
   Field field = fieldOf(cornCrop(), 100, 8.5);
   double gross = 8.5 / 0.85;
   Crop crop = field.theCrop->Copy();
@@ -62,10 +62,10 @@ TEST_F(FieldPricing, CostIsProductionByTheGrossAndIrrigationByTheNetDepth) {
   IrrigationCosts plant = defaultPlant();
   EXPECT_EQ(field.getCosts(), plant.getCosts(8.5, 100) + production);
   EXPECT_EQ(field.irrigCosts->hours, plant.hours);
-  EXPECT_EQ(field.theCrop->inputCosts.SeedRate, 20000);  // 8.5 net inches, not 10 gross ones
+  EXPECT_EQ(field.theCrop->inputCosts.SeedRate, 20000);  // for 8.5 net inches, not 10 gross inches
 }
 
-TEST_F(FieldPricing, ProductionCostsLeaveTheIrrigationOutAndAreNotKept) {
+TEST_F(FieldPricing, ProductionCostsExcludeIrrigationAndAreNotCached) {
   Field field = fieldOf(cornCrop(), 100, 8.5);
   IrrigationCosts plant = defaultPlant();
   const double production = field.getProductionCosts();
@@ -73,10 +73,10 @@ TEST_F(FieldPricing, ProductionCostsLeaveTheIrrigationOutAndAreNotKept) {
   EXPECT_EQ(field.getCosts(), plant.getCosts(8.5, 100) + production);
   EXPECT_EQ(field.Depth, 8.5);
   field.theCrop->inputCosts.MiscCost = 1;
-  EXPECT_NEAR(field.getProductionCosts(), production + 100, 1e-9);  // asked anew
+  EXPECT_NEAR(field.getProductionCosts(), production + 100, 1e-9);  // computed again
 }
 
-TEST_F(FieldPricing, ProfitIsReturnLessCosts) {
+TEST_F(FieldPricing, ProfitIsReturnMinusCosts) {
   Field field = fieldOf(cornCrop(), 100, 8.5);
   const double profit = field.getProfit();
   EXPECT_EQ(profit, field.getReturn() - field.getCosts());
@@ -87,7 +87,7 @@ TEST_F(FieldPricing, VolumeIsNetAcreInches) {
   EXPECT_EQ(fieldOf(fallowCrop(), 40, 0).getVolume(), 0);
 }
 
-TEST_F(FieldPricing, AsksTheCostModelsOnceUnlessTheyGive0) {
+TEST_F(FieldPricing, CachesCostsUnlessTheyAre0) {
   Field field = fieldOf(cornCrop(), 100, 8.5);
   const double costs = field.getCosts();
   field.theCrop->inputCosts.MiscCost = 1000;
@@ -100,10 +100,10 @@ TEST_F(FieldPricing, AsksTheCostModelsOnceUnlessTheyGive0) {
   EXPECT_EQ(free.getCosts(), 0);
   free.theCrop->inputCosts.MiscCost = 3;
   free.acres = 2;
-  EXPECT_EQ(free.getCosts(), 6);  // 0 counts as not computed
+  EXPECT_EQ(free.getCosts(), 6);  // 0 means not computed
 }
 
-TEST_F(FieldPricing, KeepsItsReturnUntilThatIsCleared) {
+TEST_F(FieldPricing, CachesItsReturnUntilItIsCleared) {
   Field field = fieldOf(cornCrop(), 100, 8.5);
   const double before = field.getReturn();
   field.theCrop->price = 100;
@@ -112,7 +112,7 @@ TEST_F(FieldPricing, KeepsItsReturnUntilThatIsCleared) {
   EXPECT_EQ(field.getReturn(), 100 * field.theCrop->Yield * 100);
 }
 
-TEST_F(FieldPricing, CopyKeepsTheCostAndWorksTheReturnOutAnew) {
+TEST_F(FieldPricing, CopyKeepsTheCostAndRecomputesTheReturn) {
   Field field = fieldOf(cornCrop(), 100, 8.5);
   const double costs = field.getCosts();
   const double before = field.getReturn();
@@ -125,7 +125,7 @@ TEST_F(FieldPricing, CopyKeepsTheCostAndWorksTheReturnOutAnew) {
   EXPECT_EQ(field.getReturn(), before);
 }
 
-TEST_F(FieldPricing, CopyHasACropAndAPlantOfItsOwn) {
+TEST_F(FieldPricing, CopyHasItsOwnCropAndPlant) {
   Field field = fieldOf(cornCrop(), 100, 8.5, 17);
   const Field copy = field.Copy();
   EXPECT_EQ(copy.acres, 100);
@@ -139,7 +139,7 @@ TEST_F(FieldPricing, CopyHasACropAndAPlantOfItsOwn) {
   EXPECT_EQ(field.irrigCosts->GPM, 750);
 }
 
-TEST_F(FieldPricing, MakesItselfFallow) {
+TEST_F(FieldPricing, MakeFallowReplacesTheCropAndRemovesTheWater) {
   Field field = fieldOf(cornCrop(), 100, 8.5);
   const auto corn = field.theCrop.shared();
   field.makeFallow();
@@ -147,10 +147,10 @@ TEST_F(FieldPricing, MakesItselfFallow) {
   EXPECT_EQ(field.theCrop->price, 0);
   EXPECT_EQ(field.Depth, 0);
   EXPECT_EQ(field.acres, 100);
-  EXPECT_EQ(corn->cropType, "Corn");  // the crop it had is not touched
+  EXPECT_EQ(corn->cropType, "Corn");  // its previous crop is unchanged
 }
 
-TEST(FieldFailure, TellsAnEfficiencyOf0) {
+TEST(FieldFailure, EfficiencyOf0IsAnError) {
   const ScopedEfficiency none(0);
   Field field = fieldOf(cornCrop(), 100, 8.5);
   for (const std::string& text :
@@ -164,21 +164,21 @@ TEST(FieldFailure, TellsAnEfficiencyOf0) {
   EXPECT_GT(field.getReturn(), 0);
 }
 
-TEST(FieldFailure, OfTheEfficiencyStandsEvenWithoutWaterAndWithATrendFigure) {
+TEST(FieldFailure, EfficiencyOf0IsAnErrorEvenWithoutWaterAndInATrend) {
   const ScopedEfficiency none(0);
   Field field = fieldOf(fallowCrop(), 100, 0);
   field.theCrop->inputCosts.UseBatch = true;
   errorText(ErrorNumber::divisionByZero, [&] { (void)field.getCosts(); });
 }
 
-TEST(FieldFailure, TellsAnEfficiencyThatIsAllBut0) {
+TEST(FieldFailure, EfficiencyNear0IsAnError) {
   const ScopedEfficiency tiny(1e-308);
   Field field = fieldOf(cornCrop(), 100, 8.5);
   EXPECT_THAT(errorText(ErrorNumber::overflow, [&] { (void)field.getCosts(); }),
               HasSubstr("gross irrigation depth"));
 }
 
-TEST_F(FieldPricing, TellsAReturnThatIsTooLarge) {
+TEST_F(FieldPricing, RejectsAReturnThatIsTooLarge) {
   Field field = fieldOf(cornCrop(), 100, 8.5);
   field.theCrop->price = 1e308;
   EXPECT_THAT(errorText(ErrorNumber::overflow, [&] { (void)field.getReturn(); }),
@@ -186,7 +186,7 @@ TEST_F(FieldPricing, TellsAReturnThatIsTooLarge) {
   EXPECT_EQ(field.TotalReturn, 0);
 }
 
-TEST_F(FieldPricing, ReportsInFourLines) {
+TEST_F(FieldPricing, ReportHasFourLines) {
   Field field = fieldOf(cornCrop(), 100, 8.5);
   field.theCrop->Yield = 184.44;
   field.TotalCost = 43210.5;
@@ -201,7 +201,7 @@ TEST_F(FieldPricing, ReportsInFourLines) {
             "Land Usage Return = $1,250");
 }
 
-TEST_F(FieldPricing, ReportsADryFieldWithItsPatternsZeros) {
+TEST_F(FieldPricing, ReportOfADryFieldShowsTheZerosOfItsPatterns) {
   Field field = fieldOf(fallowCrop(), 33.5, 0);
   field.theCrop->inputCosts = inputCosts();
   EXPECT_EQ(field.toString(),
@@ -212,7 +212,7 @@ TEST_F(FieldPricing, ReportsADryFieldWithItsPatternsZeros) {
             "Land Usage Return = $0");
 }
 
-TEST_F(FieldPricing, CutsACropNameTo7CharactersInItsReport) {
+TEST_F(FieldPricing, ReportCutsTheCropNameAfter7Characters) {
   Crop sorghum = namedCrop("Grain Sorghum");
   sorghum.setYieldTable(wheatTable());
   EXPECT_THAT(fieldOf(sorghum, 10, 5).toString(), HasSubstr("\tGrain S Yield = "));
@@ -220,7 +220,7 @@ TEST_F(FieldPricing, CutsACropNameTo7CharactersInItsReport) {
   EXPECT_THAT(fieldOf(sorghum, 10, 5).toString(), HasSubstr("\tAlfalfa Yield = "));
 }
 
-TEST_F(FieldPricing, CutsBetweenCharactersAndNotWithinOne) {
+TEST_F(FieldPricing, ReportDoesNotCutWithinACharacter) {
   Crop crop = namedCrop("Zuckerrüben");
   crop.setYieldTable(wheatTable());
   EXPECT_THAT(fieldOf(crop, 10, 5).toString(), HasSubstr("\tZuckerr Yield = "));

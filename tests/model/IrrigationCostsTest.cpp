@@ -7,7 +7,7 @@
 #include "tests/support/Errors.h"
 #include "tests/support/Plant.h"
 
-// What pumping costs, and how much a plant can pump.
+// The cost of pumping, and the capacity of a plant.
 
 namespace verdalis::testing {
 namespace {
@@ -19,7 +19,7 @@ class IrrigationCost : public ::testing::Test {
   ScopedEfficiency efficiency_{0.85};
 };
 
-TEST_F(IrrigationCost, OfTheDefaultPlantOn100Acres) {
+TEST_F(IrrigationCost, OfTheDefaultPlantOn100AcresIsAsComputedByHand) {
   IrrigationCosts plant = defaultPlant();
   EXPECT_NEAR(plant.getCosts(8.5, 100), 2716.575, 5e-4);
   EXPECT_NEAR(plant.hours, 600, 1e-9);
@@ -30,7 +30,7 @@ TEST_F(IrrigationCost, OfTheDefaultPlantOn100Acres) {
   EXPECT_NEAR((whp / 61.7) * 600 * 5.1, 1886.575, 5e-4);
 }
 
-TEST_F(IrrigationCost, HasALabourOfHalfAnHourAnAcreWhateverTheDepth) {
+TEST_F(IrrigationCost, IncludesHalfAnHourOfLabourPerAcreWhateverTheDepth) {
   IrrigationCosts plant = defaultPlant();
   plant.cost = 0;
   plant.RepairsPerAcreInch = 0;
@@ -38,14 +38,14 @@ TEST_F(IrrigationCost, HasALabourOfHalfAnHourAnAcreWhateverTheDepth) {
   EXPECT_EQ(plant.getCosts(30, 100), 500);
 }
 
-TEST_F(IrrigationCost, HasRepairsByTheGrossDepth) {
+TEST_F(IrrigationCost, IncludesRepairsByTheGrossDepth) {
   IrrigationCosts plant = defaultPlant();
   plant.cost = 0;
   plant.LaborPerHour = 0;
   EXPECT_NEAR(plant.getCosts(8.5, 100), 330, 1e-9);
 }
 
-TEST_F(IrrigationCost, LeavesTheFixedCostAndTheSeasonHoursOut) {
+TEST_F(IrrigationCost, ExcludesTheFixedCostAndTheSeasonHours) {
   IrrigationCosts plant = defaultPlant();
   const double cost = plant.getCosts(8.5, 100);
   plant.FixedPerAcre = 1000;
@@ -54,7 +54,7 @@ TEST_F(IrrigationCost, LeavesTheFixedCostAndTheSeasonHoursOut) {
   EXPECT_EQ(plant.getCosts(8.5, 100), cost);
 }
 
-TEST_F(IrrigationCost, OfADryFieldIsNothingAndKeepsTheHours) {
+TEST_F(IrrigationCost, OfADryFieldIs0AndKeepsTheHours) {
   IrrigationCosts plant = defaultPlant();
   plant.hours = 123;
   EXPECT_EQ(plant.getCosts(0, 100), 0);
@@ -62,7 +62,7 @@ TEST_F(IrrigationCost, OfADryFieldIsNothingAndKeepsTheHours) {
   EXPECT_EQ(plant.hours, 123);
 }
 
-TEST_F(IrrigationCost, IsNothingWhileNoCostsAreAppliedAndKeepsTheHours) {
+TEST_F(IrrigationCost, OfAnInactivePlantIs0AndKeepsTheHours) {
   for (const int missing : {0, 1, 2, 3}) {
     IrrigationCosts plant = defaultPlant();
     plant.hours = 123;
@@ -78,7 +78,7 @@ TEST_F(IrrigationCost, IsNothingWhileNoCostsAreAppliedAndKeepsTheHours) {
   EXPECT_EQ(negativeFlow.getCosts(8.5, 100), 0);
 }
 
-TEST_F(IrrigationCost, OfAPlantWhoseFuelWasNeverChosenIsNothing) {
+TEST_F(IrrigationCost, WithoutAFuelIs0) {
   IrrigationCosts plant;
   plant.active = true;
   plant.GPM = 750;
@@ -87,7 +87,7 @@ TEST_F(IrrigationCost, OfAPlantWhoseFuelWasNeverChosenIsNothing) {
   EXPECT_EQ(plant.getCosts(8.5, 100), 0);
 }
 
-TEST_F(IrrigationCost, IsOneFigurePerNetAcreInchInATrend) {
+TEST_F(IrrigationCost, InATrendIsOneRatePerNetAcreInch) {
   IrrigationCosts plant = defaultPlant();
   plant.hours = 123;
   plant.UseBatch = true;
@@ -95,32 +95,32 @@ TEST_F(IrrigationCost, IsOneFigurePerNetAcreInchInATrend) {
   EXPECT_EQ(plant.getCosts(8.5, 100), 3400);
   EXPECT_EQ(plant.getCosts(0, 100), 0);
   EXPECT_EQ(plant.hours, 123);
-  plant.active = false;  // the figure needs no plant
+  plant.active = false;  // the trend's rate needs no plant
   EXPECT_EQ(plant.getCosts(8.5, 100), 3400);
 }
 
-TEST(IrrigationCostFailure, OfAStepIsPassedOverAndCountsAs0) {
+TEST(IrrigationCostFailure, AStepThatFailsCountsAs0) {
   const ScopedEfficiency none(0);
   IrrigationCosts plant = defaultPlant();
-  EXPECT_EQ(plant.getCosts(8.5, 100), 500);  // no gross depth: labour is left
+  EXPECT_EQ(plant.getCosts(8.5, 100), 500);  // no gross depth, so only labour costs remain
   EXPECT_EQ(plant.hours, 0);
 }
 
-TEST(IrrigationCostFailure, NeverReachesTheCaller) {
+TEST(IrrigationCostFailure, NeverThrows) {
   const ScopedEfficiency all(1);
   IrrigationCosts plant = defaultPlant();
   plant.Lift = 1e308;
   plant.GPM = 1e308;
-  EXPECT_EQ(plant.getCosts(10, 100), 100 * 0.5 * 10 + 100 * 0.33 * 10);  // no horsepower
+  EXPECT_EQ(plant.getCosts(10, 100), 100 * 0.5 * 10 + 100 * 0.33 * 10);  // without horsepower
   plant = defaultPlant();
   plant.LaborPerHour = 1e308;
-  EXPECT_EQ(plant.getCosts(10, 1e10), 0);  // the sum itself fails
+  EXPECT_EQ(plant.getCosts(10, 1e10), 0);  // the sum itself overflows
   plant.UseBatch = true;
   plant.BatchIrrigationCosts = 1e308;
   EXPECT_EQ(plant.getCosts(10, 100), 0);
 }
 
-TEST(IrrigationCostFailure, OfThePumpingHoursGoesOnWithTheHoursThatStood) {
+TEST(IrrigationCostFailure, IfPumpingHoursFailThePreviousHoursAreUsed) {
   const ScopedEfficiency all(1);
   IrrigationCosts plant = defaultPlant();
   plant.RepairsPerAcreInch = 0;
@@ -131,7 +131,7 @@ TEST(IrrigationCostFailure, OfThePumpingHoursGoesOnWithTheHoursThatStood) {
   EXPECT_EQ(plant.hours, 10);
 }
 
-TEST(PumpingCapacity, IsTheSeasonVolumeOverTheAcres) {
+TEST(PumpingCapacity, IsTheSeasonVolumeDividedByTheAcres) {
   const IrrigationCosts plant = defaultPlant();
   EXPECT_EQ(plant.getMaxInches(100), (750.0 * 60 * 1800 / 100) * (1.0 / 27154));
   EXPECT_NEAR(plant.getMaxInches(100), 29.8298, 1e-4);
@@ -139,14 +139,14 @@ TEST(PumpingCapacity, IsTheSeasonVolumeOverTheAcres) {
   EXPECT_EQ(IrrigationCosts().getMaxInches(100), 0);
 }
 
-TEST(PumpingCapacity, TellsAVolumeThatIsTooLarge) {
+TEST(PumpingCapacity, RejectsAVolumeThatIsTooLarge) {
   IrrigationCosts plant = defaultPlant();
   plant.GPM = 1e308;
   EXPECT_THAT(errorText(ErrorNumber::overflow, [&] { (void)plant.getMaxInches(100); }),
               HasSubstr("pumping capacity"));
 }
 
-TEST(FuelPerformance, HasAFigureForEachFuel) {
+TEST(FuelPerformance, IsKnownForEachFuel) {
   EXPECT_EQ(fuelPerformance("Diesel"), 12.5);
   EXPECT_EQ(fuelPerformance("Natural Gas"), 61.7);
   EXPECT_EQ(fuelPerformance("Propane"), 6.89);
@@ -156,21 +156,21 @@ TEST(FuelPerformance, HasAFigureForEachFuel) {
   }
 }
 
-TEST(PhysicalConstants, AreThoseOfThePumpFormulas) {
+TEST(PhysicalConstants, MatchThePumpFormulas) {
   EXPECT_EQ(feetPerPsi, 2.31);
   EXPECT_EQ(gallonFeetPerHorsepower, 3960);
   EXPECT_EQ(gpmPerAcreInchHour, 450);
   EXPECT_EQ(gallonsPerAcreInch, 27154);
 }
 
-TEST(PlantLines, StandInTheOrderOfTheFile) {
+TEST(PlantLines, AreInTheOrderOfTheFile) {
   IrrigationCosts plant = defaultPlant();
   plant.FixedPerAcre = 12.25;
   EXPECT_EQ(plant.writeData(),
             "750\r\n120\r\n35\r\n10\r\n12.25\r\n0.33\r\n61.7\r\n5.1\r\nTrue\r\nNatural Gas\r\n1800");
 }
 
-TEST(PlantLines, OfAnUntouchedPlantAreZeros) {
+TEST(PlantLines, OfANewPlantAreZeros) {
   EXPECT_EQ(IrrigationCosts().writeData(), "0\r\n0\r\n0\r\n0\r\n0\r\n0\r\n0\r\n0\r\nFalse\r\n\r\n0");
 }
 

@@ -8,7 +8,7 @@ namespace {
 
 using ::testing::ElementsAre;
 
-TEST(LandDivisions, AreTheSixOfTheOptionButtons) {
+TEST(LandDivisions, MatchTheSixOptionButtons) {
   const auto& divisions = landDivisions();
   EXPECT_EQ(divisions[0].caption, "50 - 50");
   EXPECT_THAT(divisions[0].percentages, ElementsAre(50, 50));

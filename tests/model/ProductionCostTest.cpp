@@ -10,14 +10,14 @@
 #include "tests/support/Errors.h"
 #include "tests/support/Plant.h"
 
-// What a field costs to grow: the sum, and the nutrients that follow the yield.
+// Production costs of a field: the sum, and the nutrients that follow the yield.
 
 namespace verdalis::testing {
 namespace {
 
 using ::testing::HasSubstr;
 
-/// The production cost of a field that gets `net` inches.
+/// The production cost of a field with `net` inches of irrigation.
 double costOf(Crop& crop, double acres, double yield, double net) {
   double grossDepth = net / EfficiencyFraction;
   return crop.inputCosts.getCosts(acres, yield, crop, grossDepth);
@@ -28,7 +28,7 @@ class ProductionCosts : public ::testing::Test {
   ScopedEfficiency efficiency_{0.85};
 };
 
-TEST_F(ProductionCosts, OfAnAcreOfCornWithItsDefaults) {
+TEST_F(ProductionCosts, OfAnAcreOfCornWithDefaultsAreAsComputedByHand) {
   Crop corn = cornCrop();
   EXPECT_NEAR(costOf(corn, 1, 200, 12), 484.524, 1e-9);
   EXPECT_NEAR(corn.inputCosts.NPerAcre, 270, 1e-9);
@@ -37,13 +37,13 @@ TEST_F(ProductionCosts, OfAnAcreOfCornWithItsDefaults) {
   EXPECT_NEAR(corn.inputCosts.getHarvestCost(1, 200, "Corn"), 94.944, 1e-9);
 }
 
-TEST_F(ProductionCosts, GrowWithTheAcres) {
+TEST_F(ProductionCosts, AreProportionalToTheAcres) {
   Crop corn = cornCrop();
   EXPECT_NEAR(costOf(corn, 100, 200, 12), 48452.4, 1e-7);
   EXPECT_EQ(costOf(corn, 0, 200, 12), 0);
 }
 
-TEST_F(ProductionCosts, OfAnAcreOfAlfalfaSpreadTheStandOverItsLife) {
+TEST_F(ProductionCosts, OfAlfalfaAreSpreadOverTheLifeOfTheStand) {
   Crop alfalfa = alfalfaCrop();
   EXPECT_NEAR(costOf(alfalfa, 1, 8, 12), 437.5687, 5e-5);
   EXPECT_EQ(alfalfa.inputCosts.NPerAcre, 0);
@@ -53,7 +53,7 @@ TEST_F(ProductionCosts, OfAnAcreOfAlfalfaSpreadTheStandOverItsLife) {
   EXPECT_NEAR(alfalfa.inputCosts.getHarvestCost(1, 8, "Alfalfa"), 280, 1e-9);
 }
 
-TEST_F(ProductionCosts, SpreadSeedTillageAndPlantingAndNothingElse) {
+TEST_F(ProductionCosts, SpreadOnlySeedTillageAndPlantingOverTheStandLife) {
   Crop crop = namedCrop("Clover", "ton,tons");
   crop.inputCosts.AlfalfaStand = 4;
   const auto fourth = [&](double inputCosts::*field) {
@@ -70,10 +70,10 @@ TEST_F(ProductionCosts, SpreadSeedTillageAndPlantingAndNothingElse) {
   }
   crop.inputCosts.SeedCost = 2;
   crop.inputCosts.SeedRate = 6000;
-  EXPECT_EQ(costOf(crop, 1, 0, 0), 3);  // 12 $ an acre over 4 years
+  EXPECT_EQ(costOf(crop, 1, 0, 0), 3);  // $12 per acre over 4 years
 }
 
-TEST_F(ProductionCosts, LeaveOtherIncomeAndTheReservedFiguresOut) {
+TEST_F(ProductionCosts, ExcludeOtherIncomeAndTheReservedValues) {
   Crop crop = namedCrop("Oats");
   crop.inputCost = 100;
   crop.inputCosts.Returns = 50;
@@ -81,7 +81,7 @@ TEST_F(ProductionCosts, LeaveOtherIncomeAndTheReservedFiguresOut) {
   EXPECT_EQ(costOf(crop, 10, 100, 5), 0);
 }
 
-TEST_F(ProductionCosts, TakeAStandLifeOfNothingAsOneYear) {
+TEST_F(ProductionCosts, CountAStandLifeOf0OrEmptyAsOneYear) {
   Crop empty = namedCrop("Clover", "ton,tons");
   empty.inputCosts.Tillage = 30;
   Crop zero = empty.Copy();
@@ -92,7 +92,7 @@ TEST_F(ProductionCosts, TakeAStandLifeOfNothingAsOneYear) {
   EXPECT_EQ(zero.inputCosts.AlfalfaStand.text(), "1");
 }
 
-TEST_F(ProductionCosts, HaveNoStandLifeWhereTheUnitIsNoTon) {
+TEST_F(ProductionCosts, IgnoreTheStandLifeIfTheUnitIsNotTon) {
   Crop crop = namedCrop("Alfalfa", "bale,bales");
   crop.inputCosts.Tillage = 30;
   crop.inputCosts.AlfalfaStand = 3;
@@ -102,16 +102,16 @@ TEST_F(ProductionCosts, HaveNoStandLifeWhereTheUnitIsNoTon) {
   EXPECT_TRUE(crop.inputCosts.AlfalfaStand.isEmpty());
 }
 
-TEST_F(ProductionCosts, OfACustomCropInTonsHaveAStandLifeAndNoHarvest) {
+TEST_F(ProductionCosts, OfACustomCropInTonsUseAStandLifeButNoForageHarvest) {
   Crop clover = namedCrop("Clover", "ton,tons");
   clover.Custom = true;
   clover.inputCosts.Tillage = 30;
   clover.inputCosts.AlfalfaStand = 3;
-  clover.inputCosts.AlfalfaPerTon = 35;  // forage operations are those of the crop named "Alfalfa"
+  clover.inputCosts.AlfalfaPerTon = 35;  // forage operations apply only to the crop named "Alfalfa"
   clover.inputCosts.AlfalfaSwathing = 12;
   clover.inputCosts.AlfalfaSwathingNum = 2;
   EXPECT_EQ(costOf(clover, 1, 5, 0), 10);
-  clover.inputCosts.HarvestHauling = 2;  // its harvest charges are those of any crop
+  clover.inputCosts.HarvestHauling = 2;  // it has the harvest charges of an ordinary crop
   EXPECT_EQ(costOf(clover, 1, 5, 0), 20);
 }
 
@@ -121,7 +121,7 @@ struct Uptake {
   double phosphorus;
 };
 
-TEST_F(ProductionCosts, TakeTheNutrientRateOfTheCropByItsYield) {
+TEST_F(ProductionCosts, UseTheNutrientRatesOfTheCropTimesTheYield) {
   const std::vector<Uptake> cases = {
       {"Corn", 1.35, 0.43},  {"Grain Sorghum", 1.25, 0.44}, {"Wheat", 1.75, 0.55}, {"Sunflower", 0.05, 0.018},
       {"Alfalfa", 0, 14.88}, {"Soybeans", 0, 0.87},         {"Fallow", 0, 0},      {"Oats", 0, 0},
@@ -143,7 +143,7 @@ TEST_F(ProductionCosts, TakeTheNutrientRateOfTheCropByItsYield) {
   }
 }
 
-TEST_F(ProductionCosts, TakeTheAppliedRatesWhileTheSwitchesAreOff) {
+TEST_F(ProductionCosts, UseTheAppliedRatesIfTheSwitchesAreOff) {
   Crop corn = namedCrop("Corn");
   corn.inputCosts.NitrogenApplied = 150;
   corn.inputCosts.NitrogenCost = 0.5;
@@ -152,12 +152,12 @@ TEST_F(ProductionCosts, TakeTheAppliedRatesWhileTheSwitchesAreOff) {
   EXPECT_EQ(costOf(corn, 2, 200, 6), 2 * (75 + 10));
   EXPECT_EQ(corn.inputCosts.NPerAcre, 150);
   EXPECT_EQ(corn.inputCosts.PPerAcre, 40);
-  corn.inputCosts.NOptimal = true;  // each switch stands for itself
+  corn.inputCosts.NOptimal = true;  // each switch works independently
   EXPECT_EQ(costOf(corn, 2, 200, 6), 2 * (1.35 * 200 * 0.5 + 10));
   EXPECT_EQ(corn.inputCosts.PPerAcre, 40);
 }
 
-TEST_F(ProductionCosts, OfACustomCropWithItsSwitchLeftOnHaveNoNitrogen) {
+TEST_F(ProductionCosts, OfACustomCropWithNOptimalHaveNoNitrogen) {
   Crop oats = namedCrop("Oats");
   oats.Custom = true;
   oats.inputCosts.NOptimal = true;
@@ -167,14 +167,14 @@ TEST_F(ProductionCosts, OfACustomCropWithItsSwitchLeftOnHaveNoNitrogen) {
   EXPECT_EQ(oats.inputCosts.NPerAcre, 0);
 }
 
-TEST_F(ProductionCosts, TurnTheGrossDepthOfTheCallerIntoNet) {
+TEST_F(ProductionCosts, ConvertTheCallersGrossDepthToNet) {
   Crop corn = cornCrop();
   double grossDepth = 10;
   (void)corn.inputCosts.getCosts(1, 100, corn, grossDepth);
   EXPECT_EQ(grossDepth, 10 * 0.85);
 }
 
-TEST_F(ProductionCosts, AreOneFigurePerAcreInATrendAndTouchNothingElse) {
+TEST_F(ProductionCosts, InATrendAreOneRatePerAcreAndChangeNothingElse) {
   Crop alfalfa = alfalfaCrop();
   alfalfa.inputCosts.AlfalfaStand.clear();
   alfalfa.inputCosts.UseBatch = true;
@@ -191,7 +191,7 @@ TEST_F(ProductionCosts, AreOneFigurePerAcreInATrendAndTouchNothingElse) {
   EXPECT_EQ(grossDepth, 10);
 }
 
-TEST_F(ProductionCosts, TellASumThatIsTooLarge) {
+TEST_F(ProductionCosts, RejectASumThatIsTooLarge) {
   Crop corn = cornCrop();
   corn.inputCosts.Herbicide = 1e308;
   EXPECT_THAT(errorText(ErrorNumber::overflow, [&] { (void)costOf(corn, 1000, 200, 12); }),
@@ -201,7 +201,7 @@ TEST_F(ProductionCosts, TellASumThatIsTooLarge) {
   errorText(ErrorNumber::overflow, [&] { (void)costOf(corn, 1000, 200, 12); });
 }
 
-TEST_F(ProductionCosts, TellATermThatIsTooLargeEvenWhereAnotherFactorIs0) {
+TEST_F(ProductionCosts, RejectATermThatIsTooLargeEvenIfAnotherFactorIs0) {
   Crop corn = namedCrop("Corn");
   corn.inputCosts.NOptimal = true;
   errorText(ErrorNumber::overflow, [&] { (void)costOf(corn, 1, 1.7e308, 12); });
@@ -219,7 +219,7 @@ TEST(OtherIncome, IsPerAcre) {
               HasSubstr("land usage"));
 }
 
-/// Costs with a different value in every field that is saved, in the order of the file.
+/// Costs with a different value in every saved field, in the order of the file.
 inputCosts numberedCosts() {
   inputCosts c;
   c.NitrogenCost = 1.5;
@@ -256,7 +256,7 @@ inputCosts numberedCosts() {
   return c;
 }
 
-TEST(CostLines, StandInTheOrderOfTheFile) {
+TEST(CostLines, AreInTheOrderOfTheFile) {
   EXPECT_EQ(numberedCosts().writeData(),
             "1."
             "5\r\n2\r\nTrue\r\n3\r\n4\r\nFalse\r\n5\r\n32000\r\nTrue\r\n6\r\n7\r\n8\r\n9\r\n10\r\n11\r\n12\r"
@@ -270,7 +270,7 @@ TEST(CostLines, AreEmptyForNumbersThatWereNeverSet) {
             "\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n0\r\n0");
 }
 
-TEST(Costs, CopyEveryFieldButTheReservedOne) {
+TEST(Costs, CopyHasAllFieldsExceptTheReservedOne) {
   inputCosts costs = numberedCosts();
   costs.AlfalfaFlat = 99;
   costs.theString = "text";
@@ -293,7 +293,7 @@ TEST(Costs, HaveAnEmptyReport) {
   EXPECT_EQ(cornCrop().inputCosts.toString(), "");
 }
 
-TEST(NumberField, CountsAs0WhileItIsEmptyAndKnowsThat) {
+TEST(NumberField, CountsAs0IfEmpty) {
   Number number;
   EXPECT_TRUE(number.isEmpty());
   EXPECT_EQ(number + 3, 3);

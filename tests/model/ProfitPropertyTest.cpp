@@ -13,7 +13,7 @@
 #include "tests/support/Plant.h"
 #include "tests/support/RandomFarm.h"
 
-// Farms of all kinds against the same formulas said a second time, without tolerance.
+// Random farms, compared exactly with a second version of the same formulas.
 
 namespace verdalis::testing {
 namespace {
@@ -41,13 +41,13 @@ Drawn drawFarm(std::uint64_t seed) {
   return drawn;
 }
 
-/// What the evaluator does before a farm is priced.
+/// Sets the yields, as the evaluator does before it prices a farm.
 void lookUp(FieldCollection& farm) {
   for (const auto& field : farm)
     (void)yieldAt(*field->theCrop, field->Depth, field->annualRain);
 }
 
-RC_GTEST_PROP(FarmProfit, IsTheSumOfThePlainFormulas, (std::uint64_t seed)) {
+RC_GTEST_PROP(FarmProfit, EqualsTheSumOfTheSimpleFormulas, (std::uint64_t seed)) {
   Drawn drawn = drawFarm(seed);
   const ScopedEfficiency efficiency(drawn.efficiency);
   lookUp(drawn.farm);
@@ -68,7 +68,7 @@ RC_GTEST_PROP(FarmProfit, IsTheSumOfThePlainFormulas, (std::uint64_t seed)) {
   RC_ASSERT(drawn.farm.getProfit() == returns - costs);
 }
 
-RC_GTEST_PROP(PricedField, HoldsWhatTheOperationsOfAFieldLeaveBehind, (std::uint64_t seed)) {
+RC_GTEST_PROP(PricedField, EqualsTheResultsOfTheOperationsOfAField, (std::uint64_t seed)) {
   const Drawn drawn = drawFarm(seed);
   for (const auto& source : drawn.farm) {
     const Crop before = source->theCrop->Copy();
@@ -76,7 +76,7 @@ RC_GTEST_PROP(PricedField, HoldsWhatTheOperationsOfAFieldLeaveBehind, (std::uint
     const PricedField priced = priceField({source->acres, source->Depth, source->annualRain},
                                           *source->theCrop, *source->irrigCosts, drawn.efficiency);
 
-    const Crop& after = *source->theCrop;  // nothing is left in the crop or in the plant
+    const Crop& after = *source->theCrop;  // pricing changes neither the crop nor the plant
     RC_ASSERT(after.Yield == before.Yield);
     RC_ASSERT(after.writeData() == before.writeData());
     RC_ASSERT(after.inputCosts.NPerAcre == before.inputCosts.NPerAcre);
@@ -99,7 +99,7 @@ RC_GTEST_PROP(PricedField, HoldsWhatTheOperationsOfAFieldLeaveBehind, (std::uint
   }
 }
 
-TEST(PricedField, RefusesAnEfficiencyOf0) {
+TEST(PricedField, RejectsAnEfficiencyOf0) {
   const Crop corn = cornCrop();
   const auto price = [&] { (void)priceField({100, 8, 16}, corn, defaultPlant(), 0); };
   EXPECT_NE(errorText(ErrorNumber::divisionByZero, price), "");
@@ -117,7 +117,7 @@ RC_GTEST_PROP(FarmCopy, PricesLikeItsSourceToTheLastBit, (std::uint64_t seed)) {
   RC_ASSERT(after.toString() == drawn.farm.toString());
 }
 
-RC_GTEST_PROP(FarmCopy, DoesNotFeelWhatHappensToItsSource, (std::uint64_t seed)) {
+RC_GTEST_PROP(FarmCopy, IsNotAffectedByChangesToItsSource, (std::uint64_t seed)) {
   Drawn drawn = drawFarm(seed);
   const ScopedEfficiency efficiency(drawn.efficiency);
   lookUp(drawn.farm);
@@ -138,7 +138,7 @@ RC_GTEST_PROP(FarmCopy, DoesNotFeelWhatHappensToItsSource, (std::uint64_t seed))
   RC_ASSERT(copy.theVariable.empty());
 }
 
-RC_GTEST_PROP(FarmReset, GivesTheProfitOfAFreshFarm, (std::uint64_t seed)) {
+RC_GTEST_PROP(FarmReset, GivesTheProfitOfANewFarm, (std::uint64_t seed)) {
   Drawn drawn = drawFarm(seed);
   const ScopedEfficiency efficiency(drawn.efficiency);
   lookUp(drawn.farm);

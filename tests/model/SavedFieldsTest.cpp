@@ -17,7 +17,7 @@ void expectNoneTwice(std::span<const SavedField<Owner>> fields) {
   }
 }
 
-TEST(SavedFields, AreAsManyAsTheFileHasLinesAndNoneTwice) {
+TEST(SavedFields, MatchTheLinesOfTheFileWithoutDuplicates) {
   EXPECT_EQ(plantFields().size(), 11U);
   EXPECT_EQ(cropFields().size(), 2U);
   EXPECT_EQ(costFields().size(), 31U);
@@ -26,7 +26,8 @@ TEST(SavedFields, AreAsManyAsTheFileHasLinesAndNoneTwice) {
   expectNoneTwice(costFields());
 }
 
-/// Reads a line of its own into each field; the odd lines of switches are on.
+/// A valid line for each field: a different number, or for booleans and texts, alternating "False" and
+/// "True".
 template <class Owner>
 std::vector<std::string> linesFor(std::span<const SavedField<Owner>> fields) {
   std::vector<std::string> lines;
@@ -35,7 +36,7 @@ std::vector<std::string> linesFor(std::span<const SavedField<Owner>> fields) {
     const std::string word = on ? "True" : "False";
     Owner probe;
     field.read(probe, word);
-    // A number reads the word as 0 and an empty text as 0 or nothing; a switch and a text keep the word.
+    // A boolean and a text keep the word; a number does not.
     const bool keepsWord = field.text(probe) == word;
     lines.push_back(keepsWord ? word : std::to_string(lines.size() + 1) + ".5");
   }
@@ -56,13 +57,13 @@ void expectLinesComeBack(std::span<const SavedField<Owner>> fields) {
   EXPECT_EQ(savedLines(fields, owner), together);
 }
 
-TEST(SavedFields, KeepEachLineApart) {
+TEST(SavedFields, ReadEachLineIntoADifferentMember) {
   expectLinesComeBack(plantFields());
   expectLinesComeBack(cropFields());
   expectLinesComeBack(costFields());
 }
 
-TEST(SavedFields, AreWhatThePlantAndTheCropWrite) {
+TEST(SavedFields, MatchTheOutputOfPlantAndCrop) {
   IrrigationCosts plant;
   plant.GPM = 750;
   plant.FuelType = "Diesel";
@@ -76,7 +77,7 @@ TEST(SavedFields, AreWhatThePlantAndTheCropWrite) {
             "Corn\r\n" + savedLines(cropFields(), crop) + "\r\n" + savedLines(costFields(), crop.inputCosts));
 }
 
-TEST(SavedFields, ReadAnEmptyLineByTheirKind) {
+TEST(SavedFields, ReadAnEmptyLineAccordingToTheirKind) {
   inputCosts costs;
   costs.Tillage = 1;
   costs.NOptimal = true;
@@ -89,7 +90,7 @@ TEST(SavedFields, ReadAnEmptyLineByTheirKind) {
   EXPECT_TRUE(costs.AlfalfaStand.isEmpty());
 }
 
-TEST(SavedFields, OfTheCostsAreNumbersButForTheThreeSwitches) {
+TEST(SavedFields, OfTheCostsAreNumbersExceptThreeSwitches) {
   int switches = 0;
   for (const CostField& field : costFields()) {
     if (!field.isNumber()) {

@@ -11,14 +11,14 @@
 #include "tests/support/Errors.h"
 #include "tests/support/Plant.h"
 
-// The seeding rate by water, and what harvesting costs.
+// Seeding rates by irrigation, and harvest costs.
 
 namespace verdalis::testing {
 namespace {
 
 using ::testing::HasSubstr;
 
-/// The seeding rate that `net` inches lead to; with an efficiency of 100 % gross and net are the same number.
+/// The seeding rate for `net` inches; at an efficiency of 100 %, gross and net are equal.
 double rateAt(const std::string& cropType, double net, double own = 0) {
   inputCosts costs;
   costs.SeedOptimal = true;
@@ -35,10 +35,10 @@ class SeedRates : public ::testing::Test {
 
 struct SeedRow {
   const char* cropType;
-  std::array<double, 6> rates;  ///< From 18, 15, 12, 9, 6 and 0 inches on
+  std::array<double, 6> rates;  ///< For 18, 15, 12, 9, 6 and 0 inches and above
 };
 
-TEST_F(SeedRates, FollowTheWaterBands) {
+TEST_F(SeedRates, FollowTheIrrigationBands) {
   const std::vector<SeedRow> rows = {
       {"Corn", {32000, 29000, 26000, 23000, 20000, 17000}},
       {"Soybeans", {200000, 185000, 170000, 155000, 140000, 125000}},
@@ -64,13 +64,13 @@ TEST_F(SeedRates, FollowTheWaterBands) {
   }
 }
 
-TEST_F(SeedRates, StayWhereTheWaterIsNegativeOrTheCropHasNone) {
+TEST_F(SeedRates, AreUnchangedIfTheWaterIsNegativeOrTheCropHasNone) {
   EXPECT_EQ(rateAt("Corn", -0.001, 777), 777);
   for (const char* name : {"Oats", "Fallow", "corn", "SUNFLOWER", ""})
     EXPECT_EQ(rateAt(name, 12, 777), 777) << name;
 }
 
-TEST_F(SeedRates, StayWhileTheSwitchIsOff) {
+TEST_F(SeedRates, AreUnchangedIfTheSwitchIsOff) {
   inputCosts costs;
   costs.SeedRate = 30000;
   costs.SeedCost = 2;
@@ -79,7 +79,7 @@ TEST_F(SeedRates, StayWhileTheSwitchIsOff) {
   EXPECT_EQ(costs.SeedRate, 30000);
 }
 
-TEST(SeedCost, WorksOnTheNetDepthAndLeavesItInTheVariableOfTheCaller) {
+TEST(SeedCost, UsesTheNetDepthAndReturnsItInTheCallersVariable) {
   const ScopedEfficiency efficiency(0.5);
   inputCosts costs;
   costs.SeedOptimal = true;
@@ -89,7 +89,7 @@ TEST(SeedCost, WorksOnTheNetDepthAndLeavesItInTheVariableOfTheCaller) {
   EXPECT_EQ(costs.SeedRate, 26000);
 }
 
-TEST(SeedCost, IsByThePoundForThreeCropsAndByTheThousandForAllOthers) {
+TEST(SeedCost, IsPerPoundForThreeCropsAndPerThousandForOthers) {
   const ScopedEfficiency efficiency(1);
   for (const char* name :
        {"Grain Sorghum", "Wheat", "Alfalfa", "Corn", "Soybeans", "Sunflower", "Fallow", "Oats", "wheat"}) {
@@ -103,7 +103,7 @@ TEST(SeedCost, IsByThePoundForThreeCropsAndByTheThousandForAllOthers) {
   }
 }
 
-TEST(SeedCost, TakesNoYieldIntoAccount) {
+TEST(SeedCost, DoesNotDependOnTheYield) {
   const ScopedEfficiency efficiency(1);
   inputCosts costs;
   costs.SeedRate = 26000;
@@ -114,7 +114,7 @@ TEST(SeedCost, TakesNoYieldIntoAccount) {
   }
 }
 
-TEST(SeedCost, TellsACostThatIsTooLarge) {
+TEST(SeedCost, RejectsACostThatIsTooLarge) {
   const ScopedEfficiency efficiency(1);
   inputCosts costs;
   costs.SeedRate = 1e300;
@@ -134,7 +134,7 @@ inputCosts harvester(double base, double exceed, double exceedRate, double hauli
   return costs;
 }
 
-TEST(HarvestCost, OfGrainIsBaseExtraAndHauling) {
+TEST(HarvestCost, OfGrainIsBasePlusExtraPlusHauling) {
   const inputCosts costs = harvester(20, 100, 0.5, 0.25);
   for (const char* name :
        {"Corn", "Wheat", "Grain Sorghum", "Soybeans", "Oats", "Fallow", "alfalfa", "sunflower"}) {
@@ -142,7 +142,7 @@ TEST(HarvestCost, OfGrainIsBaseExtraAndHauling) {
   }
 }
 
-TEST(HarvestCost, HasNoFloorUnderTheExtraCharge) {
+TEST(HarvestCost, HasNoLowerLimitForTheExtraCharge) {
   const inputCosts costs = harvester(20, 100, 0.5, 0);
   EXPECT_EQ(costs.getHarvestCost(1, 100, "Corn"), 20);
   EXPECT_EQ(costs.getHarvestCost(1, 90, "Corn"), 15);
@@ -153,7 +153,7 @@ TEST(HarvestCost, OfCornBelowItsThresholdIsLessThanTheBaseCharge) {
   EXPECT_LT(cornCrop().inputCosts.getHarvestCost(1, 0, "Corn"), 28.58);
 }
 
-TEST(HarvestCost, TakesAFlatRateAboveZeroInsteadOfTheFour) {
+TEST(HarvestCost, UsesAFlatRateAbove0InsteadOfTheFourCharges) {
   inputCosts costs = harvester(20, 100, 0.5, 0.25);
   costs.HarvestFlatRate = 0.125;
   EXPECT_EQ(costs.getHarvestCost(10, 140, "Corn"), 0.125 * 140 * 10);
@@ -164,19 +164,19 @@ TEST(HarvestCost, TakesAFlatRateAboveZeroInsteadOfTheFour) {
   }
 }
 
-TEST(HarvestCost, OfSunflowerIsByTheHundredweight) {
+TEST(HarvestCost, OfSunflowerIsPerHundredweight) {
   const inputCosts costs = harvester(20, 1000, 0.5, 0.25);
   EXPECT_EQ(costs.getHarvestCost(10, 3000, "Sunflower"), (20 + 10 + 7.5) * 10);
 }
 
-TEST(HarvestCost, OfSunflowerWithItsDefaults) {
+TEST(HarvestCost, OfSunflowerWithDefaultsIsAsComputedByHand) {
   const inputCosts costs = defaultCosts("Sunflower");
   EXPECT_NEAR(costs.getHarvestCost(1, 3000, "Sunflower"), 29.02 + 0.003 * 1700 / 100 + 0.003 * 30, 1e-12);
 }
 
 TEST(HarvestCost, OfAlfalfaIsPerTonOrByOperations) {
   inputCosts costs = harvester(20, 100, 0.5, 0.25);
-  costs.HarvestFlatRate = 9;  // none of these belongs to Alfalfa
+  costs.HarvestFlatRate = 9;  // not used for Alfalfa
   costs.AlfalfaSwathing = 12.5;
   costs.AlfalfaSwathingNum = 4;
   costs.AlfalfaRaking = 4.5;
@@ -184,7 +184,7 @@ TEST(HarvestCost, OfAlfalfaIsPerTonOrByOperations) {
   costs.AlfalfaBaling = 16.5;
   costs.AlfalfaBalingNum = 6;
   EXPECT_EQ(costs.getHarvestCost(10, 8, "Alfalfa"), (50 + 9 + 99) * 10);
-  EXPECT_EQ(costs.getHarvestCost(10, 1, "Alfalfa"), (50 + 9 + 99) * 10);  // whatever the yield
+  EXPECT_EQ(costs.getHarvestCost(10, 1, "Alfalfa"), (50 + 9 + 99) * 10);  // independent of the yield
   costs.AlfalfaPerTon = 35;
   EXPECT_EQ(costs.getHarvestCost(10, 8, "Alfalfa"), 8 * 35 * 10);
   costs.AlfalfaPerTon = 0;
@@ -193,13 +193,13 @@ TEST(HarvestCost, OfAlfalfaIsPerTonOrByOperations) {
   EXPECT_EQ(costs.getHarvestCost(10, 8, "Alfalfa"), 1580);
 }
 
-TEST(HarvestCost, IsNothingWhileNothingIsEntered) {
+TEST(HarvestCost, Is0IfNothingIsEntered) {
   for (const char* name : {"Corn", "Sunflower", "Alfalfa", "Oats"}) {
     EXPECT_EQ(inputCosts().getHarvestCost(10, 140, name), 0) << name;
   }
 }
 
-TEST(HarvestCost, TellsACostThatIsTooLarge) {
+TEST(HarvestCost, RejectsACostThatIsTooLarge) {
   inputCosts costs;
   costs.HarvestFlatRate = 1e300;
   EXPECT_THAT(errorText(ErrorNumber::overflow, [&] { (void)costs.getHarvestCost(1, 1e300, "Corn"); }),

@@ -8,7 +8,7 @@
 namespace verdalis {
 namespace {
 
-TEST(StockCosts, AreNumbersOfTheFileAndNoneTwice) {
+TEST(StockCosts, AreNumbersOfTheFileWithoutDuplicates) {
   const auto fields = costFields();
   for (const DefaultCosts& row : stockCosts()) {
     EXPECT_TRUE(row.field.isNumber());
@@ -19,7 +19,7 @@ TEST(StockCosts, AreNumbersOfTheFileAndNoneTwice) {
   }
 }
 
-TEST(StockCosts, AreAllButTheRatesAndTheMiscellaneousCost) {
+TEST(StockCosts, CoverAllNumbersExceptRatesAndMiscellaneousCost) {
   for (const CostField& field : costFields()) {
     const auto rows = stockCosts();
     const bool has =
@@ -55,7 +55,7 @@ TEST(StockCosts, AreFoundByCropAndCost) {
   EXPECT_EQ(defaultCost(CropKind::corn, &inputCosts::MiscCost).loaded, false);
 }
 
-TEST(StockCosts, DifferBetweenThePaneAndTheCropWhereThatIsMeant) {
+TEST(StockCosts, DifferBetweenPaneAndCropOnlyWhereIntended) {
   const DefaultCost insecticide = defaultCost(CropKind::soybeans, &inputCosts::Insecticide);
   EXPECT_STREQ(insecticide.text, "");
   EXPECT_TRUE(insecticide.loaded) << "as a 0";

@@ -10,7 +10,7 @@
 namespace verdalis {
 namespace {
 
-TEST(StockCrops, AreEveryKindButFallowOnceAndInOrder) {
+TEST(StockCrops, ContainEveryKindExceptFallowOnceAndInOrder) {
   std::set<std::string_view> names;
   for (std::size_t i = 0; i < stockCrops.size(); ++i) {
     const StockCrop& crop = stockCrops.at(i);
@@ -42,13 +42,13 @@ TEST(StockCrops, HaveDefaultsWithinTheirLimits) {
   }
 }
 
-TEST(StockCrops, AreSownNoThinnerWithMoreWater) {
+TEST(StockCrops, HaveSeedRatesThatDoNotFallWithMoreWater) {
   EXPECT_TRUE(std::is_sorted(seedBands.rbegin(), seedBands.rend()));
   for (const StockCrop& crop : stockCrops)
     EXPECT_TRUE(std::is_sorted(crop.seedRates.rbegin(), crop.seedRates.rend())) << crop.name();
 }
 
-TEST(StockCrops, WithSeedByThePound) {
+TEST(StockCrops, PriceSeedPerPoundForThreeCrops) {
   for (const StockCrop& crop : stockCrops) {
     const bool byPound = crop.name() == "Alfalfa" || crop.name() == "Grain Sorghum" || crop.name() == "Wheat";
     EXPECT_EQ(isSeedPricedByPound(crop.kind), byPound) << crop.name();

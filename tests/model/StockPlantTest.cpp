@@ -8,7 +8,7 @@
 namespace verdalis {
 namespace {
 
-TEST(StockPlant, HasEachFieldOfTheFileOnceButForThoseWithoutADefault) {
+TEST(StockPlant, ContainsEachFieldOfTheFileThatHasADefaultOnce) {
   const auto rows = stockPlant();
   for (const SavedField<IrrigationCosts>& field : plantFields()) {
     const bool without = field == &IrrigationCosts::FixedPerAcre || field == &IrrigationCosts::NPC ||
@@ -21,7 +21,7 @@ TEST(StockPlant, HasEachFieldOfTheFileOnceButForThoseWithoutADefault) {
   EXPECT_EQ(rows.size(), 8U);
 }
 
-TEST(StockPlant, ShowsNumbersAndAFuelThatIsKnown) {
+TEST(StockPlant, ContainsNumbersAndAKnownFuel) {
   for (const PlantDefault& row : stockPlant()) {
     EXPECT_EQ(defaultPlantText(row.field), row.text);
     if (row.field.isNumber()) {

@@ -12,7 +12,7 @@
 #include "tests/support/Errors.h"
 #include "tests/support/PlainFarm.h"
 
-// What a crop yields for a net irrigation and a rainfall, and the scale that its table is read with.
+// Yields of a crop by net irrigation and rainfall, and the scaling of its table.
 
 namespace verdalis::testing {
 namespace {
@@ -20,7 +20,7 @@ namespace {
 using ::testing::AllOf;
 using ::testing::HasSubstr;
 
-/// A crop whose yields are those of its table: scale 1 for absolute cells, 1 for fractions too.
+/// A crop that yields the values of its table: scale 1 for absolute and relative cells.
 Crop plainCrop(const std::vector<std::vector<double>>& rows) {
   Crop crop = namedCrop("Oats");
   crop.maxYield = 1;
@@ -29,11 +29,11 @@ Crop plainCrop(const std::vector<std::vector<double>>& rows) {
   return crop;
 }
 
-TEST(SetNormal, MapsTheTopYieldAtThisRainToTheExpectedYield) {
+TEST(SetNormal, ScalesTheTopYieldAtThisRainToTheExpectedYield) {
   Crop corn = cornCrop();
   corn.setNormal(220, 16);
   EXPECT_EQ(corn.normalFactor, 220.0 / 210);
-  corn.setNormal(220, 16.5);  // halves to the even inch, as in the yield
+  corn.setNormal(220, 16.5);  // halves to the even inch, as for the yield
   EXPECT_EQ(corn.normalFactor, 220.0 / 210);
   corn.setNormal(180, 17.5);
   EXPECT_EQ(corn.normalFactor, 180 / 211.5);
@@ -41,7 +41,7 @@ TEST(SetNormal, MapsTheTopYieldAtThisRainToTheExpectedYield) {
   EXPECT_EQ(corn.normalFactor, 0);
 }
 
-TEST(SetNormal, KeepsTheFactorWhereItCannotBeWorkedOut) {
+TEST(SetNormal, KeepsTheFactorIfItCannotBeComputed) {
   Crop corn = cornCrop();
   corn.normalFactor = 1.5;
   for (const double rain : {22.0, 21.5, -1.0, 1e300, -1e300}) {
@@ -53,7 +53,7 @@ TEST(SetNormal, KeepsTheFactorWhereItCannotBeWorkedOut) {
   corn.setNormal(0, 5);  // 0 / 0
   EXPECT_EQ(corn.normalFactor, 1.5);
   Crop tiny = plainCrop({{1e-300}});
-  tiny.setNormal(1e300, 11);  // an overflow
+  tiny.setNormal(1e300, 11);  // overflow
   EXPECT_EQ(tiny.normalFactor, 1);
   Crop fallow = fallowCrop();
   fallow.normalFactor = 2;
@@ -76,7 +76,7 @@ TEST(SetYield, ReadsAWholeInchFromItsRow) {
   EXPECT_EQ(yieldAt(corn, 0, 18), 11.1);
 }
 
-TEST(SetYield, GoesStraightBetweenTwoRows) {
+TEST(SetYield, InterpolatesLinearlyBetweenTwoRows) {
   Crop crop = plainCrop({{10}, {20}, {40}});
   EXPECT_DOUBLE_EQ(yieldAt(crop, 0.5, 11), 15);
   EXPECT_DOUBLE_EQ(yieldAt(crop, 1.25, 11), 25);
@@ -88,7 +88,7 @@ TEST(SetYield, ScalesAbsoluteCellsByTheNormalFactor) {
   EXPECT_EQ(yieldAt(corn, 12, 16), 175.3 * (220.0 / 210));
 }
 
-TEST(SetYield, ReachesTheExpectedYieldAtFullIrrigationAndAboveIt) {
+TEST(SetYield, GivesTheExpectedYieldAtFullIrrigationAndAbove) {
   for (const double depth : {24.0, 24.5, 100.0, 1e300}) {
     Crop corn = cornCrop();
     corn.setNormal(220, 16);
@@ -96,26 +96,26 @@ TEST(SetYield, ReachesTheExpectedYieldAtFullIrrigationAndAboveIt) {
   }
 }
 
-TEST(SetYield, LowersADepthAboveTheTableInTheVariableOfTheCaller) {
+TEST(SetYield, LowersADepthAboveTheTableInTheCallersVariable) {
   Crop corn = cornCrop();
   double depth = 30;
   corn.setYield(depth, 16);
   EXPECT_EQ(depth, 24);
-  depth = 23.97;  // reads row 24, and stays
+  depth = 23.97;  // reads row 24, and the depth is unchanged
   corn.setYield(depth, 16);
   EXPECT_EQ(depth, 23.97);
 }
 
-TEST(SetYield, RoundsToTenthsBeforeItTakesTheWholeInches) {
+TEST(SetYield, RoundsToTenthsBeforeTakingTheWholeInches) {
   Crop crop = plainCrop({{10}, {20}, {40}, {70}, {110}, {160}});
-  // 3.96 is 4.0: row 4, 0.04 inches below it, on the line from row 4 to row 5.
+  // 3.96 rounds to 4.0: row 4, and 0.04 inches below it on the line from row 4 to row 5.
   EXPECT_EQ(yieldAt(crop, 3.96, 11), 110 + (3.96 - 4) * 50);
   EXPECT_EQ(yieldAt(crop, 3.94, 11), 70 + (3.94 - 3) * 40);
   EXPECT_EQ(yieldAt(crop, 3.95, 11), 110 + (3.95 - 4) * 50);  // halves away from zero
   EXPECT_EQ(yieldAt(crop, std::nextafter(3.95, 0), 11), 70 + (std::nextafter(3.95, 0) - 3) * 40);
 }
 
-TEST(SetYield, ExtrapolatesJustUnderAWholeInchWithASmallNegativeShare) {
+TEST(SetYield, ExtrapolatesSlightlyJustBelowAWholeInch) {
   Crop corn = cornCrop();
   corn.setNormal(220, 16);
   const double y10 = corn.yieldTable->cell(10, 16);
@@ -125,7 +125,7 @@ TEST(SetYield, ExtrapolatesJustUnderAWholeInchWithASmallNegativeShare) {
   EXPECT_LT(corn.Yield, y10 * corn.normalFactor);
 }
 
-TEST(SetYield, StaysAtTheTopRowJustUnderIt) {
+TEST(SetYield, UsesTheTopRowJustBelowTheTop) {
   Crop crop = plainCrop({{10}, {20}});
   EXPECT_EQ(yieldAt(crop, 0.96, 11), 20);
   EXPECT_EQ(yieldAt(crop, 1, 11), 20);
@@ -139,17 +139,17 @@ TEST(SetYield, ReadsATableOfOneRow) {
   EXPECT_EQ(depth, 0);
 }
 
-TEST(SetYield, TakesCellsUpTo1AsFractionsOfTheMaximumYield) {
+TEST(SetYield, TreatsCellsUpTo1AsFractionsOfTheMaximumYield) {
   Crop crop = namedCrop("Oats");
   crop.maxYield = 80;
   crop.normalFactor = 3;
   crop.setYieldTable(tableOf(11, {{0.25, 0.25, 0.25}, {0.5, 1.0, 1.0000001}}));
   EXPECT_EQ(yieldAt(crop, 1, 11), 0.5 * 80);
   EXPECT_EQ(yieldAt(crop, 1, 12), 80);
-  EXPECT_EQ(yieldAt(crop, 1, 13), 1.0000001 * 3);  // absolute: just above 1
+  EXPECT_EQ(yieldAt(crop, 1, 13), 1.0000001 * 3);  // absolute, because just above 1
 }
 
-TEST(SetYield, AsksTheUpperCellOfEachLookupWhetherItIsAbsolute) {
+TEST(SetYield, DecidesByTheUpperCellWhetherALookupIsAbsolute) {
   Crop crop = namedCrop("Oats");
   crop.maxYield = 100;
   crop.normalFactor = 2;
@@ -166,7 +166,7 @@ TEST(SetYield, GivesCorn44BushelsInItsDryCorner) {
   EXPECT_DOUBLE_EQ(yieldAt(corn, 0.5, 15), 44);
 }
 
-TEST(SetYield, ReadsTheNearestInchOfRainHalvesToTheEvenOne) {
+TEST(SetYield, UsesTheNearestInchOfRainHalvesToEven) {
   Crop corn = cornCrop();
   corn.normalFactor = 1;
   const std::vector<std::pair<double, int>> cases = {{16, 16},   {16.4, 16}, {16.5, 16}, {16.6, 17},
@@ -184,7 +184,7 @@ TEST(SetYield, IsZeroBelowTheFirstRainfallOfTheTable) {
     EXPECT_EQ(yieldAt(corn, 12, rain), 0) << rain;
 }
 
-TEST(SetYield, TellsARainfallOutsideTheTableWithItsRange) {
+TEST(SetYield, RejectsARainfallOutsideTheTableAndNamesItsRange) {
   for (const double rain : {22.0, 21.5, 25.0, 1e300, -1.0, -0.6}) {
     Crop corn = cornCrop();
     double depth = 12;
@@ -194,7 +194,7 @@ TEST(SetYield, TellsARainfallOutsideTheTableWithItsRange) {
   }
 }
 
-TEST(SetYield, TellsANegativeDepth) {
+TEST(SetYield, RejectsANegativeDepth) {
   Crop corn = cornCrop();
   EXPECT_EQ(yieldAt(corn, -0.04, 11), 0);
   for (const double depth : {-0.95, -1.0, -1e300, -std::numeric_limits<double>::infinity()}) {
@@ -204,26 +204,26 @@ TEST(SetYield, TellsANegativeDepth) {
   }
 }
 
-TEST(SetYield, ReadsLessThanAnInchBelow0FromTheFirstRow) {
+TEST(SetYield, ExtrapolatesDepthsLessThanAnInchBelow0) {
   Crop crop = plainCrop({{10}, {20}});
   EXPECT_EQ(yieldAt(crop, -0.5, 11), 5);
   EXPECT_EQ(yieldAt(crop, -0.0, 11), 10);
 }
 
-TEST(SetYield, TellsACropWithoutATable) {
+TEST(SetYield, RejectsACropWithoutATable) {
   Crop crop = namedCrop("Oats");
   double depth = 1;
   EXPECT_THAT(errorText(ErrorNumber::subscript, [&] { crop.setYield(depth, 16); }), HasSubstr("Oats"));
 }
 
-TEST(SetYield, TellsAYieldThatIsTooLarge) {
+TEST(SetYield, RejectsAYieldThatIsTooLarge) {
   Crop crop = plainCrop({{1e300}});
   crop.normalFactor = 1e300;
   double depth = 0;
   EXPECT_THAT(errorText(ErrorNumber::overflow, [&] { crop.setYield(depth, 11); }), HasSubstr("Oats"));
 }
 
-TEST(SetYield, IsZeroForFallowWhateverTheWaterAndRain) {
+TEST(SetYield, Is0ForFallowWhateverTheWaterAndRain) {
   Crop fallow = fallowCrop();
   fallow.Yield = 7;
   for (const double wanted : {0.0, 5.0, 1e300, -3.0}) {
@@ -232,12 +232,12 @@ TEST(SetYield, IsZeroForFallowWhateverTheWaterAndRain) {
     EXPECT_EQ(fallow.Yield, 0);
     EXPECT_EQ(depth, wanted);
   }
-  Crop named = namedCrop("Fallow");  // with a table too: nothing else is looked at
+  Crop named = namedCrop("Fallow");  // even with a table
   named.setYieldTable(cornTable());
   EXPECT_EQ(yieldAt(named, 12, 16), 0);
 }
 
-TEST(SetYield, KnowsFallowByItsExactNameOnly) {
+TEST(SetYield, RecognizesFallowOnlyByItsExactName) {
   for (const char* name : {"fallow", "FALLOW", "Fallow ", " Fallow"}) {
     Crop crop = plainCrop({{10}, {20}});
     crop.cropType = name;
@@ -245,7 +245,7 @@ TEST(SetYield, KnowsFallowByItsExactNameOnly) {
   }
 }
 
-/// A depth on and around the places where the tenths round up to the next inch.
+/// A depth at or near a tenth that rounds up to the next inch.
 rc::Gen<double> depthNearATenth() {
   return rc::gen::map(
       rc::gen::tuple(rc::gen::inRange(0, 1200), rc::gen::inRange(0, 100), rc::gen::inRange(-3, 4)),
@@ -263,8 +263,8 @@ rc::Gen<double> anyDepth() {
                                                         [](int n) { return n / 1'000'000.0; }));
 }
 
-RC_GTEST_PROP(SetYield, TakesTheWholeInchesThatTheTextOfTheDepthShows, ()) {
-  // Neighbouring rows differ by amounts of their own, so another row gives another yield.
+RC_GTEST_PROP(SetYield, UsesTheWholeInchesOfTheDepthAsShown, ()) {
+  // The differences between adjacent rows are all different, so a wrong row gives a wrong yield.
   static const Crop crop = [] {
     YieldTable table(1000, 0, 1);
     for (int water = 0; water <= 1000; ++water) {
@@ -286,7 +286,7 @@ RC_GTEST_PROP(SetYield, TakesTheWholeInchesThatTheTextOfTheDepthShows, ()) {
   }
 }
 
-TEST(SetYield, TakesTheWholeInchesOfTheTextAtEveryHundredthAndItsNeighbours) {
+TEST(SetYield, UsesTheWholeInchesAsShownAtAndNearEveryHundredth) {
   Crop crop = namedCrop("Oats");
   crop.normalFactor = 1;
   YieldTable table(1000, 0, 0);

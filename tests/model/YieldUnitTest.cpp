@@ -9,7 +9,7 @@
 namespace verdalis {
 namespace {
 
-TEST(YieldUnits, HaveNamesOfTheirOwnAndTwoWords) {
+TEST(YieldUnits, HaveUniqueNamesAndTwoWords) {
   std::set<std::string_view> names;
   for (const YieldUnitNames& unit : yieldUnits) {
     names.insert(unit.choice);
@@ -21,7 +21,7 @@ TEST(YieldUnits, HaveNamesOfTheirOwnAndTwoWords) {
   EXPECT_EQ(names.size(), 2 * yieldUnits.size());
 }
 
-TEST(YieldUnits, MakeAForageCropOfTonsAlone) {
+TEST(YieldUnits, OnlyTonsMakeAForageCrop) {
   for (const YieldUnit unit : {YieldUnit::bushels, YieldUnit::pounds, YieldUnit::tons}) {
     const std::string_view words = namesOf(unit).words;
     Crop crop;

@@ -56,7 +56,8 @@ void addCrop(Bytes& bytes, const Crop& crop) {
     bytes.add(unit);
   bytes.add({crop.price, crop.inputCost, crop.maxYield, crop.normalFactor, crop.Yield});
   bytes.add({crop.Custom});
-  bytes.add(std::bit_cast<std::uintptr_t>(crop.yieldTable.get()));  // shared by all copies of the crop
+  bytes.add(
+      std::bit_cast<std::uintptr_t>(crop.yieldTable.get()));  // the table is shared by all copies of the crop
   addCosts(bytes, crop.inputCosts);
 }
 

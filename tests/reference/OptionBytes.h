@@ -6,7 +6,7 @@
 
 namespace verdalis::reference {
 
-/// Everything that an option holds, down to the last bit of every number, as a text to compare.
+/// The complete contents of an option, every number to the last bit, as a text for comparison.
 [[nodiscard]] std::string optionBytes(const FieldCollection& option);
 
 }  // namespace verdalis::reference

@@ -10,7 +10,7 @@
 namespace verdalis::reference {
 namespace {
 
-/// The one candidate that is built anew for every pair. Its objects are made once and overwritten whole.
+/// The single candidate used for every pair. Its objects are created once and overwritten completely.
 class ReusedCandidate {
  public:
   explicit ReusedCandidate(const SearchInputs& inputs) : inputs_(inputs) {
@@ -68,7 +68,7 @@ FieldCollection literalCandidate(const SearchInputs& inputs, const Split& depths
 template <class Submit>
 std::optional<BestMix> searchAll(const SearchInputs& inputs, std::uint64_t combinations, ProgramState& state,
                                  RunHooks& hooks, Submit submit) {
-  // A run that is started while this one pumps events sets an efficiency of its own.
+  // Another run that starts while this one pumps events sets its own efficiency.
   const double efficiency = EfficiencyFraction;
   const auto pump = [&] {
     hooks.pumpEvents();

@@ -11,13 +11,12 @@
 
 namespace verdalis::reference {
 
-/// The search as it is defined: every candidate is built, priced by the model and submitted, and the events
-/// are pumped for each. evaluateCombinations() must give the same options, bit for bit.
+/// The simple search: builds every candidate, prices it with the model, submits it, and pumps events for
+/// each. evaluateCombinations() must give the same options, bit by bit.
 [[nodiscard]] std::optional<BestMix> evaluatePlainly(const SearchInputs& inputs, ProgramState& state,
                                                      RunHooks& hooks);
 
-/// The same with nothing shared between two candidates and with a stored list of combinations; for small
-/// farms.
+/// The same, but candidates share nothing and the combinations are stored in a list; for small farms.
 [[nodiscard]] std::optional<BestMix> evaluateLiterally(const SearchInputs& inputs,
                                                        const std::vector<CropScenario>& combinations,
                                                        ProgramState& state, RunHooks& hooks);

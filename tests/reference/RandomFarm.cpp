@@ -110,7 +110,7 @@ class RandomFarm::Maker {
     }
   }
 
-  /// Whether all crops of the farm come from one.
+  /// Whether all crops of the farm are variants of one crop.
   [[nodiscard]] bool isAlike() const {
     return kind_ == FarmKind::neighbourPrices || kind_ == FarmKind::neighbourCosts ||
            kind_ == FarmKind::equalGains || kind_ == FarmKind::equalGainsNoPlant;
@@ -211,7 +211,7 @@ class RandomFarm::Maker {
     }
   }
 
-  /// Numbers from far beyond what anyone enters: some sums of them overflow, some do not. Or no table.
+  /// Makes a crop faulty: unrealistic numbers, whose sums may overflow, or no table.
   void spoil(Crop& crop) {
     const auto huge = [&] { return std::pow(10.0, between(300, 308)) * (chance(0.5) ? 1 : -1); };
     switch (below(6)) {

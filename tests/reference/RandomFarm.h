@@ -12,30 +12,29 @@
 
 namespace verdalis::reference {
 
-/// What makes a farm hard for a search that wants to pass candidates over.
+/// Properties that make a farm difficult for a search that skips candidates.
 enum class FarmKind {
   ordinary,
   manyCrops,        ///< With few water splits
   highFactor,       ///< 99 on two fields
-  twinCrops,        ///< Groups of crops with the same costs and returns
-  neighbourPrices,  ///< Crops alike but for prices one unit in the last place apart
-  neighbourCosts,   ///< The same with costs
+  twinCrops,        ///< Groups of crops with equal costs and returns
+  neighbourPrices,  ///< Equal crops, except that prices differ by one unit in the last place
+  neighbourCosts,   ///< The same with costs instead of prices
   zeroPrices,
   fallowOnly,
   losses,             ///< Every candidate has a negative profit
-  wholeDollars,       ///< Costs and returns are whole numbers, so sums are exact and many are equal
-  equalGains,         ///< Returns and costs differ, the gains do not, but for rounding
+  wholeDollars,       ///< Costs and returns are whole numbers, so sums are exact and often equal
+  equalGains,         ///< Returns and costs differ, but gains are equal except for rounding
   equalGainsNoPlant,  ///< The same without a response to water
-  linearYields,       ///< What one field loses with the water, another gains
-  fewCandidates,      ///< Fewer than places
-  faulty,             ///< Some candidates cannot be priced, or almost
+  linearYields,       ///< What one field loses with less water, another gains
+  fewCandidates,      ///< Fewer candidates than places
+  faulty,             ///< Some candidates cannot be priced, or barely
   count
 };
 
 [[nodiscard]] std::string_view name(FarmKind kind);
 
-/// A farm made of random numbers, with at most so many candidates that all can be priced. Its irrigation
-/// efficiency must be set by whoever uses it.
+/// A random farm with few enough candidates to price them all. The caller must set its irrigation efficiency.
 class RandomFarm {
  public:
   RandomFarm(FarmKind kind, std::uint64_t seed, double mostCandidates = 9000);

@@ -9,7 +9,7 @@
 
 namespace verdalis::reference {
 
-/// A last-in-first-out stack of splits. It stores and hands out copies. Pop() and Top() need an entry.
+/// A last-in-first-out stack of splits. Stores and returns copies. Pop() and Top() need an entry.
 class Stack {
  public:
   [[nodiscard]] std::size_t Count() const { return entries_.size(); }
@@ -25,7 +25,7 @@ class Stack {
   std::vector<Split> entries_;
 };
 
-/// A last-in-first-out stack of crop scenarios. It stores what it is given and clears the caller's.
+/// A last-in-first-out stack of crop scenarios. Push() moves the entry from the caller.
 class CStack {
  public:
   [[nodiscard]] std::size_t Count() const { return entries_.size(); }
@@ -36,7 +36,7 @@ class CStack {
   }
   void Push(CropScenario& scenario) { entries_.push_back(std::exchange(scenario, {})); }
 
-  /// Nothing on an empty stack.
+  /// nullptr if the stack is empty.
   [[nodiscard]] const CropScenario* Top() const { return entries_.empty() ? nullptr : &entries_.back(); }
 
  private:

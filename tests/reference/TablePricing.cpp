@@ -12,8 +12,8 @@ namespace {
 constexpr std::size_t block = priceBlockSize;
 constexpr double infinity = std::numeric_limits<double>::infinity();
 
-/// Prices of the crops by position, padded. In this order the candidates are met from the last to the first,
-/// so that equal profits need no second look.
+/// Prices of the crops by position, padded. In this order candidates are visited from the last to the first,
+/// so equal profits need no second check.
 struct Row {
   std::vector<double> returns;
   std::vector<double> costs;

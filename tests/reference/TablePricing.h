@@ -7,9 +7,9 @@
 
 namespace verdalis::reference {
 
-/// The best candidates by pricing every one from tables, some at once, with no bound: what the fast search is
-/// compared with on farms that are too large for the plain loop. Twins are priced one by one. No events are
-/// pumped.
+/// Finds the best candidates by pricing all of them from tables, several at a time and without bounds. For
+/// comparison with the fast search on farms that are too large for the simple loop. Twins are priced one by
+/// one. Pumps no events.
 [[nodiscard]] std::vector<KeptCandidate> priceAllByTables(const SearchInputs& inputs);
 
 }  // namespace verdalis::reference

@@ -239,7 +239,7 @@ TEST_F(DetailsTest, NothingFlowsBackToTheField) {
 
 TEST_F(DetailsTest, HandsTheFieldItselfOn) {
   std::vector<const Field*> loaded;
-  details.onFieldLoaded = [&](const Field& field) { loaded.push_back(&field); };
+  details.onFieldLoaded.connect([&](const Field& field) { loaded.push_back(&field); });
   const auto field = markedField("Corn", "bu.,bushels");
   details.loadCosts(*field);
   EXPECT_THAT(loaded, ElementsAre(field.get()));
@@ -250,8 +250,8 @@ TEST_F(DetailsTest, PrintAndBack) {
   std::vector<Details::BackTo> backs;
   details.Command2.click();
   details.Command3.click();
-  details.onPrint = [&] { ++prints; };
-  details.onBack = [&](Details::BackTo to) { backs.push_back(to); };
+  details.onPrint.connect([&] { ++prints; });
+  details.onBack.connect([&](Details::BackTo to) { backs.push_back(to); });
   details.Command2.click();
   details.Command3.click();
   state.TrendMode = true;
@@ -262,7 +262,7 @@ TEST_F(DetailsTest, PrintAndBack) {
 
 TEST_F(DetailsTest, AFigureThatCannotBeCalculatedIsARunTimeError) {
   int loaded = 0;
-  details.onFieldLoaded = [&](const Field&) { ++loaded; };
+  details.onFieldLoaded.connect([&](const Field&) { ++loaded; });
   details.loadCosts(*markedField("Corn", "bu.,bushels"));
   auto without = markedField("Oats", "bu.,bushels");
   without->acres = 0;

@@ -251,7 +251,7 @@ TEST_F(ResultsTest, PagingAndDetailsCannotChangeAnOption) {
 
 TEST_F(ResultsTest, DetailsOfARowHandOverItsCopy) {
   std::vector<std::shared_ptr<Field>> asked;
-  results.onDetails = [&](const std::shared_ptr<Field>& field) { asked.push_back(field); };
+  results.onDetails.connect([&](const std::shared_ptr<Field>& field) { asked.push_back(field); });
   results.loadResults({optionOf({plainField(10, 1, 0), plainField(20, 2, 0)})});
   results.rh[1].cmdDetails.click();
   ASSERT_EQ(asked.size(), 1U);
@@ -267,7 +267,7 @@ TEST_F(ResultsTest, AnInactiveRowHasNoDetails) {
 
 TEST_F(ResultsTest, SavingHandsOverTheOptionItselfAndSaysSo) {
   std::vector<Option> saved;
-  results.onSaveOption = [&](const Option& option) { saved.push_back(option); };
+  results.onSaveOption.connect([&](const Option& option) { saved.push_back(option); });
   const std::vector<Option> options{optionEarning(100), optionEarning(90)};
   results.loadResults(options);
   advance(1);
@@ -285,7 +285,7 @@ TEST_F(ResultsTest, SavingHandsOverTheOptionItselfAndSaysSo) {
 
 TEST_F(ResultsTest, SavingWithoutAnOptionIsARunTimeError) {
   int saved = 0;
-  results.onSaveOption = [&](const Option&) { ++saved; };
+  results.onSaveOption.connect([&](const Option&) { ++saved; });
   std::vector<std::string> told;
   desk.onRunTimeError = [&](const RunTimeError& error) { told.emplace_back(error.what()); };
   results.loadResults({});
@@ -299,11 +299,11 @@ TEST_F(ResultsTest, AFixedTrendTakesTheOptionOnShow) {
   const std::vector<Option> options{optionEarning(100), optionEarning(90)};
   Option seen;
   bool shownBefore = true;
-  results.onBatchThis = [&](const Option& option) {
+  results.onBatchThis.connect([&](const Option& option) {
     seen = option;
     shownBefore = results.batchDisplay.visible();
     EXPECT_EQ(state.SelectedOption, option);
-  };
+  });
   results.loadResults(options);
   advance(1);
   results.cmdBatchThis.click();
@@ -325,7 +325,7 @@ TEST_F(ResultsTest, TheTrendRequestFollowsTrendProcessing) {
 
 TEST_F(ResultsTest, BackLeadsHomeOrToTheTrendSetup) {
   std::vector<Results::BackTo> backs;
-  results.onBack = [&](Results::BackTo to) { backs.push_back(to); };
+  results.onBack.connect([&](Results::BackTo to) { backs.push_back(to); });
   results.Command1.click();
   state.TrendMode = true;
   results.Command1.click();
@@ -334,8 +334,8 @@ TEST_F(ResultsTest, BackLeadsHomeOrToTheTrendSetup) {
 
 TEST_F(ResultsTest, PrintAndExport) {
   std::vector<std::string> asked;
-  results.onPrint = [&] { asked.emplace_back("print"); };
-  results.onExcel = [&] { asked.emplace_back("export"); };
+  results.onPrint.connect([&] { asked.emplace_back("print"); });
+  results.onExcel.connect([&] { asked.emplace_back("export"); });
   results.Command2.click();
   results.cmdExcel.click();
   EXPECT_THAT(asked, ElementsAre("print", "export"));
@@ -344,10 +344,10 @@ TEST_F(ResultsTest, PrintAndExport) {
 TEST_F(ResultsTest, Help) {
   std::vector<std::string> topics;
   std::vector<std::tuple<std::string, std::string, int>> notes;
-  results.onHelpTopic = [&](const std::string& topic) { topics.push_back(topic); };
-  results.onHelpNote = [&](const std::string& text, const std::string& title, int height) {
+  results.onHelpTopic.connect([&](const std::string& topic) { topics.push_back(topic); });
+  results.onHelpNote.connect([&](const std::string& text, const std::string& title, int height) {
     notes.emplace_back(text, title, height);
-  };
+  });
   results.cmdHelp.click();
   results.cmdHelp2.click();
   results.cmdHelp3.click();

@@ -18,8 +18,8 @@ class SummaryPaneTest : public ::testing::Test {
  protected:
   SummaryPaneTest() {
     window.open();
-    pane.onShowPane = [this] { ++shows; };
-    pane.onBack = [this] { ++backs; };
+    pane.onShowPane.connect([this] { ++shows; });
+    pane.onBack.connect([this] { ++backs; });
   }
 
   [[nodiscard]] std::vector<std::string> column(int number) const {
@@ -329,7 +329,7 @@ TEST_F(SummaryPaneTest, WhoeverShowsTheTableIsToldOnceForItAll) {
   saved = {fieldsOf(4), fieldsOf(4)};
   pane.showSummary();
   int told = 0;
-  pane.fgsummary.watcher = [&] { ++told; };
+  pane.fgsummary.onStateChange.connect([&] { ++told; });
   pane.showSummary();
   EXPECT_EQ(told, 1);
 }

@@ -26,8 +26,8 @@ class CustomCropEditor : public ::testing::Test {
   CustomCropEditor() {
     std::filesystem::create_directories(folder());
     pane.loadCropRows = [this] { ++reloads; };
-    pane.onShowPane = [this] { ++shows; };
-    pane.onBackHome = [this] { ++homes; };
+    pane.onShowPane.connect([this] { ++shows; });
+    pane.onBackHome.connect([this] { ++homes; });
     window.open();
     pane.fillLists();
   }

@@ -190,7 +190,7 @@ TEST_F(CustomCropPaste, AnEmptyClipboardIsTold) {
 
 TEST_F(CustomCropPaste, TellsWhoeverShowsTheGridOnce) {
   int changes = 0;
-  grid().watcher = [&] { ++changes; };
+  grid().onStateChange.connect([&] { ++changes; });
   pasted("1\t2\n3\t4");
   EXPECT_EQ(changes, 1);
 }

@@ -264,7 +264,7 @@ TEST_F(InputCostsButtons, TheUnitsDecideOnTheLifeOfStand) {
 
 TEST_F(InputCostsButtons, BoxOfTheMessageKeepsTheWindowActive) {
   int deactivations = 0;
-  window.onDeactivate = [&] { ++deactivations; };
+  window.onDeactivate.connect([&] { ++deactivations; });
   fakes.messageBox.onShow = [this](const Message&) { desk.activate(nullptr); };
   pane.open(alfalfa());
   pane.Command6.click();
@@ -273,9 +273,7 @@ TEST_F(InputCostsButtons, BoxOfTheMessageKeepsTheWindowActive) {
 }
 
 TEST_F(InputCostsButtons, ListenersMayBeAbsent) {
-  pane.onApplied = nullptr;
-  pane.onBack = nullptr;
-  pane.onHelp = nullptr;
+  listeners.clear();
   pane.open(makeCrop("Corn"));
   pane.Command6.click();
   pane.cmdCancel.click();

@@ -17,9 +17,9 @@ namespace verdalis::testing {
 class InputCostsFixture : public ::testing::Test {
  protected:
   InputCostsFixture() {
-    pane.onApplied = [this] { ++applied; };
-    pane.onBack = [this] { ++backs; };
-    pane.onHelp = [this](int index) { helped.push_back(index); };
+    listeners.push_back(pane.onApplied.connectScoped([this] { ++applied; }));
+    listeners.push_back(pane.onBack.connectScoped([this] { ++backs; }));
+    listeners.push_back(pane.onHelp.connectScoped([this](int index) { helped.push_back(index); }));
     window.open();
   }
 
@@ -65,6 +65,7 @@ class InputCostsFixture : public ::testing::Test {
   Window window{desk, "frmMain", Frame::Scope::transparent};
   TextBox elsewhere{window, "txtElsewhere"};
   InputCostsPane pane{window, fakes.services};
+  std::vector<Connection> listeners;
   int applied = 0;
   int backs = 0;
   std::vector<int> helped;

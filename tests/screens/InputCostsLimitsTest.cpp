@@ -129,8 +129,8 @@ TEST_F(InputCostsLimits, FieldsWithoutATest) {
   pane.open(makeCrop("Corn"));
   for (const char* name : {"txtBalingNum", "txtMiscCost", "txtExceed", "txtReturns"}) {
     expectUntested(name);
-    EXPECT_FALSE(box(name).onLeave);
-    EXPECT_FALSE(box(name).onChange);
+    EXPECT_FALSE(box(name).onLeave.isHeard());
+    EXPECT_FALSE(box(name).onChange.isHeard());
   }
 }
 

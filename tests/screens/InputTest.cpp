@@ -19,7 +19,8 @@ class InputTest : public ::testing::Test {
   /// Types a text into a field that held "7", leaves it, and returns the texts of the boxes that came.
   std::vector<std::string> messagesFor(const std::string& text, double limit) {
     box.setText("7");
-    box.onLeave = [this, limit] { testInput(&box, limit, "Tillage Cost", fakes.messageBox); };
+    test = box.onLeave.connectScoped(
+        [this, limit] { testInput(&box, limit, "Tillage Cost", fakes.messageBox); });
     box.type(text);
     box.leave();
     std::vector<std::string> texts;
@@ -49,6 +50,7 @@ class InputTest : public ::testing::Test {
   Window window{desk, "frmMain", Frame::Scope::transparent};
   TextBox box{window, "txtTillage"};
   TextBox other{window, "txtOther"};
+  Connection test;
   ::verdalis::testing::FakeServices fakes;
 };
 
@@ -105,7 +107,7 @@ TEST_F(InputTest, OtherFormsOfNumbersPass) {
 }
 
 TEST_F(InputTest, TextThatTheProgramSetStays) {
-  box.onLeave = [this] { testInput(&box, 100, "Tillage Cost", fakes.messageBox); };
+  box.onLeave.connect([this] { testInput(&box, 100, "Tillage Cost", fakes.messageBox); });
   box.setText("500");
   box.enter();
   box.leave();
@@ -116,7 +118,7 @@ TEST_F(InputTest, TextThatTheProgramSetStays) {
 
 TEST_F(InputTest, UndoGoesBackBehindSeveralEdits) {
   box.setText("7");
-  box.onLeave = [this] { testInput(&box, 100, "Tillage Cost", fakes.messageBox); };
+  box.onLeave.connect([this] { testInput(&box, 100, "Tillage Cost", fakes.messageBox); });
   box.type("1");
   box.type("10");
   box.type("1000");
@@ -130,7 +132,7 @@ TEST_F(InputTest, UndoGoesBackBehindSeveralEdits) {
 TEST_F(InputTest, UndoTellsTheChange) {
   box.setText("7");
   std::vector<std::string> seen;
-  box.onChange = [&] { seen.push_back(box.text()); };
+  box.onChange.connect([&] { seen.push_back(box.text()); });
   box.type("x");
   showInputError("message", box, fakes.messageBox);
   EXPECT_EQ(seen, (std::vector<std::string>{"x", "7"}));
@@ -139,7 +141,7 @@ TEST_F(InputTest, UndoTellsTheChange) {
 TEST_F(InputTest, FocusComesBackEvenIfTheChangeFails) {
   box.setText("7");
   box.type("x");
-  box.onChange = [] { throw RunTimeError(ErrorNumber::overflow, "too large"); };
+  box.onChange.connect([] { throw RunTimeError(ErrorNumber::overflow, "too large"); });
   EXPECT_THROW(showInputError("message", box, fakes.messageBox), RunTimeError);
   EXPECT_EQ(box.text(), "7");
   EXPECT_EQ(desk.focus(), &box);
@@ -147,7 +149,7 @@ TEST_F(InputTest, FocusComesBackEvenIfTheChangeFails) {
 
 TEST_F(InputTest, WindowIsNotDeactivatedByTheBox) {
   int deactivations = 0;
-  window.onDeactivate = [&] { ++deactivations; };
+  window.onDeactivate.connect([&] { ++deactivations; });
   window.open();
   fakes.messageBox.onShow = [this](const Message&) { desk.activate(nullptr); };
   box.type("x");
@@ -175,7 +177,7 @@ TEST_F(ZeroTexts, AreEmptiedInTheWholeWindow) {
   box.setText("0");
   other.setText("0.00");
   int changes = 0;
-  price.onChange = [&] { ++changes; };
+  price.onChange.connect([&] { ++changes; });
   emptyZeroTexts(window);
   EXPECT_EQ(box.text(), "");
   EXPECT_EQ(other.text(), "0.00");
@@ -197,7 +199,7 @@ TEST_F(ZeroTexts, OtherWritingsOfZeroStay) {
 
 TEST_F(ZeroTexts, FailingChangeIsPassedOver) {
   box.setText("0");
-  box.onChange = [] { throw RunTimeError(ErrorNumber::overflow, "too large"); };
+  box.onChange.connect([] { throw RunTimeError(ErrorNumber::overflow, "too large"); });
   emptyZeroTexts(window);
   EXPECT_EQ(box.text(), "");
   EXPECT_EQ(price.text(), "");

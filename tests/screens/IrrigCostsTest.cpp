@@ -19,9 +19,9 @@ class IrrigCosts : public ::testing::Test {
  protected:
   IrrigCosts() {
     pane.areaText = [this] { return area; };
-    pane.onApplied = [this] { ++applied; };
-    pane.onBack = [this] { ++backs; };
-    pane.onHelp = [this](int index) { helped.push_back(index); };
+    listeners.push_back(pane.onApplied.connectScoped([this] { ++applied; }));
+    listeners.push_back(pane.onBack.connectScoped([this] { ++backs; }));
+    listeners.push_back(pane.onHelp.connectScoped([this](int index) { helped.push_back(index); }));
     window.open();
   }
 
@@ -58,6 +58,7 @@ class IrrigCosts : public ::testing::Test {
   Window window{desk, "frmMain", Frame::Scope::transparent};
   TextBox elsewhere{window, "txtElsewhere"};
   IrrigCostsPane pane{window, fakes.services, plant};
+  std::vector<Connection> listeners;
   std::string area = "100";
   int applied = 0;
   int backs = 0;
@@ -108,6 +109,8 @@ TEST_F(IrrigCosts, RowsAndControlsBelongTogether) {
     EXPECT_EQ(row.helpIndex, expected[i].help);
     if (fields[i].box != nullptr) {
       EXPECT_EQ((pane.*fields[i].box).name(), row.control);
+    } else {
+      EXPECT_EQ((pane.*fields[i].list).name(), row.control);
     }
     EXPECT_EQ(desk.find(row.control)->container(), &pane);
   }
@@ -119,10 +122,10 @@ TEST_F(IrrigCosts, GroupsNameTheirControls) {
   EXPECT_EQ(groups[0].heading, "Variable Irrigation Costs");
   EXPECT_EQ(groups[0].resultLabel, "Irrigation Costs Subtotal:");
   EXPECT_EQ(groups[0].note, "*subtotal does not include labor costs");
-  EXPECT_EQ(desk.find(groups[0].resultControl), &pane.lblICosts);
+  EXPECT_EQ(&(pane.*groups[0].resultControl), &pane.lblICosts);
   EXPECT_EQ(groups[1].heading, "How much are you pumping?");
   EXPECT_EQ(groups[1].note, "*this figure is for your information only");
-  EXPECT_EQ(desk.find(groups[1].resultControl), &pane.lblInchHint);
+  EXPECT_EQ(&(pane.*groups[1].resultControl), &pane.lblInchHint);
 }
 
 TEST_F(IrrigCosts, LimitsAtAndAboveThem) {
@@ -409,9 +412,7 @@ TEST_F(IrrigCosts, HelpButtons) {
 }
 
 TEST_F(IrrigCosts, WithoutListenersNothingHappens) {
-  pane.onApplied = nullptr;
-  pane.onBack = nullptr;
-  pane.onHelp = nullptr;
+  listeners.clear();
   pane.Command9.click();
   pane.cmdCancel.click();
   pane.cmdHelp.buttons().front()->click();

@@ -10,8 +10,7 @@
 
 namespace verdalis::testing {
 
-/// A field that earns an exact number of dollars, whatever it looks like: an acre with that other income, or
-/// a larger field with a share of it.
+/// A field that earns an exact number of dollars: as other income of one acre, or spread over more acres.
 struct Plot {
   std::string cropType = "Corn";
   double profit = 0;
@@ -20,7 +19,7 @@ struct Plot {
   double depth = 10;
 };
 
-/// A candidate of such fields, unpriced.
+/// An unpriced candidate with these fields.
 inline FieldCollection candidateOf(const std::vector<Plot>& plots) {
   FieldCollection candidate;
   for (const Plot& plot : plots) {
@@ -35,17 +34,17 @@ inline FieldCollection candidateOf(const std::vector<Plot>& plots) {
   return candidate;
 }
 
-/// A candidate of one field that is known by the name of its crop.
+/// A candidate with one field, identified by its crop name.
 inline FieldCollection candidate(const std::string& name, double profit) {
   return candidateOf({{name, profit}});
 }
 
-/// Offers a candidate that nobody else holds.
+/// Submits a candidate.
 inline void submit(BestMix& best, FieldCollection offered) {
   best.submit(offered);
 }
 
-/// What stands in the places: the crop of the first field, or "-" for a placeholder.
+/// The contents of the places: the crop of the first field, or "-" for a placeholder.
 inline std::vector<std::string> namesIn(const std::vector<BestMix::Option>& options) {
   std::vector<std::string> names;
   names.reserve(options.size());

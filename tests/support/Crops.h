@@ -12,10 +12,10 @@
 
 namespace verdalis::testing {
 
-// Crops as the tests need them: with the default costs, prices and yields of the program, and with tables
-// that look like those of the stock crop files but are made here, so that no test of the model reads a file.
+// Crops for tests, with the default costs, prices and yields of the program. Their tables resemble the stock
+// crop files but are built here, so that tests of the model read no files.
 
-/// A table whose first column is `firstRain` inches and whose rows start at 0 inches of irrigation.
+/// A table whose first column is `firstRain` inches; its rows start at 0 inches of irrigation.
 inline YieldTable tableOf(int firstRain, const std::vector<std::vector<double>>& rows) {
   const int columns = static_cast<int>(rows.front().size());
   YieldTable table(static_cast<int>(rows.size()) - 1, firstRain, firstRain + columns - 1);
@@ -27,13 +27,13 @@ inline YieldTable tableOf(int firstRain, const std::vector<std::vector<double>>&
   return table;
 }
 
-/// A row of a table that is known: the yields for 11 to 21 inches of rain at some inches of irrigation.
+/// A known row of a table: the yields for 11 to 21 inches of rain at a given irrigation.
 struct KnownRow {
   int water;
   std::vector<double> yields;
 };
 
-/// A table of 11 to 21 inches of rain through known rows, straight between them.
+/// A table for 11 to 21 inches of rain, interpolated linearly between known rows.
 inline YieldTable tableThrough(const std::vector<KnownRow>& known) {
   YieldTable table(known.back().water, 11, 21);
   for (std::size_t i = 0; i + 1 < known.size(); ++i) {
@@ -50,7 +50,8 @@ inline YieldTable tableThrough(const std::vector<KnownRow>& known) {
   return table;
 }
 
-/// Corn's own rows at 0, 6, 12 and 24 inches, and its small yield of 0.4 at 1 inch of water and 15 of rain.
+/// Corn's rows at 0, 6, 12 and 24 inches, and its small yield of 0.4 at 1 inch of water and 15 inches of
+/// rain.
 inline YieldTable cornTable() {
   YieldTable table = tableThrough({
       {0, {0, 0, 0, 0, 0, 0, 0, 11.1, 25.6, 39.9, 54}},
@@ -108,7 +109,7 @@ inline const std::vector<CropDefaults>& cropDefaults() {
   return defaults;
 }
 
-/// The production costs that "Load Default Values" gives a stock crop, with all three optimal switches on.
+/// The production costs that "Load Default Values" sets for a stock crop, with all three optimal switches on.
 inline inputCosts defaultCosts(const std::string& cropType) {
   inputCosts costs;
   costs.NOptimal = costs.POptimal = costs.SeedOptimal = true;
@@ -142,7 +143,7 @@ inline inputCosts defaultCosts(const std::string& cropType) {
   return costs;
 }
 
-/// A crop with a name, units such as "bu.,bushels", and nothing else.
+/// A crop with a name and units, and nothing else.
 inline Crop namedCrop(const std::string& cropType, const std::string& units = "bu.,bushels") {
   Crop crop;
   crop.cropType = cropType;
@@ -181,7 +182,7 @@ inline Crop fallowCrop() {
   return crop;
 }
 
-/// The yield of a crop at a net depth; the depth of the caller stays.
+/// The yield of a crop at a net depth; the caller's variable is unchanged.
 inline double yieldAt(Crop& crop, double depth, double rain) {
   crop.setYield(depth, rain);
   return crop.Yield;

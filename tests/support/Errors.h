@@ -8,8 +8,8 @@
 
 namespace verdalis::testing {
 
-/// The text of the run-time error that `action` must end in; it fails the test when there is none, or one of
-/// another number.
+/// Requires that `action` throws a RunTimeError with this number.
+/// \returns the text of the error.
 template <class Action>
 std::string errorText(ErrorNumber number, Action action) {
   try {

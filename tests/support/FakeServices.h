@@ -13,14 +13,14 @@
 
 namespace verdalis::testing {
 
-// The platform's services for tests: each keeps a log of what was asked of it and answers from a queue.
+// Platform services for tests. Each keeps a log of its calls and takes its answers from a queue.
 
-/// Answers with the next of `answers`; without one with the box's first button.
+/// Gives the next of `answers`; if empty, the first button of the box.
 class FakeMessageBox : public MessageBoxService {
  public:
   std::vector<Message> log;
   std::deque<MessageAnswer> answers;
-  std::function<void(const Message&)> onShow;  ///< While the box is open
+  std::function<void(const Message&)> onShow;  ///< Called while the box is open
 
   MessageAnswer show(const Message& message) override {
     log.push_back(message);
@@ -36,7 +36,7 @@ class FakeMessageBox : public MessageBoxService {
   [[nodiscard]] std::vector<Message> take() { return std::exchange(log, {}); }
 };
 
-/// Answers with the next of `answers`; without one it is cancelled.
+/// Gives the next of `answers`; if empty, the chooser is cancelled.
 class FakeFileChooser : public FileChooserService {
  public:
   std::vector<FileQuestion> openLog;
@@ -48,7 +48,7 @@ class FakeFileChooser : public FileChooserService {
     return next();
   }
 
-  /// Adds the default extension to a name that has none, as a real one does.
+  /// Adds the default extension to a name without one, like a real chooser.
   std::optional<std::filesystem::path> chooseSave(const FileQuestion& question) override {
     saveLog.push_back(question);
     std::optional<std::filesystem::path> path = next();
@@ -70,7 +70,7 @@ class FakeFileChooser : public FileChooserService {
 class FakeClipboard : public ClipboardService {
  public:
   std::string contents;
-  std::vector<std::string> log;  ///< "clear" or "set " with the text
+  std::vector<std::string> log;  ///< "clear", or "set " and the text
 
   void clear() override {
     log.emplace_back("clear");
@@ -100,7 +100,7 @@ class FakeOpenFile : public OpenFileService {
   }
 };
 
-/// Stands still until the test sets it.
+/// A clock that stands still until the test sets it.
 class FakeClock : public ClockService {
  public:
   ClockTime time{2024, 5, 6, 7, 8, 9};
@@ -118,18 +118,18 @@ class FakeEventPump : public EventPumpService {
   }
 };
 
-/// A text on a page, with the font in force.
+/// A text on a page, with its font.
 struct FakePiece {
   std::string text;
-  std::optional<double>
-      position;  ///< Where the program put it, in twentieths of a point; else behind the last
+  std::optional<double> position;  ///< Where the program placed it, in twentieths of a point; if absent, it
+                                   ///< follows the previous text
   double fontSize = 0;
   bool bold = false;
   bool italic = false;
   bool underline = false;
   bool endsLine = false;
 
-  /// "b", "i" and "u" of those that are on.
+  /// The letters "b", "i" and "u" for bold, italic and underline.
   [[nodiscard]] std::string marks() const {
     return std::string(bold ? "b" : "") + (italic ? "i" : "") + (underline ? "u" : "");
   }
@@ -139,7 +139,7 @@ struct FakeDocument {
   std::vector<FakePiece> pieces;
   bool ended = false;
 
-  /// Its lines, with a tab before each piece that was placed.
+  /// The lines of the page, with a tab before each placed piece.
   [[nodiscard]] std::vector<std::string> lines() const {
     std::vector<std::string> lines;
     std::string line;
@@ -178,7 +178,7 @@ class FakePage : public PageSurface {
   FakePiece next_;
 };
 
-/// Answers with the next of `copies`; without one the dialog is cancelled.
+/// Gives the next of `copies`; if empty, the dialog is cancelled.
 class FakePrinter : public PrinterService {
  public:
   std::deque<std::optional<int>> copies;
@@ -199,7 +199,7 @@ class FakePrinter : public PrinterService {
   }
 };
 
-/// All of them, and the `services` that are handed to the program.
+/// All fake services, and the `services` passed to the program.
 struct FakeServices {
   FakeMessageBox messageBox;
   FakeFileChooser fileChooser;

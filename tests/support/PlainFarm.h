@@ -12,10 +12,10 @@
 
 namespace verdalis::testing {
 
-// The formulas of the farm, written a second time as plainly as they can be said, for comparison with the
-// model. The order of the arithmetic is the same, so results are compared without tolerance.
+// A second, simple version of the farm's formulas, for comparison with the model. The order of arithmetic is
+// the same, so results are compared exactly.
 
-/// Yield per acre; `inTable` is the depth in inches that is not above the table's top.
+/// Yield per acre. `depth` is capped at the top of the table.
 inline double plainYield(const Crop& crop, double depth, double rain) {
   if (crop.cropType == "Fallow") return 0;
   const YieldTable& table = *crop.yieldTable;
@@ -35,7 +35,7 @@ inline double plainYield(const Crop& crop, double depth, double rain) {
   return (y0 + t * (y1 - y0)) * scale;
 }
 
-/// The seeding rate by net inches of irrigation, or the crop's own.
+/// The seeding rate by net inches of irrigation, or the crop's own rate.
 inline double plainSeedRate(const std::string& cropType, double net, double own) {
   static const std::map<std::string, std::vector<double>> rates = {
       {"Corn", {17000, 20000, 23000, 26000, 29000, 32000}},

@@ -5,7 +5,7 @@
 
 namespace verdalis::testing {
 
-/// The pumping plant that "Load Default Values" sets up.
+/// The pumping plant set by "Load Default Values".
 inline IrrigationCosts defaultPlant() {
   IrrigationCosts plant;
   plant.GPM = 750;
@@ -21,7 +21,7 @@ inline IrrigationCosts defaultPlant() {
   return plant;
 }
 
-/// The irrigation efficiency for the length of a test.
+/// Sets the irrigation efficiency during a test.
 class ScopedEfficiency {
  public:
   explicit ScopedEfficiency(double fraction) : before_(EfficiencyFraction) { EfficiencyFraction = fraction; }

@@ -12,23 +12,23 @@
 
 namespace verdalis::testing {
 
-/// Crops and plants drawn from a seed. Few distinct values are used, so that equal profits come up often; the
-/// draws are the same on every machine.
+/// Random crops and plants from a seed. Few distinct values are used, so that equal profits are common. The
+/// results are the same on every machine.
 class RandomFarm {
  public:
   explicit RandomFarm(std::uint64_t seed) : engine_(seed) {}
 
-  /// 0 to n - 1.
+  /// An integer from 0 to n - 1.
   int below(int n) { return static_cast<int>(engine_() % static_cast<std::uint64_t>(n)); }
   bool chance(int percent) { return below(100) < percent; }
 
-  /// A typed amount from 0 to `most`; often 0.
+  /// An amount from 0 to `most` with two decimals; often 0.
   double amount(int most) { return chance(25) ? 0 : below(most * 100 + 1) / 100.0; }
 
-  /// An amount, or a number that was never set.
+  /// An amount, or an empty number.
   Number optionalAmount(int most) { return chance(30) ? Number() : Number(amount(most)); }
 
-  /// A table of 1 to 12 rows for 11 to 13 inches of rain: absolute, relative, or with cells of both kinds.
+  /// A table of 1 to 12 rows for 11 to 13 inches of rain: absolute, relative, or mixed.
   YieldTable table() {
     YieldTable result(below(12), 11, 13);
     const int kind = below(3);

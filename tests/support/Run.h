@@ -16,7 +16,7 @@
 
 namespace verdalis::testing {
 
-/// The hooks of a run that note what is called and let a test act inside the calls.
+/// Run hooks that record the calls and let a test act during them.
 class Recorder : public RunHooks {
  public:
   std::vector<std::string> titles;
@@ -25,8 +25,8 @@ class Recorder : public RunHooks {
   int updates = 0;
   int pumps = 0;
   int closed = 0;
-  std::function<void(int)> onPump = [](int) {};    ///< Gets the number of the pump, from 1
-  std::function<void(int)> onUpdate = [](int) {};  ///< Gets the number of the update, from 1
+  std::function<void(int)> onPump = [](int) {};    ///< Gets the number of the call, from 1
+  std::function<void(int)> onUpdate = [](int) {};  ///< Gets the number of the call, from 1
   std::function<void()> onShow = [] {};
   std::function<void()> onClose = [] {};
 
@@ -46,7 +46,7 @@ class Recorder : public RunHooks {
   }
 };
 
-/// Everything that a run needs, as the window would hold it.
+/// All inputs of a run, as the window would hold them.
 struct FarmRun {
   ScenarioInputs inputs;
   CropScenario library;
@@ -62,13 +62,13 @@ struct FarmRun {
     return *shared;
   }
 
-  /// Switches one button of the land divisions on.
+  /// Selects a land split.
   void divide(std::size_t index) {
     inputs.Option1 = {};
     inputs.Option1.at(index) = true;
   }
 
-  /// Types acres and inches; the volume follows.
+  /// Sets acres and inches; the volume follows.
   void water(const std::string& acres, const std::string& inches) {
     inputs.txtArea = acres;
     inputs.txtMax = inches;
@@ -80,7 +80,7 @@ struct FarmRun {
   }
 };
 
-/// 100 acres, 12 inches, 16 inches of rain, 85 % efficiency, "50 - 50", no crop yet.
+/// 100 acres, 12 inches of water, 16 inches of rain, 85 % efficiency, "50 - 50", no crop yet.
 inline std::unique_ptr<FarmRun> typicalFarm() {
   auto farm = std::make_unique<FarmRun>();
   farm->inputs.txtAnnRain = "16";
@@ -97,7 +97,7 @@ inline std::unique_ptr<FarmRun> cornAndWheatFarm() {
   return farm;
 }
 
-/// A crop that earns `perAcre` dollars an acre, whatever its water. Its yield is 2 units per acre.
+/// A crop that earns `perAcre` dollars per acre whatever its water. Its yield is 2 units per acre.
 inline Crop steadyCrop(const std::string& cropType, double perAcre) {
   Crop crop = namedCrop(cropType);
   crop.maxYield = 2;
@@ -106,8 +106,7 @@ inline Crop steadyCrop(const std::string& cropType, double perAcre) {
   return crop;
 }
 
-/// The options of a ranking, best first, without the placeholders; duplicates included. The ranking is not
-/// changed.
+/// The options of a ranking, best first, including duplicates but not placeholders. The ranking is unchanged.
 inline std::vector<BestMix::Option> optionsOf(const BestMix& best) {
   BestMix copy = best.Copy();
   std::vector<BestMix::Option> options;
@@ -117,7 +116,7 @@ inline std::vector<BestMix::Option> optionsOf(const BestMix& best) {
   return options;
 }
 
-/// What an option consists of, every number with all its digits.
+/// The contents of an option, every number with all its digits.
 inline std::string describe(FieldCollection& option) {
   std::string text;
   for (const auto& field : option) {
@@ -134,7 +133,7 @@ inline std::vector<std::string> describe(const BestMix& best) {
   return lines;
 }
 
-/// The crops of an option in the order of the fields, such as "Corn, Wheat".
+/// The crops of an option in field order, such as "Corn, Wheat".
 inline std::string cropsOf(const FieldCollection& option) {
   std::string text;
   for (const auto& field : option)

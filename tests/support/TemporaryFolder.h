@@ -16,10 +16,11 @@
 
 namespace verdalis::testing {
 
-/// A new empty folder of a test's own, removed with all it holds at the end.
+/// A new empty folder for a test. The destructor removes it with its contents.
 class TemporaryFolder {
  public:
-  /// `name` becomes part of the folder's name. \throws std::system_error when no folder can be made.
+  /// \param name part of the folder's name.
+  /// \throws std::system_error if the folder cannot be created.
   explicit TemporaryFolder(const std::string& name = "test") {
     std::string pattern =
         (std::filesystem::temp_directory_path() / ("verdalis-" + name + "-XXXXXX")).string();
@@ -41,8 +42,8 @@ class TemporaryFolder {
     return path_ / name;
   }
 
-  /// Writes a file, with the folders above it, and returns its path.
-  /// \throws std::runtime_error when it cannot be written.
+  /// Writes a file, creating the folders above it, and returns its path.
+  /// \throws std::runtime_error if it cannot be written.
   std::filesystem::path write(const std::filesystem::path& name, std::string_view bytes) const {
     std::filesystem::path file = path_ / name;
     std::filesystem::create_directories(file.parent_path());
@@ -53,14 +54,15 @@ class TemporaryFolder {
     return file;
   }
 
-  /// The bytes of a file. \throws std::runtime_error when it cannot be read.
+  /// The bytes of a file.
+  /// \throws std::runtime_error if it cannot be read.
   [[nodiscard]] std::string read(const std::filesystem::path& name) const {
     std::ifstream stream(path_ / name, std::ios::binary);
     if (!stream) throw std::runtime_error("cannot read " + (path_ / name).string());
     return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
   }
 
-  /// The names of what the folder holds, sorted.
+  /// The names of the folder's entries, sorted.
   [[nodiscard]] std::vector<std::string> names(const std::filesystem::path& folder = {}) const {
     std::vector<std::string> found;
     for (const auto& entry : std::filesystem::directory_iterator(path_ / folder)) {
@@ -71,7 +73,7 @@ class TemporaryFolder {
   }
 
  private:
-  /// A test may have taken the permissions away that removing its folders needs.
+  /// A test may have removed permissions that are needed to remove the folders.
   void allowAll() const {
     namespace fs = std::filesystem;
     std::error_code error;

@@ -13,8 +13,8 @@
 namespace verdalis {
 namespace {
 
-/// The characters of the bytes 80 to 9F in Windows-1252, written as UTF-8 by the compiler; empty where there
-/// is none.
+/// The characters of the bytes 80 to 9F in Windows-1252, encoded as UTF-8 by the compiler; empty for an
+/// unused byte.
 constexpr std::array<const char8_t*, 32> upperControls = {
     u8"€", u8"",  u8"‚", u8"ƒ", u8"„", u8"…", u8"†", u8"‡", u8"ˆ", u8"‰", u8"Š",
     u8"‹", u8"Œ", u8"",  u8"Ž", u8"",  u8"",  u8"‘", u8"’", u8"“", u8"”", u8"•",
@@ -24,7 +24,7 @@ std::string bytes(const char8_t* text) {
   return reinterpret_cast<const char*>(text);
 }
 
-TEST(IsUtf8, TakesWellFormedTextAlone) {
+TEST(IsUtf8, AcceptsOnlyWellFormedText) {
   using namespace std::string_literals;
   for (const std::string& text :
        {""s, "plain"s, "\0"s, "\x7F"s, "\xC2\x80"s, "\xDF\xBF"s, "\xE0\xA0\x80"s, "\xED\x9F\xBF"s,
@@ -57,7 +57,7 @@ TEST(IsUtf8, TakesWellFormedTextAlone) {
   }
 }
 
-TEST(IsUtf8, LooksNoFurtherThanTheEnd) {
+TEST(IsUtf8, DoesNotReadBeyondTheEnd) {
   const std::string corn = bytes(u8"🌽");
   for (std::size_t length = 1; length < corn.size(); ++length) {
     EXPECT_FALSE(isUtf8(std::string_view(corn).substr(0, length))) << length;
@@ -70,23 +70,23 @@ TEST(DecodeText, KeepsUtf8) {
   EXPECT_EQ(decodeText(bytes(u8"Maïs – 10 €")), bytes(u8"Maïs – 10 €"));
 }
 
-TEST(DecodeText, DropsTheByteOrderMark) {
+TEST(DecodeText, DropsALeadingByteOrderMark) {
   EXPECT_EQ(decodeText("\xEF\xBB\xBF"), "");
   EXPECT_EQ(decodeText("\xEF\xBB\xBF"
                        "Corn"),
             "Corn");
   EXPECT_EQ(decodeText("Corn\xEF\xBB\xBF"), "Corn\xEF\xBB\xBF");
-  // Within a file that is no UTF-8 it is three characters like any others.
+  // In a file that is not UTF-8, these bytes are three ordinary characters.
   EXPECT_EQ(decodeText("\xEF\xBB\xBF\xE9"), bytes(u8"ï»¿é"));
 }
 
-TEST(DecodeText, ReadsTheRestAsWindows1252) {
+TEST(DecodeText, ReadsInvalidUtf8AsWindows1252) {
   EXPECT_EQ(decodeText("Ma\xEFs \x80 10"), bytes(u8"Maïs € 10"));
   EXPECT_EQ(decodeText("\x93quoted\x94"), bytes(u8"“quoted”"));
   EXPECT_EQ(decodeText("\x81\x8D\x8F\x90\x9D"), bytes(u8"\uFFFD\uFFFD\uFFFD\uFFFD\uFFFD"));
 }
 
-TEST(Windows1252, EveryCharacterGoesThereAndBack) {
+TEST(Windows1252, EveryCharacterSurvivesARoundTrip) {
   for (unsigned code = 0; code < 256; ++code) {
     const std::string byte(1, static_cast<char>(code));
     std::string character = byte;
@@ -104,25 +104,25 @@ TEST(Windows1252, EveryCharacterGoesThereAndBack) {
   }
 }
 
-TEST(EncodeForExport, KeepsUtf8WhereACharacterHasNoPlace) {
+TEST(EncodeForExport, KeepsUtf8IfACharacterIsNotInWindows1252) {
   for (const char8_t* text :
        {u8"Ω", u8"é Ω", u8"10 ≤ 12", u8"🌽", u8"\uFFFD", u8"\u0081", u8"\u009D", u8"\u0080"}) {
     EXPECT_EQ(encodeForExport(bytes(text)), bytes(text));
   }
 }
 
-TEST(EncodeForExport, KeepsWhatIsNoUtf8) {
+TEST(EncodeForExport, KeepsInvalidUtf8Unchanged) {
   EXPECT_EQ(encodeForExport("caf\xE9"), "caf\xE9");
   EXPECT_EQ(encodeForExport(bytes(u8"é") + "\xC3"), bytes(u8"é") + "\xC3");
 }
 
-TEST(LowerCase, ChangesTheLettersOfWindows1252) {
+TEST(LowerCase, LowersTheLettersOfWindows1252) {
   EXPECT_EQ(lowerCase("Grain Sorghum @[`{ AZaz09"), "grain sorghum @[`{ azaz09");
   EXPECT_EQ(lowerCase(bytes(u8"ÀÖØÞ ŠŒŽŸ")), bytes(u8"àöøþ šœžÿ"));
   EXPECT_EQ(lowerCase(""), "");
 }
 
-TEST(LowerCase, LeavesEverythingElse) {
+TEST(LowerCase, KeepsAllOtherCharactersUnchanged) {
   for (const char8_t* text : {u8"×÷ßàþÿ", u8"š œ ž ƒ", u8"İΩЖ", u8"¿¾½", u8"🌽", u8"10 €"}) {
     EXPECT_EQ(lowerCase(bytes(text)), bytes(text));
   }
@@ -130,7 +130,7 @@ TEST(LowerCase, LeavesEverythingElse) {
   EXPECT_EQ(lowerCase(bytes(u8"É") + "\xE2\x82 B"), bytes(u8"é") + "\xE2\x82 b");
 }
 
-TEST(QuoteForMessage, ShowsTheTextOnOneLine) {
+TEST(QuoteForMessage, PutsTheTextOnOneLine) {
   EXPECT_EQ(quoteForMessage(""), "\"\"");
   EXPECT_EQ(quoteForMessage("12 acres"), "\"12 acres\"");
   EXPECT_EQ(quoteForMessage("a\r\nb\tc"), "\"a  b c\"");
@@ -152,7 +152,7 @@ TEST(QuoteForMessage, CutsAfterFortyCharacters) {
   EXPECT_EQ(quoteForMessage(repeated(u8"🌽", 5000)), '"' + repeated(u8"🌽", 40) + "...\"");
 }
 
-/// Bytes that are near to UTF-8, so that its rules are met and broken often.
+/// Bytes close to UTF-8, which often meet and often break its rules.
 rc::Gen<std::string> nearUtf8() {
   const std::vector<std::string> pieces = {
       "a",        "\xC2",         "\x80",         "\xA9", "\xC3\xA9",         "\xE2",
@@ -175,13 +175,13 @@ RC_GTEST_PROP(EncodingProperty, DecodedTextIsAlwaysUtf8, ()) {
   RC_ASSERT(isUtf8(quoteForMessage(input)));
 }
 
-RC_GTEST_PROP(EncodingProperty, ExportIsOneByteACharacterOrUnchanged, ()) {
+RC_GTEST_PROP(EncodingProperty, ExportIsOneBytePerCharacterOrUnchanged, ()) {
   const std::string text = decodeText(*rc::gen::oneOf(testing::anyBytes(), nearUtf8()));
   const std::string exported = encodeForExport(text);
   if (exported != text) {
     RC_ASSERT(exported.size() < text.size());
-    // What other programs take for Windows-1252 reads back, but for the rare bytes that look like UTF-8 as
-    // well.
+    // Other programs read the export as Windows-1252. It reads back unchanged, except for rare bytes that are
+    // also valid UTF-8.
     if (!isUtf8(exported)) RC_ASSERT(decodeText(exported) == text);
   }
 }

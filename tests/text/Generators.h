@@ -10,14 +10,15 @@
 
 namespace verdalis::testing {
 
-/// Any finite number: every bit pattern is as likely as any other, whatever the size of the test case.
+/// Any finite number. Every bit pattern is equally likely, whatever the size of the test case.
 inline rc::Gen<double> anyFinite() {
   auto bits = rc::gen::resize(rc::kNominalSize, rc::gen::arbitrary<std::uint64_t>());
   return rc::gen::suchThat(rc::gen::map(bits, [](std::uint64_t b) { return std::bit_cast<double>(b); }),
                            [](double x) { return std::isfinite(x); });
 }
 
-/// Numbers as people type them: a few digits with up to five decimals, where roundings meet exact halves.
+/// Numbers as users type them: a few digits with up to five decimals, so that exact halves are common when
+/// rounding.
 inline rc::Gen<double> typedNumber() {
   return rc::gen::map(
       rc::gen::pair(rc::gen::inRange<std::int64_t>(-20'000'000, 20'000'000), rc::gen::inRange(0, 6)),
@@ -26,12 +27,12 @@ inline rc::Gen<double> typedNumber() {
       });
 }
 
-/// Many numbers of both kinds: what one round of a property looks at.
+/// Many numbers of both kinds, for one round of a property test.
 inline rc::Gen<std::vector<double>> manyNumbers() {
   return rc::gen::container<std::vector<double>>(40, rc::gen::oneOf(anyFinite(), typedNumber()));
 }
 
-/// Any bytes at all.
+/// Arbitrary bytes.
 inline rc::Gen<std::string> anyBytes() {
   return rc::gen::arbitrary<std::string>();
 }

@@ -11,10 +11,10 @@
 namespace verdalis {
 namespace {
 
-/// The way numbers are written in Germany, for the streams of the library; needs no installed locale.
+/// German number format for the streams of the standard library; needs no installed locale.
 class GermanNumbers : public std::numpunct<char> {
  public:
-  GermanNumbers() : std::numpunct<char>(1) {}  // so no locale deletes it
+  GermanNumbers() : std::numpunct<char>(1) {}  // reference count 1, so that no locale deletes it
 
  protected:
   [[nodiscard]] char do_decimal_point() const override { return ','; }
@@ -58,13 +58,13 @@ class Locale : public ::testing::Test {
   }
 };
 
-TEST_F(Locale, OfTheStreamsChangesNothing) {
+TEST_F(Locale, LocaleOfStreamsHasNoEffect) {
   static GermanNumbers numbers;
   std::locale::global(std::locale(std::locale::classic(), &numbers));
   expectPointsAndCommas();
 }
 
-TEST_F(Locale, GermanChangesNothing) {
+TEST_F(Locale, GermanLocaleHasNoEffect) {
   if (std::setlocale(LC_ALL, "de_DE.UTF-8") == nullptr) {
     GTEST_SKIP() << "the locale de_DE.UTF-8 is not installed here";
   }

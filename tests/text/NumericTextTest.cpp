@@ -22,7 +22,7 @@ namespace {
 using ::testing::HasSubstr;
 using ::testing::StartsWith;
 
-/// The error that an action ends with, for a look at its number and text.
+/// Catches the error of an action, to check its number and text.
 template <typename Action>
 RunTimeError errorOf(const Action& action) {
   try {
@@ -38,7 +38,7 @@ RunTimeError errorOfText(const std::string& text) {
   return errorOf([&] { static_cast<void>(toDouble(text)); });
 }
 
-TEST(NumericText, TakesTheseForms) {
+TEST(NumericText, AcceptsSignsCommasDecimalsAndExponents) {
   const std::vector<std::pair<const char*, double>> cases = {
       {"0", 0},
       {"12", 12},
@@ -76,7 +76,7 @@ TEST(NumericText, TakesTheseForms) {
   }
 }
 
-TEST(NumericText, RefusesTheseForms) {
+TEST(NumericText, RejectsTextsThatAreNotOneNumber) {
   for (const char* text :
        {"",    " ",     "   ",     "-",      "+",    ".",     "-.",   ",",    ",5",      "-,5",   "e5",
         ".e5", "1e",    "1e+",     "1e-",    "1e5.", "1e1,0", ".5,0", "1.5,", "1..2",    "1.2.3", "1 2",
@@ -88,7 +88,7 @@ TEST(NumericText, RefusesTheseForms) {
   }
 }
 
-TEST(NumericText, ANumberThatIsTooLargeIsNone) {
+TEST(NumericText, RejectsANumberThatIsTooLarge) {
   for (const char* text :
        {"1e400", "-1e400", " 1e400 ", "1,000e306", "1.8e308", "1e999999999999999999999999"}) {
     EXPECT_FALSE(isNumeric(text)) << text;
@@ -96,13 +96,13 @@ TEST(NumericText, ANumberThatIsTooLargeIsNone) {
   }
 }
 
-TEST(NumericText, RefusesAZeroByte) {
+TEST(NumericText, RejectsAZeroByte) {
   using namespace std::string_literals;
   EXPECT_FALSE(isNumeric("1\0"s));
   EXPECT_FALSE(isNumeric("\0001"s));
 }
 
-TEST(NumericText, TellsWhatIsWrong) {
+TEST(NumericText, ErrorMessageSaysWhatIsWrong) {
   EXPECT_THAT(errorOfText("12 acres").what(), HasSubstr("\"12 acres\" is not a number"));
   EXPECT_THAT(errorOfText("12 acres").what(), HasSubstr("such as 12.5 or 1,200"));
   EXPECT_THAT(errorOfText("").what(), HasSubstr("A number is missing"));
@@ -110,7 +110,7 @@ TEST(NumericText, TellsWhatIsWrong) {
   EXPECT_THAT(errorOfText("1e400").what(), HasSubstr("\"1e400\" is too large"));
 }
 
-TEST(NumericText, TakesVeryLongTexts) {
+TEST(NumericText, AcceptsVeryLongTexts) {
   constexpr std::size_t length = 10'000'000;
   EXPECT_EQ(toDouble("1" + std::string(length, ',') + "2"), 12);
   EXPECT_EQ(toDouble(std::string(length, '0') + "1,000"), 1000);
@@ -132,7 +132,7 @@ TEST(ToInt16, RoundsHalvesToEven) {
     EXPECT_EQ(toInt16(value), expected) << value;
 }
 
-TEST(ToInt16, RefusesWhatDoesNotFit) {
+TEST(ToInt16, RejectsValuesOutOfRange) {
   constexpr double infinity = std::numeric_limits<double>::infinity();
   for (const double value :
        {32767.5, 32768.0, 1e300, -32768.51, -32769.0, infinity, -infinity, std::nan("")}) {
@@ -140,7 +140,7 @@ TEST(ToInt16, RefusesWhatDoesNotFit) {
   }
 }
 
-TEST(ToInt16, NamesTheNumber) {
+TEST(ToInt16, ErrorMessageStartsWithTheNameOfTheNumber) {
   const auto text = [](auto... what) {
     return std::string(errorOf([&] { static_cast<void>(toInt16(40000, what...)); }).what());
   };
@@ -183,14 +183,14 @@ TEST(GeneralText, WritesTheShortestDigits) {
     EXPECT_EQ(generalText(value), text);
 }
 
-TEST(GeneralText, NamesWhatIsNoFiniteNumber) {
+TEST(GeneralText, WritesInfinityAndNaNAsWords) {
   EXPECT_EQ(generalText(std::numeric_limits<double>::infinity()), "Infinity");
   EXPECT_EQ(generalText(-std::numeric_limits<double>::infinity()), "-Infinity");
   EXPECT_EQ(generalText(std::nan("")), "NaN");
   EXPECT_EQ(generalText(-std::nan("")), "NaN");
 }
 
-TEST(Ordinal, HasTheseSuffixes) {
+TEST(Ordinal, AddsTheRightSuffix) {
   const std::vector<std::pair<int, const char*>> cases = {
       {1, "1st"},
       {2, "2nd"},
@@ -239,7 +239,7 @@ RC_GTEST_PROP(GeneralTextProperty, ReadsBackAsTheSameBits, ()) {
   }
 }
 
-RC_GTEST_PROP(GeneralTextProperty, HasNoNeedlessCharacter, ()) {
+RC_GTEST_PROP(GeneralTextProperty, ContainsNoUnnecessaryCharacter, ()) {
   for (const double value : *testing::manyNumbers()) {
     const std::string text = generalText(value);
     const double size = std::fabs(value);
@@ -251,7 +251,7 @@ RC_GTEST_PROP(GeneralTextProperty, HasNoNeedlessCharacter, ()) {
       RC_ASSERT(mantissa.back() != '0');
       RC_ASSERT(mantissa.back() != '.');
     }
-    // One significant digit fewer is another number.
+    // With one significant digit less, the text is a different number.
     const auto digits = [](const std::string& s) {
       std::string only;
       for (const char c : s) {
@@ -264,7 +264,7 @@ RC_GTEST_PROP(GeneralTextProperty, HasNoNeedlessCharacter, ()) {
       std::string shorter(40, '\0');
       shorter.resize(static_cast<std::size_t>(
           std::snprintf(shorter.data(), shorter.size(), "%.*e", static_cast<int>(count) - 2, value)));
-      // A rounding up beyond the largest number is no number.
+      // Rounding up beyond the largest float gives no number.
       RC_ASSERT(!isNumeric(shorter) || Val(shorter) != value);
     }
   }
@@ -276,7 +276,7 @@ RC_GTEST_PROP(NumericTextProperty, ReadsGroupedNumbers, ()) {
   }
 }
 
-RC_GTEST_PROP(NumericTextProperty, IsNumericMeansThatToDoubleSucceeds, ()) {
+RC_GTEST_PROP(NumericTextProperty, ToDoubleSucceedsExactlyIfIsNumeric, ()) {
   const auto text = *rc::gen::oneOf(
       rc::gen::container<std::string>(rc::gen::elementOf(std::string("0019.,,eE+- "))), testing::anyBytes());
   bool succeeds = true;
@@ -289,7 +289,7 @@ RC_GTEST_PROP(NumericTextProperty, IsNumericMeansThatToDoubleSucceeds, ()) {
   RC_ASSERT(isNumeric(text) == succeeds);
 }
 
-RC_GTEST_PROP(ToInt16Property, KeepsWhatFitsAndRefusesTheRest, ()) {
+RC_GTEST_PROP(ToInt16Property, KeepsValuesInRangeAndRejectsOthers, ()) {
   for (const double value : *testing::manyNumbers()) {
     const double whole = std::floor(value);
     const double rest = value - whole;

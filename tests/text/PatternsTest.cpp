@@ -26,8 +26,8 @@ void expectAll(const std::vector<Case>& cases) {
   }
 }
 
-// Every pattern that the program uses, with numbers that show its rule.
-TEST(FormatNumber, PrintsThePatternsOfTheProgram) {
+// Every pattern used by the program, with numbers that show its rules.
+TEST(FormatNumber, FormatsThePatternsOfTheProgram) {
   expectAll({
       {"0", 0, "0"},
       {"0", 99.5, "100"},
@@ -140,7 +140,7 @@ TEST(FormatNumber, RoundsHalvesAwayFromZeroOnTheShortestText) {
   });
 }
 
-TEST(FormatNumber, KnowsNoNegativeZero) {
+TEST(FormatNumber, NeverWritesNegativeZero) {
   expectAll({{"0", -0.0, "0"},
              {"0.00", -0.004, "0.00"},
              {"0.00", -0.005, "-0.01"},
@@ -149,7 +149,7 @@ TEST(FormatNumber, KnowsNoNegativeZero) {
              {"0", -5e-324, "0"}});
 }
 
-TEST(FormatNumber, TakesRequiredAndOptionalDigits) {
+TEST(FormatNumber, HandlesRequiredAndOptionalDigits) {
   expectAll({{"#0.##", 5, "5."},
              {"#0.##", 5.25, "5.25"},
              {"0.0#", 5, "5.0"},
@@ -183,7 +183,7 @@ TEST(FormatNumber, KeepsLiterals) {
              {"", 0, ""}});
 }
 
-TEST(FormatNumber, PrintsTheLargestAndTheSmallest) {
+TEST(FormatNumber, FormatsTheLargestAndTheSmallestNumbers) {
   EXPECT_EQ(formatNumber(1e300, "0"), "1" + std::string(300, '0'));
   EXPECT_EQ(formatNumber(1e23, "0"), "1" + std::string(23, '0'));
   EXPECT_EQ(formatNumber(-1e21, "$###,##0.0"), "-$1,000,000,000,000,000,000,000.0");
@@ -195,7 +195,7 @@ TEST(FormatNumber, PrintsTheLargestAndTheSmallest) {
   EXPECT_EQ(formatNumber(1.5, "0." + std::string(400, '0')), "1.5" + std::string(399, '0'));
 }
 
-TEST(FormatNumber, RefusesWhatIsNoFiniteNumber) {
+TEST(FormatNumber, RejectsInfinityAndNaN) {
   constexpr double infinity = std::numeric_limits<double>::infinity();
   for (const double value : {infinity, -infinity, std::nan("")}) {
     try {
@@ -206,11 +206,10 @@ TEST(FormatNumber, RefusesWhatIsNoFiniteNumber) {
   }
 }
 
-// The rounding worked out on paper: the number written out in full, five added one place behind the last that
-// is kept, carries taken along, the rest cut off.
+// Rounding as on paper: writes the number in full, adds five at the first digit to drop, carries, and cuts
+// off the rest.
 
-/// The digits of a number without sign, in full: at least one in front of the point and `decimals` + 1
-/// behind.
+/// The digits of a number without sign, in full: at least one before the point, and `decimals` + 1 after it.
 struct Written {
   std::string integers;
   std::string decimals;
@@ -254,7 +253,7 @@ std::string roundedOnPaper(double value, std::size_t decimals) {
   return result;
 }
 
-RC_GTEST_PROP(FormatNumberProperty, RoundsAsOnPaper, ()) {
+RC_GTEST_PROP(FormatNumberProperty, RoundsLikeOnPaper, ()) {
   for (const double value : *testing::manyNumbers()) {
     RC_ASSERT(formatNumber(value, "0") == roundedOnPaper(value, 0));
     RC_ASSERT(formatNumber(value, "#0.0") == roundedOnPaper(value, 1));
@@ -263,7 +262,7 @@ RC_GTEST_PROP(FormatNumberProperty, RoundsAsOnPaper, ()) {
   }
 }
 
-RC_GTEST_PROP(FormatNumberProperty, GroupsByThree, ()) {
+RC_GTEST_PROP(FormatNumberProperty, GroupsDigitsByThree, ()) {
   for (const double value : *testing::manyNumbers()) {
     std::string grouped = formatNumber(value, "###,##0.00");
     const std::string integers = grouped.substr(0, grouped.find('.'));
@@ -277,7 +276,7 @@ RC_GTEST_PROP(FormatNumberProperty, GroupsByThree, ()) {
   }
 }
 
-RC_GTEST_PROP(FormatNumberProperty, TakesAnyPattern, ()) {
+RC_GTEST_PROP(FormatNumberProperty, AcceptsAnyPattern, ()) {
   const auto pattern = *rc::gen::oneOf(
       rc::gen::container<std::string>(rc::gen::elementOf(std::string("#0,.$ -"))), testing::anyBytes());
   const double value = *rc::gen::oneOf(testing::anyFinite(), testing::typedNumber());

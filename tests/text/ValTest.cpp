@@ -91,7 +91,7 @@ TEST(Val, StopsAtAZeroByte) {
   EXPECT_EQ(Val("12\0003"s), 12);
 }
 
-TEST(Val, RefusesANumberThatIsTooLarge) {
+TEST(Val, RejectsANumberThatIsTooLarge) {
   for (const char* text : {"1e400", " -1e400 acres", "1e309", "1.8e308", "1e99999999999999999999999",
                            "0.001e99999999999999999999"}) {
     try {
@@ -104,7 +104,7 @@ TEST(Val, RefusesANumberThatIsTooLarge) {
   }
 }
 
-TEST(Val, QuotesTheNumberAlone) {
+TEST(Val, ErrorMessageQuotesOnlyTheNumber) {
   try {
     static_cast<void>(Val("  1e400 acres"));
     FAIL();
@@ -129,15 +129,15 @@ TEST(Val, ReadsVeryLongNumbers) {
 }
 
 TEST(Val, RoundsLongDecimalsCorrectly) {
-  // Exactly between 1 and the next float, then by one digit far behind above it.
+  // Exactly halfway between 1 and the next float; then just above, because of one more digit at the end.
   const std::string half = "1.00000000000000011102230246251565404236316680908203125";
   EXPECT_EQ(Val(half), 1.0);
   EXPECT_EQ(Val(half + std::string(2000, '0') + "1"), std::nextafter(1.0, 2.0));
 }
 
-RC_GTEST_PROP(ValProperty, PassesOverWhatFollowsTheNumber, ()) {
+RC_GTEST_PROP(ValProperty, IgnoresWhatFollowsTheNumber, ()) {
   const auto values = *testing::manyNumbers();
-  // No garbage that would go on with the number.
+  // Only tails that do not continue the number.
   const auto tail = *rc::gen::oneOf(rc::gen::just(std::string(" ")), rc::gen::just(std::string("x")),
                                     rc::gen::just(std::string(",")), rc::gen::just(std::string("-")),
                                     rc::gen::just(std::string("\"")), rc::gen::just(std::string("E")),
@@ -155,7 +155,7 @@ RC_GTEST_PROP(ValProperty, PassesOverWhatFollowsTheNumber, ()) {
   }
 }
 
-RC_GTEST_PROP(ValProperty, TakesAnyBytes, ()) {
+RC_GTEST_PROP(ValProperty, AcceptsAnyBytes, ()) {
   const auto bytes = *testing::anyBytes();
   try {
     RC_ASSERT(std::isfinite(Val(bytes)));
@@ -164,7 +164,7 @@ RC_GTEST_PROP(ValProperty, TakesAnyBytes, ()) {
   }
 }
 
-RC_GTEST_PROP(ValProperty, AgreesWithToDoubleOnWhatIsNumericWithoutCommas, ()) {
+RC_GTEST_PROP(ValProperty, AgreesWithToDoubleOnNumericTextsWithoutCommas, ()) {
   const auto text = *rc::gen::container<std::string>(rc::gen::elementOf(std::string("0123456789.eE+- ")));
   if (isNumeric(text)) RC_ASSERT(Val(text) == toDouble(text));
 }

@@ -6,7 +6,7 @@
 namespace verdalis {
 namespace {
 
-TEST(Version, IsComposedOfItsNumberAndItsBuild) {
+TEST(Version, TextConsistsOfNumberAndBuild) {
   EXPECT_THAT(versionNumber(), ::testing::MatchesRegex("[0-9]+\\.[0-9]+"));
   EXPECT_THAT(buildNumber(), ::testing::MatchesRegex("[0-9]+"));
   EXPECT_EQ(versionText(), versionNumber() + " build " + buildNumber());

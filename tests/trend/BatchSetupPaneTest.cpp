@@ -82,7 +82,7 @@ TEST_F(BatchSetupPaneTest, ControlsAreReachedByTheirNames) {
 
 TEST_F(BatchSetupPaneTest, HelpIsRaisedWithItsIndex) {
   std::vector<int> asked;
-  setup.onHelp = [&](int index) { asked.push_back(index); };
+  setup.onHelp.connect([&](int index) { asked.push_back(index); });
   setup.cmdHelp.buttons()[0]->click();
   setup.cmdHelp.buttons()[1]->click();
   EXPECT_THAT(asked, ElementsAre(25, 26));

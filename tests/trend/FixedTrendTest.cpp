@@ -231,7 +231,7 @@ TEST_F(FixedTrendTest, TheSelectedOptionKeepsNoTraceOfATrend) {
 TEST_F(FixedTrendTest, ATrendOnTheResultOfATrendForgetsTheFirst) {
   define(1, "50");
   run();
-  results.theResults.onBatchThis = [this](const auto&) { screens.ShowBatchScreen(); };
+  results.theResults.onBatchThis.connect([this](const auto&) { screens.ShowBatchScreen(); });
   state.TrendEnabled = true;
   results.theResults.EnableBatch(true);
   results.theResults.cmdBatchThis.click();
