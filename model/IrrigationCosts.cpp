@@ -1,21 +1,13 @@
 #include "model/IrrigationCosts.h"
 
-#include <array>
 #include <cmath>
-#include <utility>
 
+#include "model/Fuel.h"
 #include "model/checked.h"
 #include "model/savedFields.h"
 
 namespace verdalis {
 namespace {
-
-constexpr std::array<std::pair<std::string_view, double>, 4> performanceFigures{{
-    {"Diesel", 12.5},
-    {"Natural Gas", 61.7},
-    {"Propane", 6.89},
-    {"Electricity", 0.885},
-}};
 
 /// The value of a step, or 0 if it failed (overflow or division by zero).
 double stepOrZero(double value) {
@@ -25,9 +17,7 @@ double stepOrZero(double value) {
 }  // namespace
 
 std::optional<double> fuelPerformance(std::string_view fuelType) {
-  for (const auto& [fuel, figure] : performanceFigures) {
-    if (fuel == fuelType) return figure;
-  }
+  if (const Fuel* const fuel = findFuel(fuelType)) return fuel->performance;
   return std::nullopt;
 }
 

@@ -29,7 +29,7 @@ class IrrigationCosts {
   double dblEstHours = 0;         ///< Pumping hours per season, for the pumping capacity; not used for costs
   double dblMaxInches = 0;        ///< Reserved
   bool active = false;            ///< Whether costs have been applied. If false, irrigation costs nothing
-  std::string FuelType;           ///< "Diesel", "Natural Gas", "Propane" or "Electricity"
+  std::string FuelType;           ///< Name of one of the fuels
   double hours = 0;               ///< Result: pumping hours from the last getCosts()
   bool UseBatch = false;          ///< A trend replaces the irrigation cost with BatchIrrigationCosts
   double BatchIrrigationCosts = 0;  ///< $ per acre-inch

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "model/Fuel.h"
+
 namespace verdalis {
 namespace {
 
@@ -12,10 +14,10 @@ constexpr std::array<PlantDefault, 8> table{{
     {&Plant::GPM, "750"},
     {&Plant::Lift, "120"},
     {&Plant::PSI, "35"},
-    {&Plant::FuelType, "Natural Gas"},
+    {&Plant::FuelType, naturalGas},
     {&Plant::cost, "5.10"},
     {&Plant::LaborPerHour, "10"},
-    {&Plant::RepairsPerAcreInch, "0.33"},
+    {&Plant::RepairsPerAcreInch, stockRepairsText},
     {&Plant::dblEstHours, "1800"},
 }};
 

@@ -13,6 +13,9 @@ struct PlantDefault {
   std::string_view text;  ///< As shown; the plant gets the value read from it
 };
 
+/// Default repairs as shown, $ per acre-inch. The pane starts with it too.
+inline constexpr std::string_view stockRepairsText = "0.33";
+
 /// All fields of the plant with a default value, each once.
 [[nodiscard]] std::span<const PlantDefault> stockPlant();
 

@@ -1,21 +1,11 @@
 #include "screens/FieldTable.h"
 
-#include <array>
 #include <cstddef>
-#include <utility>
 
+#include "model/Fuel.h"
 #include "screens/modInputTest.h"
 
 namespace verdalis {
-namespace {
-
-/// $ per gallon, gallon, thousand cubic feet and kilowatt-hour.
-constexpr std::array<std::pair<std::string_view, double>, 4> fuelLimits{
-    {{"Diesel", 10}, {"Propane", 10}, {"Natural Gas", 25}, {"Electricity", 0.4}}};
-constexpr double otherFuelLimit = 100;
-
-}  // namespace
-
 Limit::Cell Limit::of(std::string_view key) const {
   switch (kind_) {
     case Kind::none:
@@ -26,10 +16,8 @@ Limit::Cell Limit::of(std::string_view key) const {
       if (const std::optional<std::size_t> crop = stockIndex(cropKind(key))) return crops_.at(*crop);
       break;
     case Kind::fuel:
-      for (const auto& [fuel, limit] : fuelLimits) {
-        if (fuel == key) return limit;
-      }
-      return otherFuelLimit;
+      if (const Fuel* const fuel = findFuel(key)) return fuel->priceLimit;
+      return otherFuelPriceLimit;
   }
   return std::nullopt;
 }

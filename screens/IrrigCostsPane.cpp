@@ -6,6 +6,7 @@
 #include <optional>
 #include <utility>
 
+#include "model/Fuel.h"
 #include "model/checked.h"
 #include "model/stockPlant.h"
 #include "screens/modInputTest.h"
@@ -88,7 +89,7 @@ constexpr std::array<IrrigCostsField, 8> paneFields{{
              .testLabel = "Repairs and Maintenance",
              .limit = Limit(0.99),
              .helpIndex = 8,
-             .startText = "0.33"},
+             .startText = stockRepairsText},
      .box = &Pane::txtRepairsPerAcre,
      .value = &Plant::RepairsPerAcreInch},
     {.row = {.control = "txtEstHours",
@@ -133,6 +134,13 @@ std::span<const FieldGroup<IrrigCostsPane>> IrrigCostsPane::groups() {
   return paneGroups;
 }
 
+std::vector<std::string> IrrigCostsPane::fuelNames() {
+  std::vector<std::string> names;
+  for (const Fuel& fuel : fuels)
+    names.emplace_back(fuel.name);
+  return names;
+}
+
 IrrigCostsPane::IrrigCostsPane(Frame& window, Services& services,
                                std::shared_ptr<IrrigationCosts> tempIrrigationCosts)
     : Frame(window, "pneIrrigCosts"),
@@ -170,9 +178,9 @@ void IrrigCostsPane::showDefaults() {
     if (field.box != nullptr) {
       (this->*field.box).setText(std::string(defaultPlantText(field.value)));
     } else {
-      const auto& fuels = cboFuelType.items();
-      const auto fuel = std::find(fuels.begin(), fuels.end(), defaultPlantText(&Plant::FuelType));
-      cboFuelType.setIndex(static_cast<int>(fuel - fuels.begin()));
+      const auto& offered = cboFuelType.items();
+      const auto fuel = std::find(offered.begin(), offered.end(), defaultPlantText(&Plant::FuelType));
+      cboFuelType.setIndex(static_cast<int>(fuel - offered.begin()));
     }
   }
 }

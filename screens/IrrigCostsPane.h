@@ -5,6 +5,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "controls/Event.h"
 #include "controls/HelpButtons.h"
@@ -41,11 +42,7 @@ class IrrigCostsPane : public Frame {
   TextBox txtRepairsPerAcre{*this, "txtRepairsPerAcre"};
   TextBox txtEstHours{*this, "txtEstHours"};
   // Behind the fields, so that clearing the pane brings the subtotal down to 0 while the fuel still stands.
-  ComboBox cboFuelType{*this,
-                       "cboFuelType",
-                       ComboBox::Style::freeText,
-                       {"Diesel", "Propane", "Natural Gas", "Electricity"},
-                       "Select fuel type"};
+  ComboBox cboFuelType{*this, "cboFuelType", ComboBox::Style::freeText, fuelNames(), "Select fuel type"};
   Label lblICosts{*this, "lblICosts"};
   Label lblInchHint{*this, "lblInchHint"};
   Button Command4{*this, "Command4", "Clear all values on this page"};
@@ -53,6 +50,9 @@ class IrrigCostsPane : public Frame {
   Button Command9{*this, "Command9", "Apply Costs"};
   Button cmdCancel{*this, "cmdCancel(0)", "Back"};
   HelpButtons cmdHelp{*this, {7, 8, 15, 16, 17, 18, 19, 20}};
+
+  /// The fuels on offer.
+  [[nodiscard]] static std::vector<std::string> fuelNames();
 
   static constexpr std::string_view title = "Irrigation Costs";
 
