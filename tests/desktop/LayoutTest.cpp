@@ -5,6 +5,7 @@
 #include <QScopeGuard>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <vector>
 
 #include "desktop/Theme.h"
 #include "tests/desktop/RunningDesktop.h"
@@ -18,7 +19,7 @@ class Layout : public RunningDesktop {
   /// Shows each pane in typical use and calls `look` with its name.
   void forEachPane(QSize size, const std::function<void(const std::string&)>& look) {
     const auto shown = [&](const std::string& name) {
-      QTest::qWait(20);
+      settle(window());
       ASSERT_EQ(pane(), name);
       look(name);
     };
@@ -63,6 +64,24 @@ class Layout : public RunningDesktop {
     control<ComboBox>("cboCrops").pick(0);
     press("cmdBatchIt");
     shown("pneBatchSetup(1)");
+  }
+
+  /// Waits until the layout has come to rest: a busy machine takes several turns for it.
+  static void settle(const QWidget* shownWindow) {
+    constexpr int turn = 20;  // ms
+    const auto places = [&] {
+      std::vector<QRect> result;
+      for (const QWidget* child : shownWindow->findChildren<QWidget*>())
+        result.push_back(child->geometry());
+      return result;
+    };
+    QTest::qWait(turn);
+    EXPECT_TRUE(comes([&] {
+      const std::vector<QRect> before = places();
+      QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+      QTest::qWait(turn);
+      return places() == before;
+    }));
   }
 
   /// Requires that every text has enough room.
@@ -160,7 +179,7 @@ TEST_F(LargeFont, EverythingFitsInTheSmallWindows) {
   for (const char* name : {"frmOptions", "frmAbout", "frmHelp"}) {
     if (name == std::string("frmOptions")) choose(program().main().menus.mnuOptions);
     if (name == std::string("frmAbout")) choose(program().main().menus.mnuAboutVDL);
-    QTest::qWait(20);
+    settle(widget(name));
     expectRoomIn(widget(name), name);
   }
 }
