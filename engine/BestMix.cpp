@@ -16,7 +16,7 @@ BestMix::Option placeholder() {
   return option;
 }
 
-/// Whether two fields look alike on the screen: same crop and acres, same shown yield and depth.
+/// Whether two fields look the same on the screen: same crop and acres, same displayed yield and depth.
 bool looksLike(const Field& f, const Field& g) {
   return f.theCrop->cropType == g.theCrop->cropType && f.acres == g.acres &&
          sameShownYield(f.theCrop->Yield, g.theCrop->Yield) && sameShownDepth(f.Depth, g.Depth);
@@ -43,7 +43,7 @@ void BestMix::submit(FieldCollection& candidate, double efficiency) {
   const double profit = candidate.getProfit(efficiency);
   std::size_t place = bestArray_.size() - 1;
   if (bestArray_[place]->isNew || bestArray_[place]->getProfit(efficiency) <= profit) {
-    // The candidate climbs from the last place while the entry above is a placeholder or gives way to it.
+    // The candidate moves up from the last place while the entry above is a placeholder or ranks below it.
     while (place > 0 &&
            (bestArray_[place - 1]->isNew || bestArray_[place - 1]->getProfit(efficiency) <= profit)) {
       bestArray_[place] = std::move(bestArray_[place - 1]);
@@ -66,8 +66,7 @@ std::string BestMix::toString() const {
     }
     text += "OPTION " + std::to_string(number) + " " + std::string(90, '*') + "\r\n\r\n" + option.toString() +
             "**********************\r\n" + profitLine(option.getProfit());
-    // Before the first run there is no efficiency to work the gross volume out with; the report goes on
-    // without.
+    // Before the first run there is no efficiency to compute the gross volume; the report leaves it out.
     try {
       text += grossVolumeLine(option, true);
     } catch (const RunTimeError&) {
@@ -91,7 +90,7 @@ std::vector<BestMix::Option> BestMix::returnCollection(bool removeDuplicates) {
   std::vector<Option> kept;
   kept.reserve(bestArray_.size());
   for (std::size_t i = 0; i < bestArray_.size(); ++i) {
-    // Each entry is compared with the one directly above it, whether or not that one was kept.
+    // Each entry is compared with the one directly above it, even if that one was removed.
     if (i > 0 && sameScenario(*bestArray_[i], *bestArray_[i - 1], removeDuplicates && !keepsDuplicates))
       continue;
     kept.push_back(std::make_shared<FieldCollection>(bestArray_[i]->Copy()));
@@ -106,9 +105,8 @@ bool BestMix::sameScenario(FieldCollection& a, FieldCollection& b, bool compare)
   if (!compare) return false;
   if (a.getProfit() != b.getProfit()) return false;
   if (a.Count() != b.Count())
-    return true;  // equal profit with another number of fields counts as the same: meant
-  // Not cleared between the fields, and that is meant: once the first field has found a partner, the others
-  // are not asked any more.
+    return true;  // equal profit with a different number of fields counts as the same: intended
+  // Intentionally not reset between fields: once the first field has a match, the others are not checked.
   bool found = false;
   for (const auto& f : a) {
     for (const auto& g : b) {

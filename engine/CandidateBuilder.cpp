@@ -34,7 +34,7 @@ void CandidateBuilder::plant(Field& field, const Crop& crop, double depth) const
   field.Depth = netDepthOf(crop, depth);
   field.TotalCost = 0;
   field.TotalReturn = 0;
-  double netDepth = field.Depth;  // setYield limits what it is handed to the table; the field keeps its own
+  double netDepth = field.Depth;  // setYield limits its argument to the table; the field keeps its own depth
   field.theCrop->setYield(netDepth, field.annualRain);
 }
 

@@ -8,14 +8,15 @@
 
 namespace verdalis {
 
-/// Builds candidates of a search, ready for pricing. Its objects are made once and overwritten whole, so that
-/// nothing of the candidate before shows through; whoever keeps a candidate takes a copy.
+/// Builds candidates of a search, ready for pricing. The objects are created once and fully overwritten for
+/// each candidate. To keep a candidate, copy it.
 class CandidateBuilder {
  public:
   explicit CandidateBuilder(const SearchInputs& inputs);
 
-  /// The candidate of a split of depths (net inches) and the positions of its crops in the list of the run.
-  /// \throws RunTimeError when a yield cannot be looked up.
+  /// Builds a candidate from a split of depths (net inches) and the positions of its crops in the list of the
+  /// run.
+  /// \throws RunTimeError if a yield cannot be looked up
   FieldCollection& build(const Split& depths, const std::vector<std::size_t>& crops);
 
  private:
@@ -25,7 +26,7 @@ class CandidateBuilder {
   FieldCollection candidate_;
 };
 
-/// The net depth (inches) that a crop gets of a share of the water: none for Fallow.
+/// Net depth of a crop for a share of the water, inches: 0 for Fallow.
 [[nodiscard]] double netDepthOf(const Crop& crop, double depth);
 
 }  // namespace verdalis

@@ -8,33 +8,31 @@
 
 namespace verdalis {
 
-/// The crops of a run in classes, and which class may stand on which field, as far as the wishes about acres
-/// and about the number of crops tell.
-///
-/// Each crop that such a wish names is a class of its own; all others are the last class. With a wish for a
-/// number of crops, the fields of the last class fall into blocks: those of one block grow the same crop,
-/// those of different blocks different ones.
+/// The crops of a run in classes, and the classes that the wishes about acres and about the number of crops
+/// allow on the fields. Each crop named in a wish about acres is a class of its own; all others form the last
+/// class. With a wish for a number of crops, fields of the last class are grouped in blocks: fields of one
+/// block grow the same crop, fields of different blocks grow different crops.
 struct CropPatterns {
-  /// Positions of the crops of each class; the last is that of the others.
+  /// Positions of the crops by class; the others come last.
   std::vector<std::vector<std::uint32_t>> classes;
 
-  /// For each position, a number that equal names share.
+  /// By position: equal for equal names.
   std::vector<std::uint32_t> nameOf;
 
-  /// Positions of the crops of each name.
+  /// Positions of the crops by name.
   std::vector<std::vector<std::uint32_t>> ofName;
 
-  /// The blocks count. Without this, fields of the last class are free.
+  /// Whether blocks are used.
   bool hasBlocks = false;
 
-  /// What a pattern says of a field.
+  /// Class and block of a field.
   struct Slot {
     std::uint32_t cropClass = 0;
     std::uint32_t block = 0;  ///< Of the last class; 0 for the others
   };
 
-  /// Slots of the fields, one pattern after the other. Every candidate that meets the wishes about acres and
-  /// crops has exactly one of them, and every candidate of a pattern meets them.
+  /// Slots of the fields by pattern. Every candidate that meets the wishes about acres and crops has exactly
+  /// one pattern, and every candidate of a pattern meets these wishes.
   std::vector<std::vector<Slot>> patterns;
 };
 

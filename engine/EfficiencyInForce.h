@@ -7,8 +7,8 @@
 
 namespace verdalis {
 
-/// Puts the efficiency of a run in force, and back in force whenever the user interface has had its turn: a
-/// run that is started meanwhile puts its own in force. Everything else goes on to the hooks of the run.
+/// Sets EfficiencyFraction, which the screens use, to the efficiency of a run. Sets it again after each event
+/// processing, because a run started meanwhile sets its own. Forwards all calls to the hooks of the run.
 class EfficiencyInForce final : public RunHooks {
  public:
   EfficiencyInForce(double efficiency, RunHooks& hooks) : efficiency_(efficiency), hooks_(hooks) {

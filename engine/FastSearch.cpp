@@ -14,16 +14,16 @@ namespace {
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
 
-/// While no candidate has returns and costs beyond this together, no sum can leave the range of floats.
+/// As long as returns and costs of no candidate exceed this together, sums stay within the range of floats.
 constexpr double safeMagnitude = 1e300;
 
-/// Splits and candidates between two looks at the clock.
+/// Splits and candidates between two checks of the clock.
 constexpr std::size_t workPerTurn = 1U << 12U;
 
-/// The first splits to be searched; later rounds take more and more of them.
+/// Number of splits searched in the first round; later rounds search more and more.
 constexpr std::size_t firstRound = 256;
 
-/// The largest numbers that were offered, in a fixed number of places.
+/// The largest numbers offered so far, in a fixed number of places.
 class LargestNumbers {
  public:
   explicit LargestNumbers(std::size_t places) : places_(places) {}
@@ -38,7 +38,7 @@ class LargestNumbers {
     std::push_heap(heap_.begin(), heap_.end(), std::greater<>());
   }
 
-  /// The number in the last place; -infinity while it is empty.
+  /// Number in the last place; -infinity while it is empty.
   [[nodiscard]] double last() const { return heap_.size() == places_ ? heap_.front() : -infinity; }
 
  private:
@@ -61,7 +61,7 @@ std::vector<std::vector<Property>> byLevel(const FieldTables& tables, Property P
 
 std::optional<std::vector<KeptCandidate>> FastSearch::run() {
   const auto splitCount = static_cast<std::size_t>(inputs_.depths.Count());
-  // The first water split begins before anything is priced: a cancel at it comes before any error.
+  // The first split starts before anything is priced, so that cancelling it takes precedence over errors.
   if (splitCount > 0 && !pulse_.step()) return std::nullopt;
   isFirstStepTaken_ = splitCount > 0;
   if (!tables_.price(pulse_)) return std::nullopt;
@@ -111,7 +111,8 @@ bool FastSearch::raiseErrors() {
   return true;
 }
 
-/// Goes through the candidates of a split in the plain order and lets the model price the first that fails.
+/// Finds the first candidate of a split, in the order of submission, that cannot be priced, and lets the
+/// model price it, which throws.
 bool FastSearch::raiseErrorsOf(std::size_t split) {
   const std::uint16_t* levels = inputs_.depths.levelNumbers(split);
   std::vector<std::size_t> crops;
@@ -192,12 +193,12 @@ void FastSearch::leaveOutRepeatedSplits(std::vector<BoundedSplit>& splits) const
     ++seen[key];
     return false;
   };
-  // From the last split to the first: those that stay are the later ones.
+  // From the last split to the first, so that the later ones stay.
   const auto kept = std::remove_if(splits.rbegin(), splits.rend(), isRepeated);
   splits.erase(splits.begin(), kept.base());
 }
 
-/// Bounds in steps of a few roundings.
+/// Rounds bounds to steps of a few rounding errors.
 double FastSearch::roughBound(double bound) const {
   return std::isfinite(bound) && std::isfinite(slack_) && slack_ > 0 ? std::floor(bound / (2 * slack_))
                                                                      : bound;
@@ -214,8 +215,8 @@ bool FastSearch::searchSplits(KeptCandidates& kept) {
   };
   SplitSearch search(tables_, slack_, kept, pulse_);
   for (std::size_t round = firstRound; !splits_.empty(); round *= 4) {
-    // The best of the remaining splits are moved to the end, searched and taken off; what can no more enter
-    // then need not even be sorted.
+    // The best remaining splits are moved to the end, searched and removed. Splits that can no longer enter
+    // are then never sorted.
     const auto count = static_cast<std::ptrdiff_t>(std::min(round, splits_.size()));
     std::nth_element(splits_.begin(), splits_.end() - count, splits_.end(), later);
     std::sort(splits_.end() - count, splits_.end(), later);

@@ -12,7 +12,8 @@
 namespace verdalis {
 namespace {
 
-/// The kept candidates as options, placeholders behind. \returns nothing when the search is to be given up.
+/// The kept candidates as options, filled up with placeholders.
+/// \returns nothing if the search is cancelled.
 std::optional<std::vector<BestMix::Option>> makeOptions(const std::vector<KeptCandidate>& kept,
                                                         const SearchInputs& inputs, RunPulse& pulse) {
   constexpr std::size_t optionsPerTurn = 16;
@@ -24,7 +25,7 @@ std::optional<std::vector<BestMix::Option>> makeOptions(const std::vector<KeptCa
     if (options.size() % optionsPerTurn == 0 && !pulse.turn()) return std::nullopt;
     inputs.combinations.positions(inputs.combinations.Count() - 1 - candidate.digits, crops);
     FieldCollection& built = builder.build(inputs.depths.Item(static_cast<long>(candidate.split) + 1), crops);
-    static_cast<void>(built.getProfit(inputs.efficiency));  // the copy carries the costs that this works out
+    static_cast<void>(built.getProfit(inputs.efficiency));  // the copy keeps the costs computed here
     options.push_back(std::make_shared<FieldCollection>(built.Copy()));
   }
   while (options.size() < static_cast<std::size_t>(inputs.size)) {
@@ -43,7 +44,7 @@ Kept searchPlainly(const SearchInputs& inputs, RunPulse& pulse) {
 Kept searchWithWishes(const SearchInputs& inputs, const std::vector<Wish>& wishes, bool mixes,
                       RunPulse& pulse) {
   const PlanQuestion question{{inputs}, {}, wishes, mixes, static_cast<std::size_t>(inputs.size)};
-  // The first water split begins before anything is priced: a cancel at it comes before any error.
+  // The first split starts before anything is priced, so that cancelling it takes precedence over errors.
   if (inputs.depths.Count() > 0 && !pulse.step()) return std::nullopt;
   PlanSearch search(question, pulse);
   if (!search.price()) return std::nullopt;
@@ -77,7 +78,7 @@ std::optional<BestMix> evaluateCombinations(const SearchInputs& inputs, ProgramS
 std::optional<BestMix> evaluateWithWishes(const SearchInputs& inputs, const std::vector<Wish>& wishes,
                                           bool mixes, ProgramState& state, RunHooks& hooks) {
   RunPulse pulse(state, hooks);
-  static_cast<void>(pulse.pump());  // a cancel from before the search does not count
+  static_cast<void>(pulse.pump());  // requests to cancel from before the search do not count
   state.CancelRequested = false;
   BestMix best;
   best.setSize(inputs.size);

@@ -11,9 +11,9 @@
 
 namespace verdalis {
 
-/// Ranks the candidates of every pair of water split (outside) and crop combination (inside). A Fallow field
-/// gets no water; the share that the split gave it is lost. Candidates that cannot enter the ranking are not
-/// priced (see FastSearch), so the number of pairs has little to do with the time that this takes.
+/// Ranks the candidates of every pair of water split (outer loop) and crop combination (inner loop). A Fallow
+/// field gets no water; its share is lost. Candidates that cannot enter the ranking are not priced (see
+/// FastSearch), so the run time depends little on the number of pairs.
 /// \returns nothing after a cancel. The progress window has been closed either way.
 /// \throws RunTimeError when a candidate cannot be priced; the progress window is then still open
 [[nodiscard]] std::optional<BestMix> evaluateCombinations(const SearchInputs& inputs, ProgramState& state,

@@ -19,8 +19,7 @@ PricedRow::Price priceOf(const FieldPlan& plan, const Crop& crop, const SearchIn
     const PricedField priced = priceField(plan, crop, inputs.irrigationCosts, inputs.efficiency);
     return {priced.returns, priced.costs};
   } catch (const RunTimeError&) {
-    // The search prices the first candidate that has this field once more, and so meets the error in its
-    // place.
+    // The search prices the first candidate with this field again, which throws in the right place.
     return {std::numeric_limits<double>::quiet_NaN(), std::numeric_limits<double>::quiet_NaN()};
   }
 }
@@ -38,14 +37,14 @@ void summarise(PricedRow& row) {
   }
 }
 
-/// Gains in steps of a few roundings.
+/// Rounds gains to steps of a few rounding errors.
 double roughGain(const PricedRow& row, double gain) {
   constexpr double roundings = 32;
   const double step = row.magnitude * roundings * std::numeric_limits<double>::epsilon();
   return std::isfinite(step) && step > 0 ? std::floor(gain / step) : gain;
 }
 
-/// The crops in the order of the groups: by rough gain, and those of equal prices together.
+/// Order of the crops in the groups: by rounded gain, crops of equal prices together.
 struct CropOrder {
   double roughGain;
   std::uint32_t firstTwin;  ///< The first crop with these prices

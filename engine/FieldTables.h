@@ -12,30 +12,31 @@
 
 namespace verdalis {
 
-/// What a field of given acres and depth costs and returns under each crop of the run.
+/// Costs and returns of each crop of the run on a field of given acres and depth.
 ///
-/// Crops that cost and return exactly the same on this field make a group, for they make candidates of
-/// exactly the same profit. The groups stand in falling order of their gain, return minus cost. Gains that
-/// differ by little more than rounding count as equal there, and then the group that makes the later
-/// candidates stands first. `gains`, `returns` and `costs` are filled up with groups that no candidate can
-/// reach (return -infinity) to a multiple of priceBlockSize.
+/// Crops with exactly equal costs and returns form a group, because candidates that differ only in them have
+/// exactly equal profits. Groups are sorted by descending gain (return minus cost). Gains that differ by
+/// little more than rounding count as equal; then the group of the later candidates comes first. `gains`,
+/// `returns` and `costs` are padded to a multiple of priceBlockSize with groups that never win (return
+/// -infinity).
 struct PricedRow {
   std::size_t groups = 0;
-  std::vector<double> gains;         ///< The largest gain of this group and those behind it, rounded, dollars
+  std::vector<double> gains;         ///< Largest gain of this group and those behind it, rounded, dollars
   std::vector<double> returns;       ///< Dollars
   std::vector<double> costs;         ///< Dollars
-  std::vector<std::uint32_t> crops;  ///< The positions of the crops, group by group, rising in each group
-  std::vector<std::uint32_t> firstOfGroup;  ///< Where each group begins in `crops`; and their end
+  std::vector<std::uint32_t> crops;  ///< Positions of the crops, group by group, ascending in each group
+  std::vector<std::uint32_t> firstOfGroup;  ///< Index in `crops` where each group begins, and the end
 
   double bestGain = 0;  ///< The largest
   double maxReturn = 0;
   double minReturn = 0;
   double maxCost = 0;
   double minCost = 0;
-  double magnitude = 0;    ///< The largest |return| + |cost|; infinite in a row that is not complete
-  bool isComplete = true;  ///< Every crop can be priced on this field. Else there are prices alone, no groups
+  double magnitude = 0;  ///< Largest |return| + |cost|; infinite if the row is incomplete
+  bool isComplete =
+      true;  ///< Every crop can be priced on this field. If not, the row has prices but no groups
 
-  std::size_t classNumber = 0;  ///< Equal for rows with equal prices of every crop
+  std::size_t classNumber = 0;  ///< Equal for rows in which every crop has equal prices
 
   struct Price {
     double income;
@@ -45,22 +46,23 @@ struct PricedRow {
       return a.income != b.income ? a.income < b.income : a.cost < b.cost;
     }
   };
-  std::vector<Price> prices;  ///< By the position of the crop; not a number where the crop cannot be priced
+  std::vector<Price> prices;  ///< By position of the crop; NaN if the crop cannot be priced
 };
 
-/// The prices of all fields that occur in a search: each (acres, depth, crop) priced once, by the operations
-/// of Field, and shared by all fields of the same acres and depth.
+/// The prices of all fields of a search. Each (acres, depth, crop) is priced once and shared by all fields of
+/// the same acres and depth.
 class FieldTables {
  public:
   explicit FieldTables(const SearchInputs& inputs) : inputs_(inputs) {}
 
-  /// Prices everything. \returns false when the search is to be given up.
+  /// Prices everything.
+  /// \returns false if the search is cancelled.
   [[nodiscard]] bool price(RunPulse& pulse);
 
   [[nodiscard]] std::size_t fields() const { return rowNumbers_.size(); }
   [[nodiscard]] std::size_t cropCount() const { return inputs_.combinations.crops().size(); }
 
-  /// For each level of a field, the number of its row in rows().
+  /// For each level of a field, the index of its row in rows().
   [[nodiscard]] const std::vector<std::size_t>& rowNumbers(std::size_t field) const {
     return rowNumbers_[field];
   }
@@ -69,10 +71,10 @@ class FieldTables {
     return rows_[rowNumbers_[field][level]];
   }
 
-  /// No sum of absolute returns and costs of a candidate is above this, but for rounding.
+  /// Upper bound, except for rounding, of the sum of absolute returns and costs of a candidate, dollars.
   [[nodiscard]] double magnitude() const { return magnitude_; }
 
-  /// Different classes of rows; as many as rows() when no two rows have equal prices.
+  /// Number of different rows by price; equal to the size of rows() if no two rows have equal prices.
   [[nodiscard]] std::size_t classCount() const { return classes_.size(); }
 
  private:

@@ -9,10 +9,11 @@
 
 namespace verdalis {
 
-/// A candidate as the search ranks it. `split` is the number of its water split, from 0. `digits` are the
-/// positions of its crops, read as the digits of a number, first field first; the combinations come in
-/// falling order of it. So of two candidates the later one is that of the higher split, or of the same split
-/// and the lower digits.
+/// A candidate as the search ranks it: its profit and its place in the order of submission.
+///
+/// `split` is the index of its water split, from 0. `digits` are the positions of its crops, read as the
+/// digits of a number, first field first. Combinations are submitted in descending order of this number, so
+/// of two candidates the later one has the higher split, or the same split and the lower digits.
 struct KeptCandidate {
   double profit;
   std::int64_t split;
@@ -22,7 +23,7 @@ struct KeptCandidate {
     return split != otherSplit ? split > otherSplit : digits < otherDigits;
   }
 
-  /// Whether it stands above another in the ranking: by profit, then the later one.
+  /// Whether it ranks above another one: by profit, then the later one.
   [[nodiscard]] bool ranksAbove(const KeptCandidate& other) const {
     return profit != other.profit ? profit > other.profit : comesAfter(other.split, other.digits);
   }
@@ -31,20 +32,20 @@ struct KeptCandidate {
 /// The best candidates so far, in a fixed number of places.
 class KeptCandidates {
  public:
-  /// `lowerBound` is a profit that the last place is known to reach in the end; -infinity where none is
-  /// known.
+  /// \param lowerBound profit that the last place is known to reach in the end; -infinity if unknown.
   KeptCandidates(std::size_t places, double lowerBound) : places_(places) { setWorst({lowerBound, -1, 0}); }
 
-  /// A profit below this cannot enter any more.
+  /// Profits below this can no longer enter.
   [[nodiscard]] double threshold() const { return worst_.profit; }
 
-  /// The least profit with which a candidate that is not later than the given one can enter: an equal one
-  /// gives way to the candidate in the last place if that one is later.
+  /// Minimum profit to enter the ranking for candidates that come no later than the given one, ties included:
+  /// a candidate of equal profit does not enter if the one in the last place is later.
   [[nodiscard]] double needed(std::int64_t split, std::uint64_t digits) const {
     return worst_.comesAfter(split, digits) ? above_ : worst_.profit;
   }
 
-  /// Takes the candidate in if it is good enough. \returns whether it was.
+  /// Adds the candidate if it is good enough.
+  /// \returns whether it was added.
   bool offer(const KeptCandidate& candidate) {
     if (!candidate.ranksAbove(worst_)) return false;
     const auto above = [](const KeptCandidate& a, const KeptCandidate& b) { return a.ranksAbove(b); };
@@ -58,7 +59,7 @@ class KeptCandidates {
     return true;
   }
 
-  /// What was kept, best first.
+  /// The kept candidates, best first.
   [[nodiscard]] std::vector<KeptCandidate> ranked() const {
     std::vector<KeptCandidate> result = heap_;
     std::sort(result.begin(), result.end(),
@@ -73,9 +74,9 @@ class KeptCandidates {
   }
 
   std::size_t places_;
-  std::vector<KeptCandidate> heap_;  ///< The worst in front
-  KeptCandidate worst_{};  ///< The last place once all are taken; before that, one that gives way to all
-  double above_ = 0;       ///< The next float above the worst profit
+  std::vector<KeptCandidate> heap_;  ///< The worst candidate is at the front
+  KeptCandidate worst_{};  ///< The last place once all are taken; before that, a candidate below all others
+  double above_ = 0;       ///< The next float above the profit in the last place
 };
 
 }  // namespace verdalis

@@ -14,7 +14,7 @@
 
 namespace verdalis {
 
-/// The acres and crops of a candidate, without regard to their order, as numbers.
+/// Acres and crops of a candidate as sorted numbers.
 using MixKey = std::vector<std::uint32_t>;
 
 /// The best candidates so far, or the best of each mix, in a fixed number of places.
@@ -26,7 +26,7 @@ class KeptPlans {
   [[nodiscard]] bool countsMixes() const { return mixes_; }
   [[nodiscard]] std::size_t places() const { return places_; }
 
-  /// A value below this cannot enter any more.
+  /// Values below this can no longer enter.
   [[nodiscard]] double threshold() const { return mixes_ ? worst().profit : kept_.threshold(); }
 
   /// The same for a candidate of a mix.
@@ -36,7 +36,7 @@ class KeptPlans {
     return found == best_.end() ? worst().profit : std::max(worst().profit, found->second.profit);
   }
 
-  /// Whether a candidate of at most this value and no later than this place may still enter.
+  /// Whether candidates of at most this value, no later than this place, may still enter.
   [[nodiscard]] bool mayEnter(double value, std::int64_t split, std::uint64_t digits) const {
     if (!mixes_) return !(value < kept_.needed(split, digits));
     const KeptCandidate last = worst();
@@ -62,7 +62,7 @@ class KeptPlans {
     }
   }
 
-  /// What was kept, best first.
+  /// The kept candidates, best first.
   [[nodiscard]] std::vector<KeptCandidate> ranked() const {
     if (!mixes_) return kept_.ranked();
     std::vector<KeptCandidate> result;
@@ -81,7 +81,7 @@ class KeptPlans {
     }
   };
 
-  /// The last place of the mixes; while places are free, one that gives way to all.
+  /// Last place of the mixes; a candidate below all others while places are free.
   [[nodiscard]] KeptCandidate worst() const {
     if (ranking_.size() < places_) return {-std::numeric_limits<double>::infinity(), -1, 0};
     return std::prev(ranking_.end())->candidate;

@@ -33,7 +33,8 @@ CropScenario CropCombinations::Item(std::uint64_t index) const {
 }
 
 void CropCombinations::positions(std::uint64_t index, std::vector<std::size_t>& result) const {
-  // Counted from the end the order rises, and the positions are the digits of a number, first field first.
+  // Counted from the end, the order is ascending: the positions are the digits of a number, first field
+  // first.
   std::uint64_t rest = count_ - 1 - index;
   result.resize(fields_);
   for (std::size_t field = fields_; field-- > 0;) {

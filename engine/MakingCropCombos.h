@@ -10,12 +10,12 @@
 namespace verdalis {
 
 /// All assignments of k crops to n fields, with repetition, in descending order of crop position: the last
-/// crop on every field comes first. There are k to the power n of them, so none is stored: each is made when
-/// asked for.
+/// crop on every field comes first. There are k to the power of n, so assignments are not stored but made on
+/// demand.
 class CropCombinations {
  public:
   /// Takes copies of the crops.
-  /// \throws RunTimeError (overflow) when there are more combinations than a 64-bit number can count.
+  /// \throws RunTimeError (overflow) for more combinations than a 64-bit number can count
   CropCombinations(const CropScenario& crops, std::int16_t n);
 
   [[nodiscard]] std::uint64_t Count() const { return count_; }

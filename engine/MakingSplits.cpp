@@ -14,8 +14,8 @@ namespace {
 
 constexpr int complete = 100;
 
-/// The shares that a field can have, percent, rising. They come from repeated addition, so that with a factor
-/// such as 6 the last sum lies just above 100 and is no share: meant.
+/// Possible shares of a field, percent, ascending. They are computed by repeated addition. With some factors,
+/// such as 6, the last sum is slightly above 100 and is not a share: intended.
 std::vector<double> shareLevels(std::int16_t factor) {
   if (factor == 0) {
     throw RunTimeError(
@@ -34,8 +34,8 @@ std::vector<double> shareLevels(std::int16_t factor) {
   return levels;
 }
 
-/// Depth-first enumeration of the shares. A split counts by its rounded shares (Split::total), of which it
-/// keeps the running sum, and it writes down the numbers of the shares, so that no list is copied on the way.
+/// Enumerates the shares depth first. Splits are complete by their rounded shares (Split::total), so the
+/// enumeration tracks the rounded sum. It stores indices of shares, so that no lists are copied.
 class SplitEnumerator {
  public:
   SplitEnumerator(std::int16_t n, std::int16_t factor)
@@ -49,7 +49,7 @@ class SplitEnumerator {
   }
 
   SplitCollection run() {
-    // The first share alone, highest first.
+    // The first share, highest first.
     for (int level = count(); level-- > 0;) {
       current_[0] = static_cast<std::uint16_t>(level);
       if (rounded(level) == complete) {
@@ -69,9 +69,9 @@ class SplitEnumerator {
     return static_cast<int>(std::nearbyint(levels_[static_cast<std::size_t>(level)]));
   }
 
-  /// All completions of the shares in front of `place`, of which `rest` percent, more than 0, are left.
+  /// Adds all completions of the shares before `place`, with `rest` percent (above 0) left.
   void expand(std::size_t place, int rest) {
-    // Shares that complete the split are taken before the smaller ones are looked into.
+    // Shares that complete the split come before smaller ones.
     const int firstComplete = atLeast_.at(static_cast<std::size_t>(rest));
     const int firstAbove = atLeast_.at(static_cast<std::size_t>(rest) + 1);
     closed_ += firstAbove - firstComplete + (firstAbove < count() ? 1 : 0);
@@ -85,13 +85,13 @@ class SplitEnumerator {
         expand(place + 1, rest - rounded(level));
       }
     }
-    current_[place] = 0;  // the number of the share 0, with which a complete split is filled up
+    current_[place] = 0;  // index of the share 0, which fills up complete splits
   }
 
   void emit() { numbers_.insert(numbers_.end(), current_.begin(), current_.end()); }
 
   std::vector<double> levels_;               ///< The first is 0
-  std::array<int, complete + 2> atLeast_{};  ///< The first level that rounds to this percentage or more
+  std::array<int, complete + 2> atLeast_{};  ///< First level that rounds to this percentage or more
   std::vector<std::uint16_t> current_;
   std::vector<std::uint16_t> numbers_;
   double closed_ = 0;

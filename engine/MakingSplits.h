@@ -9,8 +9,8 @@
 
 namespace verdalis {
 
-/// The percentages of a land division, by its place in landDivisions().
-/// \throws RunTimeError (subscript) for a place that is not there.
+/// Percentages of a land split, by its index in landDivisions().
+/// \throws RunTimeError (subscript) if there is no such index
 [[nodiscard]] Split landDivision(std::size_t index);
 
 /// Each percentage x as (x / 100) * acres.
@@ -21,14 +21,14 @@ namespace verdalis {
 /// \throws RunTimeError (overflow)
 [[nodiscard]] Split percentToVolume(double netVolume, const Split& split);
 
-/// All water splits over n fields that the iteration factor of `state` allows, in acre-inches, in descending
-/// order of the first share, then the second and so on. Adds to state.splitCounter. `acres` takes no part.
-/// \throws RunTimeError (divisionByZero) for a factor of 0, (invalidCall) for a negative one, (overflow).
+/// All water splits over n fields for the iteration factor of `state`, in acre-inches, in descending order of
+/// the first share, then the second and so on. Adds to state.splitCounter. `acres` is not used.
+/// \throws RunTimeError (divisionByZero) for a factor of 0, (invalidCall) for a negative factor, (overflow)
 [[nodiscard]] SplitCollection makeWaterSplits(std::int16_t n, double netVolume, double acres,
                                               ProgramState& state);
 
-/// Each water split as net inches: value k divided by the acres of field k.
-/// \throws RunTimeError (divisionByZero) for a field of 0 acres, (overflow).
+/// Each water split in net inches: value k divided by the acres of field k.
+/// \throws RunTimeError (divisionByZero) for a field of 0 acres, (overflow)
 [[nodiscard]] SplitCollection volumesToDepths(SplitCollection water, const Split& landSplit);
 
 }  // namespace verdalis

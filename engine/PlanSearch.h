@@ -15,70 +15,70 @@
 
 namespace verdalis {
 
-/// The best candidates under wishes, of each mix, or over several seasons, without pricing all of them.
+/// Finds the best candidates under wishes, of each mix, or over several seasons, without pricing all of them.
 ///
-/// WHY THE RESULT IS THAT OF GOING THROUGH ALL
+/// WHY THE RESULT EQUALS GOING THROUGH ALL CANDIDATES
 ///
-/// 1. The value of a candidate is worked out as it is told: for each season the float sum of the returns less
-/// that of the costs, each from left to right in field order; then the average, or the largest loss against
-/// the best of a season. Only such values are compared, so ties are ties to the last bit.
+/// 1. The value of a candidate is computed exactly as it is reported: for each season the float sum of the
+/// returns minus that of the costs, each from left to right in field order; then the average, or the largest
+/// loss against the best plan of a season. Only these values are compared, so ties are ties to the last bit.
 ///
-/// 2. A bound is a sum of gains over the fields: for factors f_s of the seasons, gain = sum over s of
-/// f_s (return - cost). The average is at most the sum of the gains with f_s = w_s / (w_1 + ...). The largest
-/// loss is at least any weighted mean of the losses, so with B_s the best of season s it is at least
-/// sum f_s B_s less the sum of the gains, for any f_s that add up to 1. Several such bounds are held at a
-/// time; one that fails suffices. Rounding of both sides is covered by a slack: each of at most 4 (fields +
-/// seasons + 4) roundings errs by no more than u times the sum of the magnitudes, and the slack is four times
-/// that.
+/// 2. Bounds are sums of gains over the fields: with a factor f_s per season, the gain of a field is the sum
+/// over s of f_s (return - cost). The average is at most the sum of the gains with f_s = w_s / (w_1 + ...).
+/// The largest loss is at least any weighted mean of the losses: with B_s the best profit of season s and any
+/// f_s that add up to 1, it is at least the sum of f_s B_s minus the sum of the gains. A search may use
+/// several such bounds; one that fails excludes a candidate. The slack covers the rounding of both sides: at
+/// most 4 (fields + seasons + 4) roundings, each with an error of at most u times the sum of the magnitudes;
+/// the slack is four times that.
 ///
-/// 3. With the crops of all fields known, the best way to share the water is a longest path: the gains of a
-/// field depend on its level alone, and WaterPaths tells which levels are left. A state's rest is the largest
-/// gain of the open fields from there. The crops of the first fields fixed, the bound is the best that meets
-/// in a state: sum up to there plus rest. So the search chooses crops field by field, best bound first, and
-/// looks at the splits only when all crops stand.
+/// 3. If the crops of all fields are known, the best distribution of the water is a longest path: the gain of
+/// a field depends only on its level, and WaterPaths knows the levels that are left. The rest of a state is
+/// the largest gain of the open fields from there on. If only the crops of the first fields are known, the
+/// bound is the largest sum up to a state plus the rest of that state. So the search chooses crops field by
+/// field, best bound first, and visits the splits only for complete crops.
 ///
-/// 4. Wishes. Those about one field close crops and levels of it. Those about acres and the number of crops
-/// depend on the crops alone: a pattern says for each field which named crop it grows, or that it grows one
-/// of the others, and with wishes for a number of crops which of the other fields grow the same. Each
-/// candidate has exactly one pattern; the patterns that miss a wish are left out, and each of the rest is
-/// searched with the bounds of its own crops.
+/// 4. Wishes about one field exclude crops and levels of that field. Wishes about acres and the number of
+/// crops depend only on the crops: a pattern says which named crop each field grows, or that it grows one of
+/// the others, and, with wishes for a number of crops, which of the other fields grow the same crop. Each
+/// candidate has exactly one pattern. Patterns that miss a wish are dropped; each of the others is searched
+/// with bounds of its own.
 ///
-/// 5. Mixes. Only the best candidate of a mix counts, so a candidate is passed over as soon as its mix has a
-/// better one, or as enough mixes have.
+/// 5. Mixes. Only the best candidate of a mix counts, so candidates are skipped as soon as their mix, or
+/// enough other mixes, have better ones.
 ///
-/// 6. Twins. Crops that cost and return the same everywhere make candidates of equal value; with as many
-/// places as later ones of them, a candidate is outranked. Where all values are equal to the last bit, the
-/// sums of the highest returns and the lowest costs, rounded as the value is, tell that nothing later is
-/// left.
+/// 6. Twins. Crops with equal costs and returns everywhere make candidates of equal value. A candidate with
+/// as many later twins as there are places is outranked. If all values are equal to the last bit, sums of the
+/// highest returns and the lowest costs, rounded like the value, show that nothing later is left.
 class PlanSearch {
  public:
   PlanSearch(const PlanQuestion& question, RunPulse& pulse);
 
-  /// Prices the fields. Must be called once, before a search.
-  /// \returns false when the search is to be given up.
+  /// Prices the fields. Call it once before a search.
+  /// \returns false if the search is cancelled.
   /// \throws RunTimeError for the first candidate that meets the wishes and cannot be priced
   [[nodiscard]] bool price();
 
-  /// The best candidates by the average over the seasons, best first; of equal ones the later submitted.
-  /// \returns nothing when the search is to be given up.
+  /// The best candidates by the average over the seasons, best first; of equal ones the one submitted later.
+  /// \returns nothing if the search is cancelled.
   [[nodiscard]] std::optional<std::vector<KeptCandidate>> best();
 
-  /// The best candidate of one season. \returns nothing when the search is to be given up; an empty list
-  /// where no candidate meets the wishes.
+  /// The best candidate of one season.
+  /// \returns nothing if the search is cancelled; an empty list if no candidate meets the wishes.
   [[nodiscard]] std::optional<std::vector<KeptCandidate>> bestOf(std::size_t season);
 
-  /// The candidate with the least regret, as `profit` with the sign turned; the first submitted of equal
-  /// ones. `bestProfits` are the highest profits of the seasons. \returns nothing when the search is to be
-  /// given up; an empty list where no candidate meets the wishes.
+  /// The candidate with the least regret; of equal ones the one submitted first. Its `profit` is the negative
+  /// regret.
+  /// \param bestProfits highest profits of the seasons.
+  /// \returns nothing if the search is cancelled; an empty list if no candidate meets the wishes.
   [[nodiscard]] std::optional<std::vector<KeptCandidate>> safest(const std::vector<double>& bestProfits);
 
-  /// The profits of a candidate by season, dollars.
+  /// Profits of a candidate by season, dollars.
   [[nodiscard]] std::vector<double> profitsOf(const KeptCandidate& candidate) const;
 
-  /// The weighted average of profits by season, added in their order.
+  /// Weighted average of profits by season, added in their order.
   [[nodiscard]] double average(const std::vector<double>& profits) const;
 
-  /// The largest loss of profits by season against the best of each.
+  /// Largest loss of profits by season against the best profit of each.
   [[nodiscard]] static double regret(const std::vector<double>& profits,
                                      const std::vector<double>& bestProfits);
 

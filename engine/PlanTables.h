@@ -9,13 +9,14 @@
 
 namespace verdalis {
 
-/// What each crop earns on each field at each level of water, season by season, and which of them the wishes
-/// about single fields leave.
+/// Price of each crop on each field at each level of water, by season, and the crops and levels that the
+/// wishes about single fields leave.
 class PlanTables {
  public:
   explicit PlanTables(const PlanQuestion& question);
 
-  /// Prices everything. \returns false when the search is to be given up.
+  /// Prices everything.
+  /// \returns false if the search is cancelled.
   [[nodiscard]] bool price(RunPulse& pulse);
 
   [[nodiscard]] std::size_t fields() const { return levelCount_.size(); }
@@ -28,25 +29,26 @@ class PlanTables {
     return tables_[season].row(field, level).prices[crop];
   }
 
-  /// Whether the wishes about this field let it have this crop at this level, and it can be priced.
+  /// Whether the wishes about this field allow this crop at this level, and it can be priced.
   [[nodiscard]] bool isOpen(std::size_t field, std::size_t crop, std::size_t level) const {
     return open_[field][crop * levelCount_[field] + level] != 0;
   }
 
-  /// Leaves out what cannot be priced. After this every open price is a finite number.
+  /// Excludes prices that are not finite.
   void closeUnpriced();
 
-  /// Whether a candidate may have no price, or a sum that leaves the range of floats.
+  /// Whether all candidates can be priced, with sums within the range of floats.
   [[nodiscard]] bool isSafe() const;
 
-  /// Gains by field, as [crop * levels + level], dollars: the sum over the seasons of factor times return
-  /// minus cost; -infinity where the field is not open to the crop.
+  /// Gains by field, as [crop * levels + level], dollars: sum over the seasons of factor * (return - cost);
+  /// -infinity if the field is not open to the crop at this level.
   [[nodiscard]] std::vector<std::vector<double>> gains(const std::vector<double>& factors) const;
 
-  /// No sum of absolute returns and costs of a candidate in a season is above this, but for rounding.
+  /// Upper bound, except for rounding, of the sum of absolute returns and costs of a candidate in a season,
+  /// dollars.
   [[nodiscard]] double magnitude(std::size_t season) const { return tables_[season].magnitude(); }
 
-  /// The highest return and the lowest cost of a crop on a field at any open level, dollars.
+  /// Highest return and lowest cost of a crop on a field at any open level, dollars.
   struct Extremes {
     double income;
     double cost;
@@ -55,8 +57,8 @@ class PlanTables {
     return extremes_[season][field * cropCount_ + crop];
   }
 
-  /// The number of a crop's twins class: twins cost and return the same on every field, level and season, and
-  /// the same fields are open to them.
+  /// Equal for twins: crops that cost and return the same on every field, level and season, and that are
+  /// allowed on the same fields and levels.
   [[nodiscard]] std::uint32_t twinClass(std::size_t crop) const { return twinClass_[crop]; }
 
  private:

@@ -13,35 +13,35 @@
 
 namespace verdalis {
 
-/// A bound of the value of a candidate: the sum of the gains of its fields, and `offset`, which covers the
-/// rounding too.
+/// Upper bound of the value of a candidate: the gains of its fields, added, plus `offset`, which also covers
+/// rounding.
 struct PlanBound {
   std::vector<std::vector<double>> gains;  ///< By field, as [crop * levels + level]; see PlanTables::gains()
   double offset = 0;
 };
 
-/// What a walk maximises.
+/// The value that a walk maximises.
 struct PlanValue {
-  /// The value of a candidate, from its profits by season. It must not fall when a profit rises.
+  /// Value of a candidate by its profits by season. Must not decrease if a profit increases.
   std::function<double(const std::vector<double>& profits)> of;
-  std::vector<PlanBound> bounds;  ///< One or more; each holds for every candidate
-  bool isFirstPreferred = false;  ///< Of equal candidates the first submitted is better, not the last
+  std::vector<PlanBound> bounds;  ///< One or more; each is valid for every candidate
+  bool isFirstPreferred = false;  ///< Of equal candidates, the one submitted first ranks first, not the last
 };
 
-/// Goes through the candidates that can enter: crops field by field, best bound first, then the splits. Why
-/// what it passes over can be passed over stands in PlanSearch.h.
+/// Visits the candidates that can enter: crops field by field, best bound first, then the splits.
+/// PlanSearch.h proves that the candidates it skips cannot enter.
 class PlanWalk {
  public:
   PlanWalk(const PlanTables& tables, const WaterPaths& water, const CropPatterns& patterns,
            const std::vector<double>& acres, const PlanValue& value, std::size_t splitCount, KeptPlans& kept,
            RunPulse& pulse);
 
-  /// \returns false when the search is to be given up.
+  /// \returns false if the search is cancelled.
   [[nodiscard]] bool run();
 
  private:
   using Numbers = std::vector<double>;
-  /// For each bound, for each field from 0 to behind the last, the largest gains from each state on.
+  /// By bound, by field up to behind the last: largest gains from each state on.
   using Rests = std::vector<std::vector<Numbers>>;
 
   struct Choice {
@@ -49,7 +49,7 @@ class PlanWalk {
     std::uint32_t crop = 0;
   };
 
-  /// A crop among those of its class that cost and return the same.
+  /// Place of a crop among the crops of its class with the same costs and returns.
   struct Twins {
     std::uint32_t place;
     std::uint32_t count;
@@ -77,7 +77,7 @@ class PlanWalk {
   void findTwinPlaces();
   void findExtremes();
 
-  /// The place of a crop in the order in which equal candidates are preferred.
+  /// Place of a crop in the order in which equal candidates are preferred.
   [[nodiscard]] std::uint64_t digitOf(std::uint32_t crop) const;
   [[nodiscard]] double gain(std::size_t bound, std::size_t field, std::uint32_t crop,
                             std::size_t level) const {
@@ -101,20 +101,20 @@ class PlanWalk {
   std::vector<std::uint32_t> acresClass_;                ///< By field; equal for equal acres
   std::vector<std::vector<std::vector<Numbers>>> best_;  ///< By bound, field and class: gains by level
   std::vector<std::vector<Twins>> twins_;                ///< By class and crop
-  std::uint64_t mostTwins_ = 0;                      ///< So many later candidates of equal value outrank one
+  std::uint64_t mostTwins_ = 0;  ///< This many later candidates of equal value outrank a candidate
   std::vector<PlanTables::Extremes> classExtremes_;  ///< By season, field and class
 
-  // Of the pattern at hand
+  // Of the current pattern
   const std::vector<CropPatterns::Slot>* slots_ = nullptr;
-  std::vector<std::uint32_t> leaders_;  ///< The crop of each block, once it has one
+  std::vector<std::uint32_t> leaders_;  ///< Crop of each block once it has one
 
-  // Of the crops at hand
+  // Of the chosen crops
   std::vector<std::uint32_t> chosen_;
   std::vector<std::uint64_t> digits_;    ///< Of the first fields
   std::vector<std::uint64_t> twinRank_;  ///< Later candidates of the same value, by the first fields
   Rests splitRests_;
   MixKey mix_;
-  double limit_ = 0;  ///< Of the crops at hand
+  double limit_ = 0;  ///< Minimum value to enter with the chosen crops
   std::vector<std::uint16_t> levels_;
   std::vector<double> profits_;
   std::size_t work_ = 0;

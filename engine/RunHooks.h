@@ -4,9 +4,8 @@
 
 namespace verdalis {
 
-/// How a run calls out: the progress window, and the turn of the user interface. Cancel is asked for by
-/// setting ProgramState::CancelRequested, inside any of these calls or between them. By default nothing
-/// happens.
+/// Callbacks of a run: the progress window and event processing. To cancel the run, set
+/// ProgramState::CancelRequested during or between these calls. The defaults do nothing.
 class RunHooks {
  public:
   RunHooks() = default;
@@ -14,22 +13,22 @@ class RunHooks {
   RunHooks& operator=(const RunHooks&) = delete;
   virtual ~RunHooks() = default;
 
-  /// The progress window is loaded with a title and shown, without blocking the caller.
+  /// Opens the progress window with a title. Does not block the caller.
   virtual void showProgress(const std::string& /*title*/) {}
 
-  /// The number of steps of the run, and the second line of the window. The bar starts at 0.
+  /// Sets the number of steps of the run and the second line of the window. The bar starts at 0.
   virtual void setProgress(double /*steps*/, const std::string& /*description*/) {}
 
-  /// One step is done. Called exactly once for each water split of a search that ends.
+  /// One step is done. Called exactly once per water split of a completed search.
   virtual void update() {}
 
-  /// Keeps the progress window above all others. Moves, sizes and activates nothing.
+  /// Keeps the progress window above all others, without moving, resizing or activating it.
   virtual void setTopMost(bool /*flag*/) {}
 
-  /// The user interface gets its turn: waiting events are served.
+  /// Processes waiting events of the user interface.
   virtual void pumpEvents() {}
 
-  /// The progress window is unloaded.
+  /// Closes the progress window.
   virtual void closeProgress() {}
 };
 

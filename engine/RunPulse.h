@@ -7,13 +7,14 @@
 
 namespace verdalis {
 
-/// The turns that a search gives to the user interface: progress, event pump, cancel. Work between two calls
-/// of turn() should take about a millisecond at most.
+/// Progress, event processing and cancelling during a search. Work between two calls of turn() should take at
+/// most about a millisecond.
 class RunPulse {
  public:
   RunPulse(ProgramState& state, RunHooks& hooks) : state_(state), hooks_(hooks) {}
 
-  /// Serves the events now. \returns false when the search is to be given up.
+  /// Processes events now.
+  /// \returns false if the search is cancelled.
   [[nodiscard]] bool pump() {
     hooks_.setTopMost(true);
     hooks_.pumpEvents();
@@ -21,14 +22,16 @@ class RunPulse {
     return goOn();
   }
 
-  /// Serves the events when that is due. \returns false when the search is to be given up.
+  /// Processes events if that is due.
+  /// \returns false if the search is cancelled.
   [[nodiscard]] bool turn() { return Clock::now() - lastPump_ < interval || pump(); }
 
-  /// Moves the progress on by one water split. \returns false when the search is to be given up.
+  /// Advances the progress by one water split.
+  /// \returns false if the search is cancelled.
   [[nodiscard]] bool step() {
     hooks_.update();
     if (!goOn()) return false;
-    // The clock costs more than a step; the first step and then every 16th look at it.
+    // Reading the clock costs more than a step, so only the first step and then every 16th read it.
     if (steps_++ % stepsPerTurn != 0) return true;
     return steps_ == 1 ? pump() : turn();
   }

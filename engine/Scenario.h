@@ -12,15 +12,15 @@
 
 namespace verdalis {
 
-/// A farm with all that a run needs, as numbers with units. It shares nothing with the screens, the crop
-/// library or the plant, so a run keeps the inputs of its start whatever is typed meanwhile.
+/// All inputs of a run, as numbers with units. Independent of the screens, the crop library and the plant, so
+/// a run keeps the inputs it started with whatever is typed meanwhile.
 struct Scenario {
   double acres = 0;               ///< Of the whole farm
   Split landSplit;                ///< Acres of each field
   double netVolume = 0;           ///< Net water of the farm, acre-inches
   double efficiency = 0;          ///< Irrigation efficiency as a fraction
   double rain = 0;                ///< Annual rainfall, inches
-  SplitCollection depths;         ///< Net inches of each field, a split for each way to share the water
+  SplitCollection depths;         ///< Net inches of each field, one split per way to distribute the water
   CropCombinations combinations;  ///< The crops, and all ways to assign them to the fields
   IrrigationCosts plant;
   std::int16_t size = 0;     ///< Options to keep
@@ -28,7 +28,7 @@ struct Scenario {
   std::vector<Wish> wishes;  ///< What every plan must meet
   bool mixes = false;        ///< Keep the best plan of each mix of crops alone
 
-  /// What the search works on; the scenario must outlive it.
+  /// Inputs of the search, which refer to this scenario.
   [[nodiscard]] SearchInputs searchInputs() const {
     return {depths, combinations, landSplit, rain, size, plant, efficiency};
   }

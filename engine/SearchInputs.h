@@ -9,9 +9,9 @@
 
 namespace verdalis {
 
-/// What the search works on, prepared by RunScenario. Nothing of it may change while the search runs.
+/// Inputs of the search. They must not change while the search runs.
 struct SearchInputs {
-  const SplitCollection& depths;  ///< Net inches of each field, a split for each way to share the water
+  const SplitCollection& depths;  ///< Net inches of each field, one split per way to distribute the water
   const CropCombinations& combinations;  ///< A crop for each field
   const Split& landSplit;                ///< Acres of each field
   double rain;                           ///< Annual rainfall, inches

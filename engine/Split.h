@@ -6,8 +6,8 @@
 
 namespace verdalis {
 
-/// An ordered list of numbers, one for each field of a candidate: percentages, acres, acre-inches or inches,
-/// according to the stage.
+/// An ordered list of numbers, one per field of a candidate: percentages, acres, acre-inches or inches,
+/// depending on the stage.
 class Split {
  public:
   std::vector<double> splits;
@@ -18,11 +18,11 @@ class Split {
   void addSplit(double value) { splits.push_back(value); }
   [[nodiscard]] std::int16_t Count() const { return static_cast<std::int16_t>(splits.size()); }
 
-  /// The sum of the values, each rounded to a whole number first, halves to even. A water split is complete
-  /// when this sum is 100, whatever the unrounded one is.
+  /// Sum of the values, each rounded to a whole number first (halves to even). A water split is complete if
+  /// this sum is 100, whatever the unrounded sum is.
   [[nodiscard]] double total() const;
 
-  /// Each value followed by its unit, on one line.
+  /// All values with their unit on one line.
   [[nodiscard]] std::string toString() const;
 
   [[nodiscard]] Split Copy() const { return *this; }

@@ -19,7 +19,7 @@ SplitCollection::SplitCollection(const std::vector<double>& values, std::vector<
     dropUnusedLevels(place);
 }
 
-/// A level that no split has must not stay: what depends on it might fail, or take work for nothing.
+/// Removes levels that no split uses: computations with them could fail, or would be wasted.
 void SplitCollection::dropUnusedLevels(std::size_t place) {
   std::vector<double>& levels = levels_[place];
   std::vector<bool> isUsed(levels.size());
@@ -54,7 +54,7 @@ void SplitCollection::Add(Split split, std::int16_t n) {
 
 std::uint16_t SplitCollection::numberOf(std::size_t place, double value) {
   std::vector<double>& levels = levels_[place];
-  // Bits are compared, not values: 0 and -0 are different values to keep.
+  // Compares bits, not values, because 0 and -0 are different levels.
   const auto bits = std::bit_cast<std::uint64_t>(value);
   for (std::size_t i = 0; i < levels.size(); ++i) {
     if (std::bit_cast<std::uint64_t>(levels[i]) == bits) return static_cast<std::uint16_t>(i);

@@ -12,20 +12,20 @@ namespace verdalis {
 
 /// An ordered list of splits, counted from 1, all with the same number of values.
 ///
-/// An iteration factor of 99 on four fields makes 177,000 splits, yet every field sees only some 100
-/// different values. So a place holds the number of its value in the list of values of its field, not the
-/// value itself: the collection stays small, and a step that changes each value (percent to volume, volume to
-/// depth) touches each different value once.
+/// An iteration factor of 99 on four fields makes 177,000 splits, but each field has only about 100 different
+/// values. A place therefore stores the index of its value in the list of values of its field. This keeps the
+/// collection small, and a step that changes all values (percent to volume, volume to depth) computes each
+/// different value once.
 class SplitCollection {
  public:
   SplitCollection() = default;
 
-  /// Splits of `width` values each. `numbers` has the values of one split after the other, as positions in
+  /// Splits of `width` values each. `numbers` holds the values of one split after the other, as indices into
   /// `values`, which must all be different.
   SplitCollection(const std::vector<double>& values, std::vector<std::uint16_t> numbers, std::size_t width);
 
-  /// Appends a split after zeros have been added until it has n values.
-  /// \throws RunTimeError (invalidCall) when it then has another number of values than those before it.
+  /// Appends a split, filled up with zeros to n values.
+  /// \throws RunTimeError (invalidCall) if it then has a different number of values than the others
   void Add(Split split, std::int16_t n);
 
   /// \throws RunTimeError (subscript) outside 1..Count().
@@ -35,19 +35,19 @@ class SplitCollection {
   /// \throws RunTimeError (subscript) outside 1..Count().
   void Remove(long index);
 
-  /// The split after zeros have been added until it has n values; one with n or more stays as it is.
+  /// Fills the split up with zeros to n values. A split with n or more values is unchanged.
   static Split& fillSplits(Split& split, std::int16_t n);
 
-  /// For each split: CR LF, its text, CR LF.
+  /// CR LF, the text and CR LF for each split.
   [[nodiscard]] std::string toString() const;
 
-  /// The values of each split; 0 while the collection is empty.
+  /// Number of values per split; 0 while the collection is empty.
   [[nodiscard]] std::size_t width() const { return levels_.size(); }
 
-  /// The different values that stand at `place` (from 0) of some split, in no particular order.
+  /// The different values at `place` (from 0) in any split, in no particular order.
   [[nodiscard]] const std::vector<double>& levels(std::size_t place) const { return levels_[place]; }
 
-  /// For the split at `index` (from 0), the numbers in levels() of its width() values, one after the other.
+  /// For the split at `index` (from 0), the indices in levels() of its width() values.
   [[nodiscard]] const std::uint16_t* levelNumbers(std::size_t index) const {
     return numbers_.data() + index * width();
   }

@@ -7,8 +7,7 @@
 namespace verdalis {
 namespace {
 
-/// The unit of work is a block of prices, some nanoseconds. Between two looks at the clock lies well below a
-/// millisecond of it.
+/// Blocks of prices, a few nanoseconds each, between two checks of the clock: well below a millisecond.
 constexpr std::size_t workPerTurn = 1U << 14U;
 constexpr std::size_t workOfOffer = 16;
 
@@ -70,7 +69,7 @@ inline SplitSearch::Partial SplitSearch::planted(std::size_t field, std::size_t 
           partial.digits + row.crops[row.firstOfGroup[group]] * placeValue_[field]};
 }
 
-/// The exact bound of the candidates with these first fields.
+/// Whether a candidate with these first fields can enter, by the exact bound.
 bool SplitSearch::canEnter(std::size_t nextField, const Partial& partial) const {
   double returns = partial.returns;
   double costs = partial.costs;
@@ -81,7 +80,7 @@ bool SplitSearch::canEnter(std::size_t nextField, const Partial& partial) const 
   return !(returns - costs < kept_.needed(split_, partial.digits));
 }
 
-/// What the tight bound leaves of the last two fields, one looked at with the best crop of the other.
+/// Groups of the last two fields that the tight bound leaves, each combined with the best crop of the other.
 SplitSearch::OpenPair SplitSearch::openPair(const Partial& partial) const {
   const auto countOpen = [&](const PricedRow& row, double otherGain) {
     const auto isOpen = [&](double gain) {
@@ -99,8 +98,8 @@ SplitSearch::OpenPair SplitSearch::openPair(const Partial& partial) const {
   return open;
 }
 
-/// Prices what is open of the last two fields. The exact bound is asked before a row of prices for as long as
-/// it turns some away, and now and then after that, for asking costs a good part of the pricing.
+/// Prices the remaining groups of the last two fields. The exact bound is computed before a row of prices as
+/// long as it excludes some, and occasionally after that, because it costs a good part of the pricing.
 bool SplitSearch::searchLastTwoFields(const Partial& partial, const OpenPair& open) {
   constexpr unsigned rest = 15;
   const std::size_t field = rows_.size() - 2;
@@ -129,7 +128,7 @@ inline bool SplitSearch::priceLastField(std::size_t groups, double returns, doub
   const PricedRow& row = *rows_.back();
   const double* rowReturns = row.returns.data();
   const double* rowCosts = row.costs.data();
-  const double limit = kept_.needed(split_, digits);  // may rise meanwhile; then it only turns less away
+  const double limit = kept_.needed(split_, digits);  // may rise meanwhile; a lower limit only excludes less
   for (std::size_t begin = 0; begin < groups; begin += priceBlockSize) {
     if (anyReaches(limit, returns, costs, rowReturns + begin, rowCosts + begin) &&
         !priceBlock(begin, returns, costs)) {
@@ -165,7 +164,7 @@ bool SplitSearch::priceBlock(std::size_t begin, double returns, double costs) {
   return true;
 }
 
-/// Offers the candidates of the chosen groups, the latest first, for as long as they enter.
+/// Offers the candidates of the chosen groups, latest first, as long as they enter.
 bool SplitSearch::offer(double profit) {
   const std::size_t fields = rows_.size();
   for (std::size_t field = 0; field < fields; ++field) {

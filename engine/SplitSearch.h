@@ -10,15 +10,15 @@
 
 namespace verdalis {
 
-/// Goes through the candidates of one water split after the other, depth first: a crop on the first field,
-/// then on the second and so on, best gain first. Why what it passes over can be passed over stands in
-/// FastSearch.h.
+/// Searches the candidates of a water split depth first: a crop for the first field, then for the second and
+/// so on, best gain first. FastSearch.h proves that the candidates it skips cannot enter the ranking.
 class SplitSearch {
  public:
-  /// `slack`: dollars by which a sum of gains may lie below the profit of a candidate that it bounds.
+  /// \param slack dollars by which a sum of gains may be below the profit of a candidate that it bounds.
   SplitSearch(const FieldTables& tables, double slack, KeptCandidates& kept, RunPulse& pulse);
 
-  /// Offers the candidates of a split that can enter. \returns false when the search is to be given up.
+  /// Offers the candidates of a split that can enter.
+  /// \returns false if the search is cancelled.
   [[nodiscard]] bool search(std::size_t split, const std::uint16_t* levelNumbers);
 
  private:
@@ -27,14 +27,14 @@ class SplitSearch {
     double returns = 0;
     double costs = 0;
     double gains = 0;
-    std::uint64_t digits = 0;  ///< The least of the groups chosen so far, zeros for the open fields
+    std::uint64_t digits = 0;  ///< Lowest digits of the groups chosen so far, with zeros for the open fields
   };
 
-  /// How many groups of each of the last two fields cannot be turned away at once.
+  /// Number of groups of each of the last two fields that the tight bound leaves.
   struct OpenPair {
     std::size_t first;
     std::size_t second;
-    bool isWholly;  ///< Nor can any two of them together
+    bool isWholly;  ///< The bound leaves every pair of them too
   };
 
   [[nodiscard]] Partial planted(std::size_t field, std::size_t group, const Partial& partial) const;
@@ -54,15 +54,15 @@ class SplitSearch {
   RunPulse& pulse_;
   std::vector<std::uint64_t> placeValue_;  ///< Of the digit of each field
 
-  // Of the split at hand
+  // Of the current split
   std::int64_t split_ = 0;
   std::vector<const PricedRow*> rows_;
-  std::vector<double> openGains_;      ///< The largest gains of this field and all after it
+  std::vector<double> openGains_;      ///< Largest gains of this field and all behind it, added
   std::vector<std::size_t> chosen_;    ///< Groups
   std::vector<std::uint32_t> member_;  ///< Places in PricedRow::crops, used by offer()
 
-  unsigned unasked_ = 0;  ///< For so many pairs of last fields the exact bound is not asked
-  std::size_t work_ = 0;  ///< Done since the clock was looked at
+  unsigned unasked_ = 0;  ///< Number of pairs of last fields for which the exact bound is not computed
+  std::size_t work_ = 0;  ///< Done since the clock was last checked
 };
 
 }  // namespace verdalis

@@ -8,20 +8,18 @@
 
 namespace verdalis {
 
-/// The water splits as paths through a tree: a level on the first field, then one on the second and so on. An
-/// edge at the last field ends in a split.
-///
-/// Two nodes that leave the same ways to share the rest of the water have the same state, so a bound of what
-/// the open fields can earn is worked out for some hundred states and serves all of the splits (173,000 of
-/// them for a factor of 99 on four fields).
+/// The water splits as paths in a tree: a level on the first field, then one on the second and so on. Edges
+/// at the last field lead to splits. Nodes with the same ways to distribute the rest of the water share a
+/// state. Bounds for the open fields are computed for a few hundred states and serve all splits (173,000 for
+/// a factor of 99 on four fields).
 class WaterPaths {
  public:
   struct Edge {
-    std::uint16_t level;   ///< Number of the level among those of the field
-    std::uint32_t target;  ///< Node or state of the next field; at the last field the split's number
+    std::uint16_t level;   ///< Index of the level in SplitCollection::levels()
+    std::uint32_t target;  ///< Node or state of the next field; at the last field the index of the split
   };
 
-  /// A run of edges.
+  /// A range of edges.
   struct Edges {
     const Edge* first;
     const Edge* last;
@@ -29,34 +27,34 @@ class WaterPaths {
     [[nodiscard]] const Edge* end() const { return last; }
   };
 
-  /// The splits must all be different.
+  /// All splits must be different.
   explicit WaterPaths(const SplitCollection& splits);
 
   [[nodiscard]] std::size_t fields() const { return layers_.size(); }
 
-  /// The edges of a node at a field. Node 0 of field 0 is the root.
+  /// Edges of a node at a field. Node 0 of field 0 is the root.
   [[nodiscard]] Edges edgesOf(std::size_t field, std::uint32_t node) const {
     return range(layers_[field].edges, layers_[field].first, node);
   }
 
-  /// The state of a node; 0 behind the last field.
+  /// State of a node; 0 behind the last field.
   [[nodiscard]] std::uint32_t stateOf(std::size_t field, std::uint32_t node) const {
     return field == layers_.size() ? 0 : layers_[field].stateOfNode[node];
   }
 
-  /// States at a field; one behind the last.
+  /// Number of states at a field; 1 behind the last field.
   [[nodiscard]] std::size_t states(std::size_t field) const {
     return field == layers_.size() ? 1 : layers_[field].firstOfState.size() - 1;
   }
 
-  /// The edges between states; at the last field all targets are 0.
+  /// Edges between states; at the last field all targets are 0.
   [[nodiscard]] Edges stateEdges(std::size_t field, std::size_t state) const {
     return range(layers_[field].stateEdges, layers_[field].firstOfState, state);
   }
 
  private:
   struct Layer {
-    std::vector<std::uint32_t> first;  ///< Where the edges of each node begin, and their end
+    std::vector<std::uint32_t> first;  ///< Index of the first edge by node, and the end
     std::vector<Edge> edges;
     std::vector<std::uint32_t> stateOfNode;
     std::vector<std::uint32_t> firstOfState;
@@ -68,7 +66,7 @@ class WaterPaths {
     return {edges.data() + first[at], edges.data() + first[at + 1]};
   }
 
-  /// \returns false when splits with a common beginning do not stand together.
+  /// \returns false if splits with common first levels are not adjacent.
   [[nodiscard]] bool grow(const SplitCollection& splits, const std::vector<std::uint32_t>& order);
   void findStates(std::size_t field);
 

@@ -5,7 +5,7 @@
 
 namespace verdalis {
 
-/// What a grower wants of a plan. A bound is met within 1e-9 of its own size.
+/// A condition that a grower sets for plans. Bounds are met within 1e-9 of their size.
 struct Wish {
   enum class Kind {
     acresAtLeast,  ///< The fields of `crop` have `amount` acres or more
@@ -26,7 +26,7 @@ struct Wish {
   friend bool operator==(const Wish&, const Wish&) = default;
 };
 
-/// The most wishes that a run takes.
+/// Maximum number of wishes of a run.
 inline constexpr std::size_t mostWishes = 12;
 
 }  // namespace verdalis

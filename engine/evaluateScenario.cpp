@@ -27,11 +27,11 @@ double farmDepth(const Scenario& scenario) {
   return checked(scenario.netVolume / scenario.acres, "The irrigation depth of the farm");
 }
 
-/// Takes a candidate; what it leaves in it is kept.
+/// Takes a candidate. Pricing it may change it.
 using Submit = std::function<void(FieldCollection&)>;
 
-/// Offers each crop on the undivided farm, as far as the wishes allow. The fields share one plant, so a dry
-/// one shows the pumping hours of the crop before it.
+/// Submits each crop on the undivided farm that meets the wishes. The fields share one plant, so a dry field
+/// shows the pumping hours of the crop before it.
 void submitNoSplit(const Scenario& scenario, const Submit& submit, const NoSplitListener& onNoSplit) {
   const double depth = farmDepth(scenario);
   const auto plant = std::make_shared<IrrigationCosts>(scenario.plant.Copy());
@@ -47,14 +47,14 @@ void submitNoSplit(const Scenario& scenario, const Submit& submit, const NoSplit
     candidate.Add(field);
     if (!meetsWishes(scenario.wishes, wishedFields(candidate, scenario.efficiency))) continue;
     double netDepth =
-        field->Depth;  // setYield limits what it is handed to the table; the field keeps its own
+        field->Depth;  // setYield limits its argument to the table; the field keeps its own depth
     field->theCrop->setYield(netDepth, scenario.rain);
     submit(candidate);
     if (onNoSplit) onNoSplit(i, *field);
   }
 }
 
-/// The acres and crops of an option, without regard to their order.
+/// Acres and crops of an option, sorted.
 std::vector<std::pair<double, std::string>> mixOf(const FieldCollection& option) {
   std::vector<std::pair<double, std::string>> mix;
   for (const auto& field : option)
@@ -63,8 +63,8 @@ std::vector<std::pair<double, std::string>> mixOf(const FieldCollection& option)
   return mix;
 }
 
-/// Adds the crops on the undivided farm to a ranking of mixes. A crop on a farm of one field is the same mix
-/// as the crop on the undivided farm.
+/// Adds the crops on the undivided farm to a ranking of mixes. On a farm with one field they are the same
+/// mixes.
 void mixNoSplit(const Scenario& scenario, BestMix& best, const NoSplitListener& onNoSplit) {
   std::vector<BestMix::Option> ranking = best.Copy().returnCollection(false);
   const auto submit = [&](FieldCollection& candidate) {

@@ -11,8 +11,8 @@
 
 namespace verdalis {
 
-/// Hears of each crop that has been priced on the undivided farm: its place among the crops of the scenario,
-/// and the field as pricing has left it.
+/// Called for each crop priced on the undivided farm, with its position among the crops of the scenario and
+/// the priced field.
 using NoSplitListener = std::function<void(std::size_t crop, const Field& priced)>;
 
 /// One evaluation: every water split with every crop combination, and with `noSplit` each crop on the

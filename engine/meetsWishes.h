@@ -8,7 +8,7 @@
 
 namespace verdalis {
 
-/// What the wishes ask of a field of a plan.
+/// The properties of a field that wishes refer to.
 struct WishedField {
   double acres = 0;
   const std::string* crop = nullptr;  ///< Name
@@ -21,14 +21,15 @@ struct WishedField {
 /// Whether `value` is `amount` or less, within 1e-9 of the amount.
 [[nodiscard]] bool isAtMost(double value, double amount);
 
-/// Whether a plan meets a wish. A wish about a field that the plan lacks is met if it forbids or limits.
+/// Whether a plan meets a wish. If the plan lacks the field, it meets wishes that exclude a crop or limit a
+/// depth.
 [[nodiscard]] bool meetsWish(const Wish& wish, const std::vector<WishedField>& plan);
 
 /// Whether a plan meets all wishes.
 [[nodiscard]] bool meetsWishes(const std::vector<Wish>& wishes, const std::vector<WishedField>& plan);
 
-/// The fields of a candidate; `efficiency` is the irrigation efficiency as a fraction. They refer to names in
-/// the candidate.
+/// Fields of a candidate. They refer to names in the candidate.
+/// \param efficiency irrigation efficiency as a fraction.
 [[nodiscard]] std::vector<WishedField> wishedFields(const FieldCollection& candidate, double efficiency);
 
 }  // namespace verdalis

@@ -5,11 +5,11 @@
 
 namespace verdalis {
 
-/// Prices that anyReaches() takes at a time.
+/// Number of prices that anyReaches() tests at once.
 inline constexpr std::size_t priceBlockSize = 8;
 
-/// Whether one of priceBlockSize crops on the last field makes a profit of `limit` or more. Returns and costs
-/// of the fields before are added up already. Two profits are worked out at once, each rounded as if it were
+/// Whether any of priceBlockSize crops on the last field makes a profit of `limit` or more. The partial sums
+/// hold the returns and costs of the fields before. Computes two profits at once, each rounded as if computed
 /// alone.
 [[nodiscard]] inline bool anyReaches(double limit, double partialReturns, double partialCosts,
                                      const double* returns, const double* costs) {

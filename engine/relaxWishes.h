@@ -9,16 +9,15 @@
 
 namespace verdalis {
 
-/// Wishes to give up, so that a plan is left.
+/// Wishes to give up so that a plan remains.
 struct Relaxation {
   std::vector<Wish> without;  ///< In the order given
   double profit = 0;          ///< Of the best plan that meets the others, dollars
 };
 
-/// For a scenario of which no candidate meets all wishes: the smallest sets of wishes whose removal lets a
-/// candidate through, best profit first. Empty where there is no candidate at all.
-/// \returns nothing after a cancel.
-/// \throws RunTimeError for a candidate that cannot be priced
+/// For a scenario in which no candidate meets all wishes: the smallest sets of wishes without which a
+/// candidate remains, best profit first. Empty if there is no candidate at all. \returns nothing after a
+/// cancel. \throws RunTimeError for a candidate that cannot be priced
 [[nodiscard]] std::optional<std::vector<Relaxation>> relaxWishes(const Scenario& scenario,
                                                                  ProgramState& state, RunHooks& hooks);
 
