@@ -14,7 +14,9 @@ constexpr std::string_view head =
     "profit,"
     "option_costs,option_return,option_profit";
 
-std::string quoted(const std::string& text) {
+}  // namespace
+
+std::string csvQuoted(const std::string& text) {
   if (text.find_first_of(",\"\r\n") == std::string::npos) return text;
   std::string result = "\"";
   for (const char c : text) {
@@ -23,9 +25,6 @@ std::string quoted(const std::string& text) {
   }
   return result + '"';
 }
-
-}  // namespace
-
 std::string csvNumber(double value) {
   return value == 0 && std::signbit(value) ? "-0" : generalText(value);
 }
@@ -37,12 +36,12 @@ void writeCsvHead(std::ostream& out, std::string_view front) {
 void writeCsvRows(std::ostream& out, std::size_t number, const OptionResult& option, std::string_view front) {
   std::size_t fieldNumber = 0;
   for (const FieldResult& field : option.fields) {
-    out << front << number << ',' << ++fieldNumber << ',' << quoted(field.crop);
+    out << front << number << ',' << ++fieldNumber << ',' << csvQuoted(field.crop);
     for (const double value : {field.acres, field.netDepth, field.grossDepth, field.yield}) {
       out << ',' << csvNumber(value);
     }
-    out << ',' << quoted(field.yieldUnit) << ',' << csvNumber(field.price) << ',' << csvNumber(field.maxYield)
-        << ',' << quoted(field.soil);
+    out << ',' << csvQuoted(field.yieldUnit) << ',' << csvNumber(field.price) << ','
+        << csvNumber(field.maxYield) << ',' << csvQuoted(field.soil);
     for (const double value :
          {field.costs, field.returns, field.profit(), option.costs, option.returns, option.profit}) {
       out << ',' << csvNumber(value);

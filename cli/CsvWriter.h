@@ -13,6 +13,9 @@ namespace verdalis {
 /// The text of a number; it reads back as the same 64-bit float.
 [[nodiscard]] std::string csvNumber(double value);
 
+/// A text as RFC 4180 asks for it: in quotation marks where that is needed.
+[[nodiscard]] std::string csvQuoted(const std::string& text);
+
 /// The head row. `front` stands before its first column, each column of it with its comma.
 void writeCsvHead(std::ostream& out, std::string_view front = {});
 

@@ -3,12 +3,12 @@
 #include <ostream>
 
 #include "cli/OptionsWriter.h"
+#include "cli/TextTable.h"
 #include "text/numbers.h"
 
 namespace verdalis {
 namespace {
 
-constexpr std::size_t mostColumns = 100;
 constexpr std::size_t leastCropWidth = 8;
 
 enum Column : std::size_t { acres, crop, net, gross, yield, unit, costs, returns, netReturn, columnCount };
@@ -20,35 +20,6 @@ using Widths = std::array<std::size_t, columnCount>;
 constexpr Widths gaps{2, 2, 2, 2, 2, 1, 2, 2, 2};
 
 const Row head{"Acres", "Crop", "Net", "Gross", "Yield", "", "Costs", "Returns", "Net return"};
-
-bool startsCharacter(char c) {
-  return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U;
-}
-
-/// Columns that a UTF-8 text takes, one a character.
-std::size_t width(std::string_view text) {
-  return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), startsCharacter));
-}
-
-/// The text for a terminal: what would move the cursor is shown as a blank.
-std::string printable(std::string text) {
-  for (char& c : text) {
-    if (static_cast<unsigned char>(c) < 0x20U || c == '\x7F') c = ' ';
-  }
-  return text;
-}
-
-/// The text, cut to a number of characters with dots at its end.
-std::string cutTo(std::size_t characters, std::string text) {
-  if (width(text) <= characters) return text;
-  constexpr std::string_view dots = "...";
-  std::size_t seen = 0;
-  const auto end = std::find_if(text.begin(), text.end(), [&](char c) {
-    return startsCharacter(c) && seen++ == characters - dots.size();
-  });
-  text.erase(end, text.end());
-  return text += dots;
-}
 
 std::string dollars(double amount) {
   return formatNumber(amount, "###,##0");
@@ -111,7 +82,7 @@ Widths measure(const std::vector<Block>& blocks) {
   Widths widths{};
   const auto widen = [&](const Row& row) {
     for (std::size_t column = 0; column < columnCount; ++column) {
-      widths.at(column) = std::max(widths.at(column), width(row.at(column)));
+      widths.at(column) = std::max(widths.at(column), textWidth(row.at(column)));
     }
   };
   widen(head);
@@ -122,7 +93,7 @@ Widths measure(const std::vector<Block>& blocks) {
   for (std::size_t column = 0; column < columnCount; ++column) {
     others += gaps.at(column) + (column == crop ? 0 : widths.at(column));
   }
-  const std::size_t room = std::max(others + leastCropWidth, mostColumns) - others;
+  const std::size_t room = std::max(others + leastCropWidth, mostTableColumns) - others;
   widths[crop] = std::min(widths[crop], room);
   return widths;
 }
@@ -131,7 +102,7 @@ void writeRow(std::ostream& out, const Row& row, const Widths& widths) {
   std::string line;
   for (std::size_t column = 0; column < columnCount; ++column) {
     const std::string text = cutTo(widths.at(column), row.at(column));
-    const std::string padding(widths.at(column) - width(text), ' ');
+    const std::string padding(widths.at(column) - textWidth(text), ' ');
     const bool left = column == crop || column == unit;
     line += std::string(gaps.at(column), ' ') + (left ? text + padding : padding + text);
   }
