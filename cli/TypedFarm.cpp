@@ -4,6 +4,7 @@
 #include <iterator>
 #include <utility>
 
+#include "screens/readScenario.h"
 #include "text/encoding.h"
 #include "text/quote.h"
 
@@ -157,6 +158,10 @@ void TypedFarm::tick(std::size_t row) {
 void TypedFarm::tickNoSplit() {
   CheckBox& box = mainPane().chkNoSplit;
   if (!box.checked()) box.click();
+}
+
+Farm TypedFarm::farm() {
+  return readFarm(inputs(), main().cropFiles.cropCollection, *main().tempIrrigationCosts, state().FineFactor);
 }
 
 std::optional<std::vector<Results::Option>> TypedFarm::evaluate(RunHooks& progress) {

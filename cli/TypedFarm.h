@@ -8,6 +8,7 @@
 
 #include "cli/Messages.h"
 #include "cli/TerminalServices.h"
+#include "engine/Farm.h"
 #include "engine/RunHooks.h"
 #include "main/Program.h"
 #include "trend/TrendHost.h"
@@ -49,6 +50,11 @@ class TypedFarm {
   void tickNoSplit();
 
   [[nodiscard]] ScenarioInputs inputs() { return mainPane().scenarioInputs(); }
+
+  /// The farm as numbers; nothing of it is shared with the program.
+  /// \throws RunTimeError for a text that is no number
+  [[nodiscard]] Farm farm();
+
   /// Holds what was found last.
   [[nodiscard]] const ResultPrinter& printer() { return main().thePrinter; }
   [[nodiscard]] ProgramState& state() { return program_.state; }

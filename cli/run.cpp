@@ -6,6 +6,7 @@
 #include <ostream>
 
 #include "cli/EvaluateCommand.h"
+#include "cli/ExploreCommand.h"
 #include "cli/Messages.h"
 #include "cli/ScriptCommand.h"
 #include "cli/TrendCommand.h"
@@ -17,6 +18,15 @@ namespace {
 constexpr int done = 0;
 constexpr int failed = 1;
 constexpr int refused = 2;
+
+/// Gives all commands below `app` what they have in common.
+void setCommon(CLI::App& app, const std::string& footer) {
+  for (CLI::App* command : app.get_subcommands({})) {
+    command->set_version_flag("--version", versionText(), "Print the version and exit");
+    command->footer(footer);
+    setCommon(*command, footer);
+  }
+}
 
 /// What the arguments ask for; the command that was named has been parsed, the others keep their defaults.
 int dispatch(const std::vector<std::string>& args, std::istream& in, std::ostream& out, Messages& messages) {
@@ -32,12 +42,10 @@ int dispatch(const std::vector<std::string>& args, std::istream& in, std::ostrea
   const CLI::App& evaluateCommand = addEvaluateCommand(app, evaluateRequest);
   TrendArguments trendRequest;
   const CLI::App& trendCommand = addTrendCommand(app, trendRequest);
+  ExploreCommand exploreCommand(app);
   ScriptRequest scriptRequest;
   const CLI::App& scriptCommand = addScriptCommand(app, scriptRequest);
-  for (CLI::App* command : app.get_subcommands({})) {
-    command->set_version_flag("--version", versionText(), "Print the version and exit");
-    command->footer(exitCodes);
-  }
+  setCommon(app, exitCodes);
 
   try {
     app.parse(std::vector<std::string>(args.rbegin(), args.rend()));
@@ -48,6 +56,7 @@ int dispatch(const std::vector<std::string>& args, std::istream& in, std::ostrea
   }
   if (evaluateCommand.parsed()) evaluate(evaluateRequest, out, messages);
   if (trendCommand.parsed()) trend(trendRequest, out, messages);
+  if (exploreCommand.command().parsed()) exploreCommand.run(out, messages);
   if (scriptCommand.parsed() && !replayScript(scriptRequest, in, out)) return failed;
   return done;
 }

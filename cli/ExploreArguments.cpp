@@ -1,0 +1,212 @@
+#include "cli/ExploreArguments.h"
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+#include <utility>
+
+#include "engine/BestMix.h"
+#include "screens/IrrigCostsPane.h"
+#include "screens/MainPane.h"
+#include "text/encoding.h"
+#include "text/numbers.h"
+#include "text/quote.h"
+
+namespace verdalis {
+namespace {
+
+using Kind = FarmInput::Kind;
+
+/// The inputs by their names. That of a crop's stands in front of the crop.
+struct InputWord {
+  std::string_view word;
+  Kind kind;
+  bool ofCrop;
+};
+
+constexpr std::array<InputWord, 6> inputWords{{{"water", Kind::water, false},
+                                               {"rain", Kind::rain, false},
+                                               {"efficiency", Kind::efficiency, false},
+                                               {"fuel", Kind::fuel, false},
+                                               {"price", Kind::price, true},
+                                               {"max-yield", Kind::maxYield, true}}};
+
+constexpr std::string_view inputForms = "water, rain, efficiency, fuel, price CROP or max-yield CROP";
+constexpr std::string_view blanks = " \t";
+
+[[noreturn]] void refuse(const std::string& option, const std::string& text, const std::string& why) {
+  throw Refusal(option + " " + quoteForMessage(text) + ": " + why);
+}
+
+std::string_view trimmed(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(blanks);
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+}
+
+/// The names of the chosen crops, each once.
+std::vector<std::string> chosenCrops(const Farm& farm) {
+  std::vector<std::string> names;
+  for (const auto& crop : farm.crops) {
+    if (std::find(names.begin(), names.end(), crop->cropType) == names.end()) names.push_back(crop->cropType);
+  }
+  return names;
+}
+
+std::string listOf(const std::vector<std::string>& names) {
+  std::string text;
+  for (const std::string& name : names)
+    text += (text.empty() ? "" : ", ") + quoteForMessage(name);
+  return text;
+}
+
+std::string cropOf(std::string_view name, const Farm& farm) {
+  const std::vector<std::string> names = chosenCrops(farm);
+  if (std::find(names.begin(), names.end(), name) != names.end()) return std::string(name);
+  std::vector<std::string> alike;
+  std::copy_if(names.begin(), names.end(), std::back_inserter(alike),
+               [&](const std::string& crop) { return lowerCase(crop) == lowerCase(name); });
+  if (alike.size() == 1) return alike.front();
+  if (alike.empty()) {
+    throw Refusal("The crop " + quoteForMessage(name) + " is not chosen. The chosen crops are " +
+                  listOf(names) + ".");
+  }
+  throw Refusal("Several chosen crops are called so: " + listOf(alike) + ".");
+}
+
+/// \throws Refusal without the option in front
+FarmInput inputOf(std::string_view text, const Farm& farm) {
+  const std::size_t end = std::min(text.find_first_of(blanks), text.size());
+  const std::string word = lowerCase(text.substr(0, end));
+  const auto found = std::find_if(inputWords.begin(), inputWords.end(),
+                                  [&](const InputWord& entry) { return entry.word == word; });
+  const std::string_view name = trimmed(text.substr(end));
+  if (found == inputWords.end() || found->ofCrop == name.empty())
+    throw Refusal("There is no such input. An input is " + std::string(inputForms) + ".");
+  if (!found->ofCrop) return {found->kind, {}};
+  FarmInput input{found->kind, cropOf(name, farm)};
+  if (cropKind(input.crop) == CropKind::fallow) {
+    throw Refusal(input.crop + (input.kind == Kind::price ? " has no price." : " has no maximum yield."));
+  }
+  return input;
+}
+
+/// The limit of a field of a pane.
+template <class Rows, class RowOf>
+Limit limitOf(const Rows& rows, std::string_view control, RowOf rowOf) {
+  const auto found =
+      std::find_if(rows.begin(), rows.end(), [&](const auto& row) { return rowOf(row).control == control; });
+  return found == rows.end() ? Limit() : rowOf(*found).limit;
+}
+
+InputBounds upTo(std::optional<double> most) {
+  if (!most) return {};
+  return {0, most};
+}
+
+}  // namespace
+
+Farm exploredFarm(const FarmRequest& request, Messages& messages) {
+  const std::unique_ptr<TypedFarm> typed = makeFarm(request, messages);
+  requireReady(typed->inputs());
+  Farm farm = typed->farm();
+  BestMix().setSize(farm.size);  // an evaluation without a place to keep an option fails, so each point does
+  return farm;
+}
+
+std::string inputName(const FarmInput& input) {
+  const auto found = std::find_if(inputWords.begin(), inputWords.end(),
+                                  [&](const InputWord& entry) { return entry.kind == input.kind; });
+  return std::string(found->word) + (found->ofCrop ? " " + input.crop : "");
+}
+
+FarmInput readInput(const std::string& option, const std::string& text, const Farm& farm) {
+  try {
+    return inputOf(trimmed(text), farm);
+  } catch (const Refusal& refusal) {
+    refuse(option, text, refusal.what());
+  }
+}
+
+double readNumber(const std::string& option, const std::string& text) {
+  if (!isNumeric(text) || text.find(',') != std::string::npos)
+    refuse(option, text, "Please enter a valid number");
+  return toDouble(text);
+}
+
+std::vector<double> ValueRange::values() const {
+  return evenValues(from, to, count);
+}
+
+ValueRange readRange(const std::string& fromOption, const std::string& from, const std::string& toOption,
+                     const std::string& to, const std::string& countOption, const std::string& count) {
+  ValueRange range{readNumber(fromOption, from), readNumber(toOption, to), 0};
+  if (!(range.from < range.to)) refuse(toOption, to, "The last value must be above the first.");
+  const double values = readNumber(countOption, count);
+  if (values < 2 || values > static_cast<double>(mostPoints) ||
+      values != static_cast<double>(static_cast<std::size_t>(values))) {
+    refuse(countOption, count,
+           "The number of values is a whole number from 2 to " +
+               formatNumber(static_cast<double>(mostPoints), "###,###") + ".");
+  }
+  range.count = static_cast<std::size_t>(values);
+  return range;
+}
+
+InputRange readInputRange(const std::string& option, const std::string& text, const Farm& farm) {
+  constexpr std::string_view form = "The form is INPUT=FROM:TO:N.";
+  // The name of a crop may have any of the signs in it, a range has not.
+  const std::size_t sign = text.rfind('=');
+  if (sign == std::string::npos) refuse(option, text, std::string(form));
+  const std::string range = text.substr(sign + 1);
+  const std::size_t first = range.find(':');
+  const std::size_t second = first == std::string::npos ? first : range.find(':', first + 1);
+  if (second == std::string::npos || range.find(':', second + 1) != std::string::npos)
+    refuse(option, text, std::string(form));
+  InputRange result;
+  result.input = readInput(option, text.substr(0, sign), farm);
+  result.range = readRange(option, range.substr(0, first), option,
+                           range.substr(first + 1, second - first - 1), option, range.substr(second + 1));
+  requireAccepted(option, result.input, result.range.from, farm);
+  requireAccepted(option, result.input, result.range.to, farm);
+  return result;
+}
+
+InputBounds inputBounds(const FarmInput& input, const Farm& farm) {
+  const StockCrop* const stock = stockCrop(cropKind(input.crop));  // another crop is not tested
+  switch (input.kind) {
+    case Kind::water:
+    case Kind::rain:
+      return {};
+    case Kind::efficiency:
+      return upTo(limitOf(MainPane::fields(), "txtEff", [](const FieldRow& row) { return row; }).of(""));
+    case Kind::fuel:
+      return upTo(limitOf(IrrigCostsPane::fields(), "txtCost", [](const IrrigCostsField& field) {
+                    return field.row;
+                  }).of(farm.plant.FuelType));
+    case Kind::price:
+      return upTo(stock != nullptr ? std::optional(stock->limits.price) : std::nullopt);
+    case Kind::maxYield:
+      break;
+  }
+  return upTo(stock != nullptr ? std::optional(stock->limits.maxYield) : std::nullopt);
+}
+
+void requireAccepted(const std::string& option, const FarmInput& input, double value, const Farm& farm) {
+  const InputBounds bounds = inputBounds(input, farm);
+  const std::string name = inputName(input);
+  if (bounds.least && value < *bounds.least)
+    refuse(option, generalText(value), "The " + name + " is " + generalText(*bounds.least) + " or more.");
+  if (bounds.most && value > *bounds.most)
+    refuse(option, generalText(value), "The " + name + " is at most " + generalText(*bounds.most) + ".");
+  if (input.kind != Kind::water) return;
+  Farm watered;
+  watered.acres = farm.acres;
+  watered.takeWater(value);
+  if (watered.grossVolume == 0) {
+    refuse(option, generalText(value),
+           "The water must be so many inches that acres times inches are at least 1 ac-in.");
+  }
+}
+
+}  // namespace verdalis

@@ -1,0 +1,62 @@
+#include "cli/ExploreCommand.h"
+
+#include <unistd.h>
+
+#include <iostream>
+#include <sstream>
+
+#include "cli/ExploreArguments.h"
+#include "cli/ExploreQuestions.h"
+#include "cli/Interrupt.h"
+#include "cli/OptionsWriter.h"
+#include "cli/Progress.h"
+#include "cli/output.h"
+#include "cli/textOptions.h"
+
+namespace verdalis {
+namespace {
+
+bool isTerminal(const std::ostream& out) {
+  return &out == &std::cout && isatty(STDOUT_FILENO) == 1;
+}
+
+}  // namespace
+
+ExploreCommand::ExploreCommand(CLI::App& app)
+    : command_(app.add_subcommand("explore", "What the ranking leaves open, a question at a time")) {
+  command_->require_subcommand(1);
+  for (const auto& make : exploreQuestions) {
+    std::unique_ptr<ExploreQuestion> question = make();
+    CLI::App& command =
+        *command_->add_subcommand(std::string(question->name()), std::string(question->description()));
+    question->addOptions(command);
+    addFarmOptions(command, request_.farm);
+    command.add_option("--format", request_.format, "table, csv or json; table without it")
+        ->type_name("FORMAT")
+        ->check(CLI::IsMember(optionsFormats()));
+    addTextOption(command, "--output", "FILE", request_.output, "Write there in place of standard output");
+    questions_.push_back({std::move(question), &command});
+  }
+}
+
+void ExploreCommand::run(std::ostream& out, Messages& messages) {
+  for (const Asked& asked : questions_) {
+    if (asked.command->parsed()) answer(*asked.question, out, messages);
+  }
+}
+
+void ExploreCommand::answer(ExploreQuestion& question, std::ostream& out, Messages& messages) {
+  // All of the text is there before the first byte goes out.
+  std::ostringstream text;
+  text.exceptions(std::ios::badbit);  // no memory left
+  {
+    const Interrupt interrupt;
+    const Farm farm = exploredFarm(request_.farm, messages);
+    ProgramState state;
+    Progress progress(asTerminal(messages.stream()), state);
+    question.answer({farm, request_.format, !request_.output && isTerminal(out), state, progress}, text);
+  }
+  deliver(std::move(text).str(), request_.output, out);
+}
+
+}  // namespace verdalis

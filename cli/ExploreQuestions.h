@@ -1,0 +1,17 @@
+#pragma once
+
+#include <array>
+#include <memory>
+
+#include "cli/ExploreQuestion.h"
+
+namespace verdalis {
+
+// One file a question.
+
+[[nodiscard]] std::unique_ptr<ExploreQuestion> makeExploreWater();
+
+/// The questions, in the order in which the help tells them.
+inline constexpr std::array exploreQuestions{makeExploreWater};
+
+}  // namespace verdalis
