@@ -10,8 +10,12 @@ namespace verdalis {
 // One file a question.
 
 [[nodiscard]] std::unique_ptr<ExploreQuestion> makeExploreWater();
+[[nodiscard]] std::unique_ptr<ExploreQuestion> makeExploreSeasons();
+[[nodiscard]] std::unique_ptr<ExploreQuestion> makeExploreInputs();
+[[nodiscard]] std::unique_ptr<ExploreQuestion> makeExploreMap();
 
 /// The questions, in the order in which the help tells them.
-inline constexpr std::array exploreQuestions{makeExploreWater};
+inline constexpr std::array exploreQuestions{makeExploreWater, makeExploreSeasons, makeExploreInputs,
+                                             makeExploreMap};
 
 }  // namespace verdalis
