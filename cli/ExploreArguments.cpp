@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "engine/BestMix.h"
+#include "explore/water.h"
 #include "screens/IrrigCostsPane.h"
 #include "screens/MainPane.h"
 #include "text/encoding.h"
@@ -30,6 +31,23 @@ constexpr std::array<InputWord, 6> inputWords{{{"water", Kind::water, false},
                                                {"fuel", Kind::fuel, false},
                                                {"price", Kind::price, true},
                                                {"max-yield", Kind::maxYield, true}}};
+
+/// The unit of an input for the head of a table; nothing where it depends on the crop or the fuel.
+constexpr std::string_view unitOf(Kind kind) {
+  switch (kind) {
+    case Kind::water:
+    case Kind::rain:
+      return "in.";
+    case Kind::efficiency:
+      return "%";
+    case Kind::fuel:
+    case Kind::price:
+      return "$";
+    case Kind::maxYield:
+      break;
+  }
+  return "/ac";
+}
 
 constexpr std::string_view inputForms = "water, rain, efficiency, fuel, price CROP or max-yield CROP";
 constexpr std::string_view blanks = " \t";
@@ -120,6 +138,10 @@ std::string inputName(const FarmInput& input) {
   return std::string(found->word) + (found->ofCrop ? " " + input.crop : "");
 }
 
+std::string inputTitle(const FarmInput& input) {
+  return inputName(input) + ", " + std::string(unitOf(input.kind));
+}
+
 FarmInput readInput(const std::string& option, const std::string& text, const Farm& farm) {
   try {
     return inputOf(trimmed(text), farm);
@@ -200,10 +222,7 @@ void requireAccepted(const std::string& option, const FarmInput& input, double v
   if (bounds.most && value > *bounds.most)
     refuse(option, generalText(value), "The " + name + " is at most " + generalText(*bounds.most) + ".");
   if (input.kind != Kind::water) return;
-  Farm watered;
-  watered.acres = farm.acres;
-  watered.takeWater(value);
-  if (watered.grossVolume == 0) {
+  if (!isWater(farm, value)) {
     refuse(option, generalText(value),
            "The water must be so many inches that acres times inches are at least 1 ac-in.");
   }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstddef>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -9,6 +8,7 @@
 #include "cli/Messages.h"
 #include "engine/Farm.h"
 #include "explore/FarmInput.h"
+#include "explore/inputs.h"
 
 namespace verdalis {
 
@@ -21,6 +21,9 @@ inline constexpr std::size_t mostPoints = 100000;
 
 /// How an input is named, such as "water" or "price Corn".
 [[nodiscard]] std::string inputName(const FarmInput& input);
+
+/// The same with its unit, for a table.
+[[nodiscard]] std::string inputTitle(const FarmInput& input);
 
 /// Reads the name of an input, in any case, and of a crop as elsewhere: exactly, else ignoring case where
 /// only one chosen crop fits. `option` begins the message, such as "--input".
@@ -56,11 +59,7 @@ struct InputRange {
 /// \throws Refusal for any other text
 [[nodiscard]] InputRange readInputRange(const std::string& option, const std::string& text, const Farm& farm);
 
-/// What the main window takes for an input, both ends included; nothing where it sets no bound.
-struct InputBounds {
-  std::optional<double> least;
-  std::optional<double> most;
-};
+/// What the main window takes for an input.
 [[nodiscard]] InputBounds inputBounds(const FarmInput& input, const Farm& farm);
 
 /// \throws Refusal for a value that the main window would refuse for the input, and for water whose volume

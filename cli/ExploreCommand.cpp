@@ -10,14 +10,24 @@
 #include "cli/Interrupt.h"
 #include "cli/OptionsWriter.h"
 #include "cli/Progress.h"
+#include "cli/TextTable.h"
 #include "cli/output.h"
+#include "cli/relaxation.h"
 #include "cli/textOptions.h"
+#include "explore/bestPlan.h"
 
 namespace verdalis {
 namespace {
 
 bool isTerminal(const std::ostream& out) {
   return &out == &std::cout && isatty(STDOUT_FILENO) == 1;
+}
+
+/// A line for each wish, and a blank one behind them.
+void writeWishes(std::ostream& out, const Farm& farm) {
+  for (const std::string& wish : wishTexts(farm.wishes))
+    out << "Wish: " << printable(wish) << '\n';
+  if (!farm.wishes.empty()) out << '\n';
 }
 
 }  // namespace
@@ -54,7 +64,14 @@ void ExploreCommand::answer(ExploreQuestion& question, std::ostream& out, Messag
     const Farm farm = exploredFarm(request_.farm, messages);
     ProgramState state;
     Progress progress(asTerminal(messages.stream()), state);
-    question.answer({farm, request_.format, !request_.output && isTerminal(out), state, progress}, text);
+    if (request_.format == "table") writeWishes(text, farm);
+    try {
+      question.answer({farm, request_.format, !request_.output && isTerminal(out), state, progress}, text);
+    } catch (const NoPlan& noPlan) {
+      if (request_.format == "json")
+        deliver(noPlanJson(farm.wishes, noPlan.relaxations()), request_.output, out);
+      throw;
+    }
   }
   deliver(std::move(text).str(), request_.output, out);
 }

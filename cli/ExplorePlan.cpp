@@ -1,6 +1,6 @@
 #include "cli/ExplorePlan.h"
 
-#include <array>
+#include <algorithm>
 #include <nlohmann/json.hpp>
 
 #include "cli/CsvWriter.h"
@@ -8,6 +8,26 @@
 #include "text/numbers.h"
 
 namespace verdalis {
+namespace {
+
+/// A number without the zeros at its end.
+std::string trimmedNumber(double value, std::string_view pattern) {
+  std::string text = formatNumber(value, pattern);
+  text.erase(text.find_last_not_of('0') + 1);
+  if (text.back() == '.') text.pop_back();
+  return text;
+}
+
+std::vector<PlannedField> asFields(const Mix& mix) {
+  std::vector<PlannedField> fields;
+  fields.reserve(mix.size());
+  for (const MixPart& part : mix)
+    fields.push_back({part.acres, part.crop, 0, 0, 0});
+  return fields;
+}
+
+}  // namespace
+
 Json fieldsJson(const std::vector<PlannedField>& fields, FieldFigures figures) {
   Json list = Json::array();
   for (const PlannedField& field : fields) {
@@ -61,10 +81,11 @@ std::string inchesText(double depth) {
 }
 
 std::string acresText(double acres) {
-  std::string text = formatNumber(acres, "###,###,##0.00");
-  text.erase(text.find_last_not_of('0') + 1);
-  if (text.back() == '.') text.pop_back();
-  return text + " ac";
+  return trimmedNumber(acres, "###,###,##0.00") + " ac";
+}
+
+std::string valueText(double value) {
+  return trimmedNumber(value, "###,###,##0.0000");
 }
 
 std::string planText(const std::vector<PlannedField>& fields) {
@@ -76,11 +97,29 @@ std::string planText(const std::vector<PlannedField>& fields) {
   return text;
 }
 
-std::string mixText(const std::vector<PlannedField>& fields) {
+std::string mixText(const Mix& mix) {
+  Mix sums;
+  for (const MixPart& part : mix) {
+    const auto same =
+        std::find_if(sums.begin(), sums.end(), [&](const MixPart& sum) { return sum.crop == part.crop; });
+    if (same == sums.end()) {
+      sums.push_back(part);
+    } else {
+      same->acres += part.acres;
+    }
+  }
   std::string text;
-  for (const PlannedField& field : fields)
-    text += (text.empty() ? "" : " + ") + acresText(field.acres) + " " + printable(field.crop);
+  for (const MixPart& sum : sums)
+    text += (text.empty() ? "" : " + ") + acresText(sum.acres) + " " + printable(sum.crop);
   return text;
+}
+
+Json mixJson(const Mix& mix) {
+  return fieldsJson(asFields(mix), FieldFigures::mix);
+}
+
+std::string mixCsv(const Mix& mix) {
+  return fieldsCsv(asFields(mix), FieldFigures::mix);
 }
 
 }  // namespace verdalis

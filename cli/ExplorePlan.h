@@ -8,6 +8,7 @@
 
 #include "cli/JsonWriter.h"
 #include "explore/bestPlan.h"
+#include "explore/mixOf.h"
 
 namespace verdalis {
 
@@ -34,6 +35,15 @@ enum class FieldFigures {
 [[nodiscard]] std::string fieldsCsv(const std::vector<PlannedField>& fields,
                                     FieldFigures figures = FieldFigures::all);
 
+/// The list of the parts of a mix.
+[[nodiscard]] Json mixJson(const Mix& mix);
+
+/// Its cells: those of the acres and crops of four fields.
+[[nodiscard]] std::string mixCsv(const Mix& mix);
+
+/// Up to four decimals, such as "6.5".
+[[nodiscard]] std::string valueText(double value);
+
 /// Whole dollars, such as "-$1,234".
 [[nodiscard]] std::string dollarsText(double amount);
 
@@ -46,7 +56,7 @@ enum class FieldFigures {
 /// A plan in words, such as "50 ac Corn 12.0 in., 50 ac Wheat 3.5 in.", with gross inches.
 [[nodiscard]] std::string planText(const std::vector<PlannedField>& fields);
 
-/// A mix in words, such as "50 ac Corn + 50 ac Wheat".
-[[nodiscard]] std::string mixText(const std::vector<PlannedField>& fields);
+/// A mix in words, such as "50 ac Corn + 50 ac Wheat", the acres of a crop together.
+[[nodiscard]] std::string mixText(const Mix& mix);
 
 }  // namespace verdalis

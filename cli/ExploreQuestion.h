@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "cli/Interrupt.h"
+#include "cli/JsonWriter.h"
 #include "cli/Messages.h"
 #include "engine/Farm.h"
 #include "engine/ProgramState.h"
@@ -43,6 +44,9 @@ class ExploreQuestion {
   /// \throws Refusal for its options, before anything is worked out; Cancelled, NoPlan, RunTimeError
   virtual void answer(const ExploreCall& call, std::ostream& out) = 0;
 };
+
+/// Begins the JSON object of an answer, with the wishes where there are any.
+void beginAnswer(JsonStream& json, const Farm& farm);
 
 /// What a question has found. \throws Cancelled where that is nothing, and after a Ctrl+C
 template <class Found>

@@ -11,8 +11,12 @@ namespace verdalis {
 
 [[nodiscard]] std::unique_ptr<ExploreQuestion> makeExploreWater();
 [[nodiscard]] std::unique_ptr<ExploreQuestion> makeExploreSwitch();
+[[nodiscard]] std::unique_ptr<ExploreQuestion> makeExploreSeasons();
+[[nodiscard]] std::unique_ptr<ExploreQuestion> makeExploreInputs();
+[[nodiscard]] std::unique_ptr<ExploreQuestion> makeExploreMap();
 
 /// The questions, in the order in which the help tells them.
-inline constexpr std::array exploreQuestions{makeExploreWater, makeExploreSwitch};
+inline constexpr std::array exploreQuestions{makeExploreWater, makeExploreSwitch, makeExploreSeasons,
+                                             makeExploreInputs, makeExploreMap};
 
 }  // namespace verdalis

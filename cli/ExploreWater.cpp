@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <nlohmann/json.hpp>
 #include <optional>
 #include <ostream>
@@ -11,6 +10,7 @@
 #include "cli/TextTable.h"
 #include "cli/drawCurve.h"
 #include "cli/textOptions.h"
+#include "engine/MakingSplits.h"
 #include "explore/water.h"
 #include "text/numbers.h"
 
@@ -23,10 +23,10 @@ Json pointJson(const WaterPoint& point) {
           {"fields", fieldsJson(point.best.fields)}};
 }
 
-void writeJson(std::ostream& out, const WaterResult& result) {
+void writeJson(std::ostream& out, const Farm& farm, const WaterResult& result) {
   JsonStream json(out);
   const WaterPoint& most = result.points[result.most];
-  json.beginObject();
+  beginAnswer(json, farm);
   json.put("now", pointJson(result.now));
   json.put("nextInch", jsonNumber(result.nextInch));
   json.put("lastInch", result.lastInch ? jsonNumber(*result.lastInch) : Json());
@@ -60,14 +60,6 @@ void writeSummary(std::ostream& out, const WaterResult& result) {
       << " inches.\n\n";
 }
 
-/// The number of fields of the plan that has most.
-std::size_t fieldsOf(const WaterResult& result) {
-  std::size_t count = result.now.best.fields.size();
-  for (const WaterPoint& point : result.points)
-    count = std::max(count, point.best.fields.size());
-  return count;
-}
-
 std::vector<std::string> rowOf(const WaterPoint& point, std::size_t fields) {
   std::vector<std::string> row{formatNumber(point.gross, "#0.00"), dollarsText(point.best.profit)};
   for (std::size_t i = 0; i < fields; ++i) {
@@ -84,7 +76,7 @@ std::vector<std::string> rowOf(const WaterPoint& point, std::size_t fields) {
   return row;
 }
 
-void writeTable(std::ostream& out, const WaterResult& result, bool onTerminal) {
+void writeTable(std::ostream& out, const Farm& farm, const WaterResult& result, bool onTerminal) {
   writeSummary(out, result);
   if (onTerminal) {
     std::vector<CurvePoint> curve;
@@ -93,10 +85,12 @@ void writeTable(std::ostream& out, const WaterResult& result, bool onTerminal) {
     drawCurve(out, curve, "Net return by gross inches over the farm");
     out << '\n';
   }
-  const std::size_t fields = fieldsOf(result);
+  const Split acres = percentToAcres(farm.division, farm.acres);
+  const auto fields = static_cast<std::size_t>(acres.Count());
   std::vector<TextTable::Column> columns{{"Gross in."}, {"Net return"}};
   for (std::size_t i = 1; i <= fields; ++i) {
-    columns.push_back({"Field " + std::to_string(i), TextTable::Align::left, true});
+    columns.push_back({"Field " + std::to_string(i) + ", " + acresText(acres.getSplits()[i - 1]),
+                       TextTable::Align::left, true});
     columns.push_back({"in."});
   }
   TextTable table(std::move(columns));
@@ -130,11 +124,11 @@ class ExploreWater : public ExploreQuestion {
     const std::vector<double> asked = amounts(call.farm);
     const WaterResult result = answered(exploreWater(call.farm, asked, call.state, call.hooks));
     if (call.format == "json") {
-      writeJson(out, result);
+      writeJson(out, call.farm, result);
     } else if (call.format == "csv") {
       writeCsv(out, result);
     } else {
-      writeTable(out, result, call.onTerminal);
+      writeTable(out, call.farm, result, call.onTerminal);
     }
   }
 

@@ -39,22 +39,23 @@ std::string cutTo(std::size_t characters, std::string text) {
   return text += dots;
 }
 
-std::string wrapped(std::string_view text, std::size_t indent) {
+std::string wrapped(std::string_view text, std::size_t indent, std::size_t column) {
   std::string result;
-  std::size_t column = 0;
+  bool first = true;
   while (!text.empty()) {
     const std::size_t end = std::min(text.find(' '), text.size());
     const std::string_view word = text.substr(0, end);
-    const bool fits = column == 0 || column + 1 + textWidth(word) <= mostTableColumns;
+    const bool fits = first || column + 1 + textWidth(word) <= mostTableColumns;
     if (!fits) {
       result += '\n' + std::string(indent, ' ');
       column = indent;
-    } else if (column > 0) {
+    } else if (!first) {
       result += ' ';
       ++column;
     }
     result += word;
     column += textWidth(word);
+    first = false;
     text.remove_prefix(std::min(end + 1, text.size()));
   }
   return result;

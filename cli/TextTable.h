@@ -21,8 +21,9 @@ inline constexpr std::size_t mostTableColumns = 100;
 /// The text, cut to a number of characters, 3 or more, with dots at its end.
 [[nodiscard]] std::string cutTo(std::size_t characters, std::string text);
 
-/// Lines of at most 100 columns, broken at blanks.
-[[nodiscard]] std::string wrapped(std::string_view text, std::size_t indent = 0);
+/// Lines of at most 100 columns, broken at blanks. The first begins at a column of its line, the others are
+/// indented.
+[[nodiscard]] std::string wrapped(std::string_view text, std::size_t indent = 0, std::size_t column = 0);
 
 /// Aligned rows below a head.
 class TextTable {

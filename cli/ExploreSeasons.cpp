@@ -1,0 +1,180 @@
+#include <algorithm>
+#include <nlohmann/json.hpp>
+#include <optional>
+#include <ostream>
+
+#include "cli/CsvWriter.h"
+#include "cli/ExploreArguments.h"
+#include "cli/ExplorePlan.h"
+#include "cli/ExploreQuestions.h"
+#include "cli/TextTable.h"
+#include "cli/textOptions.h"
+#include "explore/seasons.h"
+#include "text/quote.h"
+
+namespace verdalis {
+namespace {
+
+constexpr std::size_t leastSeasons = 2;
+constexpr std::size_t mostSeasons = 9;
+
+Season readSeason(const std::string& text) {
+  const auto refuse = [&](const std::string& why) {
+    throw Refusal("--season " + quoteForMessage(text) + ": " + why);
+  };
+  const std::size_t last = text.rfind(':');
+  const std::size_t first =
+      last == std::string::npos || last == 0 ? std::string::npos : text.rfind(':', last - 1);
+  if (first == std::string::npos || first == 0) refuse("The form is NAME:RAIN:WEIGHT.");
+  Season season;
+  season.name = text.substr(0, first);
+  season.rain = readNumber("--season", text.substr(first + 1, last - first - 1));
+  season.weight = readNumber("--season", text.substr(last + 1));
+  if (!(season.weight > 0)) refuse("The weight is above 0.");
+  return season;
+}
+
+std::vector<Season> readSeasons(const std::vector<std::string>& texts) {
+  std::vector<Season> seasons;
+  for (const std::string& text : texts) {
+    seasons.push_back(readSeason(text));
+    const auto same = std::find_if(seasons.begin(), seasons.end(),
+                                   [&](const Season& season) { return season.name == seasons.back().name; });
+    if (same != seasons.end() - 1)
+      throw Refusal("--season " + quoteForMessage(text) + ": There is a season of that name already.");
+  }
+  if (seasons.size() < leastSeasons || seasons.size() > mostSeasons) {
+    throw Refusal("There are " + std::to_string(leastSeasons) + " to " + std::to_string(mostSeasons) +
+                  " seasons (--season NAME:RAIN:WEIGHT), not " + std::to_string(seasons.size()) + ".");
+  }
+  return seasons;
+}
+
+Json planJson(const SeasonPlan& plan) {
+  Json profits = Json::array();
+  for (const double profit : plan.profits)
+    profits.push_back(jsonNumber(profit));
+  return {{"average", jsonNumber(plan.average)},
+          {"worst", jsonNumber(plan.worst)},
+          {"regret", jsonNumber(plan.regret)},
+          {"profits", std::move(profits)},
+          {"fields", fieldsJson(plan.fields, FieldFigures::depths)}};
+}
+
+void writeJson(std::ostream& out, const Farm& farm, const SeasonsResult& result) {
+  JsonStream json(out);
+  beginAnswer(json, farm);
+  json.beginList("seasons");
+  for (const SeasonBest& season : result.seasons) {
+    json.put({{"name", season.season.name},
+              {"rain", jsonNumber(season.season.rain)},
+              {"weight", jsonNumber(season.season.weight)},
+              {"profit", jsonNumber(season.best.profit)},
+              {"fields", fieldsJson(season.best.fields)}});
+  }
+  json.end();
+  json.beginList("options");
+  for (const SeasonPlan& plan : result.options)
+    json.put(planJson(plan));
+  json.end();
+  json.put("safest", planJson(result.safest));
+  json.end();
+}
+
+/// A row an option, and one for the safest plan.
+void writeCsv(std::ostream& out, const SeasonsResult& result) {
+  out << "option,average,worst,regret";
+  for (std::size_t season = 1; season <= result.seasons.size(); ++season)
+    out << ",profit_" << season;
+  out << fieldsCsvHead(FieldFigures::depths) << "\r\n";
+  const auto writeRow = [&](const std::string& name, const SeasonPlan& plan) {
+    out << name;
+    for (const double value : {plan.average, plan.worst, plan.regret})
+      out << ',' << csvNumber(value);
+    for (const double profit : plan.profits)
+      out << ',' << csvNumber(profit);
+    out << fieldsCsv(plan.fields, FieldFigures::depths) << "\r\n";
+  };
+  for (std::size_t i = 0; i < result.options.size(); ++i)
+    writeRow(std::to_string(i + 1), result.options[i]);
+  writeRow("safest", result.safest);
+}
+
+void writeIndented(std::ostream& out, const std::string& text) {
+  constexpr std::size_t indent = 4;
+  out << std::string(indent, ' ') << wrapped(text, indent, indent) << '\n';
+}
+
+void writePlan(std::ostream& out, const std::string& title, const SeasonPlan& plan,
+               const SeasonsResult& result) {
+  std::string profits;
+  for (std::size_t i = 0; i < plan.profits.size(); ++i) {
+    profits += (profits.empty() ? "" : ", ") + printable(result.seasons[i].season.name) + " " +
+               dollarsText(plan.profits[i]);
+  }
+  out << title << ": average " << dollarsText(plan.average) << ", worst " << dollarsText(plan.worst)
+      << ", regret " << dollarsText(plan.regret) << '\n';
+  writeIndented(out, profits);
+  writeIndented(out, planText(plan.fields));
+  out << '\n';
+}
+
+void writeTable(std::ostream& out, const SeasonsResult& result) {
+  for (const SeasonBest& season : result.seasons) {
+    out << "Season " << printable(season.season.name) << ": rain " << valueText(season.season.rain)
+        << " in., weight " << valueText(season.season.weight) << ", best net return "
+        << dollarsText(season.best.profit) << '\n';
+    writeIndented(out, planText(season.best.fields));
+  }
+  out << "\nPlans that are chosen before the season is known, the best average first:\n\n";
+  for (std::size_t i = 0; i < result.options.size(); ++i)
+    writePlan(out, "Option " + std::to_string(i + 1), result.options[i], result);
+  writePlan(out, "Safest plan", result.safest, result);
+  out << wrapped(
+             "The average is that of the net returns by the weights of the seasons, the worst is the lowest "
+             "of them. The regret is the most that a plan falls behind the best plan of a season; the safest "
+             "plan has the least of all plans. Inches are gross. Rain counts in whole inches.")
+      << '\n';
+}
+
+class ExploreSeasons : public ExploreQuestion {
+ public:
+  [[nodiscard]] std::string_view name() const override { return "seasons"; }
+  [[nodiscard]] std::string_view description() const override {
+    return "What if it stays dry: plans over several kinds of season";
+  }
+
+  void addOptions(CLI::App& command) override {
+    addTextOption(
+        command, "--season", "NAME:RAIN:WEIGHT", texts_,
+        "A season with its rain in inches and its weight; without any\ndry, normal and wet, 3 inches "
+        "apart, weighing 1, 2 and 1");
+  }
+
+  void answer(const ExploreCall& call, std::ostream& out) override {
+    const std::vector<Season> seasons = texts_.empty() ? usualSeasons(call.farm.rain) : readSeasons(texts_);
+    call.hooks.showProgress("Exploring Seasons");
+    call.hooks.setProgress(1, "seasons");
+    std::optional<SeasonsResult> found = exploreSeasons(call.farm, seasons, call.state, call.hooks);
+    call.hooks.closeProgress();
+    const SeasonsResult result = answered(std::move(found));
+    if (call.format == "json") {
+      writeJson(out, call.farm, result);
+    } else if (call.format == "csv") {
+      writeCsv(out, result);
+    } else {
+      writeTable(out, result);
+    }
+  }
+
+ private:
+  std::vector<std::string> texts_;
+};
+
+}  // namespace
+
+std::unique_ptr<ExploreQuestion> makeExploreSeasons() {
+  return std::make_unique<ExploreSeasons>();
+}
+
+}  // namespace verdalis
