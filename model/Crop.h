@@ -14,6 +14,20 @@ namespace verdalis {
 /// The tables of one soil: "yield" (absolute) first, "relative" second, or nothing.
 using SoilTables = std::vector<std::pair<std::string, SharedYieldTable>>;
 
+/// How a yield is read from the yield table of a crop.
+struct YieldReading {
+  double depth = 0;       ///< Net inches that count: at most the table's top
+  int rain = 0;           ///< Column: whole inches of annual rain
+  int lo = 0;             ///< Row that is read first: whole inches, with a small rounding up
+  int hi = 0;             ///< The row above it, or the top
+  double atLo = 0;        ///< Cell of `lo`
+  double atHi = 0;        ///< Cell of `hi`
+  double between = 0;     ///< At `depth`, on the straight line through both cells
+  bool absolute = false;  ///< The cells are yields; else fractions of the maximum yield
+  double scale = 0;       ///< normalFactor of absolute cells, else maxYield
+  double Yield = 0;       ///< Yield units per acre
+};
+
 /// One candidate crop: name, units, price, the yield expected at full water, production costs, and the yield
 /// table from which everything that the search learns about water is read.
 class Crop {
@@ -48,6 +62,10 @@ class Crop {
   /// and `annualRain` (inches, read from the nearest whole inch, halves to even). 0 for Fallow.
   /// \throws RunTimeError (subscript) without a table, or outside it; (overflow)
   [[nodiscard]] double yieldAt(double Depth, double annualRain) const;
+
+  /// How yieldAt() comes to its yield. Not for Fallow, which yields nothing whatever its table.
+  /// \throws RunTimeError as yieldAt()
+  [[nodiscard]] YieldReading readYield(double Depth, double annualRain) const;
 
   /// Sets Yield to yieldAt(). A Depth above the table is set to the table's top, in the caller's variable
   /// too. \throws RunTimeError as yieldAt()

@@ -8,10 +8,19 @@
 
 namespace verdalis {
 
+/// What makes up the irrigation costs of a field.
+struct PumpingParts {
+  double waterHorsepower = 0;
+  double labor = 0;    ///< Dollars for the field
+  double fuel = 0;     ///< Dollars for the field
+  double repairs = 0;  ///< Dollars for the field
+};
+
 /// The irrigation of a field over a season.
 struct PumpingCosts {
-  double cost = 0;   ///< Dollars for the field
-  double hours = 0;  ///< Pumping hours
+  double cost = 0;     ///< Dollars for the field
+  double hours = 0;    ///< Pumping hours
+  PumpingParts parts;  ///< Nothing where no water is pumped, or a trend has replaced the cost
 };
 
 /// What water costs at the farm's pumping plant, built up from pump physics. One object describes the plant;
@@ -39,6 +48,9 @@ class IrrigationCosts {
   /// over and counts as 0.
   [[nodiscard]] PumpingCosts price(double Depth, double acres, double efficiency) const;
 
+  /// Whether a field of a net depth, inches, costs what it takes to pump its water.
+  [[nodiscard]] bool pumps(double Depth) const { return Depth > 0 && active && !(GPM <= 0 || NPC <= 0); }
+
   /// The cost of price(), dollars; `hours` takes its hours.
   double getCosts(double Depth, double acres, double efficiency = EfficiencyFraction);
 
@@ -58,6 +70,8 @@ inline constexpr double feetPerPsi = 2.31;
 inline constexpr double gallonFeetPerHorsepower = 3960;
 /// Gallons per minute that pump one acre-inch in an hour.
 inline constexpr double gpmPerAcreInchHour = 450;
+/// Hours of labor that irrigating an acre takes in a season, whatever the depth.
+inline constexpr double laborHoursPerAcre = 0.5;
 /// Gallons in an acre-inch, as the pumping capacity counts them (the hint of the irrigation cost pane uses
 /// 27154.2876; both are meant).
 inline constexpr double gallonsPerAcreInch = 27154;
