@@ -3,11 +3,13 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "engine/ProgramState.h"
 #include "model/FieldCollection.h"
+#include "results/ExplainedSteps.h"
 
 namespace verdalis {
 
@@ -43,6 +45,13 @@ struct OptionResult {
   [[nodiscard]] double acres() const;
 };
 
+/// How one field comes to its net return.
+struct Explanation {
+  std::size_t option = 0;  ///< From 1
+  std::size_t field = 0;   ///< From 1
+  std::vector<ExplainedStep> steps;
+};
+
 /// What one evaluation has found: plain values that writers show and that nothing else refers to.
 struct EvaluationResult {
   std::size_t waterSplits = 0;
@@ -50,6 +59,7 @@ struct EvaluationResult {
   double efficiency = 0;              ///< Fraction
   double seconds = 0;                 ///< Time that the run took
   std::vector<OptionResult> options;  ///< Best first
+  std::optional<Explanation> explanation;
 
   /// Water splits times crop combinations.
   [[nodiscard]] std::uint64_t candidates() const { return waterSplits * cropCombinations; }
