@@ -7,6 +7,7 @@
 #include "cli/Interrupt.h"
 #include "cli/OptionsWriter.h"
 #include "cli/Progress.h"
+#include "cli/explain.h"
 #include "cli/output.h"
 #include "cli/relaxation.h"
 #include "cli/textOptions.h"
@@ -15,10 +16,19 @@
 namespace verdalis {
 namespace {
 
+/// The field to explain. \throws Refusal for a text that is none, and for a format that has no place for it
+std::optional<FieldPlace> placeToExplain(const EvaluateRequest& request) {
+  if (!request.explain) return std::nullopt;
+  if (request.format == "csv")
+    throw Refusal("--explain is told as a table or as JSON: --format table or --format json.");
+  return readFieldPlace(*request.explain);
+}
+
 /// \throws Cancelled after a Ctrl+C, whenever it came.
-EvaluationResult runFarm(const FarmRequest& request, Reports& reports, Messages& messages) {
+EvaluationResult runFarm(const EvaluateRequest& request, Reports& reports, Messages& messages) {
+  const std::optional<FieldPlace> place = placeToExplain(request);
   const Interrupt interrupt;
-  const std::unique_ptr<TypedFarm> farm = makeFarm(request, messages);
+  const std::unique_ptr<TypedFarm> farm = makeFarm(request.farm, messages);
   requireReady(farm->inputs());
 
   Progress progress(asTerminal(messages.stream()), farm->state());
@@ -35,6 +45,7 @@ EvaluationResult runFarm(const FarmRequest& request, Reports& reports, Messages&
     return result;
   }
   reports.write(farm->printer(), *options);
+  if (place) result.explanation = explain(*place, *options, result.efficiency);
   return result;
 }
 
@@ -50,12 +61,16 @@ const CLI::App& addEvaluateCommand(CLI::App& app, EvaluateRequest& request) {
       ->check(CLI::IsMember(optionsFormats()));
   addTextOption(command, "--output", "FILE", request.output, "Write there in place of standard output");
   addReportOptions(command, request.reports);
+  addTextOption(
+      command, "--explain", "K.F", request.explain,
+      "Also tell step by step how field F of option K comes to its net return,\nboth counted from 1; as "
+      "table or json");
   return command;
 }
 
 void evaluate(const EvaluateRequest& request, std::ostream& out, Messages& messages) {
   Reports reports(request.reports);
-  const EvaluationResult result = runFarm(request.farm, reports, messages);
+  const EvaluationResult result = runFarm(request, reports, messages);
   if (result.relax && request.format != "json") throw NoPlan(*result.relax);
   // All of the text is there before the first byte goes out, so that a failure leaves no part of a result
   // behind.

@@ -17,6 +17,7 @@ struct EvaluateRequest {
   std::string format = "table";
   std::optional<std::string> output;  ///< File in place of standard output
   ReportRequest reports;
+  std::optional<std::string> explain;  ///< "K.F": how field F of option K comes to its net return
 };
 
 /// Adds the command `evaluate` to the program. Parsing fills the request, which must live as long as the

@@ -10,6 +10,7 @@
 #include "engine/ProgramState.h"
 #include "engine/relaxWishes.h"
 #include "model/FieldCollection.h"
+#include "results/ExplainedSteps.h"
 
 namespace verdalis {
 
@@ -45,6 +46,13 @@ struct OptionResult {
   [[nodiscard]] double acres() const;
 };
 
+/// How one field comes to its net return.
+struct Explanation {
+  std::size_t option = 0;  ///< From 1
+  std::size_t field = 0;   ///< From 1
+  std::vector<ExplainedStep> steps;
+};
+
 /// What one evaluation has found: plain values that writers show and that nothing else refers to.
 struct EvaluationResult {
   std::size_t waterSplits = 0;
@@ -54,6 +62,7 @@ struct EvaluationResult {
   std::vector<std::string> wishes;    ///< What every option meets, in the standard form
   bool mixes = false;                 ///< The options are the best of their mixes
   std::vector<OptionResult> options;  ///< Best first
+  std::optional<Explanation> explanation;
 
   /// What to give up, where no candidate meets all wishes.
   std::optional<std::vector<Relaxation>> relax;

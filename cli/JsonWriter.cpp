@@ -36,6 +36,17 @@ Json toJson(const FieldResult& field) {
           {"hours", jsonNumber(field.hours)}};
 }
 
+void writeSteps(JsonStream& json, const Explanation& explanation) {
+  json.beginList("steps");
+  for (const ExplainedStep& step : explanation.steps) {
+    json.put({{"what", step.what},
+              {"formula", step.formula},
+              {"value", jsonNumber(step.value)},
+              {"unit", step.unit}});
+  }
+  json.end();
+}
+
 }  // namespace
 
 Json jsonNumber(double value) {
@@ -109,6 +120,7 @@ void writeJson(std::ostream& out, const EvaluationResult& result) {
     json.put(toJson(option));
   json.end();
   if (result.relax) json.put("relax", relaxJson(*result.relax));
+  if (result.explanation) writeSteps(json, *result.explanation);
   json.end();
 }
 

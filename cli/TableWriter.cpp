@@ -133,6 +133,18 @@ std::string grouped(std::uint64_t count) {
   return text;
 }
 
+void writeSteps(std::ostream& out, const Explanation& explanation) {
+  out << "\nHow field " << explanation.field << " of option " << explanation.option
+      << " comes to its net return:\n";
+  std::size_t number = 0;
+  for (const ExplainedStep& step : explanation.steps) {
+    const std::string place = std::to_string(++number) + ". ";
+    const std::string margin(place.size() < 4 ? 4 - place.size() : 0, ' ');
+    out << margin << wrapped(place + printable(step.what + ": " + step.shown + " = " + step.formula), 4)
+        << '\n';
+  }
+}
+
 }  // namespace
 
 void writeTable(std::ostream& out, const EvaluationResult& result) {
@@ -157,6 +169,7 @@ void writeTable(std::ostream& out, const EvaluationResult& result) {
       writeRow(out, row, widths);
   }
   out << "\nCosts include irrigation costs. Net returns to land, management, and irrigation equipment.\n";
+  if (result.explanation) writeSteps(out, *result.explanation);
 }
 
 }  // namespace verdalis

@@ -50,6 +50,10 @@ void Crop::setYieldTable(const YieldTable& table) {
 
 double Crop::yieldAt(double Depth, double annualRain) const {
   if (cropKind(cropType) == CropKind::fallow) return 0;
+  return readYield(Depth, annualRain).Yield;
+}
+
+YieldReading Crop::readYield(double Depth, double annualRain) const {
   if (!yieldTable) {
     throw RunTimeError(ErrorNumber::subscript, "The crop " + cropType + " has no yield table.");
   }
@@ -64,23 +68,33 @@ double Crop::yieldAt(double Depth, double annualRain) const {
                                                    " inches is outside the yield table of " + cropType +
                                                    ". Check the irrigation amount and efficiency.");
   }
-  const int lo = static_cast<int>(whole);
-  if (!table.contains(lo, rain)) {
+  YieldReading reading;
+  reading.depth = Depth;
+  reading.rain = rain;
+  reading.lo = static_cast<int>(whole);
+  if (!table.contains(reading.lo, rain)) {
     throw RunTimeError(ErrorNumber::subscript, "Annual rainfall " + generalText(annualRain) +
                                                    " is outside the yield table of " + cropType + " (" +
                                                    describeRange(table) + ").");
   }
-  const int hi = lo + 1 > top ? top : lo + 1;
-  const double y0 = table.cell(lo, rain);
-  const double y1 = table.cell(hi, rain);
+  reading.hi = reading.lo + 1 > top ? top : reading.lo + 1;
+  const double y0 = table.cell(reading.lo, rain);
+  const double y1 = table.cell(reading.hi, rain);
+  reading.atLo = y0;
+  reading.atHi = y1;
 
   // Intended: this one cell, not the whole table, decides between absolute and relative. So a cell of 1 or
   // less in a dry corner of an absolute table counts as relative.
-  const double scale = y1 > 1.0 ? normalFactor : maxYield;
-  if (y0 == y1) return checkedYield(y0 * scale, cropType);
-  // Intended: just below a whole inch, lo is above Depth, so t is a small negative number.
-  const double t = (Depth - lo) / (hi - lo);
-  return checkedYield((y0 + t * (y1 - y0)) * scale, cropType);
+  reading.absolute = y1 > 1.0;
+  reading.scale = reading.absolute ? normalFactor : maxYield;
+  reading.between = y0;
+  if (y0 != y1) {
+    // Intended: just below a whole inch, lo is above Depth, so t is a small negative number.
+    const double t = (Depth - reading.lo) / (reading.hi - reading.lo);
+    reading.between = y0 + t * (y1 - y0);
+  }
+  reading.Yield = checkedYield(reading.between * reading.scale, cropType);
+  return reading;
 }
 
 void Crop::setYield(double& Depth, double annualRain) {

@@ -14,8 +14,22 @@ namespace verdalis {
 /// Yield tables of one soil: "yield" (absolute) first, "relative" second; or none.
 using SoilTables = std::vector<std::pair<std::string, SharedYieldTable>>;
 
+/// How a yield is looked up in the yield table of a crop.
+struct YieldReading {
+  double depth = 0;       ///< Net irrigation, inches, capped at the top of the table
+  int rain = 0;           ///< Column: whole inches of annual rain
+  int lo = 0;             ///< Lower row: whole inches, rounded up slightly
+  int hi = 0;             ///< The row above it, or the top
+  double atLo = 0;        ///< Cell of `lo`
+  double atHi = 0;        ///< Cell of `hi`
+  double between = 0;     ///< Interpolated between both cells at `depth`
+  bool absolute = false;  ///< Whether cells are yields, not fractions of the maximum yield
+  double scale = 0;       ///< normalFactor for absolute cells, otherwise maxYield
+  double Yield = 0;       ///< Yield units per acre
+};
+
 /// A candidate crop: name, units, price, expected yield at full irrigation, production costs, and yield
-/// table. The yield table is the search's only source for how the crop responds to water.
+/// table. The yield table is the only source of the search for how the crop responds to water.
 class Crop {
  public:
   std::string cropType;   ///< Name, exactly as in the crop file
@@ -49,6 +63,10 @@ class Crop {
   /// \param annualRain in inches; rounded to the nearest whole inch, halves to even.
   /// \throws RunTimeError (subscript) without a table or outside of it; (overflow)
   [[nodiscard]] double yieldAt(double Depth, double annualRain) const;
+
+  /// The steps of yieldAt(). Not for Fallow, which yields nothing whatever its table.
+  /// \throws RunTimeError as yieldAt()
+  [[nodiscard]] YieldReading readYield(double Depth, double annualRain) const;
 
   /// Sets Yield to yieldAt(). A Depth above the table is lowered to the top of the table, in the caller's
   /// variable too.

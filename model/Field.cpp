@@ -38,7 +38,7 @@ std::string Field::toString() {
 
 double Field::getReturn() {
   if (TotalReturn != 0) return TotalReturn;
-  TotalReturn = totalReturns(*theCrop, theCrop->Yield, acres);
+  TotalReturn = totalReturns(*theCrop, salesOf(*theCrop, theCrop->Yield, acres), acres);
   return TotalReturn;
 }
 

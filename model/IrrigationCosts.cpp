@@ -23,16 +23,18 @@ std::optional<double> fuelPerformance(std::string_view fuelType) {
 
 PumpingCosts IrrigationCosts::price(double Depth, double acres, double efficiency) const {
   // The trend's cost applies to the net depth.
-  if (UseBatch) return {stepOrZero(BatchIrrigationCosts * acres * Depth), hours};
-  if (!(Depth > 0 && active) || GPM <= 0 || NPC <= 0) return {0, hours};
+  if (UseBatch) return {stepOrZero(BatchIrrigationCosts * acres * Depth), hours, {}};
+  if (!pumps(Depth)) return {0, hours, {}};
 
   const double gross = stepOrZero(Depth / efficiency);
-  const double waterHorsepower = stepOrZero((PSI * feetPerPsi + Lift) * GPM / gallonFeetPerHorsepower);
+  PumpingParts parts;
+  parts.waterHorsepower = stepOrZero((PSI * feetPerPsi + Lift) * GPM / gallonFeetPerHorsepower);
   const double pumpingHours = gross * acres / (GPM / gpmPerAcreInchHour);
   const double hoursUsed = std::isfinite(pumpingHours) ? pumpingHours : hours;
-  const double fuel = stepOrZero((waterHorsepower / NPC) * hoursUsed * cost);
-  // Labour is half an hour per acre and season, whatever the depth.
-  return {stepOrZero(acres * 0.5 * LaborPerHour + fuel + acres * RepairsPerAcreInch * gross), hoursUsed};
+  parts.fuel = stepOrZero((parts.waterHorsepower / NPC) * hoursUsed * cost);
+  parts.labor = acres * laborHoursPerAcre * LaborPerHour;
+  parts.repairs = acres * RepairsPerAcreInch * gross;
+  return {stepOrZero(parts.labor + parts.fuel + parts.repairs), hoursUsed, parts};
 }
 
 double IrrigationCosts::getCosts(double Depth, double acres, double efficiency) {

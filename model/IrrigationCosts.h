@@ -8,10 +8,19 @@
 
 namespace verdalis {
 
+/// Parts of the irrigation costs of a field.
+struct PumpingParts {
+  double waterHorsepower = 0;
+  double labor = 0;    ///< Dollars for the field
+  double fuel = 0;     ///< Dollars for the field
+  double repairs = 0;  ///< Dollars for the field
+};
+
 /// Seasonal pumping of a field.
 struct PumpingCosts {
-  double cost = 0;   ///< Dollars for the field
-  double hours = 0;  ///< Pumping hours
+  double cost = 0;     ///< Dollars for the field
+  double hours = 0;    ///< Pumping hours
+  PumpingParts parts;  ///< All 0 if no water is pumped or a trend replaces the cost
 };
 
 /// Cost of irrigation water at the farm's pumping plant, computed from pump physics. One object describes the
@@ -40,6 +49,9 @@ class IrrigationCosts {
   /// \param efficiency as a fraction.
   [[nodiscard]] PumpingCosts price(double Depth, double acres, double efficiency) const;
 
+  /// Whether irrigating a field to a net depth, inches, costs anything.
+  [[nodiscard]] bool pumps(double Depth) const { return Depth > 0 && active && !(GPM <= 0 || NPC <= 0); }
+
   /// The cost from price(), dollars. Stores the pumping hours in `hours`.
   double getCosts(double Depth, double acres, double efficiency = EfficiencyFraction);
 
@@ -59,6 +71,8 @@ inline constexpr double feetPerPsi = 2.31;
 inline constexpr double gallonFeetPerHorsepower = 3960;
 /// Gallons per minute that deliver one acre-inch per hour.
 inline constexpr double gpmPerAcreInchHour = 450;
+/// Hours of labor per irrigated acre and season, whatever the depth.
+inline constexpr double laborHoursPerAcre = 0.5;
 /// Gallons per acre-inch, for the pumping capacity. The hint on the irrigation cost pane uses 27154.2876;
 /// both values are intended.
 inline constexpr double gallonsPerAcreInch = 27154;

@@ -8,8 +8,11 @@ double totalCosts(const ProductionCosts& production, const PumpingCosts& irrigat
   return checked(irrigation.cost + production.cost, "The cost of a field");
 }
 
-double totalReturns(const Crop& crop, double yield, double acres) {
-  const double sales = checked(crop.price * yield * acres, "The return of a field");
+double salesOf(const Crop& crop, double yield, double acres) {
+  return checked(crop.price * yield * acres, "The return of a field");
+}
+
+double totalReturns(const Crop& crop, double sales, double acres) {
   return checked(sales + crop.inputCosts.getReturns(acres), "The return of a field");
 }
 
@@ -21,7 +24,8 @@ PricedField priceField(const FieldPlan& plan, const Crop& crop, const Irrigation
       crop.inputCosts.price(plan.acres, priced.Yield, crop, grossFromNet(plan.Depth, efficiency), efficiency);
   priced.irrigation = plant.price(plan.Depth, plan.acres, efficiency);
   priced.costs = totalCosts(priced.production, priced.irrigation);
-  priced.returns = totalReturns(crop, priced.Yield, plan.acres);
+  priced.sales = salesOf(crop, priced.Yield, plan.acres);
+  priced.returns = totalReturns(crop, priced.sales, plan.acres);
   return priced;
 }
 

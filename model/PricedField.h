@@ -18,6 +18,7 @@ struct PricedField {
   ProductionCosts production;  ///< Dollars for the field
   PumpingCosts irrigation;     ///< Dollars for the field
   double costs = 0;            ///< Production and irrigation costs, dollars for the field
+  double sales = 0;            ///< Dollars for the field
   double returns = 0;          ///< Sales and other income, dollars for the field
 
   [[nodiscard]] double profit() const { return returns - costs; }
@@ -34,8 +35,12 @@ struct PricedField {
 /// \throws RunTimeError (overflow)
 [[nodiscard]] double totalCosts(const ProductionCosts& production, const PumpingCosts& irrigation);
 
-/// Sales and other income of a field with known yield, dollars.
+/// Sales of a field with known yield, dollars.
 /// \throws RunTimeError (overflow)
-[[nodiscard]] double totalReturns(const Crop& crop, double yield, double acres);
+[[nodiscard]] double salesOf(const Crop& crop, double yield, double acres);
+
+/// Sales and other income of a field, dollars.
+/// \throws RunTimeError (overflow)
+[[nodiscard]] double totalReturns(const Crop& crop, double sales, double acres);
 
 }  // namespace verdalis

@@ -12,7 +12,7 @@ ProductionCosts inputCosts::price(double acres, double yield, const Crop& crop, 
                                   double efficiency) const {
   if (UseBatch) {
     const double cost = checked(BatchGeneralCosts * acres, "The production cost of a field");
-    return {cost, NPerAcre, PPerAcre, SeedRate, AlfalfaStand};
+    return {cost, NPerAcre, PPerAcre, SeedRate, AlfalfaStand, {}};
   }
   ProductionCosts result;
   // Forage is decided by the units, not the name: a custom crop in tons has a stand life too.
@@ -21,24 +21,25 @@ ProductionCosts inputCosts::price(double acres, double yield, const Crop& crop, 
   const NutrientRates rates = nutrientRates(cropKind(crop.cropType));
 
   result.nitrogen = NOptimal ? rates.nitrogen * yield : NitrogenApplied;
-  double total = result.nitrogen * NitrogenCost * acres;
+  ProductionParts& parts = result.parts;
+  parts.nitrogen = result.nitrogen * NitrogenCost * acres;
   result.phosphorus = POptimal ? rates.phosphorus * yield : PApplied;
-  total += result.phosphorus * PCost * acres;
+  parts.phosphorus = result.phosphorus * PCost * acres;
   const SeedCosts seed =
       priceSeed(acres, crop.cropType, checked(grossDepth * efficiency, "The net irrigation depth"));
   result.seedRate = seed.rate;
-  total += seed.cost / standLife;
-  total += Herbicide * acres;
-  total += Insecticide * acres;
-  total += (Tillage * acres) / standLife;
-  total += (Planting * acres) / standLife;
-  total += FertilizerApplication * acres;
-  total += HerbicideApplication * acres;
-  total += InsecticideApplication * acres;
-  total += getHarvestCost(acres, yield, crop.cropType);
-  total += MiscCost * acres;
-  // An overflow in any term makes the total infinite or NaN.
-  result.cost = checked(total, "The production cost of a field");
+  parts.seed = seed.cost / standLife;
+  parts.herbicide = Herbicide * acres;
+  parts.insecticide = Insecticide * acres;
+  parts.tillage = (Tillage * acres) / standLife;
+  parts.planting = (Planting * acres) / standLife;
+  parts.fertilizerApplication = FertilizerApplication * acres;
+  parts.herbicideApplication = HerbicideApplication * acres;
+  parts.insecticideApplication = InsecticideApplication * acres;
+  parts.harvest = getHarvestCost(acres, yield, crop.cropType);
+  parts.misc = MiscCost * acres;
+  // An overflow in any part makes the sum infinite or NaN.
+  result.cost = checked(parts.sum(), "The production cost of a field");
   return result;
 }
 

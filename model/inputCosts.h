@@ -1,5 +1,6 @@
 #pragma once
 
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -10,6 +11,33 @@ namespace verdalis {
 
 class Crop;
 
+/// Parts of the production costs of a field, dollars, in the order in which they are added. Seed, tillage and
+/// planting are spread over the life of the stand.
+struct ProductionParts {
+  double nitrogen = 0;
+  double phosphorus = 0;
+  double seed = 0;
+  double herbicide = 0;
+  double insecticide = 0;
+  double tillage = 0;
+  double planting = 0;
+  double fertilizerApplication = 0;
+  double herbicideApplication = 0;
+  double insecticideApplication = 0;
+  double harvest = 0;
+  double misc = 0;
+
+  [[nodiscard]] double sum() const {
+    double total = nitrogen;
+    for (const double part :
+         {phosphorus, seed, herbicide, insecticide, tillage, planting, fertilizerApplication,
+          herbicideApplication, insecticideApplication, harvest, misc}) {
+      total += part;
+    }
+    return total;
+  }
+};
+
 /// Production costs of a field, and the rates behind them.
 struct ProductionCosts {
   double cost = 0;        ///< Dollars for the field
@@ -17,6 +45,7 @@ struct ProductionCosts {
   double phosphorus = 0;  ///< lb per acre
   double seedRate = 0;    ///< Seeds per acre, or lb per acre
   Number stand;           ///< Life of stand, years
+  ProductionParts parts;  ///< All 0 if a trend replaces the costs
 };
 
 /// Seed of a field, not yet spread over the life of the stand.

@@ -5,6 +5,7 @@
 #include <memory>
 #include <vector>
 
+#include "model/CropKind.h"
 #include "model/FieldCollection.h"
 #include "model/PricedField.h"
 #include "tests/support/Crops.h"
@@ -96,6 +97,26 @@ RC_GTEST_PROP(PricedField, EqualsTheResultsOfTheOperationsOfAField, (std::uint64
     RC_ASSERT(priced.production.seedRate == left.SeedRate);
     RC_ASSERT(priced.production.stand.text() == left.AlfalfaStand.text());
     RC_ASSERT(priced.irrigation.hours == field.irrigCosts->hours);
+  }
+}
+
+RC_GTEST_PROP(PricedField, IsTheSumOfItsParts, (std::uint64_t seed)) {
+  const Drawn drawn = drawFarm(seed);
+  for (const auto& source : drawn.farm) {
+    const Crop& crop = *source->theCrop;
+    const PricedField priced = priceField({source->acres, source->Depth, source->annualRain}, crop,
+                                          *source->irrigCosts, drawn.efficiency);
+    if (!crop.inputCosts.UseBatch) RC_ASSERT(priced.production.parts.sum() == priced.production.cost);
+    const PumpingParts& pumping = priced.irrigation.parts;
+    if (!source->irrigCosts->UseBatch)
+      RC_ASSERT(pumping.labor + pumping.fuel + pumping.repairs == priced.irrigation.cost);
+    RC_ASSERT(priced.sales + crop.inputCosts.getReturns(source->acres) == priced.returns);
+    RC_ASSERT(priced.irrigation.cost + priced.production.cost == priced.costs);
+    if (cropKind(crop.cropType) == CropKind::fallow) continue;
+    const YieldReading reading = crop.readYield(source->Depth, source->annualRain);
+    RC_ASSERT(reading.between * reading.scale == priced.Yield);
+    RC_ASSERT(crop.yieldTable->cell(reading.lo, reading.rain) == reading.atLo);
+    RC_ASSERT(crop.yieldTable->cell(reading.hi, reading.rain) == reading.atHi);
   }
 }
 
