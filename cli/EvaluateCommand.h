@@ -24,7 +24,8 @@ struct EvaluateRequest {
 const CLI::App& addEvaluateCommand(CLI::App& app, EvaluateRequest& request);
 
 /// One evaluation; its reports are printed, and its options go to `out` or to the file asked for, all of them
-/// or nothing. It saves no inputs. \throws Refusal, Cancelled, RunTimeError
+/// or nothing. It saves no inputs. Where no plan meets the wishes, JSON alone is written, and then the call
+/// fails. \throws Refusal, Cancelled, NoPlan, RunTimeError
 void evaluate(const EvaluateRequest& request, std::ostream& out, Messages& messages);
 
 }  // namespace verdalis

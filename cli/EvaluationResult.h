@@ -3,10 +3,12 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "engine/ProgramState.h"
+#include "engine/relaxWishes.h"
 #include "model/FieldCollection.h"
 
 namespace verdalis {
@@ -49,7 +51,12 @@ struct EvaluationResult {
   std::uint64_t cropCombinations = 0;
   double efficiency = 0;              ///< Fraction
   double seconds = 0;                 ///< Time that the run took
+  std::vector<std::string> wishes;    ///< What every option meets, in the standard form
+  bool mixes = false;                 ///< The options are the best of their mixes
   std::vector<OptionResult> options;  ///< Best first
+
+  /// What to give up, where no candidate meets all wishes.
+  std::optional<std::vector<Relaxation>> relax;
 
   /// Water splits times crop combinations.
   [[nodiscard]] std::uint64_t candidates() const { return waterSplits * cropCombinations; }

@@ -11,7 +11,9 @@
 #include "cli/OptionsWriter.h"
 #include "cli/Progress.h"
 #include "cli/output.h"
+#include "cli/relaxation.h"
 #include "cli/textOptions.h"
+#include "explore/bestPlan.h"
 
 namespace verdalis {
 namespace {
@@ -54,7 +56,13 @@ void ExploreCommand::answer(ExploreQuestion& question, std::ostream& out, Messag
     const Farm farm = exploredFarm(request_.farm, messages);
     ProgramState state;
     Progress progress(asTerminal(messages.stream()), state);
-    question.answer({farm, request_.format, !request_.output && isTerminal(out), state, progress}, text);
+    try {
+      question.answer({farm, request_.format, !request_.output && isTerminal(out), state, progress}, text);
+    } catch (const NoPlan& noPlan) {
+      if (request_.format == "json")
+        deliver(noPlanJson(farm.wishes, noPlan.relaxations()), request_.output, out);
+      throw;
+    }
   }
   deliver(std::move(text).str(), request_.output, out);
 }

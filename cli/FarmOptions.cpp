@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <stdexcept>
 #include <utility>
 
 #include "cli/textOptions.h"
@@ -112,6 +113,20 @@ void applyToRows(const FarmRequest& request, TypedFarm& farm) {
   }
 }
 
+void applyWishes(const FarmRequest& request, TypedFarm& farm) {
+  if (request.mixes) farm.keepMixes();
+  if (request.wishes.empty()) return;
+  requireReady(farm.inputs());  // a wish is about a land split and crops
+  const WishContext context = farm.wishContext();
+  for (const std::string& wish : request.wishes) {
+    try {
+      farm.makeWish(readWish(wish, context));
+    } catch (const std::invalid_argument& error) {
+      throw Refusal("--wish " + quoteForMessage(wish) + ": " + error.what());
+    }
+  }
+}
+
 }  // namespace
 
 void addFarmOptions(CLI::App& command, FarmRequest& request) {
@@ -132,6 +147,13 @@ void addFarmOptions(CLI::App& command, FarmRequest& request) {
   addTextOption(command, "--keep", "N", request.keep, "How many options to keep; 100 without it");
   addTextOption(command, "--factor", "N", request.factor,
                 "The irrigation iteration factor: steps of water\nbetween 0 and 100 %; 10 without it");
+  addTextOption(command, "--wish", "TEXT", request.wishes,
+                "What every plan must meet, such as\n\"Corn at least 40 acres\", \"field 1 is not Corn\",\n"
+                "\"field 2 at most 6 inches\" or \"at least 2 crops\"");
+}
+
+void addMixesOption(CLI::App& command, FarmRequest& request) {
+  command.add_flag("--mixes", request.mixes, "Keep the best option of each mix of acres and crops alone");
 }
 
 std::unique_ptr<TypedFarm> makeFarm(const FarmRequest& request, Messages& messages) {
@@ -159,6 +181,7 @@ std::unique_ptr<TypedFarm> makeFarm(const FarmRequest& request, Messages& messag
     applyOption("--factor", *request.factor,
                 [&] { farm->state().FineFactor = iterationFactor(*request.factor, messages); });
   }
+  applyWishes(request, *farm);
   return farm;
 }
 

@@ -26,9 +26,14 @@ struct FarmRequest {
   bool noSplit = false;
   std::optional<std::string> keep;    ///< Options to keep
   std::optional<std::string> factor;  ///< Iteration factor
+  std::vector<std::string> wishes;    ///< What every plan must meet
+  bool mixes = false;                 ///< Keep the best option of each mix alone
 };
 
 void addFarmOptions(CLI::App& command, FarmRequest& request);
+
+/// The option of the commands that rank options and can keep the best of each mix alone.
+void addMixesOption(CLI::App& command, FarmRequest& request);
 
 /// The farm of the request, with everything put into its controls.
 /// \throws Refusal for a value that is not accepted, RunTimeError where the event of a control fails.

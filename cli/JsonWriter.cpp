@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "cli/OptionsWriter.h"
+#include "cli/relaxation.h"
 
 namespace verdalis {
 namespace {
@@ -102,10 +103,12 @@ void writeJson(std::ostream& out, const EvaluationResult& result) {
   json.put("candidates", result.candidates());
   json.put("efficiency", jsonNumber(result.efficiency));
   json.put("seconds", jsonNumber(result.seconds));
+  if (!result.wishes.empty()) json.put("wishes", result.wishes);
   json.beginList("options");
   for (const OptionResult& option : result.options)
     json.put(toJson(option));
   json.end();
+  if (result.relax) json.put("relax", relaxJson(*result.relax));
   json.end();
 }
 

@@ -138,9 +138,13 @@ std::string grouped(std::uint64_t count) {
 void writeTable(std::ostream& out, const EvaluationResult& result) {
   out << "Candidates: " << grouped(result.candidates()) << " (water splits: " << grouped(result.waterSplits)
       << ", crop combinations: " << grouped(result.cropCombinations)
-      << ")\nIrrigation efficiency: " << formatNumber(result.efficiency * 100, "##0.0") << " %\n\n";
+      << ")\nIrrigation efficiency: " << formatNumber(result.efficiency * 100, "##0.0") << " %\n";
+  for (const std::string& wish : result.wishes)
+    out << "Wish: " << printable(wish) << '\n';
+  if (result.mixes) out << "Of each mix of acres and crops the best option alone\n";
+  out << '\n';
   if (result.options.empty()) {
-    out << "No option was found.\n";
+    out << (result.wishes.empty() ? "No option was found.\n" : "No plan meets all wishes.\n");
     return;
   }
   const std::vector<Block> blocks = makeBlocks(result);

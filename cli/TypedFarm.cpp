@@ -160,6 +160,16 @@ void TypedFarm::tickNoSplit() {
   if (!box.checked()) box.click();
 }
 
+WishContext TypedFarm::wishContext() {
+  WishContext context;
+  context.library = cropNames();
+  for (const auto& row : mainPane().cr) {
+    if (row->Crop && row->isActive()) context.chosen.push_back(row->Crop->cropType);
+  }
+  context.fields = static_cast<std::size_t>(getLandSplit(mainPane().landSplitButtons()).Count());
+  return context;
+}
+
 Farm TypedFarm::farm() {
   return readFarm(inputs(), main().cropFiles.cropCollection, *main().tempIrrigationCosts, state().FineFactor);
 }

@@ -11,6 +11,7 @@
 #include "engine/Farm.h"
 #include "engine/RunHooks.h"
 #include "main/Program.h"
+#include "screens/wishText.h"
 #include "trend/TrendHost.h"
 #include "trend/runTrend.h"
 
@@ -48,6 +49,14 @@ class TypedFarm {
   void tick(std::size_t row);
   void chooseLandSplit(std::size_t index) { mainPane().Option1[index]->click(); }
   void tickNoSplit();
+
+  /// What a wish can be about. \throws RunTimeError (invalidCall) when no land split is chosen
+  [[nodiscard]] WishContext wishContext();
+
+  /// \throws std::invalid_argument for one wish too many
+  void makeWish(const Wish& wish) { addWish(mainPane().wishes, wish); }
+
+  void keepMixes() { mainPane().mixes = true; }
 
   [[nodiscard]] ScenarioInputs inputs() { return mainPane().scenarioInputs(); }
 

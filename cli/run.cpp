@@ -10,6 +10,8 @@
 #include "cli/Messages.h"
 #include "cli/ScriptCommand.h"
 #include "cli/TrendCommand.h"
+#include "cli/relaxation.h"
+#include "explore/bestPlan.h"
 #include "text/version.h"
 
 namespace verdalis {
@@ -35,7 +37,9 @@ int dispatch(const std::vector<std::string>& args, std::istream& in, std::ostrea
   app.set_version_flag("--version", versionText(), "Print the version and exit");
   app.require_subcommand(1);
   const std::string exitCodes =
-      "Exit code: 0 done, 1 a run-time error or a cancel, 2 wrong arguments or incomplete inputs.";
+      "Exit code: 0 done, 1 a run-time error, a cancel or no plan that meets the wishes, 2 wrong arguments "
+      "or "
+      "incomplete inputs.";
   app.footer("\"verdalis-cli COMMAND --help\" tells the options of a command.\n" + exitCodes);
 
   EvaluateRequest evaluateRequest;
@@ -70,6 +74,9 @@ int run(const std::vector<std::string>& args, std::istream& in, std::ostream& ou
   } catch (const Refusal& refusal) {
     messages.tell(refusal.what());
     return refused;
+  } catch (const NoPlan& noPlan) {
+    messages.tell(noPlanText(noPlan.relaxations()));
+    return failed;
   } catch (const std::exception& error) {  // a run-time error, a cancel, or no memory left
     messages.tell(error.what());
     return failed;

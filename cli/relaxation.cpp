@@ -1,0 +1,86 @@
+#include "cli/relaxation.h"
+
+#include <nlohmann/json.hpp>
+#include <optional>
+#include <sstream>
+#include <utility>
+
+#include "cli/ExplorePlan.h"
+#include "cli/Interrupt.h"
+#include "cli/Messages.h"
+#include "screens/wishText.h"
+
+namespace verdalis {
+namespace {
+
+/// Each evaluation is a step of the search for what to give up.
+class EvaluationSteps final : public RunHooks {
+ public:
+  explicit EvaluationSteps(RunHooks& hooks) : hooks_(hooks) {}
+  void pumpEvents() override { hooks_.pumpEvents(); }
+  void closeProgress() override { hooks_.update(); }
+
+ private:
+  RunHooks& hooks_;
+};
+
+std::string quotedList(const std::vector<Wish>& wishes) {
+  std::string text;
+  for (std::size_t i = 0; i < wishes.size(); ++i) {
+    if (i > 0) text += i + 1 < wishes.size() ? ", " : " and ";
+    text += '"' + wishText(wishes[i]) + '"';
+  }
+  return text;
+}
+
+}  // namespace
+
+std::vector<Relaxation> findRelaxations(const Farm& farm, ProgramState& state, RunHooks& hooks) {
+  EvaluationSteps steps(hooks);
+  hooks.showProgress("What to give up");
+  hooks.setProgress(static_cast<double>((1ULL << farm.wishes.size()) - 1), "what to give up");
+  std::optional<std::vector<Relaxation>> found = relaxWishes(scenarioOf(farm), state, steps);
+  hooks.closeProgress();
+  if (!found || Interrupt::requested()) throw Cancelled();
+  return std::move(*found);
+}
+
+std::vector<std::string> wishTexts(const std::vector<Wish>& wishes) {
+  std::vector<std::string> texts;
+  texts.reserve(wishes.size());
+  for (const Wish& wish : wishes)
+    texts.push_back(wishText(wish));
+  return texts;
+}
+
+Json relaxJson(const std::vector<Relaxation>& relaxations) {
+  Json list = Json::array();
+  for (const Relaxation& relaxation : relaxations) {
+    list.push_back(
+        Json{{"without", wishTexts(relaxation.without)}, {"profit", jsonNumber(relaxation.profit)}});
+  }
+  return list;
+}
+
+std::string noPlanJson(const std::vector<Wish>& wishes, const std::vector<Relaxation>& relaxations) {
+  std::ostringstream text;
+  JsonStream json(text);
+  json.beginObject();
+  if (!wishes.empty()) json.put("wishes", wishTexts(wishes));
+  json.put("options", Json::array());
+  json.put("relax", relaxJson(relaxations));
+  json.end();
+  return std::move(text).str();
+}
+
+std::string noPlanText(const std::vector<Relaxation>& relaxations) {
+  std::string text = "No plan meets all wishes.";
+  if (relaxations.empty()) return text + " There is no candidate at all, whatever the wishes are.";
+  for (const Relaxation& relaxation : relaxations) {
+    text += "\nWithout " + quotedList(relaxation.without) + " the best net return is " +
+            dollarsText(relaxation.profit) + ".";
+  }
+  return text;
+}
+
+}  // namespace verdalis

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "cli/JsonWriter.h"
+#include "engine/Farm.h"
+#include "engine/ProgramState.h"
+#include "engine/RunHooks.h"
+#include "engine/relaxWishes.h"
+
+namespace verdalis {
+
+// What is told where no plan meets all wishes.
+
+/// What to give up of the wishes of a farm. `state` is asked for a cancel.
+/// \throws Cancelled, RunTimeError
+[[nodiscard]] std::vector<Relaxation> findRelaxations(const Farm& farm, ProgramState& state, RunHooks& hooks);
+
+/// The texts of wishes in their standard form.
+[[nodiscard]] std::vector<std::string> wishTexts(const std::vector<Wish>& wishes);
+
+/// The value of "relax".
+[[nodiscard]] Json relaxJson(const std::vector<Relaxation>& relaxations);
+
+/// The JSON object of an answer that has no options for the wishes.
+[[nodiscard]] std::string noPlanJson(const std::vector<Wish>& wishes,
+                                     const std::vector<Relaxation>& relaxations);
+
+/// For a person: that no plan meets all wishes, and what to give up.
+[[nodiscard]] std::string noPlanText(const std::vector<Relaxation>& relaxations);
+
+}  // namespace verdalis
