@@ -46,10 +46,11 @@ class BestMix {
   /// The options as new copies, packed to the front, placeholders behind; with `removeDuplicates` an entry
   /// that is the same as the one directly above it is left out. The result also takes the place of the
   /// entries here.
-  std::vector<Option> returnCollection(bool removeDuplicates);
+  std::vector<Option> returnCollection(bool removeDuplicates, double efficiency = EfficiencyFraction);
 
   /// Whether two neighbours count as duplicates: `a` the lower one, `b` the one above.
-  [[nodiscard]] static bool sameScenario(FieldCollection& a, FieldCollection& b, bool compare);
+  [[nodiscard]] static bool sameScenario(FieldCollection& a, FieldCollection& b, bool compare,
+                                         double efficiency = EfficiencyFraction);
 
   /// Does nothing.
   void setCollection() {}
