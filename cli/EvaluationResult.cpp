@@ -27,6 +27,12 @@ FieldResult describeField(const Field& kept, double efficiency) {
   return result;
 }
 
+void addOptions(EvaluationResult& result, const std::vector<std::shared_ptr<FieldCollection>>& options) {
+  for (const auto& option : options) {
+    if (option->Count() > 0) result.options.push_back(describeOption(*option, result.efficiency));
+  }
+}
+
 }  // namespace
 
 double OptionResult::acres() const {
@@ -47,6 +53,16 @@ OptionResult describeOption(FieldCollection& option, double efficiency) {
   return result;
 }
 
+EvaluationResult describeScenario(const Scenario& scenario,
+                                  const std::vector<std::shared_ptr<FieldCollection>>& options) {
+  EvaluationResult result;
+  result.waterSplits = static_cast<std::size_t>(scenario.depths.Count());
+  result.cropCombinations = scenario.combinations.Count();
+  result.efficiency = scenario.efficiency;
+  addOptions(result, options);
+  return result;
+}
+
 EvaluationResult describeRun(const std::vector<std::shared_ptr<FieldCollection>>& options,
                              const ProgramState& state, double seconds) {
   EvaluationResult result;
@@ -54,9 +70,7 @@ EvaluationResult describeRun(const std::vector<std::shared_ptr<FieldCollection>>
   result.cropCombinations = state.cropCombinations;
   result.efficiency = EfficiencyFraction;
   result.seconds = seconds;
-  for (const auto& option : options) {
-    if (option->Count() > 0) result.options.push_back(describeOption(*option, result.efficiency));
-  }
+  addOptions(result, options);
   return result;
 }
 

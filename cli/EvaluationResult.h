@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "engine/ProgramState.h"
+#include "engine/Scenario.h"
 #include "engine/relaxWishes.h"
 #include "model/FieldCollection.h"
 #include "results/ExplainedSteps.h"
@@ -74,6 +75,11 @@ struct EvaluationResult {
 /// An option; `efficiency` is that of the run that found it, as a fraction.
 /// \throws RunTimeError as its pricing does
 [[nodiscard]] OptionResult describeOption(FieldCollection& option, double efficiency);
+
+/// What the run of a scenario has found: its options, as far as they hold fields.
+/// \throws RunTimeError as the pricing of an option does
+[[nodiscard]] EvaluationResult describeScenario(const Scenario& scenario,
+                                                const std::vector<std::shared_ptr<FieldCollection>>& options);
 
 /// The last run with its options, as far as they hold fields.
 /// \throws RunTimeError as the pricing of an option does

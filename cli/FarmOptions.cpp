@@ -1,24 +1,19 @@
 #include "cli/FarmOptions.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
 #include <stdexcept>
 #include <utility>
 
+#include "cli/farmTexts.h"
 #include "cli/textOptions.h"
 #include "data/home.h"
 #include "data/readFile.h"
-#include "model/LandDivision.h"
-#include "screens/fineFactor.h"
 #include "text/RunTimeError.h"
 #include "text/numbers.h"
 #include "text/quote.h"
 
 namespace verdalis {
 namespace {
-
-constexpr std::size_t mostCropsToName = 60;
 
 /// Runs one step of an option; a refusal then begins with the option as it was typed.
 template <class Step>
@@ -50,34 +45,10 @@ std::pair<std::size_t, std::string> rowAssignment(TypedFarm& farm, const std::st
   return {cropRow(farm, name), std::move(value)};
 }
 
-std::string landSplitNames(std::string_view separator) {
-  std::string names;
-  for (std::size_t i = 0; i < landDivisions().size(); ++i) {
-    if (i > 0) names += separator;
-    names += std::to_string(i) + " is \"" + std::string(landDivisions().at(i).caption) + "\"";
-  }
-  return names;
-}
-
-std::size_t landSplitIndex(const std::string& text) {
-  std::size_t index = 0;
-  const char* const end = text.data() + text.size();
-  const auto [stop, error] = std::from_chars(text.data(), end, index);
-  const bool whole = error == std::errc() && stop == end;
-  if (whole && index < landDivisions().size()) return index;
-  throw Refusal("There is no such land split: " + landSplitNames(", ") + ".");
-}
-
 std::int16_t iterationFactor(const std::string& text, Messages& messages) {
-  const FineFactorEntry entry = readFineFactor(text);
-  if (!entry.factor) throw Refusal(entry.message->text);
+  const FineFactorEntry entry = requireFactor(text);
   if (entry.message) messages.tell(entry.message->title, entry.message->text);
   return *entry.factor;
-}
-
-/// The control itself reads a leading number; on the command line a text that is no plain number is a slip.
-void requireNumber(const std::string& text) {
-  if (!isNumeric(text) || text.find(',') != std::string::npos) throw Refusal("Please enter a valid number");
 }
 
 ProgramFiles filesOf(const FarmRequest& request) {
@@ -186,12 +157,7 @@ std::unique_ptr<TypedFarm> makeFarm(const FarmRequest& request, Messages& messag
 }
 
 std::string unknownCrop(TypedFarm& farm, std::string_view name) {
-  std::string text = "There is no crop " + quoteForMessage(name) + ".";
-  const std::vector<std::string> crops = farm.cropNames();
-  for (std::size_t i = 0; i < std::min(crops.size(), mostCropsToName); ++i) {
-    text += (i == 0 ? " The crops are " : ", ") + quoteForMessage(crops[i]);
-  }
-  return text + (crops.empty() ? " The library is empty." : ".");
+  return unknownCrop(farm.cropNames(), name);
 }
 
 void requireReady(const ScenarioInputs& inputs) {

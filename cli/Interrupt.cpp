@@ -1,18 +1,21 @@
 #include "cli/Interrupt.h"
 
+#include <atomic>
+
 namespace verdalis {
 namespace {
 
-volatile std::sig_atomic_t noted = 0;  // the one thing that a signal handler may write
+std::atomic<bool> noted = false;  // any thread may look at it, and a signal handler may write it
+static_assert(std::atomic<bool>::is_always_lock_free);
 
 extern "C" void noteInterrupt(int /*signal*/) {
-  noted = 1;
+  noted = true;
 }
 
 }  // namespace
 
 Interrupt::Interrupt() {
-  noted = 0;
+  noted = false;
   struct sigaction action {};
   action.sa_handler = noteInterrupt;
   action.sa_flags = SA_RESTART;
@@ -30,7 +33,7 @@ Interrupt::~Interrupt() {
 }
 
 bool Interrupt::requested() {
-  return noted != 0;
+  return noted;
 }
 
 }  // namespace verdalis

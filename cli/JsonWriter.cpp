@@ -67,6 +67,17 @@ Json toJson(const OptionResult& option) {
           {"fields", std::move(fields)}};
 }
 
+Json headOf(const EvaluationResult& result) {
+  return {{"waterSplits", result.waterSplits},
+          {"cropCombinations", result.cropCombinations},
+          {"candidates", result.candidates()},
+          {"efficiency", jsonNumber(result.efficiency)}};
+}
+
+std::string jsonLine(const Json& value) {
+  return value.dump(-1, ' ', false, Json::error_handler_t::replace);
+}
+
 void JsonStream::begin(std::string_view key, char open, char close) {
   startEntry(key);
   out_ << open;
@@ -109,10 +120,9 @@ void JsonStream::startLine() {
 void writeJson(std::ostream& out, const EvaluationResult& result) {
   JsonStream json(out);
   json.beginObject();
-  json.put("waterSplits", result.waterSplits);
-  json.put("cropCombinations", result.cropCombinations);
-  json.put("candidates", result.candidates());
-  json.put("efficiency", jsonNumber(result.efficiency));
+  const Json head = headOf(result);
+  for (const auto& [key, value] : head.items())
+    json.put(key, value);
   json.put("seconds", jsonNumber(result.seconds));
   if (!result.wishes.empty()) json.put("wishes", result.wishes);
   json.beginList("options");

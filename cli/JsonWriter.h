@@ -19,6 +19,12 @@ using Json = nlohmann::ordered_json;
 /// The object of an option.
 [[nodiscard]] Json toJson(const OptionResult& option);
 
+/// What stands before the options of a result, but for the time that the run took.
+[[nodiscard]] Json headOf(const EvaluationResult& result);
+
+/// The text of a value on one line; bytes that are no UTF-8 are replaced.
+[[nodiscard]] std::string jsonLine(const Json& value);
+
 /// Writes JSON for reading, piece by piece, so that only one piece at a time is held in memory. The text is
 /// what a dump of the whole would give. Inside an object everything that is put in has its key, in a list
 /// nothing has.

@@ -4,19 +4,12 @@
 #include <iterator>
 #include <utility>
 
+#include "cli/farmTexts.h"
 #include "screens/readScenario.h"
-#include "text/encoding.h"
 #include "text/quote.h"
 
 namespace verdalis {
 namespace {
-
-bool onOrOff(const std::string& text) {
-  const std::string lower = lowerCase(text);
-  if (lower == "true" || lower == "1") return true;
-  if (lower == "false" || lower == "0") return false;
-  throw Refusal("Please enter True or False");
-}
 
 void set(CheckBox& box, const std::string& text) {
   if (onOrOff(text) != box.checked()) box.click();
@@ -82,18 +75,25 @@ TypedFarm::TypedFarm(ProgramFiles files, Messages& messages)
   program_.desk.onRunTimeError = nullptr;
 }
 
-void TypedFarm::type(const std::string& name, const std::string& text) {
+Control& TypedFarm::control(const std::string& name) {
   Control* const control = program_.desk.find(name);
   if (control == nullptr || &control->window() != &main()) {
     throw Refusal("There is no control " + quoteForMessage(name) + " in the main window.");
   }
   if (!control->visible()) throw Refusal(name + " is hidden.");
-  typeInto(*control, name, text);
+  return *control;
+}
+
+void TypedFarm::type(const std::string& name, const std::string& text) {
+  Control& typed = control(name);
+  typeInto(typed, name, text);
   refuseIfTold();
-  if (!stands(*control, mainPane())) {
-    messages_.tell(name +
-                   " takes part in a run only after it is applied on its pane, which is not done here.");
-  }
+  if (const auto notice = noticeOf(typed, name)) messages_.tell(*notice);
+}
+
+std::optional<std::string> TypedFarm::noticeOf(const Control& control, const std::string& name) {
+  if (stands(control, mainPane())) return std::nullopt;
+  return name + " takes part in a run only after it is applied on its pane, which is not done here.";
 }
 
 void TypedFarm::typeInto(Control& control, const std::string& name, const std::string& text) {
@@ -116,16 +116,7 @@ void TypedFarm::refuseIfTold() {
 }
 
 std::optional<std::size_t> TypedFarm::findRow(std::string_view name) {
-  const auto& rows = mainPane().cr;
-  const auto lastWhere = [&](auto matches) -> std::optional<std::size_t> {
-    const auto found = std::find_if(rows.rbegin(), rows.rend(),
-                                    [&](const auto& row) { return row->Crop && matches(*row->Crop); });
-    if (found == rows.rend()) return std::nullopt;
-    return static_cast<std::size_t>(rows.rend() - found) - 1;
-  };
-  if (const auto exact = lastWhere([&](const Crop& crop) { return crop.cropType == name; })) return exact;
-  const std::string lower = lowerCase(name);
-  return lastWhere([&](const Crop& crop) { return lowerCase(crop.cropType) == lower; });
+  return findCrop(cropNames(), name);  // only the one row of an empty library has no crop
 }
 
 std::vector<std::string> TypedFarm::cropNames() {

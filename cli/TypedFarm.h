@@ -35,6 +35,12 @@ class TypedFarm {
   /// \throws Refusal for a control that is not there, cannot be typed into or does not accept the text.
   void type(const std::string& name, const std::string& text);
 
+  /// The control that type() would type into. \throws Refusal when it is not there or hidden
+  [[nodiscard]] Control& control(const std::string& name);
+
+  /// What is to be told of a control whose text takes no part in a run until it is applied.
+  [[nodiscard]] std::optional<std::string> noticeOf(const Control& control, const std::string& name);
+
   /// The row of a crop: by its exact name, else ignoring case; with several the last.
   [[nodiscard]] std::optional<std::size_t> findRow(std::string_view name);
 
@@ -58,6 +64,9 @@ class TypedFarm {
 
   void keepMixes() { mainPane().mixes = true; }
 
+  [[nodiscard]] MainPane& mainPane() { return main().pneMain; }
+  [[nodiscard]] const CropScenario& library() { return main().cropFiles.cropCollection; }
+  [[nodiscard]] const IrrigationCosts& plant() { return *main().tempIrrigationCosts; }
   [[nodiscard]] ScenarioInputs inputs() { return mainPane().scenarioInputs(); }
 
   /// The farm as numbers; nothing of it is shared with the program.
@@ -84,7 +93,6 @@ class TypedFarm {
 
  private:
   [[nodiscard]] frmMain& main() { return program_.main(); }
-  [[nodiscard]] MainPane& mainPane() { return main().pneMain; }
   void typeInto(Control& control, const std::string& name, const std::string& text);
   void refuseIfTold();
 

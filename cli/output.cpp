@@ -11,7 +11,7 @@
 namespace verdalis {
 namespace {
 
-void writeTo(std::ostream& stream, const std::string& text, const std::string& name) {
+void writeTo(std::ostream& stream, std::string_view text, const std::string& name) {
   stream << text << std::flush;
   if (!stream) throw RunTimeError(ErrorNumber::fileNotFound, "The result cannot be written to " + name + ".");
 }
@@ -21,6 +21,14 @@ bool isDevice(const std::filesystem::path& path) {
   std::error_code error;
   const std::filesystem::file_status status = std::filesystem::status(path, error);
   return std::filesystem::is_other(status);
+}
+
+std::unique_ptr<FileReplacement> replacementOf(const std::optional<std::string>& file) {
+  return file && !isDevice(*file) ? std::make_unique<FileReplacement>(*file) : nullptr;
+}
+
+std::unique_ptr<std::ostream> deviceOf(const std::optional<std::string>& file) {
+  return file && isDevice(*file) ? std::make_unique<std::ofstream>(*file, std::ios::binary) : nullptr;
 }
 
 }  // namespace
@@ -41,6 +49,26 @@ void deliverToFile(const std::string& bytes, const std::string& file) {
     const Interrupt untilWritten;  // a Ctrl+C now would leave the unfinished file beside the old one
     writeFile(file, bytes);
   }
+}
+
+ResultStream::ResultStream(const std::optional<std::string>& file, std::ostream& out)
+    : name_(file.value_or("standard output")),
+      file_(replacementOf(file)),
+      device_(deviceOf(file)),
+      stream_(device_ ? *device_ : out) {}
+
+ResultStream::~ResultStream() = default;
+
+void ResultStream::write(std::string_view text) {
+  if (file_) {
+    file_->write(text);
+  } else {
+    writeTo(stream_, text, name_);
+  }
+}
+
+void ResultStream::finish() {
+  if (file_) file_->keep();
 }
 
 }  // namespace verdalis

@@ -5,6 +5,7 @@
 #include <istream>
 #include <ostream>
 
+#include "cli/BatchCommand.h"
 #include "cli/EvaluateCommand.h"
 #include "cli/ExploreCommand.h"
 #include "cli/Messages.h"
@@ -47,6 +48,8 @@ int dispatch(const std::vector<std::string>& args, std::istream& in, std::ostrea
   TrendArguments trendRequest;
   const CLI::App& trendCommand = addTrendCommand(app, trendRequest);
   ExploreCommand exploreCommand(app);
+  BatchRequest batchRequest;
+  const CLI::App& batchCommand = addBatchCommand(app, batchRequest);
   ScriptRequest scriptRequest;
   const CLI::App& scriptCommand = addScriptCommand(app, scriptRequest);
   setCommon(app, exitCodes);
@@ -61,6 +64,7 @@ int dispatch(const std::vector<std::string>& args, std::istream& in, std::ostrea
   if (evaluateCommand.parsed()) evaluate(evaluateRequest, out, messages);
   if (trendCommand.parsed()) trend(trendRequest, out, messages);
   if (exploreCommand.command().parsed()) exploreCommand.run(out, messages);
+  if (batchCommand.parsed() && !batch(batchRequest, in, out, messages)) return failed;
   if (scriptCommand.parsed() && !replayScript(scriptRequest, in, out)) return failed;
   return done;
 }

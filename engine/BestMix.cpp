@@ -86,13 +86,13 @@ std::string BestMix::getCollection() const {
   return text;
 }
 
-std::vector<BestMix::Option> BestMix::returnCollection(bool removeDuplicates) {
+std::vector<BestMix::Option> BestMix::returnCollection(bool removeDuplicates, double efficiency) {
   std::vector<Option> kept;
   kept.reserve(bestArray_.size());
   for (std::size_t i = 0; i < bestArray_.size(); ++i) {
     // Each entry is compared with the one directly above it, even if that one was removed.
-    if (i > 0 && sameScenario(*bestArray_[i], *bestArray_[i - 1], removeDuplicates && !keepsDuplicates))
-      continue;
+    const bool compare = removeDuplicates && !keepsDuplicates;
+    if (i > 0 && sameScenario(*bestArray_[i], *bestArray_[i - 1], compare, efficiency)) continue;
     kept.push_back(std::make_shared<FieldCollection>(bestArray_[i]->Copy()));
   }
   while (kept.size() < bestArray_.size())
@@ -101,9 +101,9 @@ std::vector<BestMix::Option> BestMix::returnCollection(bool removeDuplicates) {
   return kept;
 }
 
-bool BestMix::sameScenario(FieldCollection& a, FieldCollection& b, bool compare) {
+bool BestMix::sameScenario(FieldCollection& a, FieldCollection& b, bool compare, double efficiency) {
   if (!compare) return false;
-  if (a.getProfit() != b.getProfit()) return false;
+  if (a.getProfit(efficiency) != b.getProfit(efficiency)) return false;
   if (a.Count() != b.Count())
     return true;  // equal profit with a different number of fields counts as the same: intended
   // Intentionally not reset between fields: once the first field has a match, the others are not checked.

@@ -45,10 +45,11 @@ class BestMix {
 
   /// Copies of the options, followed by placeholders. With `removeDuplicates`, leaves out entries that equal
   /// the one directly above. The result also replaces the entries of this object.
-  std::vector<Option> returnCollection(bool removeDuplicates);
+  std::vector<Option> returnCollection(bool removeDuplicates, double efficiency = EfficiencyFraction);
 
   /// Whether two neighbours count as duplicates: `a` is the lower one, `b` the one above.
-  [[nodiscard]] static bool sameScenario(FieldCollection& a, FieldCollection& b, bool compare);
+  [[nodiscard]] static bool sameScenario(FieldCollection& a, FieldCollection& b, bool compare,
+                                         double efficiency = EfficiencyFraction);
 
   /// Does nothing.
   void setCollection() {}

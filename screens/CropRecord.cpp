@@ -2,6 +2,7 @@
 
 #include "model/StockCrops.h"
 #include "screens/modInputTest.h"
+#include "screens/rangeTest.h"
 #include "text/RunTimeError.h"
 #include "text/numbers.h"
 
@@ -9,12 +10,24 @@ namespace verdalis {
 namespace {
 
 /// A crop that is no stock crop is not tested.
-const RowLimits* limitsOf(const std::shared_ptr<Crop>& crop) {
-  const StockCrop* const stock = crop ? stockCrop(cropKind(crop->cropType)) : nullptr;
+const RowLimits* limitsOf(const Crop& crop) {
+  const StockCrop* const stock = stockCrop(cropKind(crop.cropType));
   return stock != nullptr ? &stock->limits : nullptr;
 }
 
 }  // namespace
+
+std::optional<std::string> priceFault(const Crop& crop, const std::string& text) {
+  const RowLimits* const limits = limitsOf(crop);
+  if (limits == nullptr) return std::nullopt;
+  return rangeFault(text, limits->price, "Crop Price - " + crop.cropType);
+}
+
+std::optional<std::string> maxYieldFault(const Crop& crop, const std::string& text) {
+  const RowLimits* const limits = limitsOf(crop);
+  if (limits == nullptr) return std::nullopt;
+  return rangeFault(text, limits->maxYield, "Maximum Yield - " + crop.cropType);
+}
 
 CropRecord::CropRecord(Frame& container, int index, MessageBoxService& messageBox)
     : Frame(container, "cr(" + std::to_string(index) + ")", Scope::named), messageBox_(messageBox) {
@@ -27,8 +40,8 @@ CropRecord::CropRecord(Frame& container, int index, MessageBoxService& messageBo
   txtMaxYield.onChange.connect([this] {
     if (Crop) Crop->maxYield = getMaxYield();
   });
-  txtPrice.onLeave.connect([this] { testPrice(); });
-  txtMaxYield.onLeave.connect([this] { testMaxYield(); });
+  wireTest(txtPrice, priceFault);
+  wireTest(txtMaxYield, maxYieldFault);
   showActivity();
 }
 
@@ -79,16 +92,11 @@ void CropRecord::showActivity() {
   chkCrop.setEnabled(true);
 }
 
-void CropRecord::testPrice() {
-  if (const RowLimits* limits = limitsOf(Crop)) {
-    testInput(&txtPrice, limits->price, "Crop Price - " + Crop->cropType, messageBox_);
-  }
-}
-
-void CropRecord::testMaxYield() {
-  if (const RowLimits* limits = limitsOf(Crop)) {
-    testInput(&txtMaxYield, limits->maxYield, "Maximum Yield - " + Crop->cropType, messageBox_);
-  }
+void CropRecord::wireTest(TextBox& box, Test* test) {
+  box.onLeave.connect([this, &box, test] {
+    if (!Crop) return;
+    if (const auto fault = test(*Crop, box.text())) showInputError(*fault, box, messageBox_);
+  });
 }
 
 }  // namespace verdalis

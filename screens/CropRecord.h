@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "controls/Event.h"
@@ -11,6 +12,11 @@
 #include "screens/ScenarioInputs.h"
 
 namespace verdalis {
+
+/// The messages that refuse a text as the price or the maximum yield of a crop; nothing for one that passes,
+/// as each does for a crop that is no stock crop.
+[[nodiscard]] std::optional<std::string> priceFault(const Crop& crop, const std::string& text);
+[[nodiscard]] std::optional<std::string> maxYieldFault(const Crop& crop, const std::string& text);
 
 /// A row of the crop list: the tick that makes a crop a candidate, its price, its maximum yield and the way
 /// to its production costs. What is typed goes into the crop at once; the crop is the library's own.
@@ -59,9 +65,10 @@ class CropRecord : public Frame {
   Event<> onInputCosts;
 
  private:
+  using Test = std::optional<std::string>(const verdalis::Crop& crop, const std::string& text);
+
   void showActivity();
-  void testPrice();
-  void testMaxYield();
+  void wireTest(TextBox& box, Test* test);
 
   MessageBoxService& messageBox_;
 };

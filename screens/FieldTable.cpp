@@ -4,6 +4,7 @@
 
 #include "model/Fuel.h"
 #include "screens/modInputTest.h"
+#include "screens/rangeTest.h"
 
 namespace verdalis {
 Limit::Cell Limit::of(std::string_view key) const {
@@ -27,6 +28,11 @@ std::string testLabelOf(const FieldRow& row, std::string_view cropType) {
   const std::size_t mark = label.find(cropMark);
   if (mark != std::string::npos) label.replace(mark, cropMark.size(), cropType);
   return label;
+}
+
+std::optional<std::string> fieldFault(const FieldRow& row, std::string_view key, const std::string& text) {
+  const Limit::Cell limit = row.limit.of(key);
+  return limit ? rangeFault(text, *limit, testLabelOf(row, key)) : std::nullopt;
 }
 
 void wireField(TextBox& box, const FieldRow& row, MessageBoxService& messageBox,

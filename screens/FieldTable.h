@@ -92,6 +92,11 @@ struct FieldGroup {
 /// The label of a row's test for a crop.
 [[nodiscard]] std::string testLabelOf(const FieldRow& row, std::string_view cropType);
 
+/// The message that refuses a text of the row's field; nothing for one that passes. `key` is the crop's name,
+/// or the fuel.
+[[nodiscard]] std::optional<std::string> fieldFault(const FieldRow& row, std::string_view key,
+                                                    const std::string& text);
+
 /// Gives the field the row's start text and its test on being left. `key` tells the crop's name, or the fuel,
 /// at that moment. `row` must outlive the field: rows are static tables.
 void wireField(TextBox& box, const FieldRow& row, MessageBoxService& messageBox,

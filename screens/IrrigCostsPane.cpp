@@ -126,6 +126,12 @@ void showWhereMade(Label& label, Caption caption) {
 
 }  // namespace
 
+std::optional<std::string> fuelCostFault(const std::string& fuelType, const std::string& text) {
+  const auto field = std::find_if(paneFields.begin(), paneFields.end(),
+                                  [](const IrrigCostsField& each) { return each.value == &Plant::cost; });
+  return fieldFault(field->row, fuelType, text);
+}
+
 std::span<const IrrigCostsField> IrrigCostsPane::fields() {
   return paneFields;
 }

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -27,6 +28,9 @@ struct IrrigCostsField {
   double IrrigationCosts::*value = nullptr;  ///< Where Apply puts its number; nullptr for the list of fuels
   bool changesHint = false;                  ///< A change also recomputes the pumping hint
 };
+
+/// The message that refuses a text as the price of a unit of fuel; nothing for one that passes.
+[[nodiscard]] std::optional<std::string> fuelCostFault(const std::string& fuelType, const std::string& text);
 
 /// The pane that edits the farm's one pumping plant. It works on its fields; the plant changes only when
 /// Command9 is pressed.

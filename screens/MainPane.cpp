@@ -40,6 +40,22 @@ std::span<const FieldRow> MainPane::fields() {
   return farmFields;
 }
 
+std::optional<std::string> efficiencyFault(const std::string& text) {
+  return fieldFault(farmField("txtEff"), {}, text);
+}
+
+std::optional<Message> capacityWarning(const IrrigationCosts& plant, const std::string& txtArea,
+                                       const std::string& txtMax) {
+  if (plant.GPM <= 0 || plant.dblEstHours <= 0) return std::nullopt;
+  const double inches = plant.getMaxInches(Val(txtArea));
+  if (Val(txtMax) <= inches) return std::nullopt;
+  return Message{"Capacity Exceeded",
+                 "According to the seasonal pumping hours entered on the Irrigation Cost screen of " +
+                     formatNumber(plant.dblEstHours, "###,###") +
+                     " hours, \nyour system cannot pump more than " + formatNumber(inches, "###,###.0") +
+                     " inches."};
+}
+
 MainPane::MainPane(Frame& window, Services& services, ProgramState& state,
                    std::shared_ptr<IrrigationCosts> tempIrrigationCosts)
     : Frame(window, "pneMain"), services_(services), tempIrrigationCosts_(std::move(tempIrrigationCosts)) {
@@ -113,15 +129,8 @@ double MainPane::getVolume() {
 }
 
 void MainPane::warnOfCapacity() {
-  const IrrigationCosts& plant = *tempIrrigationCosts_;
-  if (plant.GPM <= 0 || plant.dblEstHours <= 0) return;
-  const double inches = plant.getMaxInches(Val(txtArea.text()));
-  if (Val(txtMax.text()) <= inches) return;
-  ask(desk(), services_.messageBox,
-      {"Capacity Exceeded",
-       "According to the seasonal pumping hours entered on the Irrigation Cost screen of " +
-           formatNumber(plant.dblEstHours, "###,###") + " hours, \nyour system cannot pump more than " +
-           formatNumber(inches, "###,###.0") + " inches."});
+  const auto warning = capacityWarning(*tempIrrigationCosts_, txtArea.text(), txtMax.text());
+  if (warning) ask(desk(), services_.messageBox, *warning);
 }
 
 void MainPane::unloadRows() {

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -104,6 +105,15 @@ class MainPane : public Frame {
   Services& services_;
   std::shared_ptr<IrrigationCosts> tempIrrigationCosts_;
 };
+
+/// The message that refuses a text as the irrigation efficiency; nothing for one that passes.
+[[nodiscard]] std::optional<std::string> efficiencyFault(const std::string& text);
+
+/// What is told of an irrigation, as its texts stand on the pane, that is above what the plant can pump in a
+/// season; nothing where it is not, or where the plant's capacity is not known.
+/// \throws RunTimeError (overflow)
+[[nodiscard]] std::optional<Message> capacityWarning(const IrrigationCosts& plant, const std::string& txtArea,
+                                                     const std::string& txtMax);
 
 /// The line over the button of the irrigation costs.
 inline constexpr const char* irrigationHeading = "Irrigation Costs and Capacity";

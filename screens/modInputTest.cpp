@@ -1,8 +1,8 @@
 #include "screens/modInputTest.h"
 
 #include "controls/ask.h"
+#include "screens/rangeTest.h"
 #include "text/RunTimeError.h"
-#include "text/numbers.h"
 
 namespace verdalis {
 namespace {
@@ -30,20 +30,9 @@ void emptyIf(Control& control, Counts counts) {
 
 void testInput(TextBox* control, double limit, const std::string& label, MessageBoxService& messageBox) {
   if (control == nullptr) return;
-  const std::string& text = control->text();
-  if (text.empty() || text == "-" || text == ".") return;
-  if (!isNumeric(text)) {
-    showInputError(label + ":  Please enter a numeric value!", *control, messageBox);
-    return;
+  if (const auto fault = rangeFault(control->text(), limit, label)) {
+    showInputError(*fault, *control, messageBox);
   }
-  const double value = toDouble(text);
-  if (value >= 0 && value <= limit) return;
-  // The limit is told in whole numbers, so that one below a half is not told at all; and 0 passes, although
-  // the other message asks for more: both are meant.
-  const std::string message = value >= 0 ? ":  Please enter a value that's less than or equal to " +
-                                               formatNumber(limit, "###,###,###")
-                                         : ":  Please enter a value that's greater than 0";
-  showInputError(label + message, *control, messageBox);
 }
 
 void showInputError(const std::string& message, TextBox& control, MessageBoxService& messageBox) {

@@ -7,10 +7,9 @@
 
 namespace verdalis {
 
-/// The range test of a text field that a person leaves: a text that is no number, a negative number or one
-/// above `limit` is told with a message that begins with `label`, the text goes back to what it was before it
-/// was edited, and the focus comes back to the field. An empty text, "-" and "." pass, and so does a control
-/// that is not there. It blocks nothing.
+/// The range test of a text field that a person leaves: what rangeFault() finds is told, the text goes back
+/// to what it was before it was edited, and the focus comes back to the field. A control that is not there
+/// passes. It blocks nothing.
 void testInput(TextBox* control, double limit, const std::string& label, MessageBoxService& messageBox);
 
 /// Tells the message, takes the last edit of the field back where there is one, and gives the field the

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstddef>
+#include <istream>
+#include <string>
+
+#include "data/ByteSource.h"
+
+namespace verdalis {
+
+/// The bytes of a stream.
+class StreamSource final : public ByteSource {
+ public:
+  explicit StreamSource(std::istream& in) : in_(in) {}
+  [[nodiscard]] std::size_t read(char* to, std::size_t size) override;
+
+ private:
+  std::istream& in_;
+};
+
+/// The bytes of a file, a pipe or standard input. While none come, a Ctrl+C that an Interrupt has noted ends
+/// them.
+class FileSource final : public ByteSource {
+ public:
+  /// Standard input.
+  FileSource();
+
+  /// \throws Refusal when there is no such file, or none that can be read
+  explicit FileSource(const std::string& path);
+  ~FileSource() override;
+  [[nodiscard]] std::size_t read(char* to, std::size_t size) override;
+
+ private:
+  std::string name_;
+  int descriptor_;
+};
+
+}  // namespace verdalis

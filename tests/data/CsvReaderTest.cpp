@@ -1,0 +1,181 @@
+#include <gtest/gtest.h>
+#include <rapidcheck/gtest.h>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "data/CsvReader.h"
+#include "text/RunTimeError.h"
+
+namespace verdalis::testing {
+namespace {
+
+using Cells = std::vector<std::string>;
+
+/// A text that comes in pieces of a length.
+class PiecewiseText final : public ByteSource {
+ public:
+  explicit PiecewiseText(std::string text, std::size_t piece = 7) : text_(std::move(text)), piece_(piece) {}
+
+  [[nodiscard]] std::size_t read(char* to, std::size_t size) override {
+    const std::size_t count = std::min({size, piece_, text_.size() - at_});
+    std::copy_n(text_.data() + at_, count, to);
+    at_ += count;
+    return count;
+  }
+
+ private:
+  std::string text_;
+  std::size_t piece_;
+  std::size_t at_ = 0;
+};
+
+std::vector<CsvRow> rowsOf(const std::string& text, std::size_t piece = 7) {
+  PiecewiseText source(text, piece);
+  CsvReader reader(source);
+  std::vector<CsvRow> rows;
+  for (CsvRow row; reader.next(row);)
+    rows.push_back(row);
+  return rows;
+}
+
+std::vector<Cells> cellsOf(const std::string& text, std::size_t piece = 7) {
+  std::vector<Cells> all;
+  for (const CsvRow& row : rowsOf(text, piece)) {
+    EXPECT_EQ(row.fault, "");
+    EXPECT_EQ(row.count, row.cells.size());
+    all.push_back(row.cells);
+  }
+  return all;
+}
+
+TEST(CsvReader, LinesEndWithLfOrCrLf) {
+  EXPECT_EQ(cellsOf("a,b\nc,d\r\ne,f"), (std::vector<Cells>{{"a", "b"}, {"c", "d"}, {"e", "f"}}));
+}
+
+TEST(CsvReader, TheLastLineNeedsNoEnd) {
+  EXPECT_EQ(cellsOf("a"), (std::vector<Cells>{{"a"}}));
+  EXPECT_EQ(cellsOf("a\r"), (std::vector<Cells>{{"a"}}));
+  EXPECT_EQ(cellsOf("\"a\"\r"), (std::vector<Cells>{{"a"}}));
+  EXPECT_EQ(cellsOf("a,"), (std::vector<Cells>{{"a", ""}}));
+}
+
+TEST(CsvReader, AByteOrderMarkIsPassedOver) {
+  EXPECT_EQ(cellsOf("\xEF\xBB\xBF"
+                    "a,b\n"),
+            (std::vector<Cells>{{"a", "b"}}));
+  EXPECT_EQ(cellsOf("\xEF\xBB\xBF"
+                    "a,b\n",
+                    1),
+            (std::vector<Cells>{{"a", "b"}}));
+  EXPECT_EQ(cellsOf("\xEF\xBB\xBF"), std::vector<Cells>());
+}
+
+TEST(CsvReader, BlankLinesArePassedOver) {
+  EXPECT_EQ(cellsOf("\n\r\na\n \t\r\n\nb\n\n"), (std::vector<Cells>{{"a"}, {"b"}}));
+  EXPECT_EQ(cellsOf("\n\n"), std::vector<Cells>());
+  EXPECT_EQ(cellsOf("\"\"\n,\n"), (std::vector<Cells>{{""}, {"", ""}})) << "these are no blank lines";
+}
+
+TEST(CsvReader, QuotesHoldCommasLineEndsAndQuotes) {
+  EXPECT_EQ(cellsOf("\"a,b\",\"c\r\nd\",\"e\"\"f\"\"\"\r\n\"\",x"),
+            (std::vector<Cells>{{"a,b", "c\r\nd", "e\"f\""}, {"", "x"}}));
+}
+
+TEST(CsvReader, BlanksAndALoneCrBelongToTheirCell) {
+  EXPECT_EQ(cellsOf(" a ,b\rc\n"), (std::vector<Cells>{{" a ", "b\rc"}}));
+}
+
+TEST(CsvReader, AFaultNamesItsCellAndEndsWithItsLine) {
+  const std::string inside = "Cell 2: A quote stands inside a text that is not in quotes.";
+  const std::string behind = "Cell 1: A text stands behind the quote that ends it.";
+  const std::string open = "Cell 2: The quote in front of it has no end.";
+  const std::string bytes = "Cell 3: The text is no UTF-8.";
+  for (const std::size_t piece : {1U, 3U, 100U}) {
+    const auto rows = rowsOf("a,b\"c,d\n\"a\"b,c\n\"a\"\r\r\na,b,\xFF\nx,y\na,\"b\n\n", piece);
+    ASSERT_EQ(rows.size(), 6U);
+    EXPECT_EQ(rows[0].fault, inside);
+    EXPECT_EQ(rows[1].fault, behind);
+    EXPECT_EQ(rows[2].fault, behind);
+    EXPECT_EQ(rows[3].fault, bytes);
+    EXPECT_EQ(rows[4].fault, "");
+    EXPECT_EQ(rows[4].cells, (Cells{"x", "y"}));
+    EXPECT_EQ(rows[5].fault, open);
+  }
+}
+
+TEST(CsvReader, AnEndlessRowTakesNoMemory) {
+  const std::string huge(CsvReader::mostBytes + 1, 'x');
+  const auto rows = rowsOf("a," + huge + ",b\n\"" + huge + "\"\nc\n", 1U << 20U);
+  ASSERT_EQ(rows.size(), 3U);
+  EXPECT_EQ(rows[0].fault, "Cell 2: The row is longer than 1048576 bytes.");
+  EXPECT_EQ(rows[0].count, 3U);
+  EXPECT_EQ(rows[1].fault, "Cell 1: The row is longer than 1048576 bytes.");
+  EXPECT_EQ(rows[2].cells, Cells{"c"});
+}
+
+TEST(CsvReader, CellsBehindThoseToKeepAreCounted) {
+  PiecewiseText source("a,b\nc,d,e,f\n" + std::string(2 * CsvReader::mostCells, ',') + "\n");
+  CsvReader reader(source);
+  CsvRow row;
+  ASSERT_TRUE(reader.next(row));
+  reader.keepCells(2);
+  ASSERT_TRUE(reader.next(row));
+  EXPECT_EQ(row.cells, (Cells{"c", "d"}));
+  EXPECT_EQ(row.count, 4U);
+  ASSERT_TRUE(reader.next(row));
+  EXPECT_EQ(row.cells.size(), 2U);
+  EXPECT_EQ(row.count, 2 * CsvReader::mostCells + 1);
+  EXPECT_FALSE(reader.next(row));
+}
+
+TEST(CsvReader, AFailureOfTheSourceGoesOn) {
+  class Broken final : public ByteSource {
+   public:
+    [[nodiscard]] std::size_t read(char*, std::size_t) override {
+      throw RunTimeError(ErrorNumber::fileNotFound, "broken");
+    }
+  } source;
+  CsvReader reader(source);
+  CsvRow row;
+  EXPECT_THROW(static_cast<void>(reader.next(row)), RunTimeError);
+}
+
+std::string written(const std::vector<Cells>& rows, bool crLf) {
+  std::string text;
+  for (const Cells& row : rows) {
+    for (std::size_t i = 0; i < row.size(); ++i) {
+      std::string cell = row[i];
+      for (std::size_t at = 0; (at = cell.find('"', at)) != std::string::npos; at += 2)
+        cell.insert(at, 1, '"');
+      text += (i == 0 ? "\"" : ",\"") + cell + '"';
+    }
+    text += crLf ? "\r\n" : "\n";
+  }
+  return text;
+}
+
+RC_GTEST_PROP(CsvReader, WhatIsWrittenInQuotesIsReadBack, (bool crLf)) {
+  const auto cell = rc::gen::container<std::string>(rc::gen::element('a', ',', '"', '\r', '\n', ' '));
+  const auto rows =
+      *rc::gen::container<std::vector<Cells>>(rc::gen::nonEmpty(rc::gen::container<Cells>(cell)));
+  const auto piece = *rc::gen::inRange<std::size_t>(1, 20);
+  RC_ASSERT(cellsOf(written(rows, crLf), piece) == rows);
+}
+
+RC_GTEST_PROP(CsvReader, TheSizeOfThePiecesDoesNotMatter, ()) {
+  const auto text = *rc::gen::container<std::string>(
+      rc::gen::element('a', ',', '"', '\r', '\n', ' ', '\xEF', '\xBB', '\xBF'));
+  const auto whole = rowsOf(text, 1000);
+  const auto pieces = rowsOf(text, *rc::gen::inRange<std::size_t>(1, 5));
+  RC_ASSERT(whole.size() == pieces.size());
+  for (std::size_t i = 0; i < whole.size(); ++i) {
+    RC_ASSERT(whole[i].cells == pieces[i].cells);
+    RC_ASSERT(whole[i].count == pieces[i].count);
+    RC_ASSERT(whole[i].fault == pieces[i].fault);
+  }
+}
+
+}  // namespace
+}  // namespace verdalis::testing
