@@ -282,6 +282,17 @@ TEST(SwitchPrices, VariesEveryRowOfTheName) {
   }
 }
 
+TEST(SwitchPrices, ObeysTheWishes) {
+  Farm farm = twoCropFarm();
+  farm.wishes = {{Wish::Kind::acresAtMost, "Corn", 0, 31.25}};
+  for (const SwitchSegment& segment : segmentsOf(farm, {{FarmInput::Kind::price, "Corn"}, 0, 10})) {
+    double corn = 0;
+    for (const PlannedField& field : segment.fields)
+      corn += field.crop == "Corn" ? field.acres : 0;
+    EXPECT_LE(corn, 31.25);
+  }
+}
+
 TEST(SwitchPrices, PricesPlansOfAFarmWithoutCosts) {
   Farm farm = twoCropFarm();
   for (const auto& crop : farm.crops)
