@@ -6,7 +6,7 @@
 
 #include "cli/CsvWriter.h"
 #include "cli/JsonWriter.h"
-#include "screens/wishText.h"
+#include "cli/relaxation.h"
 
 namespace verdalis {
 namespace {
@@ -39,25 +39,13 @@ class JsonBatch final : public BatchFormat {
   void add(std::string& text, const BatchResult& result) const override {
     Json line{{"farm", result.farm}, {"name", result.name}};
     line.update(headOf(result.result));
-    if (!result.wishes.empty()) line["wishes"] = result.wishes;
+    if (!result.result.wishes.empty()) line["wishes"] = result.result.wishes;
     Json options = Json::array();
     for (const OptionResult& option : result.result.options)
       options.push_back(toJson(option));
     line["options"] = std::move(options);
-    if (!result.fits) line["relax"] = relaxJson(result.relaxations);
+    if (result.result.relax) line["relax"] = relaxJson(*result.result.relax);
     text += jsonLine(line) + '\n';
-  }
-
- private:
-  static Json relaxJson(const std::vector<Relaxation>& relaxations) {
-    Json list = Json::array();
-    for (const Relaxation& relaxation : relaxations) {
-      Json without = Json::array();
-      for (const Wish& wish : relaxation.without)
-        without.push_back(wishText(wish));
-      list.push_back({{"without", std::move(without)}, {"profit", jsonNumber(relaxation.profit)}});
-    }
-    return list;
   }
 };
 

@@ -3,11 +3,8 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "cli/EvaluationResult.h"
-#include "engine/Farm.h"
-#include "engine/relaxWishes.h"
 
 namespace verdalis {
 
@@ -16,9 +13,6 @@ struct BatchResult {
   std::uint64_t farm = 0;  ///< The number of the row, from 1
   std::string name;
   EvaluationResult result;
-  std::vector<std::string> wishes;      ///< In their standard form
-  bool fits = true;                     ///< A plan meets all wishes
-  std::vector<Relaxation> relaxations;  ///< What to give up, where no plan does
 };
 
 /// How the results of a table of farms are written.

@@ -7,10 +7,9 @@
 
 #include "cli/EvaluationResult.h"
 #include "cli/Interrupt.h"
+#include "cli/relaxation.h"
 #include "engine/evaluateScenario.h"
 #include "engine/relaxWishes.h"
-#include "screens/wishText.h"
-#include "text/numbers.h"
 #include "text/quote.h"
 
 namespace verdalis {
@@ -21,17 +20,6 @@ constexpr std::size_t rowsPerWorker = 32;
 
 /// Finished text of a row that may wait for its turn; with more its worker waits itself.
 constexpr std::size_t mostWaiting = 1U << 16U;
-
-std::string relaxText(const std::vector<Relaxation>& relaxations) {
-  std::string text = "No plan meets all wishes.";
-  for (const Relaxation& relaxation : relaxations) {
-    std::string wishes;
-    for (const Wish& wish : relaxation.without)
-      wishes += (wishes.empty() ? "\"" : "\" and \"") + wishText(wish);
-    text += " Without " + wishes + "\" the best earns $" + formatNumber(relaxation.profit, "###,##0") + ".";
-  }
-  return text;
-}
 
 }  // namespace
 
@@ -139,14 +127,10 @@ void BatchRun::evaluateFarm(const CsvRow& row, std::uint64_t number, Outcome& ou
   found.farm = number;
   if (namePosition_ < columnCount_) found.name = row.cells[namePosition_];
   found.result = describeScenario(scenario, best->returnCollection(true, scenario.efficiency));
-  for (const Wish& wish : scenario.wishes)
-    found.wishes.push_back(wishText(wish));
-  found.fits = scenario.wishes.empty() || !found.result.options.empty();
-  if (!found.fits) {
-    std::optional<std::vector<Relaxation>> relaxations = relaxWishes(scenario, state, hooks);
-    if (!relaxations) return;
-    found.relaxations = std::move(*relaxations);
-    outcome.messages.push_back(relaxText(found.relaxations));
+  if (found.result.options.empty() && !scenario.wishes.empty()) {
+    found.result.relax = relaxWishes(scenario, state, hooks);
+    if (!found.result.relax) return;
+    outcome.messages.push_back(noPlanText(*found.result.relax));
     allDone_ = false;
   }
   format_.add(outcome.text, found);

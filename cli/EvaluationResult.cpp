@@ -2,6 +2,7 @@
 
 #include "model/EfficiencyFraction.h"
 #include "model/checked.h"
+#include "screens/wishText.h"
 
 namespace verdalis {
 namespace {
@@ -59,6 +60,9 @@ EvaluationResult describeScenario(const Scenario& scenario,
   result.waterSplits = static_cast<std::size_t>(scenario.depths.Count());
   result.cropCombinations = scenario.combinations.Count();
   result.efficiency = scenario.efficiency;
+  for (const Wish& wish : scenario.wishes)
+    result.wishes.push_back(wishText(wish));
+  result.mixes = scenario.mixes;
   addOptions(result, options);
   return result;
 }

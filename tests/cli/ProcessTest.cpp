@@ -201,6 +201,24 @@ TEST(Process, CtrlCCancelsARun) {
   }
 }
 
+TEST(Process, CtrlCCancelsATableOfFarms) {
+  const SmallHome home;
+  const std::string table = home.folder().write("farms.csv", "name,txtArea\nA,10\n").string();
+  const std::string file = (home.folder() / "result").string();
+  sigset_t interrupt{};
+  sigset_t before{};
+  sigemptyset(&interrupt);
+  sigaddset(&interrupt, SIGINT);
+  ::pthread_sigmask(SIG_BLOCK, &interrupt, &before);
+  const CliResult result =
+      runProcess({"batch", table, "--home", home.path(), "--output", file}, {}, "", [] { ::raise(SIGINT); });
+  ::pthread_sigmask(SIG_SETMASK, &before, nullptr);
+  EXPECT_EQ(result.exitCode, 1);
+  EXPECT_EQ(result.out, "");
+  EXPECT_EQ(result.err, "verdalis-cli: cancelled\n");
+  EXPECT_FALSE(std::filesystem::exists(file));
+}
+
 /// Whenever Ctrl+C is pressed, the result is complete or missing.
 TEST(Process, CtrlCAtAnyTimeLeavesNoPartialResult) {
   const SmallHome home;
