@@ -21,7 +21,6 @@ struct ProgramState {
   bool TrendMode = false;         ///< A trend setup or run is under way
   bool TrendCancelled = false;    ///< A run inside a trend was cancelled
   double splitCounter = 0;        ///< Completed and overfull splits of all runs, for diagnosis
-  bool FallowNegatives = false;   ///< Follows its check box; deliberately without effect
   bool TrendEnabled = false;      ///< Trend processing is on; saved with the inputs
   bool TrendNoticeShown = false;  ///< The notice of that needs no showing any more
   /// The option chosen for a fixed trend; without fields for a variable trend.

@@ -32,7 +32,7 @@ frmMain::frmMain(Desk& desk, Services& services, ProgramState& state, SecondaryW
                  ProgramFiles files)
     : Window(desk, "frmMain", Scope::transparent),
       cropFiles(files.home),
-      pneMain(*this, services, state, tempIrrigationCosts),
+      pneMain(*this, services, tempIrrigationCosts),
       pneInputCosts(*this, services),
       pneIrrigCosts(*this, services, tempIrrigationCosts),
       theResults(pneResults, "theResults", services, state),

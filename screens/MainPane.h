@@ -11,7 +11,6 @@
 #include "controls/displays.h"
 #include "controls/inputs.h"
 #include "controls/services.h"
-#include "engine/ProgramState.h"
 #include "model/IrrigationCosts.h"
 #include "screens/CropRecord.h"
 #include "screens/FieldTable.h"
@@ -23,8 +22,7 @@ namespace verdalis {
 /// starts the evaluation.
 class MainPane : public Frame {
  public:
-  MainPane(Frame& window, Services& services, ProgramState& state,
-           std::shared_ptr<IrrigationCosts> tempIrrigationCosts);
+  MainPane(Frame& window, Services& services, std::shared_ptr<IrrigationCosts> tempIrrigationCosts);
 
   TextBox txtArea{*this, "txtArea"};
   TextBox txtMax{*this, "txtMax"};
@@ -55,8 +53,9 @@ class MainPane : public Frame {
   Frame pnlBatchInstructions{*this, "pnlBatchInstructions"};
   HelpButtons cmdHelp{*this, {0, 1, 2, 3, 4, 5, 6, 9, 10, 28, 29}};
 
-  std::string currentSoil;  ///< Always the text of txtSoil
-  int cropFrameTop = 0;     ///< Layout units; 0 or less
+  std::string currentSoil;       ///< Always the text of txtSoil
+  bool FallowNegatives = false;  ///< Follows Check1; deliberately without effect
+  int cropFrameTop = 0;          ///< Layout units; 0 or less
 
   /// The fields of the farm in their order, with all that belongs to them; and the land split, as "Option1".
   [[nodiscard]] static std::span<const FieldRow> fields();

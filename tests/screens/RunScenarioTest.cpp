@@ -6,8 +6,10 @@
 #include <string>
 #include <vector>
 
+#include "screens/MainPane.h"
 #include "screens/RunScenario.h"
 #include "tests/support/Errors.h"
+#include "tests/support/FakeServices.h"
 #include "tests/support/Run.h"
 
 // One evaluation from the texts to the ranked options.
@@ -23,6 +25,23 @@ class Run : public ::testing::Test {
  private:
   ScopedEfficiency efficiency_{0};
 };
+
+/// Fills the controls of a pane with the inputs of a farm.
+void typeInto(MainPane& pane, const ScenarioInputs& inputs) {
+  pane.txtArea.type(inputs.txtArea);
+  pane.txtMax.type(inputs.txtMax);
+  pane.txtAnnRain.type(inputs.txtAnnRain);
+  pane.txtEff.type(inputs.txtEff);
+  pane.currentSoil = inputs.currentSoil;
+  for (std::size_t i = 0; i < inputs.Option1.size(); ++i)
+    pane.Option1[i]->setChecked(inputs.Option1.at(i));
+  for (std::size_t i = 0; i < inputs.cr.size(); ++i) {
+    CropRecord& row = pane.row(i);
+    row.chkCrop.setChecked(inputs.cr[i].isActive);
+    row.txtPrice.type(inputs.cr[i].txtPrice);
+    row.txtMaxYield.type(inputs.cr[i].txtMaxYield);
+  }
+}
 
 TEST_F(Run, OnTheTypicalFarmPrices44Candidates) {
   const auto farm = cornAndWheatFarm();
@@ -273,8 +292,16 @@ TEST_F(Run, IsRepeatable) {
 TEST_F(Run, TakesNoNoteOfTheBoxForFallowLand) {
   const auto farm = cornAndWheatFarm();
   farm->add(fallowCrop());
+  FakeServices fakes;
+  Desk desk;
+  Window window(desk, "frmMain", Frame::Scope::transparent);
+  MainPane pane(window, fakes.services, farm->plant);
+  typeInto(pane, farm->inputs);
+  farm->inputs = pane.scenarioInputs();
   const auto first = describe(farm->run());
-  farm->state.FallowNegatives = true;
+  pane.Check1.click();
+  EXPECT_TRUE(pane.FallowNegatives);
+  farm->inputs = pane.scenarioInputs();
   EXPECT_EQ(describe(farm->run()), first);
 }
 

@@ -1,14 +1,17 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "model/LandDivision.h"
+#include "screens/MainPane.h"
 #include "screens/ScenarioInputs.h"
 #include "screens/readScenario.h"
 #include "tests/support/Errors.h"
+#include "tests/support/FakeServices.h"
 #include "tests/support/Run.h"
 
 // The texts that a run starts from: whether they are all there, and the volume that follows from them.
@@ -153,8 +156,15 @@ TEST(ProgramState, StartsWithTheDefaultsOfTheProgram) {
   EXPECT_FALSE(state.CancelRequested);
   EXPECT_FALSE(state.TrendMode);
   EXPECT_FALSE(state.TrendCancelled);
-  EXPECT_FALSE(state.FallowNegatives);
   EXPECT_EQ(state.splitCounter, 0);
+}
+
+TEST(MainPane, StartsWithFallowNegativesOff) {
+  FakeServices fakes;
+  Desk desk;
+  Window window(desk, "frmMain", Frame::Scope::transparent);
+  const MainPane pane(window, fakes.services, std::make_shared<IrrigationCosts>());
+  EXPECT_FALSE(pane.FallowNegatives);
 }
 
 }  // namespace
