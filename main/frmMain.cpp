@@ -83,8 +83,8 @@ void frmMain::load() {
     desk().onRunTimeError(error);
   }
   inputsLoaded_ = loadInputs();
-  if (state_.TrendEnabled) state_.TrendNoticeShown = true;
-  EnableBatch(state_.TrendEnabled);
+  if (TrendEnabled) TrendNoticeShown = true;
+  EnableBatch(TrendEnabled);
   state_.FineFactor = 10;
   trends.pneBatchSetup0.cboCrops.setIndex(0);
   SetMainInfo(strMainInfo);
@@ -121,11 +121,11 @@ void frmMain::saveInputs() {
   generalInputs.waterAllocation = pneMain.txtMax.text();
   // A file that cannot be written must not stop the run.
   static_cast<void>(verdalis::saveInputs(files_.inputs, generalInputs, *tempIrrigationCosts,
-                                         cropFiles.cropCollection, state_.TrendEnabled));
+                                         cropFiles.cropCollection, TrendEnabled));
 }
 
 bool frmMain::loadInputs() {
-  SavedInputsControls target(*this, state_);
+  SavedInputsControls target(*this);
   return verdalis::loadInputs(files_.inputs, target);
 }
 
@@ -142,12 +142,12 @@ BestMix frmMain::RunScenario(const std::string& description) {
 }
 
 void frmMain::EnableBatch(bool on) {
-  if (on && !state_.TrendNoticeShown) {
+  if (on && !TrendNoticeShown) {
     ask(desk(), services_.messageBox,
         {"Trend processing enabled", trendNotice, MessageKind::notice, MessageIcon::information});
-    state_.TrendNoticeShown = true;
+    TrendNoticeShown = true;
   }
-  state_.TrendEnabled = on;
+  TrendEnabled = on;
   touch();
   menus.mnuFallBatch.setEnabled(on);
   menus.mnuEnableBatch.setChecked(on);
@@ -279,7 +279,9 @@ void frmMain::Command1_Click() {
                                " seconds");
   showPane(pneResults);
   theResults.ShowBatchedVariables(false);
-  theResults.loadResults(best.returnCollection(true));
+  const std::vector<Results::Option> options = best.returnCollection(true);
+  theResults.EnableBatch(TrendEnabled);
+  theResults.loadResults(options);
   // Once more: packing can have made new neighbours, and then paper lists fewer options than the screen.
   thePrinter.setCollection(best.returnCollection(true));
   menus.mnuPrint.setEnabled(true);

@@ -57,7 +57,6 @@ const Results::Option& Results::option(std::int16_t number) const {
 }
 
 void Results::loadResults(const std::vector<Option>& options) {
-  EnableBatch(state_.TrendEnabled);
   currentRecord = 0;
   lblCounter.setCaption("Option 1");
   FieldCollection = options;

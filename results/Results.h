@@ -112,7 +112,8 @@ class Results : public Frame {
   /// fields the rows stay as they were.
   void loadResults(const std::vector<Option>& options);
 
-  /// Shows or hides the request for a fixed trend.
+  /// Shows or hides the request for a fixed trend. A request made turns it on, so the owner calls this before
+  /// each loadResults().
   void EnableBatch(bool on);
 
   /// Shows or hides what a fixed trend did to make the option.

@@ -61,7 +61,11 @@ void BatchResults::showOutcome(const TrendOutcome& outcome, const BatchProcess& 
 }
 
 void BatchResults::showStep(long step, const std::function<std::vector<Results::Option>()>& options) {
-  passOver([&] { theResults.loadResults(options()); });
+  passOver([&] {
+    const std::vector<Results::Option> shown = options();
+    theResults.EnableBatch(host_.trendEnabled());
+    theResults.loadResults(shown);
+  });
   step_ = step;
   UnitsPair units;
   passOver([&] { units = GetVariableUnits(host_, bp.VariableIndex, bp.cropIndex); });

@@ -260,6 +260,16 @@ TEST_F(TrendWindow, IrrigationCostsOfATrendAreInTheDetails) {
   EXPECT_EQ(caption("theDetails.lblIrrigationCosts"), "Subtotal: $24.00 /acre");
 }
 
+TEST_F(TrendWindow, EachRunOffersATrendWhileTrendProcessingIsOn) {
+  running.press("Command1");
+  EXPECT_TRUE(main.theResults.batchDisplay.visible());
+  running.press("theResults.Command1");
+  main.TrendEnabled = false;
+  EXPECT_TRUE(main.theResults.batchDisplay.visible());
+  running.press("Command1");
+  EXPECT_FALSE(main.theResults.batchDisplay.visible());
+}
+
 TEST_F(TrendWindow, AFixedTrendOverAStepOfAVariableTrend) {
   runVariable(1, 1, "100, 200");
   running.press("theBatchResults.cmdBatchStep(0)");

@@ -313,10 +313,10 @@ TEST_F(ResultsTest, AFixedTrendTakesTheOptionOnShow) {
 }
 
 TEST_F(ResultsTest, TheTrendRequestFollowsTrendProcessing) {
-  state.TrendEnabled = true;
+  results.EnableBatch(true);
   results.loadResults({optionEarning(1)});
   EXPECT_TRUE(results.batchDisplay.visible());
-  state.TrendEnabled = false;
+  results.EnableBatch(false);
   results.loadResults({optionEarning(1)});
   EXPECT_FALSE(results.batchDisplay.visible());
   results.EnableBatch(true);

@@ -232,7 +232,7 @@ TEST_F(FixedTrendTest, ATrendOnTheResultOfATrendForgetsTheFirst) {
   define(1, "50");
   run();
   results.theResults.onBatchThis.connect([this](const auto&) { screens.ShowBatchScreen(); });
-  state.TrendEnabled = true;
+  host.isTrendEnabled = true;
   results.theResults.EnableBatch(true);
   results.theResults.cmdBatchThis.click();
   define(0, "5");
