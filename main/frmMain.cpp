@@ -227,7 +227,7 @@ void frmMain::wireOptions(Results& results) {
     menus.mnuPrint.setEnabled(false);
   });
   results.onSaveOption.connect([this](const Results::Option& option) { summaryResults.push_back(option); });
-  results.onBatchThis.connect([this](const Results::Option&) { trends.ShowBatchScreen(); });
+  results.onBatchThis.connect([this](const Results::Option& option) { trends.cmdBatchThis_Click(option); });
   results.onDetails.connect([this](const std::shared_ptr<Field>& field) {
     theDetails.loadCosts(*field);  // a field that it cannot price leaves the options on show
     showPane(pneDetails);

@@ -59,7 +59,7 @@ class Results : public Frame {
                                       std::int16_t variableIndex, std::int16_t cropRowIndex);
 
   /// `name` is that of this instance, such as "theResults".
-  Results(Frame& container, const std::string& name, Services& services, ProgramState& state);
+  Results(Frame& container, const std::string& name, Services& services, const ProgramState& state);
 
   std::vector<Option> FieldCollection;  ///< The options of loadResults(), placeholders included
   std::int16_t currentRecord = 0;       ///< The option on show, from 1; 0 before the first is shown
@@ -90,7 +90,7 @@ class Results : public Frame {
   /// The option, this very object, is to be kept for comparison.
   Event<const Option&> onSaveOption;
 
-  /// A fixed trend on the option is asked for, which is the selected option by then.
+  /// A fixed trend on the option is asked for.
   Event<const Option&> onBatchThis;
 
   Event<BackTo> onBack;
@@ -150,7 +150,7 @@ class Results : public Frame {
   void batchThis();
 
   Services& services_;
-  ProgramState& state_;
+  const ProgramState& state_;
   std::int16_t maxOption_ = 0;  ///< The options that have fields; paging stops there
 };
 

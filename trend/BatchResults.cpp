@@ -19,7 +19,6 @@ BatchResults::BatchResults(Frame& container, Services& services, ProgramState& s
     : Frame(container, "theBatchResults", Scope::named),
       theResults(*this, "theResults", services, state),
       services_(services),
-      state_(state),
       trend_(trend),
       host_(host) {
   pnlBatchSteps.setVisible(false);
@@ -96,7 +95,7 @@ void BatchResults::exportFixed() {
       return theResults.CheckVariable(variable, static_cast<std::int16_t>(GetCropIndex(host_, crop).row));
     };
     writeFixedTrend(
-        {trend_.TrendOptionArray, *state_.SelectedOption, isTrended, host_.txtEff(), services_.clock.now()},
+        {trend_.TrendOptionArray, *trend_.SelectedOption, isTrended, host_.txtEff(), services_.clock.now()},
         text);
   });
 }

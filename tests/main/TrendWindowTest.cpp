@@ -279,7 +279,9 @@ TEST_F(TrendWindow, AFixedTrendOverAStepOfAVariableTrend) {
   EXPECT_TRUE(running.control<Frame>("frmBatches").isShown());
   EXPECT_EQ(running.control<ComboBox>("cboCrops").items(), Strings{"Corn"});
   EXPECT_EQ(running.control<ComboBox>("cboCrops").text(), "Alfalfa");
-  EXPECT_EQ(running.program->state.SelectedOption->Count(), 1);
+  const Results& options = main.trends.pneBatchSetup1.theBatchResults.theResults;
+  EXPECT_EQ(main.trends.trend.SelectedOption, options.FieldCollection.at(0));
+  EXPECT_EQ(main.trends.trend.SelectedOption->Count(), 1);
   EXPECT_EQ(main.lblMainInfo.caption(), fixedBand);
 
   // The costs of the variable trend are no part of the option that the fixed trend begins with.
