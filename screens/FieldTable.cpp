@@ -9,7 +9,7 @@
 namespace verdalis {
 namespace {
 
-/// $ per gallon, gallon, thousand cubic feet and kilowatt-hour.
+/// $ per gallon, gallon, thousand cubic feet and kilowatt-hour, in this order.
 constexpr std::array<std::pair<std::string_view, double>, 4> fuelLimits{
     {{"Diesel", 10}, {"Propane", 10}, {"Natural Gas", 25}, {"Electricity", 0.4}}};
 constexpr double otherFuelLimit = 100;

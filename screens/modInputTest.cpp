@@ -15,8 +15,7 @@ void emptyText(WithText& control) {
   }
 }
 
-/// Empties the control if it is a text field or a combo with free text and its text is one that `counts`
-/// chooses.
+/// Empties a text field or free-text combo box if `counts` returns true for its text.
 template <class Counts>
 void emptyIf(Control& control, Counts counts) {
   if (auto* box = dynamic_cast<TextBox*>(&control)) {
@@ -38,8 +37,8 @@ void testInput(TextBox* control, double limit, const std::string& label, Message
   }
   const double value = toDouble(text);
   if (value >= 0 && value <= limit) return;
-  // The limit is told in whole numbers, so that one below a half is not told at all; and 0 passes, although
-  // the other message asks for more: both are meant.
+  // The message shows the limit as a whole number, so a limit below 0.5 is not shown at all; and 0 passes,
+  // although the other message asks for more than 0. Both are intended.
   const std::string message = value >= 0 ? ":  Please enter a value that's less than or equal to " +
                                                formatNumber(limit, "###,###,###")
                                          : ":  Please enter a value that's greater than 0";
@@ -51,7 +50,7 @@ void showInputError(const std::string& message, TextBox& control, MessageBoxServ
   try {
     if (control.canUndo()) control.undo();
   } catch (const RunTimeError&) {
-    // What follows from the text that is back failed; the text and the focus are back all the same.
+    // A handler of the restored text failed. The text and the focus are restored anyway.
     control.desk().moveFocus(control);
     throw;
   }

@@ -31,7 +31,7 @@ std::string volumeOf(const std::string& acres, const std::string& inches) {
   return inputs.lblVolume;
 }
 
-TEST(LandDivisions, AreChosenByTheButtonThatIsOn) {
+TEST(LandDivisions, AreChosenByTheCheckedButton) {
   for (std::size_t i = 0; i < 6; ++i) {
     LandSplitButtons buttons{};
     buttons.at(i) = true;
@@ -52,7 +52,7 @@ TEST(GrossVolume, IsShownInWholeAcreInchesWithThousandsCommas) {
   EXPECT_EQ(volumeOf("1", "0.5"), "1");  // halves away from zero
 }
 
-TEST(GrossVolume, IsAnEmptyTextWhereItRoundsTo0) {
+TEST(GrossVolume, IsAnEmptyTextIfItRoundsTo0) {
   EXPECT_EQ(volumeOf("10", "0.04"), "");
   EXPECT_EQ(volumeOf("", "12"), "");
   EXPECT_EQ(volumeOf("100", ""), "");
@@ -60,12 +60,12 @@ TEST(GrossVolume, IsAnEmptyTextWhereItRoundsTo0) {
   EXPECT_EQ(volumeOf("abc", "12"), "");
 }
 
-TEST(GrossVolume, ReadsTheLeadingNumbersSoThatACommaEndsThem) {
+TEST(GrossVolume, ReadsItsInputsUpToAComma) {
   EXPECT_EQ(volumeOf("1,000", "12"), "12");
   EXPECT_EQ(volumeOf("100 acres", "12 in"), "1,200");
 }
 
-TEST(GrossVolume, TellsAVolumeThatIsTooLarge) {
+TEST(GrossVolume, ReportsATooLargeVolume) {
   EXPECT_THAT(errorText(ErrorNumber::overflow, [] { (void)volumeOf("1e200", "1e200"); }),
               HasSubstr("gross water volume"));
   EXPECT_THAT(errorText(ErrorNumber::overflow, [] { (void)volumeOf("1e400", "1"); }), HasSubstr("1e400"));
