@@ -129,8 +129,8 @@ void Control::leave() {
 }
 
 void Control::act(const std::function<void()>& action, bool takesFocus) {
-  // The leaving test of the field left behind is an event of its own: whatever comes of it, the action is
-  // carried out.
+  // Leaving the previous field is an event of its own: the action is carried out even if the field fails its
+  // test.
   Desk& desk = *desk_;
   const std::weak_ptr<const void> here = life();
   desk.run([&] {
@@ -164,7 +164,7 @@ void Window::open() {
 }
 
 void Window::close() {
-  // A field of a closed window is not tested any more.
+  // A field of a closed window is no longer tested.
   if (Control* const focus = desk().focus(); focus != nullptr && &focus->window() == this)
     desk().forget(*focus);
   desk().forget(*this);
@@ -207,8 +207,8 @@ void Desk::enter(Control& control, bool acting) {
     before->onLeave();
     if (here.expired()) return;
     if (focus_ != &control) {
-      // A failed test has given the focus back to its field, where it stays; but an action that left the
-      // field is carried out all the same, and the focus goes with it.
+      // The previous field failed its test and took the focus back. It keeps the focus unless the user acts
+      // on this control: then the action is carried out anyway, and the focus moves here.
       if (!acting) return;
       moveFocus(control);
       if (here.expired()) return;

@@ -33,14 +33,14 @@ enum class ControlKind {
 
 /// A control as data: its state and its events, without layout or painting.
 ///
-/// The program sets state with the set... operations; whoever shows the control is told through
-/// `onStateChange`. A person acts through operations of their own (click, type, pick, ...), and these run the
-/// same path from a widget, a script line or a test. What the program sets fires the same event as what a
-/// person does, where it really changes something.
+/// The program changes the state with the set... operations, and the view is notified through
+/// `onStateChange`. User actions have operations of their own (click, type, pick, ...), which do the same
+/// whether a widget, a script or a test calls them. A change by the program raises the same event as one by
+/// the user, but only if the state really changes.
 class Control {
  public:
-  /// A control of a container, which must outlive it. `name` is that of the program, such as "txtArea" or
-  /// "cr(0)".
+  /// Creates a control in a container, which must outlive it. `name` is its name in the program, such as
+  /// "txtArea" or "cr(0)".
   Control(ControlKind kind, Frame& container, std::string name);
   Control(const Control&) = delete;
   Control& operator=(const Control&) = delete;
@@ -49,8 +49,8 @@ class Control {
   [[nodiscard]] ControlKind kind() const { return kind_; }
   [[nodiscard]] const std::string& name() const { return name_; }
 
-  /// The name by which it is reached from outside: with that of the window or composite control it belongs
-  /// to, such as "theResults.rh(0).lblCrop".
+  /// The full name, prefixed by the names of the enclosing `Frame::Scope::named` windows and composite
+  /// controls, such as "theResults.rh(0).lblCrop".
   [[nodiscard]] std::string path() const;
 
   [[nodiscard]] Frame* container() const { return container_; }
@@ -61,45 +61,45 @@ class Control {
   void setVisible(bool visible);
   void setEnabled(bool enabled);
 
-  /// Another one lies in front of it: visible as its state says, yet out of a person's sight.
+  /// Whether another control lies in front of this one and hides it from the user. visible() is unaffected.
   [[nodiscard]] bool covered() const { return covered_; }
   void setCovered(bool covered);
 
-  /// Whether a person can see it: it and all that contains it are visible and not covered.
+  /// Whether the user can see it: it and all its containers are visible and not covered.
   [[nodiscard]] bool isShown() const;
 
-  /// Whether a person can use it: shown, and it and all that contains it are enabled.
+  /// Whether the user can use it: it is shown, and it and all its containers are enabled.
   [[nodiscard]] bool isReachable() const;
 
-  /// A person moves the focus to it, or out of it to nowhere. A focus that is there already stays, and so
-  /// does one that the leaving test of another field takes back.
+  /// User actions: move the focus to this control, or away from it to no control. enter() has no effect if
+  /// the control already has the focus, or if a field fails its test on leaving and takes the focus back.
   void enter();
   void leave();
 
   Event<> onEnter;
   Event<> onLeave;
 
-  /// After each change of its state.
+  /// Raised after each change of the state.
   Event<> onStateChange;
 
-  /// The desk of its window, which passes people's actions on and knows the focus.
+  /// The desk of its window, which runs user actions and keeps the focus.
   [[nodiscard]] Desk& desk();
 
  protected:
-  /// A window of a desk.
+  /// Creates a window of a desk.
   Control(ControlKind kind, Desk& desk, std::string name);
 
   void changed() const { onStateChange(); }
 
-  /// Expires with the control. What goes on after an event looks here, as a listener may have taken the
-  /// control away.
+  /// Expires when the control is destroyed. Code that continues after an event checks it, because a listener
+  /// may have destroyed the control.
   [[nodiscard]] std::weak_ptr<const void> life() const { return life_; }
 
-  /// Called when the focus comes to it, before onEnter.
+  /// Called when the control gets the focus, before onEnter.
   virtual void focused() {}
 
-  /// Runs a person's action: the focus comes here first (unless `takesFocus` is false), and a run-time error
-  /// ends the action and is told by the desk.
+  /// Runs a user action. Moves the focus here first, unless `takesFocus` is false. A run-time error ends the
+  /// action and is reported by the desk.
   void act(const std::function<void()>& action, bool takesFocus = true);
 
  private:
@@ -115,12 +115,12 @@ class Control {
   std::shared_ptr<const void> life_ = std::make_shared<char>();
 };
 
-/// A frame, a pane, a window or a composite control: what contains controls.
+/// A container of controls: a frame, a pane, a window or a composite control.
 class Frame : public Control {
  public:
   enum class Scope {
-    transparent,  ///< Its controls are reached by their own names
-    named,        ///< Its controls are reached through its name
+    transparent,  ///< Its name is not part of the paths of its controls
+    named,        ///< Its name is part of the paths of its controls
   };
 
   Frame(Frame& container, std::string name, Scope scope = Scope::transparent)
@@ -131,7 +131,7 @@ class Frame : public Control {
   [[nodiscard]] const std::string& caption() const { return caption_; }
   void setCaption(const std::string& caption);
 
-  /// A person clicks on it.
+  /// User action: click on the frame.
   void click();
   Event<> onClick;
 
@@ -147,7 +147,7 @@ class Frame : public Control {
   std::vector<Control*> controls_;
 };
 
-/// A top-level window. It is open while it is visible; a new one is closed.
+/// A top-level window. It is open while it is visible. A new window is closed.
 class Window : public Frame {
  public:
   Window(Desk& desk, std::string name, Scope scope = Scope::named);
@@ -157,40 +157,40 @@ class Window : public Frame {
   void open();
   void close();
 
-  /// A person closes it by its frame.
+  /// User action: close the window by its frame.
   void closeByUser();
 
-  /// What that does in place of closing it. It is a handler and no event, as one alone can decide.
+  /// Replaces the closing by the user. It is a handler and not an event because only one can decide.
   std::function<void()> onCloseByUser;
 
-  /// It was active, and now another window of the program, or none, is.
+  /// The window was active, and now another window of the program or none is.
   Event<> onDeactivate;
 };
 
-/// What all windows of the program share: the focus, the active window, and the one place where people's
-/// actions enter and their run-time errors are caught.
+/// Shared by all windows of the program: the focus, the active window, and the one place where user actions
+/// start and their run-time errors are caught.
 class Desk {
  public:
   Desk() = default;
   Desk(const Desk&) = delete;
   Desk& operator=(const Desk&) = delete;
 
-  /// Tells a run-time error to the user. Without it the error goes on to the caller, so it is a handler and
-  /// no event.
+  /// Reports a run-time error to the user. It is a handler and not an event because without it the error is
+  /// passed on to the caller.
   std::function<void(const class RunTimeError&)> onRunTimeError;
 
-  /// The program moves the focus, without the leaving test of the control that had it. Whoever shows it
-  /// follows.
+  /// Moves the focus on behalf of the program, without the test of the control that loses it. The view
+  /// follows through `onMoveFocus`.
   void moveFocus(Control& control);
   Event<Control&> onMoveFocus;
 
   [[nodiscard]] Control* focus() const { return focus_; }
   [[nodiscard]] const std::vector<Window*>& windows() const { return windows_; }
 
-  /// The window becomes the active one; the one that was is told.
+  /// Makes a window the active one, or none, and raises onDeactivate of the previous one if it is open.
   void activate(Window* window);
 
-  /// While a message box or chooser is open, windows do not lose the activation.
+  /// Keeps windows from being deactivated while a message box or file chooser is open.
   class Modal {
    public:
     explicit Modal(Desk& desk) : desk_(desk) { ++desk_.modals_; }
@@ -202,14 +202,14 @@ class Desk {
     Desk& desk_;
   };
 
-  /// The control at a path, or nullptr. Only open windows and those that have been open are there.
+  /// The control with a path; nullptr if there is none. Only windows that have been created are searched.
   [[nodiscard]] Control* find(std::string_view path) const;
 
  private:
   friend class Control;
   friend class Window;
 
-  /// `acting`: a person does something with the control, not just moves the focus there.
+  /// `acting`: the user does something with the control and does not only move the focus there.
   void enter(Control& control, bool acting);
   void leave(Control& control);
   void forget(const Control& control);
@@ -221,7 +221,7 @@ class Desk {
   int modals_ = 0;
 };
 
-/// A caption as a person sees it: a doubled ampersand is one.
+/// A caption as it is shown: "&&" becomes "&".
 [[nodiscard]] std::string shownCaption(std::string_view caption);
 
 }  // namespace verdalis

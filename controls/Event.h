@@ -8,8 +8,8 @@
 
 namespace verdalis {
 
-/// Keeps one listener of an event connected: when it goes, the listener is not called any more. It may
-/// outlive the event.
+/// Keeps one listener of an event connected. Destroying the connection disconnects the listener. A connection
+/// may outlive the event.
 class Connection {
  public:
   Connection() = default;
@@ -32,12 +32,12 @@ class Connection {
   std::weak_ptr<bool> connected_;
 };
 
-/// Something that happens to a control or a pane, told to all who listen, in the order in which they were
-/// connected. Without a listener nothing happens.
+/// An event of a control or a pane. Raising it calls all listeners in the order in which they were connected.
 ///
-/// A listener may connect another, which hears from the next time on; it may make the event happen again,
-/// end a connection, or take away the event itself, and then the listeners behind it are not called. An
-/// exception of a listener goes to whoever made the event happen, and ends it likewise.
+/// While an event is raised, a listener may connect another one, which is called from the next time on; raise
+/// the event again; disconnect a listener, which is then no longer called; or destroy the event, after which
+/// the remaining listeners are not called. An exception of a listener is passed to the caller, and the
+/// remaining listeners are not called.
 template <class... Arguments>
 class Event {
  public:
@@ -52,16 +52,17 @@ class Event {
       entry->connected = false;
   }
 
-  /// Adds a listener for as long as the event lives.
+  /// Connects a listener for the lifetime of the event.
   void connect(Listener listener) { static_cast<void>(add(std::move(listener))); }
 
-  /// Adds a listener for as long as the connection lives: for one that goes before the event.
+  /// Connects a listener for the lifetime of the connection. Use it for a listener that is destroyed before
+  /// the event.
   [[nodiscard]] Connection connectScoped(Listener listener) {
     const std::shared_ptr<Entry> entry = add(std::move(listener));
     return Connection(std::shared_ptr<bool>(entry, &entry->connected));
   }
 
-  /// Whether anyone listens.
+  /// Whether a listener is connected.
   [[nodiscard]] bool isHeard() const {
     if (!entries_) return false;
     for (const std::shared_ptr<Entry>& entry : *entries_) {
@@ -70,10 +71,10 @@ class Event {
     return false;
   }
 
-  /// It happens.
+  /// Raises the event.
   void operator()(Arguments... arguments) const {
     if (!entries_) return;
-    // Connecting makes a new list, and this one stays when a listener takes the event away.
+    // connect() makes a new list, and this copy keeps the list alive if a listener destroys the event.
     const std::shared_ptr<const Entries> entries = entries_;
     for (const std::shared_ptr<Entry>& entry : *entries) {
       if (entry->connected) entry->listener(arguments...);

@@ -10,10 +10,11 @@
 
 namespace verdalis {
 
-/// A key that a grid reacts to beside characters.
+/// A key that a grid reacts to, other than a character.
 enum class GridKey { enter, backspace, erase, copy, paste, cut };
 
-/// Rows and columns of texts, counted from 0, with a current cell. Row 0 and column 0 usually are heads.
+/// A table of texts with a current cell. Rows and columns are counted from 0; row 0 and column 0 usually are
+/// headings.
 class Grid : public Control {
  public:
   Grid(Frame& container, std::string name, int rows = 2, int columns = 2);
@@ -21,27 +22,27 @@ class Grid : public Control {
   [[nodiscard]] int rows() const { return rows_; }
   [[nodiscard]] int columns() const { return columns_; }
 
-  /// Changes the size; what still fits stays. At least one row and one column.
+  /// Resizes the grid to at least one row and one column. Cells that still fit keep their contents.
   void setSize(int rows, int columns);
 
-  /// The text of a cell; empty outside the grid.
+  /// The text of a cell; empty for a cell outside the grid.
   [[nodiscard]] const std::string& cell(int row, int column) const;
 
-  /// Outside the grid nothing happens.
+  /// Sets the text of a cell. A cell outside the grid is ignored.
   void setCell(int row, int column, const std::string& text);
 
-  /// The colour 0xRRGGBB of a cell's text; nothing for the ordinary one.
+  /// The colour of a cell's text as 0xRRGGBB; nothing for the default colour.
   [[nodiscard]] std::optional<std::uint32_t> color(int row, int column) const;
   void setColor(int row, int column, std::optional<std::uint32_t> color);
 
-  /// Empties all cells and their colours.
+  /// Clears the texts and colours of all cells.
   void clear();
 
   [[nodiscard]] int row() const { return row_; }
   [[nodiscard]] int column() const { return column_; }
   void setCurrent(int row, int column);
 
-  /// While it is held, whoever shows the grid is not told of changes; afterwards once.
+  /// Defers onStateChange: changes during its lifetime raise none, and its end raises one.
   class Batch {
    public:
     explicit Batch(Grid& grid) : grid_(grid) { ++grid_.batches_; }
@@ -53,7 +54,7 @@ class Grid : public Control {
     Grid& grid_;
   };
 
-  /// A person clicks a cell, which becomes the current one; types a character; presses a key.
+  /// User actions: click a cell, which becomes the current one; type a character; press a key.
   void clickCell(int row, int column);
   void typeCharacter(const std::string& character);
   void pressKey(GridKey key);

@@ -8,8 +8,8 @@
 
 namespace verdalis {
 
-/// Some of the "?" buttons of the main window, by their index, on the pane that they stand on. A press raises
-/// `onHelp` with the index.
+/// The "?" buttons on one pane. Their indices are those of the main window's array of "?" buttons; a click
+/// raises `onHelp` with the index.
 class HelpButtons {
  public:
   HelpButtons(Frame& container, const std::vector<int>& indices);
@@ -18,7 +18,7 @@ class HelpButtons {
 
   [[nodiscard]] const std::vector<std::unique_ptr<Button>>& buttons() const { return buttons_; }
 
-  /// The button of an index; nullptr where the pane has none.
+  /// The button with an index; nullptr if the pane does not have it.
   [[nodiscard]] Button* button(int index) const;
 
  private:

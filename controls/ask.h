@@ -8,20 +8,20 @@
 
 namespace verdalis {
 
-// The one way in which the program asks a person something that must be answered before it goes on. While the
-// box or the chooser is open, no window of the desk loses the activation.
+// Modal questions to the user: all message boxes and file choosers are opened here. While one is open, no
+// window of the desk is deactivated.
 
-/// Shows a message box and waits until it is answered. A notice is answered, too.
-/// \returns the answer.
+/// Shows a message box and waits until the user closes it.
+/// \returns the answer; `ok` for a box that only informs.
 MessageAnswer ask(Desk& desk, MessageBoxService& messageBox, const Message& message);
 
 /// Asks for a file to read.
-/// \returns its path; nothing when the person cancels.
+/// \returns its path; nothing if the user cancels.
 [[nodiscard]] std::optional<std::filesystem::path> askToOpen(Desk& desk, FileChooserService& fileChooser,
                                                              const FileQuestion& question);
 
 /// Asks for a file to write.
-/// \returns its path; nothing when the person cancels.
+/// \returns its path; nothing if the user cancels.
 [[nodiscard]] std::optional<std::filesystem::path> askToSave(Desk& desk, FileChooserService& fileChooser,
                                                              const FileQuestion& question);
 

@@ -8,7 +8,7 @@
 
 namespace verdalis {
 
-/// What shows a caption and can be pressed, or not.
+/// Base of the controls that show a caption.
 class Captioned : public Control {
  public:
   [[nodiscard]] const std::string& caption() const { return caption_; }
@@ -33,18 +33,18 @@ class Button : public Captioned {
   Button(Frame& container, std::string name, std::string caption)
       : Captioned(ControlKind::Button, container, std::move(name), std::move(caption)) {}
 
-  /// A person presses it.
+  /// User action: click the button.
   void click();
   Event<> onClick;
 };
 
-/// An entry of the menu bar, or a whole menu. It takes no focus.
+/// A menu in the menu bar, or an entry of a menu. It never takes the focus.
 class MenuEntry : public Captioned {
  public:
   MenuEntry(Frame& container, std::string name, std::string caption, MenuEntry* menu = nullptr)
       : Captioned(ControlKind::MenuEntry, container, std::move(name), std::move(caption)), menu_(menu) {}
 
-  /// The menu that it is an entry of; nullptr in the menu bar.
+  /// The menu that contains this entry; nullptr for a menu in the menu bar.
   [[nodiscard]] MenuEntry* menu() const { return menu_; }
 
   [[nodiscard]] bool checked() const { return checked_; }
@@ -58,7 +58,7 @@ class MenuEntry : public Captioned {
   bool checked_ = false;
 };
 
-/// How far something has come: from 0 to maximum.
+/// A progress bar from 0 to its maximum.
 class ProgressBar : public Control {
  public:
   ProgressBar(Frame& container, std::string name)
@@ -74,7 +74,7 @@ class ProgressBar : public Control {
   double maximum_ = 100;
 };
 
-/// A position from 0 to maximum that a person or the program moves.
+/// A scroll bar with a position from 0 to its maximum.
 class ScrollBar : public Control {
  public:
   ScrollBar(Frame& container, std::string name)
@@ -88,7 +88,8 @@ class ScrollBar : public Control {
   int smallStep = 1;
   int largeStep = 1;
 
-  /// A person moves it; beyond the ends it stops there. Where it stands already, the focus stays away.
+  /// User action: scroll to a position, limited to the ends of the bar. Takes the focus only if the position
+  /// changes.
   void scroll(int value);
   Event<> onChange;
 

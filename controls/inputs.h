@@ -9,7 +9,7 @@
 
 namespace verdalis {
 
-/// A field for one line of text.
+/// A text field for one line.
 class TextBox : public Control {
  public:
   TextBox(Frame& container, std::string name, std::string text = {})
@@ -18,18 +18,19 @@ class TextBox : public Control {
   [[nodiscard]] const std::string& text() const { return text_; }
   void setText(const std::string& text);
 
-  /// A person replaces the text in one change.
+  /// User action: replace the text in one change.
   void type(const std::string& text);
 
-  /// Whether a person has changed the text since the focus came or the program last set it.
+  /// Whether the user has changed the text since the field got the focus or the program last set the text,
+  /// whichever came later.
   [[nodiscard]] bool canUndo() const { return edited_; }
 
-  /// Back to the text of that moment; nothing to undo is left.
+  /// Restores the text of that moment. After that there is nothing to undo.
   void undo();
 
   Event<> onChange;
 
-  /// A person has pressed a key in it, before the change.
+  /// The user has pressed a key in the field. Raised before the text changes.
   Event<> onKey;
 
  protected:
@@ -43,7 +44,7 @@ class TextBox : public Control {
   bool edited_ = false;
 };
 
-/// A list of texts, of which one can be selected; with free text any other can be typed.
+/// A list from which one entry can be selected. With `Style::freeText` the user can type any other text.
 class ComboBox : public Control {
  public:
   enum class Style { list, freeText };
@@ -55,25 +56,25 @@ class ComboBox : public Control {
   [[nodiscard]] const std::string& text() const { return text_; }
   [[nodiscard]] const std::vector<std::string>& items() const { return items_; }
 
-  /// The selected entry, from 0; -1 for none.
+  /// The index of the selected entry, from 0; -1 for none.
   [[nodiscard]] int index() const { return index_; }
 
-  /// Shows the text; that of an entry selects the first such entry.
+  /// Sets the text and selects the first entry with this text, if there is one.
   void setText(const std::string& text);
 
-  /// Selects an entry, or with -1 none, which empties the text.
+  /// Selects an entry; -1 deselects it and clears the text.
   void setIndex(int index);
 
-  /// Empties list and text, without an event.
+  /// Clears the list and the text without raising onChange or onClick.
   void clear();
   void addItem(const std::string& item);
 
-  /// A person types (only with free text) or selects an entry.
+  /// User actions: type a text (only with `Style::freeText`); select an entry.
   void type(const std::string& text);
   void pick(int index);
 
   Event<> onChange;  ///< The text has changed
-  Event<> onClick;   ///< An entry has been selected; not while disabled
+  Event<> onClick;   ///< An entry has been selected; not raised while disabled
 
  private:
   void replace(const std::string& text);
@@ -97,7 +98,7 @@ class CheckBox : public Control {
   void setCaption(const std::string& caption);
   void setChecked(bool checked);
 
-  /// A person toggles it.
+  /// User action: toggle the box.
   void click();
   Event<> onClick;
 
@@ -108,13 +109,13 @@ class CheckBox : public Control {
 
 class OptionButton;
 
-/// Option buttons of which at most one is on.
+/// A group of option buttons, of which at most one is checked.
 class OptionGroup {
  public:
-  /// The index of the button that is on, the highest if there were several; -1 for none.
+  /// The index of the checked button, the highest one if there are several; -1 for none.
   [[nodiscard]] int selected() const;
 
-  /// Turns one button on and the others off; with -1 all off.
+  /// Checks one button and unchecks the others; -1 unchecks all.
   void select(int index);
 
   [[nodiscard]] const std::vector<OptionButton*>& buttons() const { return buttons_; }
@@ -131,10 +132,10 @@ class OptionButton : public Control {
   [[nodiscard]] const std::string& caption() const { return caption_; }
   [[nodiscard]] bool checked() const { return checked_; }
 
-  /// Turning it on turns the others of its group off.
+  /// Checking a button unchecks the others of its group.
   void setChecked(bool checked);
 
-  /// A person chooses it.
+  /// User action: choose this option. Raises onClick even if it is already checked.
   void click();
   Event<> onClick;
 

@@ -9,26 +9,26 @@
 
 namespace verdalis {
 
-// What the platform does for the program. The window carries these out with its toolkit, a script with its
-// answers.
+// Services of the platform. The desktop window implements them with Qt; the command line answers them from a
+// script.
 
-/// What a message is about, which its icon does not tell.
+/// The purpose of a message. The icon alone does not tell it.
 enum class MessageKind {
-  notice,    ///< Something to know, or to see to first
-  refusal,   ///< An input is not accepted; who cannot ask for another one stops with it
-  question,  ///< The answer decides how it goes on
-  failure    ///< Something did not work
+  notice,    ///< Information, or something to do first
+  refusal,   ///< An input is rejected; a caller that cannot ask for another one stops
+  question,  ///< The answer decides what happens next
+  failure    ///< An operation failed
 };
 enum class MessageIcon { none, critical, question, exclamation, information };
 enum class MessageButtons { ok, yesNo, yesNoCancel };
 enum class MessageAnswer { ok, yes, no, cancel };
 
-/// A box without a title of its own has the name of the program.
+/// The title of a box that has no title of its own: the name of the program.
 inline constexpr const char* defaultTitle = "Verdalis";
 
 struct Message {
   std::string title;
-  std::string text;  ///< Lines are parted by "\n"
+  std::string text;  ///< Lines are separated by "\n"
   MessageKind kind = MessageKind::notice;
   MessageIcon icon = MessageIcon::none;
   MessageButtons buttons = MessageButtons::ok;
@@ -46,14 +46,14 @@ struct FileQuestion {
   std::string title;
   std::filesystem::path folder;
   std::string filter;            ///< Such as "Excel Worksheet (*.xls)|*.xls"
-  std::string defaultExtension;  ///< Added to a saved name that has none; without the point
+  std::string defaultExtension;  ///< Without the dot; added when saving under a name without extension
 };
 
 class FileChooserService {
  public:
   virtual ~FileChooserService() = default;
 
-  /// The chosen path; nothing when the person cancels.
+  /// \returns the chosen path; nothing if the user cancels.
   virtual std::optional<std::filesystem::path> chooseOpen(const FileQuestion& question) = 0;
   virtual std::optional<std::filesystem::path> chooseSave(const FileQuestion& question) = 0;
 };
@@ -70,7 +70,7 @@ class HelpService {
  public:
   virtual ~HelpService() = default;
 
-  /// Shows a topic, such as "mainInput.htm#TotalAcres"; one that is missing shows nothing.
+  /// Shows a topic, such as "mainInput.htm#TotalAcres". A missing topic shows nothing.
   virtual void showTopic(const std::string& topic) = 0;
 };
 
@@ -78,12 +78,12 @@ class OpenFileService {
  public:
   virtual ~OpenFileService() = default;
 
-  /// Opens a file with the desktop's program for it.
-  /// \returns whether that worked.
+  /// Opens a file with the desktop's default program for it.
+  /// \returns whether it was opened.
   virtual bool open(const std::filesystem::path& path) = 0;
 };
 
-/// A moment of the local time of day.
+/// A local date and time.
 struct ClockTime {
   int year = 1970;
   int month = 1;
@@ -105,11 +105,11 @@ class EventPumpService {
  public:
   virtual ~EventPumpService() = default;
 
-  /// Serves the events that are waiting.
+  /// Processes the pending events of the user interface.
   virtual void pump() = 0;
 };
 
-/// A page surface: texts are placed one after the other, in the font that is set.
+/// A document being printed. Texts are placed one after the other in the current font.
 class PageSurface {
  public:
   virtual ~PageSurface() = default;
@@ -118,12 +118,12 @@ class PageSurface {
   virtual void setItalic(bool on) = 0;
   virtual void setUnderline(bool on) = 0;
 
-  /// Where the next text begins, in twentieths of a point from the left edge of the printable area.
+  /// Sets where the next text begins: twentieths of a point from the left edge of the printable area.
   virtual void setCurrentX(double position) = 0;
   virtual void print(const std::string& text) = 0;
   virtual void printLine(const std::string& text) = 0;
 
-  /// The document is complete.
+  /// Finishes the document.
   virtual void endDocument() = 0;
 };
 
@@ -131,14 +131,15 @@ class PrinterService {
  public:
   virtual ~PrinterService() = default;
 
-  /// Asks for printer and copies. Nothing when the person cancels.
+  /// Asks for the printer and the number of copies.
+  /// \returns the number of copies; nothing if the user cancels.
   virtual std::optional<int> askCopies() = 0;
 
-  /// The surface of a new document.
+  /// Starts a new document.
   virtual std::unique_ptr<PageSurface> beginDocument() = 0;
 };
 
-/// All services together, handed to those who need them.
+/// All services of the platform.
 struct Services {
   MessageBoxService& messageBox;
   FileChooserService& fileChooser;

@@ -35,7 +35,6 @@ class MainPaneView : public QWidget {
   [[nodiscard]] QWidget* plantCard();
   void fillFooter(QHBoxLayout* line);
   void rebuildRows();
-  void addRow(CropRecord& record, int line);
   void orderRows();
   [[nodiscard]] bool goThroughRows(const QObject* from, int key);
   void placeScroll();

@@ -2,30 +2,23 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <memory>
 
 #include "engine/Split.h"
 #include "model/CropScenario.h"
-#include "model/FieldCollection.h"
 
 namespace verdalis {
 
-/// The values that the whole running program shares. There is one such object; whoever needs it gets a
-/// reference.
+/// What a run takes from the program beside its inputs, and what it leaves there. The program has one such
+/// object; whoever needs it gets a reference.
 struct ProgramState {
   /// Irrigation iteration factor: water steps between 0 and 100 %, 1 to 100.
   std::int16_t FineFactor = 10;
-  Split landSplit;                ///< Acres of each field of the last run
-  CropScenario cs;                ///< The crops of the last run
-  bool CancelRequested = false;   ///< Asks the evaluator to stop
-  bool TrendMode = false;         ///< A trend setup or run is under way
-  bool TrendCancelled = false;    ///< A run inside a trend was cancelled
-  double splitCounter = 0;        ///< Completed and overfull splits of all runs, for diagnosis
-  bool FallowNegatives = false;   ///< Follows its check box; deliberately without effect
-  bool TrendEnabled = false;      ///< Trend processing is on; saved with the inputs
-  bool TrendNoticeShown = false;  ///< The notice of that needs no showing any more
-  /// The option chosen for a fixed trend; without fields for a variable trend.
-  std::shared_ptr<FieldCollection> SelectedOption = std::make_shared<FieldCollection>();
+  Split landSplit;                     ///< Acres of each field of the last run
+  CropScenario cs;                     ///< The crops of the last run
+  bool CancelRequested = false;        ///< Asks the evaluator to stop
+  bool TrendMode = false;              ///< A trend setup or run is under way
+  bool TrendCancelled = false;         ///< A run inside a trend was cancelled
+  double splitCounter = 0;             ///< Completed and overfull splits of all runs, for diagnosis
   std::size_t waterSplits = 0;         ///< Water splits of the last run
   std::uint64_t cropCombinations = 0;  ///< Crop combinations of the last run
 };

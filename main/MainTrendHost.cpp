@@ -70,6 +70,10 @@ bool MainTrendHost::ready() const {
   return window_.pneMain.ready();
 }
 
+bool MainTrendHost::trendEnabled() const {
+  return window_.TrendEnabled;
+}
+
 void MainTrendHost::saveInputs() {
   window_.saveInputs();
 }

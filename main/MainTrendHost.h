@@ -28,6 +28,7 @@ class MainTrendHost : public TrendHost {
   [[nodiscard]] bool isActive(std::size_t row) const override;
   [[nodiscard]] std::shared_ptr<Crop> findCropByName(const std::string& name) const override;
   [[nodiscard]] bool ready() const override;
+  [[nodiscard]] bool trendEnabled() const override;
   void saveInputs() override;
   void loadInputs() override;
   void SetMainInfo(const std::string& text) override;

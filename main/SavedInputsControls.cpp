@@ -4,8 +4,7 @@
 
 namespace verdalis {
 
-SavedInputsControls::SavedInputsControls(frmMain& window, ProgramState& state)
-    : window_(window), state_(state) {
+SavedInputsControls::SavedInputsControls(frmMain& window) : window_(window) {
   for (const auto& row : window.pneMain.cr)
     rowCrops_.push_back(row->Crop);
 }
@@ -31,6 +30,10 @@ IrrigationCosts& SavedInputsControls::tempIrrigationCosts() {
 void SavedInputsControls::refreshRows() {
   for (const auto& row : window_.pneMain.cr)
     row->refresh();
+}
+
+void SavedInputsControls::setTrendEnabled() {
+  window_.TrendEnabled = true;
 }
 
 }  // namespace verdalis

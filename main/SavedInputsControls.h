@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "data/SavedInputs.h"
-#include "engine/ProgramState.h"
 
 namespace verdalis {
 
@@ -15,7 +14,7 @@ class frmMain;
 /// The main window's controls and objects, as the reader of the saved inputs fills them.
 class SavedInputsControls : public SavedInputsTarget {
  public:
-  SavedInputsControls(frmMain& window, ProgramState& state);
+  explicit SavedInputsControls(frmMain& window);
 
   void setText(std::string_view control, const std::string& text) override;
   void chooseLandSplit(std::optional<int> index) override;
@@ -23,11 +22,10 @@ class SavedInputsControls : public SavedInputsTarget {
   IrrigationCosts& tempIrrigationCosts() override;
   const std::vector<std::shared_ptr<Crop>>& rowCrops() override { return rowCrops_; }
   void refreshRows() override;
-  void setTrendEnabled() override { state_.TrendEnabled = true; }
+  void setTrendEnabled() override;
 
  private:
   frmMain& window_;
-  ProgramState& state_;
   std::vector<std::shared_ptr<Crop>> rowCrops_;
 };
 

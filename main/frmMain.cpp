@@ -32,7 +32,7 @@ frmMain::frmMain(Desk& desk, Services& services, ProgramState& state, SecondaryW
                  ProgramFiles files)
     : Window(desk, "frmMain", Scope::transparent),
       cropFiles(files.home),
-      pneMain(*this, services, state, tempIrrigationCosts),
+      pneMain(*this, services, tempIrrigationCosts),
       pneInputCosts(*this, services),
       pneIrrigCosts(*this, services, tempIrrigationCosts),
       theResults(pneResults, "theResults", services, state),
@@ -83,8 +83,8 @@ void frmMain::load() {
     desk().onRunTimeError(error);
   }
   inputsLoaded_ = loadInputs();
-  if (state_.TrendEnabled) state_.TrendNoticeShown = true;
-  EnableBatch(state_.TrendEnabled);
+  if (TrendEnabled) TrendNoticeShown = true;
+  EnableBatch(TrendEnabled);
   state_.FineFactor = 10;
   trends.pneBatchSetup0.cboCrops.setIndex(0);
   SetMainInfo(strMainInfo);
@@ -121,11 +121,11 @@ void frmMain::saveInputs() {
   generalInputs.waterAllocation = pneMain.txtMax.text();
   // A file that cannot be written must not stop the run.
   static_cast<void>(verdalis::saveInputs(files_.inputs, generalInputs, *tempIrrigationCosts,
-                                         cropFiles.cropCollection, state_.TrendEnabled));
+                                         cropFiles.cropCollection, TrendEnabled));
 }
 
 bool frmMain::loadInputs() {
-  SavedInputsControls target(*this, state_);
+  SavedInputsControls target(*this);
   return verdalis::loadInputs(files_.inputs, target);
 }
 
@@ -142,12 +142,12 @@ BestMix frmMain::RunScenario(const std::string& description) {
 }
 
 void frmMain::EnableBatch(bool on) {
-  if (on && !state_.TrendNoticeShown) {
+  if (on && !TrendNoticeShown) {
     ask(desk(), services_.messageBox,
         {"Trend processing enabled", trendNotice, MessageKind::notice, MessageIcon::information});
-    state_.TrendNoticeShown = true;
+    TrendNoticeShown = true;
   }
-  state_.TrendEnabled = on;
+  TrendEnabled = on;
   touch();
   menus.mnuFallBatch.setEnabled(on);
   menus.mnuEnableBatch.setChecked(on);
@@ -227,7 +227,7 @@ void frmMain::wireOptions(Results& results) {
     menus.mnuPrint.setEnabled(false);
   });
   results.onSaveOption.connect([this](const Results::Option& option) { summaryResults.push_back(option); });
-  results.onBatchThis.connect([this](const Results::Option&) { trends.ShowBatchScreen(); });
+  results.onBatchThis.connect([this](const Results::Option& option) { trends.cmdBatchThis_Click(option); });
   results.onDetails.connect([this](const std::shared_ptr<Field>& field) {
     theDetails.loadCosts(*field);  // a field that it cannot price leaves the options on show
     showPane(pneDetails);
@@ -279,7 +279,9 @@ void frmMain::Command1_Click() {
                                " seconds");
   showPane(pneResults);
   theResults.ShowBatchedVariables(false);
-  theResults.loadResults(best.returnCollection(true));
+  const std::vector<Results::Option> options = best.returnCollection(true);
+  theResults.EnableBatch(TrendEnabled);
+  theResults.loadResults(options);
   // Once more: packing can have made new neighbours, and then paper lists fewer options than the screen.
   thePrinter.setCollection(best.returnCollection(true));
   menus.mnuPrint.setEnabled(true);

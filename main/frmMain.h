@@ -39,6 +39,9 @@ class frmMain : public Window {
   GeneralInputs generalInputs;  ///< As last saved or loaded
   std::string strMainInfo;      ///< The text of the information band on the main pane
 
+  bool TrendEnabled = false;      ///< Trend processing is on; saved with the inputs
+  bool TrendNoticeShown = false;  ///< The notice about trend processing is not shown again
+
   Label lblMainInfo{*this, "lblMainInfo"};
   MainMenus menus{*this};
   MainPane pneMain;

@@ -137,7 +137,7 @@ void Details::showIrrigation() {
   lblFC.setCaption("$" + formatNumber(plant.cost, "###.00") + "/ unit");
   lblLC.setCaption(dollars(plant.LaborPerHour) + " /hr");
   lblMaint.setCaption(dollars(plant.RepairsPerAcreInch) + " /acre-inch");
-  // Before the cost is worked out again: a dry field shows the hours that the plant held.
+  // Before getCosts(), which updates the hours: a dry field shows the hours that the plant already has.
   lblHours.setCaption(formatNumber(plant.hours, "###,###") + " hrs");
   lblIrrigationCosts.setCaption(subtotal(perAcre(plant.getCosts(field_.Depth, field_.acres), field_.acres)));
 }

@@ -13,13 +13,13 @@
 
 namespace verdalis {
 
-/// The details of one field: line by line and per acre, what makes up its net return.
+/// The details of one field: the costs and returns that make up its net return, per acre.
 class Details : public Frame {
  public:
-  /// Where "Back" leads.
+  /// Target of "Back".
   enum class BackTo { results, trendResults };
 
-  /// `name` is that of this instance, such as "theDetails".
+  /// `name` is the name of this instance, such as "theDetails".
   Details(Frame& container, const std::string& name, const ProgramState& state);
 
   // Field information and totals.
@@ -32,8 +32,8 @@ class Details : public Frame {
   Label lblTotalCosts{*this, "lblTotalCosts"};
   Label lblTotalReturns{*this, "lblTotalReturns"};
   Label lblTotalProfit{*this, "lblTotalProfit"};
-  Label lblAlfDetails{*this, "lblAlfDetails"};  ///< Life of the stand, of a forage crop
-  Label lblAnnualized{*this, "lblAnnualized"};  ///< What the marker "*" means, of a forage crop
+  Label lblAlfDetails{*this, "lblAlfDetails"};  ///< Life of the stand; only for a forage crop
+  Label lblAnnualized{*this, "lblAnnualized"};  ///< Explains the marker "*"; only for a forage crop
 
   // General input costs.
   Label lblNC{*this, "lblNC"};
@@ -74,8 +74,8 @@ class Details : public Frame {
   Label lblMC{*this, "lblMC"};
   Label lblSubTotalMC{*this, "lblSubTotalMC"};
 
-  /// What a trend has put in the place of the production costs (0) and of the irrigation costs (1). The
-  /// lines of these costs stay on show beside it.
+  /// The costs with which a trend replaced the production costs (0) and the irrigation costs (1). The lines
+  /// of the replaced costs stay visible.
   std::array<Frame, 2> picBatch{{{*this, "picBatch(0)"}, {*this, "picBatch(1)"}}};
   Label lblBatchGeneralProductionCost{picBatch[0], "lblBatchGeneralProductionCost"};
   Label lblBatchIrrigationCosts{picBatch[1], "lblBatchIrrigationCosts"};
@@ -83,28 +83,29 @@ class Details : public Frame {
   Button Command2{*this, "Command2", "Print Details"};
   Button Command3{*this, "Command3", "Back"};
 
-  /// A line of the screen: its caption, as captions are written, and the label with its value.
+  /// A line of the screen: its caption, with "&&" for "&", and the label with its value.
   struct Line {
     std::string_view caption;
     Label Details::*value;
   };
 
-  /// A block of lines. `closing` are labels without a caption of their own: subtotals and notes.
+  /// A block of lines. `closing` are labels without a caption: subtotals and notes.
   struct Block {
     std::string_view caption;
     std::vector<Line> lines;
     std::vector<Label Details::*> closing;
   };
 
-  /// The blocks in order.
+  /// The blocks in display order.
   [[nodiscard]] static const std::vector<Block>& blocks();
 
-  /// Fills the screen from a copy of the field, and hands the field itself on to onFieldLoaded.
+  /// Fills the screen from a copy of the field, then raises onFieldLoaded with the field itself. Show the
+  /// screen only after this has returned.
   /// \throws RunTimeError (divisionByZero, overflow) for a figure that cannot be calculated; the labels
-  /// before it are filled by then, so the screen is shown when this has returned.
+  /// before it are already filled
   void loadCosts(const Field& field);
 
-  /// A field is on show: it can be printed.
+  /// A field is shown and can be printed.
   Event<const Field&> onFieldLoaded;
 
   Event<> onPrint;

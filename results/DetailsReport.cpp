@@ -12,7 +12,8 @@
 namespace verdalis {
 namespace {
 
-/// Twentieths of a point. The fifth moves to the right for the cost blocks, whose labels are longer.
+/// Tab stops in twentieths of a point. In the cost blocks, whose labels are longer, the fifth is further
+/// right.
 struct Stops {
   static constexpr std::array<double, 7> forTotals{0, 1900, 2600, 3900, 6000, 8000, 9000};
   static constexpr std::array<double, 7> forCosts{0, 1900, 2600, 3900, 6700, 8000, 9000};
@@ -41,7 +42,7 @@ class DetailsReport {
                 time);
     totals();
     constexpr std::array<double, 7> stops = Stops::forCosts;
-    // The lines first, as on the screen: the sums set the seed rate and the pumping hours anew.
+    // Lines before sums, as on the screen, because the sums update the seed rate and the pumping hours.
     const std::vector<Pair> generalLines = generalCosts();
     block("General Input Costs", generalLines, generalCostsAnAcre(field_), stops[1]);
     const std::vector<Pair> operationLines = operationCosts();
@@ -75,7 +76,8 @@ class DetailsReport {
            {"Gross Irrigation: ", formatNumber(grossFromNet(field_.Depth), "###,##0.0") + " in."}},
           {stops[0], stops[1], stops[3], stops[4]});
 
-    // Priced apart: what pricing leaves in a field is not to show in the lines below, as on the screen.
+    // Prices a copy, because pricing changes the field and the lines below must show it unchanged, as on the
+    // screen.
     Field priced = kept_.Copy();
     write_.font(12);
     total("Total Costs Per Acre: ", priced.getCosts());
@@ -138,7 +140,7 @@ class DetailsReport {
             {"Fuel Cost:", dollars(plant.cost, "###.00") + "/ unit"}};
   }
 
-  /// `firstValue`: the stop of the values on the left, behind the longest label of the block.
+  /// `firstValue`: the stop of the left values, after the longest label of the block.
   void block(const std::string& caption, const std::vector<Pair>& pairs, double subtotal, double firstValue) {
     constexpr std::array<double, 7> stops = Stops::forCosts;
     heading(caption);
@@ -149,7 +151,7 @@ class DetailsReport {
     page_.setBold(false);
   }
 
-  /// Two pairs to the line, at the stops of their labels and values.
+  /// Writes two pairs per line, at the stops of their labels and values.
   void lines(const std::vector<Pair>& pairs, const std::array<double, 4>& stops) {
     for (std::size_t i = 0; i < pairs.size(); ++i) {
       const std::size_t side = i % 2 * 2;

@@ -5,9 +5,9 @@
 
 namespace verdalis {
 
-/// The paper form of the details of one field, from its title to its last line; the document is left open.
-/// The field stays as it is. \throws RunTimeError (divisionByZero, overflow) for a figure that cannot be
-/// calculated; what stands before it is written by then
+/// Writes the report of the details of one field and does not end the document. The field does not change.
+/// \throws RunTimeError (divisionByZero, overflow) for a figure that cannot be calculated; the lines before
+/// it are already written
 void writeDetailsReport(PageSurface& page, const Field& field, const ClockTime& time);
 
 }  // namespace verdalis

@@ -9,17 +9,17 @@ namespace {
 
 constexpr double pointsPerUnit = 1.0 / 20;
 
-/// The least share of its size at which a text is still set on one line.
+/// A text is shrunk to no less than this fraction of its size to fit on one line.
 constexpr double leastShare = 0.9;
 
-/// No line holds more bytes than this, however narrow its letters are; measuring is kept to as many.
+/// Most bytes that fit on a line, even with the narrowest letters. Only this many are measured.
 constexpr std::size_t mostBytes = 2000;
 
 bool isContinuation(char byte) {
   return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
 }
 
-/// Where the characters of a text end, in bytes, as far as a line can reach.
+/// The ends of the characters of a text, in bytes, up to the longest possible line.
 std::vector<std::size_t> characterEnds(std::string_view text) {
   std::vector<std::size_t> ends;
   for (std::size_t i = 0; i < text.size() && i < mostBytes;) {
@@ -39,7 +39,7 @@ std::string withoutControls(const std::string& text) {
   return result;
 }
 
-/// Bytes of the longest front of the text, in whole characters, that is at most `room` wide.
+/// Bytes of the longest prefix of whole characters that is at most `room` wide.
 template <class Width>
 std::size_t fittingBytes(std::string_view text, double room, const Width& width) {
   const std::vector<std::size_t> ends = characterEnds(text);
@@ -93,13 +93,13 @@ void PageLayout::breakText(std::string_view text) {
     const std::size_t fits = fittingBytes(text, paper_.printableWidth() - x_, width);
     if (fits == text.size()) return put(text, font_);
 
-    // The blank itself may stand where there is no room any more: it is left out.
+    // The space at the break is omitted, so it need not fit.
     const std::size_t blank = text.substr(0, fits + 1).rfind(' ');
     if (blank != std::string_view::npos) {
       if (blank > 0) put(text.substr(0, blank), font_);
       text.remove_prefix(blank + 1);
     } else if (x_ == 0) {
-      // A word that is wider than a line, or a letter that is.
+      // A word, or a letter, that is wider than a line.
       const std::size_t part = fits > 0 ? fits : characterEnds(text).front();
       put(text.substr(0, part), font_);
       text.remove_prefix(part);
@@ -119,7 +119,7 @@ void PageLayout::endLine() {
     height = std::max(height, metrics_.lineHeight(text.font));
     ascent = std::max(ascent, metrics_.ascent(text.font));
   }
-  // Empty lines make no page: what they part begins on the next one anyway.
+  // Empty lines alone start no new page.
   if (!line_.empty() && top_ + height > paper_.height - paper_.endMargin && top_ > paper_.endMargin) {
     ++page_;
     top_ = paper_.endMargin;

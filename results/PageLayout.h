@@ -9,7 +9,7 @@
 
 namespace verdalis {
 
-/// How a text is set, in the one proportional typeface of the reports.
+/// The font of a text. All reports use the same proportional typeface.
 struct PageFont {
   double size = 9;  ///< Points
   bool bold = false;
@@ -19,16 +19,16 @@ struct PageFont {
   bool operator==(const PageFont&) const = default;
 };
 
-/// A text in its place. Every way out, paper or file, draws the same list of these.
+/// A text with its position. Every output, paper or file, draws the same list of placed texts.
 struct PlacedText {
   int page = 0;  ///< From 0
-  double x = 0;  ///< Points from the left edge of the paper to where the text begins
+  double x = 0;  ///< Points from the left edge of the paper to the start of the text
   double y = 0;  ///< Points from the top edge of the paper down to the baseline
   std::string text;
   PageFont font;
 };
 
-/// Measures of the typeface that a way out draws with, in points.
+/// Measures of the typeface of an output, in points.
 class FontMetrics {
  public:
   virtual ~FontMetrics() = default;
@@ -37,7 +37,7 @@ class FontMetrics {
   [[nodiscard]] virtual double lineHeight(const PageFont& font) const = 0;
 };
 
-/// A sheet and its margins, in points. The reports count on 8 inches of printable width.
+/// A sheet and its margins, in points. The reports need a printable width of 8 inches.
 struct Paper {
   double width = 612;
   double height = 792;
@@ -47,13 +47,12 @@ struct Paper {
   [[nodiscard]] double printableWidth() const { return width - 2 * sideMargin; }
 };
 
-/// A page surface that finds a place for every text, so that nothing is cut and nothing lies over something
-/// else:
-/// - a text placed at a stop that the text before has already passed begins behind that text;
-/// - a text that is a little too wide for the rest of its line is set a little smaller; a wider one goes on
-///   on the next line, parted at a blank where there is one;
-/// - a line that does not fit on the page any more begins the next page.
-/// Control characters are set as blanks.
+/// A page surface that places every text so that none is cut off and none overlaps another:
+/// - a text at a stop that the previous text has already passed starts after that text;
+/// - a text slightly too wide for the rest of its line is set slightly smaller; a wider one continues on the
+///   next line, broken at a space if possible;
+/// - a line that no longer fits on the page starts the next page.
+/// Control characters are printed as spaces.
 class PageLayout : public PageSurface {
  public:
   /// `metrics` must outlive the layout.
@@ -62,11 +61,11 @@ class PageLayout : public PageSurface {
 
   [[nodiscard]] const std::vector<PlacedText>& texts() const { return texts_; }
 
-  /// At least 1.
+  /// Number of pages, at least 1.
   [[nodiscard]] int pages() const { return page_ + 1; }
   [[nodiscard]] const Paper& paper() const { return paper_; }
 
-  /// The document has come to its end.
+  /// Called at the end of the document.
   std::function<void(const PageLayout&)> onEnd;
 
   void setFontSize(double points) override { font_.size = points; }
@@ -87,9 +86,9 @@ class PageLayout : public PageSurface {
   Paper paper_;
   PageFont font_;
   std::vector<PlacedText> texts_;
-  std::vector<PlacedText> line_;  ///< The texts of the line, not yet at their height
-  double x_ = 0;                  ///< Where the next text begins, from the left margin
-  double end_ = 0;                ///< Where the last text of the line ends
+  std::vector<PlacedText> line_;  ///< The texts of the current line, without their final y
+  double x_ = 0;                  ///< Start of the next text, from the left margin
+  double end_ = 0;                ///< End of the last text of the line
   double top_;                    ///< Top of the line, from the top of the paper
   int page_ = 0;
 };

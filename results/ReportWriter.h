@@ -6,40 +6,40 @@
 
 namespace verdalis {
 
-/// A moment as the reports show it, such as "5/6/2024 7:08 AM".
+/// A date and time in the format of the reports, such as "5/6/2024 7:08 AM".
 [[nodiscard]] std::string reportTime(const ClockTime& time);
 
-/// What stands at the head of a report.
+/// The heading of a report.
 struct ReportHead {
   std::string title;
-  double timeStop = 0;  ///< Where the time of printing stands, twentieths of a point
+  double timeStop = 0;  ///< Stop of the printing time, twentieths of a point
   std::string timeLabel;
   std::string origin;  ///< The first line of the notice below the title
 };
 
-/// Writes on a page surface what both printed reports are made of.
+/// Writes the common parts of both printed reports on a page surface.
 class ReportWriter {
  public:
   explicit ReportWriter(PageSurface& page) : page_(page) {}
 
-  /// Points, and whether what follows is bold.
+  /// Sets the font for the following texts. `size` is in points.
   void font(double size, bool bold = false);
 
-  /// Title, time and notice; what follows is in size 9.
+  /// Writes title, time and notice, then sets the font size to 9.
   void head(const ReportHead& head, const ClockTime& time);
 
-  /// A text that begins at a stop; the line goes on.
+  /// Writes a text at a stop without ending the line.
   void at(double stop, const std::string& text);
 
-  /// A bold label and a plain value right behind it.
+  /// Writes a bold label followed by a plain value.
   void pair(const std::string& label, const std::string& value);
 
-  /// A bold label and a plain value, each at its stop.
+  /// Writes a bold label and a plain value, each at its stop.
   void pair(double labelStop, const std::string& label, double valueStop, const std::string& value);
 
   void endLine() { page_.printLine(""); }
 
-  /// A line of one character, `count` times.
+  /// Writes a line of `count` equal characters.
   void rule(int count, char character);
 
  private:

@@ -10,14 +10,14 @@
 
 namespace verdalis {
 
-/// A row of the results screen: what one field of the option on show grows, uses and earns.
+/// A row of the results screen: crop, water, costs and returns of one field of the shown option.
 class ResultHolder : public Frame {
  public:
   ResultHolder(Frame& container, const std::string& name);
 
-  std::shared_ptr<Field> theField = std::make_shared<Field>();  ///< A copy of its own of the field on show
+  std::shared_ptr<Field> theField = std::make_shared<Field>();  ///< A copy of the shown field
 
-  // In the order of the columns.
+  // In column order.
   Label lblAcres{*this, "lblAcres"};
   Label lblCrop{*this, "lblCrop"};
   Label lblYield{*this, "lblYield"};
@@ -28,13 +28,13 @@ class ResultHolder : public Frame {
   Label lblProfit{*this, "lblProfit"};
   Button cmdDetails{*this, "cmdDetails", "Details"};
 
-  /// The details of theField are asked for.
+  /// The user requests the details of theField.
   Event<const std::shared_ptr<Field>&> onDetails;
 
-  /// Shows a copy of the field. A figure that cannot be calculated leaves its label as it was.
+  /// Shows a copy of a field. The label of a figure that cannot be calculated keeps its old caption.
   void loadField(const Field& field);
 
-  /// Switches the button to the details off.
+  /// Disables the details button.
   void inactive();
 };
 

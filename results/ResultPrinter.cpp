@@ -12,7 +12,7 @@
 namespace verdalis {
 namespace {
 
-/// Twentieths of a point.
+/// Tab stops in twentieths of a point.
 constexpr std::array<double, 7> stops{0, 1300, 2600, 3900, 5200, 7300, 9000};
 
 constexpr std::array<const char*, 7> columns{
@@ -143,7 +143,8 @@ void ResultPrinter::print(void (ResultPrinter::*write)(PageSurface&) const) cons
       (this->*write)(*page);
     }
   } catch (const std::exception&) {
-    // The report ends here. A printer tells its own troubles, and a document without an end is not printed.
+    // The report stops without a message: a printer reports its own errors, and an unfinished document is not
+    // printed.
   }
 }
 

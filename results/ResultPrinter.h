@@ -11,7 +11,7 @@
 
 namespace verdalis {
 
-/// What the head of the results report tells of the farm.
+/// The farm in the heading of the results report.
 struct ReportedFarm {
   std::string txtArea;     ///< Acres
   std::string txtEff;      ///< Percent
@@ -20,39 +20,40 @@ struct ReportedFarm {
   std::string crops;       ///< The crops of the last run, as CropScenario::toString() lists them
 };
 
-/// Where the reports get the texts that are not of their options, at the moment they are printed.
+/// Provides the report texts that do not come from the options, when a report is printed.
 struct ReportSources {
   std::function<ReportedFarm()> farm;
   std::function<ClockTime()> now;
 };
 
-/// Prints the results report and the details report of a field. Both are written from copies, which are held
-/// until the next are set; printing changes nothing.
+/// Prints the results report and the details report of a field. It holds copies of what it prints until they
+/// are replaced. Printing does not change them.
 class ResultPrinter {
  public:
   using Option = std::shared_ptr<FieldCollection>;
 
   ResultPrinter(PrinterService& printer, ReportSources sources);
 
-  /// Asks for printer and copies, then prints the options held; each copy is a document of its own. A dialog
-  /// that is cancelled and a failure, whatever it is, end the report without a word.
+  /// Asks for the printer and the number of copies, then prints the options; each copy is a separate
+  /// document. Cancelling the dialog and any failure end the report without a message.
   void printResults() const;
 
-  /// The same with the field held.
+  /// As printResults(), but prints the details of the field.
   void printDetails() const;
 
-  /// Holds copies of the options, in order.
+  /// Replaces the options to print by copies of these, in the same order.
   void setCollection(const std::vector<Option>& options);
 
-  /// Holds a copy of the field.
+  /// Replaces the field to print by a copy of this one.
   void setField(const Field& field) { field_ = field.Copy(); }
 
-  /// The results report as one document, with its end. \throws RunTimeError for a figure that cannot be
-  /// calculated, and what the surface throws; the document has no end then
+  /// Writes the results report as one complete document.
+  /// \throws RunTimeError for a figure that cannot be calculated, and any exception of the surface; the
+  /// document is then not ended
   void writeResults(PageSurface& page) const;
 
-  /// The details report as one document, with its end. \throws as writeResults(), and RunTimeError
-  /// (invalidCall) when no field is held
+  /// Writes the details report as one complete document.
+  /// \throws RunTimeError (invalidCall) if there is no field to print, and the exceptions of writeResults()
   void writeDetails(PageSurface& page) const;
 
  private:

@@ -17,7 +17,7 @@ constexpr std::int16_t cropVariables = 3;
 
 }  // namespace
 
-Results::Results(Frame& container, const std::string& name, Services& services, ProgramState& state)
+Results::Results(Frame& container, const std::string& name, Services& services, const ProgramState& state)
     : Frame(container, name, Scope::named), services_(services), state_(state) {
   for (ResultHolder& row : rh)
     row.setVisible(false);
@@ -57,7 +57,6 @@ const Results::Option& Results::option(std::int16_t number) const {
 }
 
 void Results::loadResults(const std::vector<Option>& options) {
-  EnableBatch(state_.TrendEnabled);
   currentRecord = 0;
   lblCounter.setCaption("Option 1");
   FieldCollection = options;
@@ -151,8 +150,8 @@ void Results::saveResult() {
 }
 
 void Results::batchThis() {
-  state_.SelectedOption = option(currentRecord);
-  onBatchThis(state_.SelectedOption);
+  const Option chosen = option(currentRecord);
+  onBatchThis(chosen);
   EnableBatch(true);
 }
 

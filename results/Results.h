@@ -20,49 +20,48 @@ namespace verdalis {
 /// The heading of the pane that shows the options of a run.
 inline constexpr const char* resultsHeading = "Evaluation Results";
 
-/// The captions over the rows of the results screen.
+/// The column headings of the results screen.
 struct ResultColumns {
   static constexpr const char* land = "Land Split";
   static constexpr const char* crop = "Crop";
   static constexpr const char* yield = "Yield";
-  static constexpr const char* irrigation = "Irrigation";  ///< Over the next three
+  static constexpr const char* irrigation = "Irrigation";  ///< Above the next three
   static constexpr const char* gross = "Gross";
   static constexpr const char* net = "Net";
   static constexpr const char* irrigationUnit = "(inches)";
   static constexpr const char* costs = "Total Operating Costs**";
   static constexpr const char* returns = "Total Returns";
-  static constexpr const char* netReturn = "*Net Return";  ///< Stands beside lblTotalProfit once more
+  static constexpr const char* netReturn = "*Net Return";  ///< Also beside lblTotalProfit
 };
 
 /// The notes below the rows.
 inline constexpr std::array<const char*, 2> resultNotes{
     "**Includes irrigation costs", "*Net returns to land, management, and irrigation equipment"};
 
-/// The results screen: pages through the options that a run has kept, one at a time, with a row for each
-/// field, and takes the requests to compare, print, rerun or leave.
+/// The results screen: shows the options kept by a run, one at a time, with a row for each field. It raises
+/// events for the user's requests to compare, print, run a trend or go back.
 class Results : public Frame {
  public:
   using Option = std::shared_ptr<verdalis::FieldCollection>;
 
-  /// Where "Back" leads.
+  /// Target of "Back".
   enum class BackTo { main, trendSetup };
 
-  /// A variable that a trend process goes through, with the row of its crop (from 0).
+  /// A variable that a trend process varies, with the row of its crop (from 0).
   struct TrendedVariable {
     double cropIndex = 0;
     std::int16_t VariableIndex = 0;
   };
 
-  /// Whether one of the variables is the one given; of the variables of a crop (0 to 2), with the crop of
-  /// that row.
+  /// Whether `variables` contains the variable. For the variables of a crop (0 to 2), the row must match too.
   [[nodiscard]] static bool isTrended(const std::vector<TrendedVariable>& variables,
                                       std::int16_t variableIndex, std::int16_t cropRowIndex);
 
-  /// `name` is that of this instance, such as "theResults".
-  Results(Frame& container, const std::string& name, Services& services, ProgramState& state);
+  /// `name` is the name of this instance, such as "theResults".
+  Results(Frame& container, const std::string& name, Services& services, const ProgramState& state);
 
   std::vector<Option> FieldCollection;  ///< The options of loadResults(), placeholders included
-  std::int16_t currentRecord = 0;       ///< The option on show, from 1; 0 before the first is shown
+  std::int16_t currentRecord = 0;       ///< The shown option, from 1; 0 before the first is shown
 
   Label lblCounter{*this, "lblCounter", "Option 1"};
   Button cmdPrevious{*this, "cmdPrevious", "<<"};
@@ -84,59 +83,59 @@ class Results : public Frame {
   Button cmdHelp2{pnlBatchedVariables, "cmdHelp2", "?"};
   Button cmdHelp3{pnlBatchedVariables, "cmdHelp3", "?"};
 
-  /// The details of a field of the option are asked for. The field is the row's copy.
+  /// The user requests the details of a field. The field is the row's copy.
   Event<const std::shared_ptr<Field>&> onDetails;
 
-  /// The option, this very object, is to be kept for comparison.
+  /// The user saves the option for comparison. It is the option itself, not a copy.
   Event<const Option&> onSaveOption;
 
-  /// A fixed trend on the option is asked for, which is the selected option by then.
+  /// The user requests a fixed trend on the option.
   Event<const Option&> onBatchThis;
 
   Event<BackTo> onBack;
   Event<> onPrint;
   Event<> onExcel;
-  Event<const std::string&> onHelpTopic;  ///< Gets the topic
+  Event<const std::string&> onHelpTopic;  ///< The help topic
 
-  /// A note: its text, its title, and the height of its window in layout units.
+  /// A help note: its text, its title, and the height of its window in layout units.
   Event<const std::string&, const std::string&, int> onHelpNote;
 
-  /// The variables of the trend processes as they are defined at the moment, in order.
+  /// Returns the variables of the currently defined trend processes, in order.
   std::function<std::vector<TrendedVariable>()> trendedVariables;
 
-  /// An entry of the options of a fixed trend in the order of their values: (i) when one variable was
-  /// trended, (i, j) with two.
+  /// Returns an option of a fixed trend by the indices of its values: (i) for one variable, (i, j) for two.
   std::function<Option(std::int16_t i, std::int16_t j)> trendOption;
 
-  /// Takes the options of a run, shared with the caller, and shows the first. Without any option that has
-  /// fields the rows stay as they were.
+  /// Takes the options of a run, shared with the caller, and shows the first. If no option has fields, the
+  /// rows do not change.
   void loadResults(const std::vector<Option>& options);
 
-  /// Shows or hides the request for a fixed trend.
+  /// Shows or hides the button for a fixed trend. A click on it shows it again, so the owner calls this
+  /// before each loadResults().
   void EnableBatch(bool on);
 
-  /// Shows or hides what a fixed trend did to make the option.
+  /// Shows or hides the values with which a fixed trend made the option.
   void ShowBatchedVariables(bool on);
 
-  /// Shows the next option (direction 1) or the one before (-1); at the ends nothing happens. (The plain word
-  /// "switch" belongs to the language.) A step that fails leaves what it would have shown as it was.
+  /// Shows the next (direction 1) or previous (-1) option; at the ends nothing happens. A step that fails
+  /// leaves its controls unchanged. (`switch` alone is a keyword.)
   void switchTo(std::int16_t direction);
 
   /// Does nothing.
   static void toCollection(const std::vector<Option>& /*options*/) {}
 
-  /// The number of the option on show.
+  /// The number of the shown option, from 1.
   [[nodiscard]] std::int16_t getOption() const { return currentRecord; }
 
-  /// Net return of an option, from 1, in dollars for the farm.
-  /// \throws RunTimeError (subscript) when there is no such option, (overflow)
+  /// Net return of an option (from 1), $ for the whole farm.
+  /// \throws RunTimeError (subscript) if there is no such option, (overflow)
   [[nodiscard]] double getTotalProfit(std::int16_t option) const;
 
-  /// Whether a trend process goes through the variable; for the variables of a crop (0 to 2) also with the
-  /// crop of that row.
+  /// Whether a trend process varies the variable. For the variables of a crop (0 to 2), the row must match
+  /// too.
   [[nodiscard]] bool CheckVariable(std::int16_t variableIndex, std::int16_t cropRowIndex) const;
 
-  /// An entry of the options of a fixed trend, see trendOption; nothing before there is one.
+  /// An option of a fixed trend, see trendOption; nullptr if trendOption is not set.
   [[nodiscard]] Option GetSortedBatchArrayField(std::int16_t i, std::int16_t j) const;
 
  private:
@@ -149,8 +148,8 @@ class Results : public Frame {
   void batchThis();
 
   Services& services_;
-  ProgramState& state_;
-  std::int16_t maxOption_ = 0;  ///< The options that have fields; paging stops there
+  const ProgramState& state_;
+  std::int16_t maxOption_ = 0;  ///< Number of options that have fields; paging stops there
 };
 
 }  // namespace verdalis

@@ -97,7 +97,7 @@ void SummaryPane::build() {
   fgsummary.setCurrent(fgsummary.row(), fgsummary.columns() - 1);
 }
 
-/// `column` is the last one that has been begun.
+/// `column` is the last column that has been started.
 void SummaryPane::addOption(const FieldCollection& option, int number, int& column) {
   const std::string head = "Saved Option #" + std::to_string(number);
   int fieldNumber = 0;
@@ -112,7 +112,8 @@ void SummaryPane::addOption(const FieldCollection& option, int number, int& colu
   }
 }
 
-/// Row by row, so that the column of a field that cannot be calculated is filled as far as that goes.
+/// Fills the rows one by one, so that a field that cannot be calculated still fills the rows before the
+/// error.
 void SummaryPane::addField(Field& field, int column) {
   int row = 0;
   const auto add = [&](const std::string& text) { fgsummary.setCell(++row, column, text); };
@@ -136,8 +137,8 @@ void SummaryPane::removeClicked() {
                                    {"Delete?", "Do you want to delete this saved result?",
                                     MessageKind::question, MessageIcon::question, MessageButtons::yesNo});
   if (answer != MessageAnswer::yes) return;
-  // An option counts for one column more than it has fields, so the columns agree with those of the table for
-  // the first option only. That is meant.
+  // Each option counts one column more than it has fields, so the columns match those of the table for the
+  // first option only. This is intended.
   int n = 1;
   for (auto option = summaryResults_.begin(); option != summaryResults_.end(); ++option) {
     const int beyond = n + static_cast<int>((*option)->Count());
@@ -148,7 +149,7 @@ void SummaryPane::removeClicked() {
     }
     n = beyond + 1;
   }
-  // A click on the heads removes nothing, but shows the pane once more, which the pane history keeps.
+  // A click on the row headings removes nothing, but shows the pane again, which adds it to the pane history.
   onShowPane();
 }
 

@@ -17,24 +17,26 @@
 
 namespace verdalis {
 
-/// The cells of a grid as comma-separated lines, each ended by CR LF. Texts stand as they are, without
-/// quotation: an amount such as "$1,234 /acre" makes two fields of it, and that is meant.
+/// The cells of a grid as comma-separated lines that end with CR LF. Texts are not quoted, so an amount such
+/// as
+/// "$1,234 /acre" becomes two fields. This is intended.
 [[nodiscard]] std::string commaSeparated(const Grid& grid);
 
-/// The table of the options that were saved for comparison: a column for each field, which can be removed by
-/// clicking and saved as a comma-separated file.
+/// The table of the options saved for comparison, with a column for each field. Clicking a column removes its
+/// option; the table can be saved as a comma-separated file.
 class SummaryPane : public Frame {
  public:
   using SavedOptions = std::vector<std::shared_ptr<FieldCollection>>;
 
-  /// What the pane needs of the rest of the program.
+  /// What the pane needs from the rest of the program.
   struct Outside {
     std::function<std::string()> annualRain;  ///< The text of the rainfall field
-    /// Writes a file whole. \throws RunTimeError
+    /// Writes a complete file.
+    /// \throws RunTimeError
     std::function<void(const std::filesystem::path&, std::string_view)> writeFile;
   };
 
-  /// `summaryResults` are the saved options in order; removing takes them out of it.
+  /// `summaryResults` are the saved options in order. The pane removes options from it.
   SummaryPane(Frame& container, Services& services, SavedOptions& summaryResults, Outside outside);
 
   Label Label59{*this, "Label59(1)"};  ///< The line above the grid
@@ -42,12 +44,12 @@ class SummaryPane : public Frame {
   Button cmdExcelSave{*this, "cmdExcelSave", "Save table to CSV"};
   Button cmdCancel{*this, "cmdCancel(2)", "Back"};
 
-  /// What the menu entry "Summary Table" does: builds the table from the options as they are now and asks for
-  /// the pane to be shown. The rainfall and the efficiency are those of now too, not those of the saving.
-  /// \throws RunTimeError for a figure that cannot be calculated; the table then ends at that field.
+  /// The action of the menu entry "Summary Table": builds the table from the saved options and raises
+  /// onShowPane. It uses the current rainfall and efficiency, not those from when the options were saved.
+  /// \throws RunTimeError for a figure that cannot be calculated; the table then ends at that field
   void showSummary();
 
-  /// The pane is to be shown, even if it is the one on show.
+  /// The pane must be shown, even if it already is.
   Event<> onShowPane;
 
   Event<> onBack;

@@ -10,33 +10,34 @@ namespace verdalis {
 
 // The figures of a field as the results screens and the printed reports show them.
 
-/// An amount of a field or a farm for each of its acres.
-/// \throws RunTimeError (divisionByZero) for 0 acres, (overflow).
+/// An amount of a field or a farm divided by its acres.
+/// \throws RunTimeError (divisionByZero) for 0 acres, (overflow)
 [[nodiscard]] double perAcre(double amount, double acres);
 
-/// "$", the figure by a number pattern, " /acre". \throws RunTimeError (overflow)
+/// A figure as text: "$", the figure formatted with a number pattern, " /acre".
+/// \throws RunTimeError (overflow)
 [[nodiscard]] std::string dollarsAnAcre(double figure, std::string_view pattern);
 
-/// A depth in inches by a number pattern, with the two apostrophes that stand for inches.
+/// A depth in inches, formatted with a number pattern and followed by two apostrophes for inches.
 /// \throws RunTimeError (overflow)
 [[nodiscard]] std::string inches(double depth, std::string_view pattern);
 
-/// The costs of a field's establishment (seed, tillage, planting) are spread over the life of the stand.
+/// The life of a stand, over which the costs of establishing it (seed, tillage, planting) are spread.
 struct Stand {
   double years = 1;     ///< 1 for all but forage crops
   bool forage = false;  ///< The crop is measured in tons
 
-  /// Stands in front of a figure that is spread over years.
+  /// The prefix of a figure that is spread over years.
   [[nodiscard]] std::string_view marker() const { return forage ? "*" : ""; }
 
-  /// A cost for each year of the stand.
-  /// \throws RunTimeError (divisionByZero) while the life of stand is 0, (overflow).
+  /// A cost per year of the stand.
+  /// \throws RunTimeError (divisionByZero) if the life of the stand is 0, (overflow)
   [[nodiscard]] double yearly(double cost) const;
 };
 
 [[nodiscard]] Stand standOf(const Crop& crop);
 
-/// What stands behind the seed cost and behind the seeding rate.
+/// The units after the seed cost and after the seeding rate.
 struct SeedUnits {
   std::string_view cost;
   std::string_view rate;
@@ -44,14 +45,16 @@ struct SeedUnits {
 
 [[nodiscard]] SeedUnits seedUnits(std::string_view cropType);
 
-/// Harvest cost, $ per acre. \throws RunTimeError (divisionByZero, overflow)
+/// Harvest cost, $ per acre.
+/// \throws RunTimeError (divisionByZero, overflow)
 [[nodiscard]] double harvestCostAnAcre(const Field& field);
 
-/// Nitrogen, phosphorus, seed, herbicide and insecticide, $ per acre. Sets the seeding rate of the field's
-/// crop where that follows the water. \throws RunTimeError (divisionByZero, overflow)
+/// Cost of nitrogen, phosphorus, seed, herbicide and insecticide, $ per acre. Sets the seeding rate of the
+/// field's crop if it depends on the water.
+/// \throws RunTimeError (divisionByZero, overflow)
 [[nodiscard]] double generalCostsAnAcre(const Field& field);
 
-/// Tillage, planting, the three applications and harvest, $ per acre.
+/// Cost of tillage, planting, the three applications and harvest, $ per acre.
 /// \throws RunTimeError (divisionByZero, overflow)
 [[nodiscard]] double applicationCostsAnAcre(const Field& field);
 

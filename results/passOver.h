@@ -4,8 +4,8 @@
 
 namespace verdalis {
 
-/// Carries out a step of a display routine. Where it fails, what it would have shown keeps its old state, and
-/// the routine goes on with its next step.
+/// Runs a step of a display routine. If the step fails, its controls keep their old state, and the routine
+/// continues with the next step.
 template <class Step>
 void passOver(Step&& step) {
   try {

@@ -9,7 +9,7 @@
 namespace verdalis {
 namespace {
 
-/// A crop that is no stock crop is not tested.
+/// Only stock crops have limits; nullptr for any other crop.
 const RowLimits* limitsOf(const Crop& crop) {
   const StockCrop* const stock = stockCrop(cropKind(crop.cropType));
   return stock != nullptr ? &stock->limits : nullptr;
@@ -33,7 +33,8 @@ CropRecord::CropRecord(Frame& container, int index, MessageBoxService& messageBo
     : Frame(container, "cr(" + std::to_string(index) + ")", Scope::named), messageBox_(messageBox) {
   chkCrop.onClick.connect([this] { showActivity(); });
   cmdInputCosts.onClick.connect([this] { onInputCosts(); });
-  // A partly typed price leaves the crop's old one, a partly typed yield its leading digits: both are meant.
+  // While typing, a price that is not a number yet leaves the crop's price unchanged, but an incomplete yield
+  // stores its leading digits. Both are intended.
   txtPrice.onChange.connect([this] {
     if (Crop && isNumeric(txtPrice.text())) Crop->price = toDouble(txtPrice.text());
   });
@@ -78,7 +79,7 @@ void CropRecord::setDefault(double price, double yield) {
 
 void CropRecord::refresh() {
   if (!Crop) return;
-  // The yield is taken before the new price text goes back into the crop.
+  // Read before txtPrice changes, because that writes the price back into the crop.
   const std::string yield = generalText(Crop->maxYield);
   txtPrice.setText(formatNumber(Crop->price, "#,##0.00"));
   txtMaxYield.setText(yield);

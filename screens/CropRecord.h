@@ -13,18 +13,19 @@
 
 namespace verdalis {
 
-/// The messages that refuse a text as the price or the maximum yield of a crop; nothing for one that passes,
-/// as each does for a crop that is no stock crop.
+/// Messages that reject a text as the price or the maximum yield of a crop; nothing if it passes. Only stock
+/// crops have limits.
 [[nodiscard]] std::optional<std::string> priceFault(const Crop& crop, const std::string& text);
 [[nodiscard]] std::optional<std::string> maxYieldFault(const Crop& crop, const std::string& text);
 
-/// A row of the crop list: the tick that makes a crop a candidate, its price, its maximum yield and the way
-/// to its production costs. What is typed goes into the crop at once; the crop is the library's own.
+/// A row of the crop list: a check box that selects the crop for evaluation, its price, its maximum yield,
+/// and a button that opens its production costs. Typed values are stored in the crop at once. The crop is the
+/// library's object, not a copy.
 class CropRecord : public Frame {
  public:
   CropRecord(Frame& container, int index, MessageBoxService& messageBox);
 
-  std::shared_ptr<verdalis::Crop> Crop;  ///< None in the row of an empty library
+  std::shared_ptr<verdalis::Crop> Crop;  ///< nullptr in the row of an empty library
 
   Image background{*this, "background"};  ///< The tint F3F3F3 behind an active row
   CheckBox chkCrop{*this, "chkCrop", "BLANK_CROP"};
@@ -34,21 +35,21 @@ class CropRecord : public Frame {
   Label lblYieldUnits{*this, "lblYieldUnits", "YIELD_UNITS"};
   Button cmdInputCosts{*this, "cmdInputCosts", "Costs/Returns"};
 
-  /// Shows a crop. `inputCostUnits` takes no part. Fallow has neither price nor yield.
+  /// Shows a crop. `inputCostUnits` is not used. Fallow has neither price nor yield.
   void loadInfo(const std::string& crop, const std::string& priceUnits, const std::string& inputCostUnits,
                 const std::string& yieldUnits);
 
   [[nodiscard]] bool isActive() const { return chkCrop.checked(); }
 
-  /// The leading number of the text, $ per yield unit; 0 without one.
+  /// The leading number of the price text, $ per yield unit; 0 if there is none.
   [[nodiscard]] double getPrice() const;
   void setPrice(double price);
   void setMaxYield(double yield);
 
-  /// Always 20, whatever the crop costs: nothing depends on it.
+  /// Always 20, regardless of the costs of the crop. Nothing uses it.
   [[nodiscard]] static double getInputCost() { return 20; }
 
-  /// The leading number of the text, yield units per acre; 0 without one.
+  /// The leading number of the yield text, yield units per acre; 0 if there is none.
   [[nodiscard]] double getMaxYield() const;
 
   /// The name that the row shows.
@@ -56,10 +57,10 @@ class CropRecord : public Frame {
 
   void setDefault(double price, double yield);
 
-  /// The price and the yield of the crop, as texts.
+  /// Shows the price and maximum yield of the crop.
   void refresh();
 
-  /// What a run needs of the row.
+  /// The inputs of a run from this row.
   [[nodiscard]] CropRowInput input() const { return {isActive(), txtPrice.text(), txtMaxYield.text()}; }
 
   Event<> onInputCosts;

@@ -42,7 +42,7 @@ constexpr int lastRainLeast = 12;
 constexpr int lastRainMost = 32;
 constexpr int irrigationMost = 32;
 
-/// A crop with a default table, and the unit that is chosen with it.
+/// A crop with a default table, and the unit selected with it.
 struct DefaultTable {
   CropKind crop;
   YieldUnit unit;
@@ -54,15 +54,15 @@ constexpr std::array<DefaultTable, 6> defaultTables{{
     {CropKind::grainSorghum, YieldUnit::bushels},
     {CropKind::soybeans, YieldUnit::bushels},
     {CropKind::sunflower, YieldUnit::pounds},
-    // The table is in bushels, and the unit tons all the same, which makes a forage crop of what is saved
-    // from it: that is meant.
+    // The table is in bushels, but the unit is tons, so a crop saved from it is a forage crop. This is
+    // intended.
     {CropKind::wheat, YieldUnit::tons},
 }};
 
 constexpr const char* noCrop = "Select...";
 constexpr const char* noDefault = "Select crop...";
 
-/// A step of a handler. Where it fails it is left out, and the handler goes on.
+/// Runs a step of a handler. If it fails, the handler continues with the next step.
 template <class Step>
 void leaveOutIfFailing(Step step) {
   try {
@@ -223,7 +223,7 @@ void CustomCropPane::save() {
   customAltered = false;
 }
 
-/// Nothing when the user does not go on.
+/// \returns nothing if the user cancels.
 std::optional<std::filesystem::path> CustomCropPane::pathToSave() {
   const CustomCropEntry* const crop = selectedCrop();
   if (crop != nullptr && crop->name == txtCustom.text()) return crop->path;
@@ -234,7 +234,7 @@ std::optional<std::filesystem::path> CustomCropPane::pathToSave() {
              "Do you want to save this as a new custom crop?  Selecting YES will "
              "create a new custom crop.",
              MessageKind::question, MessageIcon::question, MessageButtons::yesNoCancel});
-    // With No the file keeps its name and gets the new name of the crop in its first line.
+    // No keeps the file name and writes the new crop name into the first line of the file.
     if (answer == MessageAnswer::no) return crop->path;
     if (answer != MessageAnswer::yes) return std::nullopt;
   }
@@ -242,7 +242,7 @@ std::optional<std::filesystem::path> CustomCropPane::pathToSave() {
 }
 
 void CustomCropPane::write(const std::filesystem::path& path) {
-  // Somebody may have taken the folder away since the library was read.
+  // The folder may have been deleted since the library was read.
   std::error_code ignored;
   std::filesystem::create_directory(folder_, ignored);
   writeFile(path,
@@ -297,7 +297,7 @@ void CustomCropPane::deleteCrop() {
                                    {"Delete crop?", "Delete " + crop->name, MessageKind::question,
                                     MessageIcon::question, MessageButtons::yesNoCancel});
   if (answer != MessageAnswer::yes) return;
-  // A file that is protected from writing goes too: only its folder decides about that.
+  // Write protection of the file does not prevent this; only the permissions of its folder matter.
   std::error_code ignored;
   std::filesystem::remove(crop->path, ignored);
   open();
@@ -311,7 +311,7 @@ void CustomCropPane::reloadRows() {
   });
 }
 
-/// The saved crop that is selected; nullptr without one.
+/// The selected saved crop; nullptr if none is selected.
 const CustomCropEntry* CustomCropPane::selectedCrop() const {
   const int index = cboCustomGrid[0].index();
   const auto position = static_cast<std::size_t>(index);

@@ -19,7 +19,7 @@
 
 namespace verdalis {
 
-/// One control of the custom crop pane with the fixed texts beside it.
+/// A control of the custom crop pane and the fixed texts beside it.
 struct CustomCropField {
   std::string_view control;
   std::string_view label;      ///< In front of it
@@ -27,18 +27,18 @@ struct CustomCropField {
   std::string_view unit = {};  ///< Behind it
 };
 
-/// The pane on which the user defines crops of his own: a name, a unit, and a table of yields by annual
-/// rainfall and net irrigation. Each saved crop is a file of the custom folder of the crop library.
+/// The pane on which the user defines custom crops: a name, a unit, and a table of yields by annual rainfall
+/// and net irrigation. Each saved crop is a file in the custom folder of the crop library.
 ///
-/// A step that fails (a file that cannot be read, written or deleted) is left out and the next one follows,
-/// the message behind it included: that is meant.
+/// A step that fails (a file that cannot be read, written or deleted) is skipped. The next steps follow,
+/// including the message of success. This is intended.
 class CustomCropPane : public Frame {
  public:
-  /// `folder` is that of the custom crops; it need not exist.
+  /// `folder` contains the custom crops. It need not exist.
   CustomCropPane(Frame& window, Services& services, std::filesystem::path folder);
 
-  /// The lists by their index: the saved crops, the first and last rainfall, the most irrigation, the units,
-  /// the default tables.
+  /// The lists by index: 0 saved crops, 1 lowest and 2 highest rainfall, 3 highest irrigation, 4 units,
+  /// 5 default tables.
   std::array<ComboBox, 6> cboCustomGrid{{{*this, "cboCustomGrid(0)", ComboBox::Style::list},
                                          {*this, "cboCustomGrid(1)", ComboBox::Style::list},
                                          {*this, "cboCustomGrid(2)", ComboBox::Style::list},
@@ -63,13 +63,13 @@ class CustomCropPane : public Frame {
   /// The controls in the order in which they are shown.
   [[nodiscard]] static std::span<const CustomCropField> fields();
 
-  std::vector<CustomCropEntry> CustomCropList;  ///< In the order of cboCustomGrid(0), behind its first entry
-  bool customAltered = false;  ///< A key was typed in the name since the last save, reset or load
+  std::vector<CustomCropEntry> CustomCropList;  ///< The entries of cboCustomGrid(0) from the second on
+  bool customAltered = false;  ///< A key was pressed in the name since the last save, reset or load
 
-  /// Fills the lists, at the start of the program.
+  /// Fills the lists. Called once at the start of the program.
   void fillLists();
 
-  /// Empties the editor, lists the crops anew and asks for the pane to be shown.
+  /// Clears the editor, lists the crops again and raises onShowPane.
   void open();
 
   /// Fills CustomCropList from the folder.
@@ -78,14 +78,14 @@ class CustomCropPane : public Frame {
   /// Fills cboCustomGrid(0) from CustomCropList.
   void listCustomCrops();
 
-  /// Empties the editor.
+  /// Clears the editor.
   void resetCustomEditor();
 
-  /// Loads the crop at a position of cboCustomGrid(0); position 0 empties the editor.
+  /// Loads the crop of an entry of cboCustomGrid(0), from 0. Entry 0 clears the editor.
   void loadCustomCrop(int index);
 
-  std::function<void()> loadCropRows;  ///< Reads the crop library anew. May throw RunTimeError
-  Event<> onShowPane;                  ///< The pane is to be shown, even if it is the one on show
+  std::function<void()> loadCropRows;  ///< Reads the crop library again; may throw RunTimeError
+  Event<> onShowPane;                  ///< The pane must be shown, even if it already is
   Event<> onBackHome;
   Event<int> onHelp;
 

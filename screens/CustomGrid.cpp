@@ -10,7 +10,7 @@ namespace {
 
 constexpr char blank = ' ';
 
-/// How many heads a range has.
+/// Number of headings of a range.
 int headCount(int first, int last) {
   if (last < first || last - first >= maxTableSide) {
     throw RunTimeError(ErrorNumber::subscript, "A grid from " + std::to_string(first) + " to " +
@@ -41,7 +41,7 @@ void removeLastCharacter(Grid& grid) {
   setCurrentText(grid, text);
 }
 
-/// Behind the last column the head column comes, from which the next step enters the first data column.
+/// After the last column comes the heading column, from which the next step enters the first data column.
 void moveRight(Grid& grid) {
   if (grid.column() + 1 < grid.columns()) {
     grid.setCurrent(grid.row(), grid.column() + 1);
@@ -55,7 +55,7 @@ void copyCell(const Grid& grid, ClipboardService& clipboard) {
   clipboard.setText(currentText(grid));
 }
 
-/// The text up to the next separator; it and the separator are taken away from `rest`.
+/// The text up to the next separator. Removes it and the separator from `rest`.
 std::string_view takeField(std::string_view& rest) {
   const std::size_t end = rest.find_first_of("\t\r\n");
   const std::string_view field = rest.substr(0, end);
@@ -126,7 +126,7 @@ void pasteSpreadsheet(Grid& grid, std::string_view text) {
   int column = 1;
   while (!text.empty() && row < grid.rows()) {
     const std::string_view field = takeField(text);
-    // What lies right of the grid is not even made a text.
+    // Texts to the right of the grid are skipped without copying them.
     if (column < grid.columns()) grid.setCell(row, column, std::string(field));
     if (text.empty()) break;
     if (text.front() == '\t') {

@@ -9,35 +9,38 @@
 
 namespace verdalis {
 
-// What the grid of a custom crop does: row 0 and column 0 are heads in inches, the cells behind them hold the
-// yields, a row for each inch of net irrigation and a column for each inch of annual rainfall.
+// The grid of a custom crop. Row 0 and column 0 are headings in inches; the data cells contain the yields,
+// with a row for each inch of net irrigation and a column for each inch of annual rainfall.
 
-/// Sizes the grid for whole inches and writes the heads; contents that still fit stay.
-/// \throws RunTimeError (subscript) for a range that runs backwards or is longer than a yield table may be.
+/// Resizes the grid for ranges of whole inches and writes the headings. Cells that still fit keep their
+/// contents.
+/// \throws RunTimeError (subscript) for a range that is descending or longer than a yield table may be
 void sizeCustomGrid(Grid& grid, int firstColumn, int lastColumn, int firstRow, int lastRow);
 
-/// Pours texts into the data cells, row after row. What does not fit is left out.
+/// Fills the data cells with texts, row by row. Texts that do not fit are ignored.
 void fillCustomGrid(Grid& grid, std::span<const std::string> values);
 
-/// The texts of the data cells, comma separated, row after row, on one line.
+/// The texts of the data cells, row by row on one line, separated by commas.
 [[nodiscard]] std::string customGridValues(const Grid& grid);
 
-/// The whole grid, heads included, as spreadsheets exchange it: tabs between columns, CR LF between rows.
+/// The whole grid with its headings, in the clipboard format of spreadsheets: tabs between columns, CR LF
+/// between rows.
 [[nodiscard]] std::string spreadsheetText(const Grid& grid);
 
-/// Whether a text has only characters of numbers and of the spreadsheet's form: digits, points, tabs, line
-/// ends. A minus sign is none of them, and that is meant: a yield is never negative.
+/// Whether a text contains only digits, points, tabs and line ends. A minus sign is not allowed on purpose: a
+/// yield is never negative.
 [[nodiscard]] bool isSpreadsheetNumbers(std::string_view text);
 
-/// Pours a spreadsheet's text into the data cells from the first one on and makes that the current one. CR
-/// LF, LF and CR each end a row; what lies beyond the grid is left out. Takes time in proportion to the text.
+/// Fills the data cells from a spreadsheet's text, starting at the first one, which becomes the current cell.
+/// CR LF, LF and CR each end a row. Texts beyond the grid are ignored. Takes time proportional to the length
+/// of the text.
 void pasteSpreadsheet(Grid& grid, std::string_view text);
 
-/// A character typed at the current cell, head cells included, is added to its text; control characters are
-/// not.
+/// Appends a typed character to the text of the current cell, which may be a heading. Control characters are
+/// ignored.
 void typeIntoGrid(Grid& grid, const std::string& character);
 
-/// A key at the current cell.
+/// Applies a key to the current cell.
 void pressKeyInGrid(Grid& grid, GridKey key, ClipboardService& clipboard);
 
 }  // namespace verdalis

@@ -20,7 +20,7 @@ std::string subtotalText(double dollarsPerAcre, std::string_view what) {
   return "$" + formatNumber(checked(dollarsPerAcre, what), moneyPattern) + " / ac";
 }
 
-/// Holds a flag while many fields are set.
+/// Sets a flag during its lifetime, while several fields are set.
 class Hold {
  public:
   explicit Hold(bool& flag) : flag_(flag), before_(std::exchange(flag, true)) {}
@@ -57,7 +57,7 @@ void InputCostsPane::wire() {
 }
 
 void InputCostsPane::boxChanged(const InputCostsField& field) {
-  // A typed rate is not the optimal one; without a rate it is the optimal one again.
+  // A typed rate replaces the optimal one; an empty field means the optimal rate.
   if (field.optimal != nullptr) (this->*field.optimal).setChecked((this->*field.box).text().empty());
   if (filling_) return;
   if (field.recomputes == Recomputes::generalSubtotal) {
@@ -72,7 +72,7 @@ void InputCostsPane::open(std::shared_ptr<Crop> crop) {
     throw RunTimeError(ErrorNumber::invalidCall,
                        "This row has no crop, so it has no production costs. Check the folder of crops.");
   }
-  // First of all, so that whatever goes wrong below, nothing can be applied to the crop that was open before.
+  // Set first: if a later step fails, nothing may be applied to the previous crop.
   activeCrop = std::move(crop);
   {
     const Hold hold(filling_);
@@ -83,7 +83,7 @@ void InputCostsPane::open(std::shared_ptr<Crop> crop) {
 }
 
 void InputCostsPane::fill(const Crop& crop) {
-  // There are defaults and optimal rates for stock crops alone.
+  // Only stock crops have defaults and optimal rates.
   cmdDefault.setEnabled(!crop.Custom);
   cmdDefault.setCaption("Load Default " + crop.cropType + " Values");
   lblHeader.setCaption("Production Costs for " + crop.cropType);
@@ -162,7 +162,7 @@ void InputCostsPane::clear() {
     emptyTexts(*this);
     emptyTexts(frmICAlf);
     emptyTexts(frmICAlf2);
-    // Empty rates have just ticked them.
+    // Clearing the rates has just ticked these boxes.
     chkNOptimal.setChecked(false);
     chkPOptimal.setChecked(false);
     chkSeedOptimal.setChecked(false);
@@ -184,7 +184,7 @@ void InputCostsPane::apply() {
   store(generalGroup);
   store(operationGroup);
   if (activeCrop->isForage()) {
-    // What has been stored up to here stays in force: meant.
+    // Values stored before the error stay stored. This is intended.
     if (!isNumeric(txtStand.text())) {
       ask(desk(), services_.messageBox,
           {defaultTitle, "Please enter a 'Life of Stand' value for the Forage crop", MessageKind::refusal,

@@ -17,13 +17,13 @@ namespace verdalis {
 
 struct InputCostsField;
 
-/// The pane that edits the production costs of one crop. It works on its fields; the crop changes only when
-/// Command6 is pressed.
+/// The pane for the production costs of one crop. Edits stay in its fields until Command6 stores them in the
+/// crop.
 class InputCostsPane : public Frame {
  public:
   InputCostsPane(Frame& window, Services& services);
 
-  std::shared_ptr<Crop> activeCrop;  ///< The crop that the pane was last opened for; none before
+  std::shared_ptr<Crop> activeCrop;  ///< The crop that the pane was last opened for; nullptr before
 
   Label lblHeader{*this, "lblHeader"};
 
@@ -64,7 +64,7 @@ class InputCostsPane : public Frame {
   std::array<Label, 3> lblperunits{
       {{*this, "lblperunits(0)"}, {*this, "lblperunits(1)"}, {*this, "lblperunits(2)"}}};
 
-  // Harvesting costs of a forage crop, shown over those of a grain crop
+  // Harvesting costs of a forage crop, shown in place of those of a grain crop
   Frame frmICAlf{*this, "frmICAlf"};
   TextBox txtSwathing{frmICAlf, "txtSwathing"};
   TextBox txtSwathingNum{frmICAlf, "txtSwathingNum"};
@@ -85,15 +85,16 @@ class InputCostsPane : public Frame {
   Button cmdCancel{*this, "cmdCancel(1)", "Cancel"};
   HelpButtons cmdHelp{*this, {11, 12, 13, 14, 21, 22, 23, 24}};
 
-  /// The fields in the order in which they are shown, and their groups.
+  /// The fields and their groups, in display order.
   [[nodiscard]] static std::span<const InputCostsField> fields();
   [[nodiscard]] static std::span<const FieldGroup<InputCostsPane>> groups();
 
-  /// Shows the costs of a crop; the pane is shown by then. \throws RunTimeError without a crop, and
-  /// (overflow) when a subtotal is too large, with all fields filled.
+  /// Shows the costs of a crop. Call it after showing the pane.
+  /// \throws RunTimeError if `crop` is nullptr, and (overflow) if a subtotal is too large; all fields are
+  /// filled by then
   void open(std::shared_ptr<Crop> crop);
 
-  Event<> onApplied;  ///< The crop has its new costs
+  Event<> onApplied;  ///< The new costs are stored in the crop
   Event<> onBack;
   Event<int> onHelp;
 
@@ -112,7 +113,7 @@ class InputCostsPane : public Frame {
   [[nodiscard]] std::string cropType() const { return activeCrop ? activeCrop->cropType : std::string(); }
 
   Services& services_;
-  bool filling_ = false;  ///< Many fields are being set: the subtotals wait for the last
+  bool filling_ = false;  ///< Several fields are being set; the subtotals are updated afterwards
 };
 
 }  // namespace verdalis

@@ -6,7 +6,7 @@
 
 namespace verdalis {
 
-/// The groups of the production cost pane, in its order.
+/// The groups of the production cost pane, in display order.
 enum InputCostsGroup {
   generalGroup,
   operationGroup,
@@ -17,25 +17,25 @@ enum InputCostsGroup {
   returnsGroup
 };
 
-/// How a figure is shown when the pane opens.
+/// How a number is shown when the pane opens.
 enum class Shown {
   plain,
-  /// With two decimals. A rate of 0.214 is shown as 0.21 and stored so when it is applied: meant.
+  /// With two decimals. A rate of 0.214 is shown as 0.21, and Apply stores 0.21. This is intended.
   money
 };
 
 /// What a change of a field recomputes.
 enum class Recomputes { nothing, generalSubtotal, operationSubtotal };
 
-/// One field of the production cost pane.
+/// A field of the production cost pane.
 struct InputCostsField {
   FieldRow row;
   TextBox InputCostsPane::*box = nullptr;
-  Label& (*unitControl)(InputCostsPane&) = nullptr;  ///< The label behind it, where the unit is not fixed
-  CostField figure;                                  ///< A number
+  Label& (*unitControl)(InputCostsPane&) = nullptr;  ///< Label of the unit, if it is not fixed
+  CostField figure;                                  ///< The cost or rate that it edits
   Shown shown = Shown::plain;
   Recomputes recomputes = Recomputes::nothing;
-  CheckBox InputCostsPane::*optimal = nullptr;  ///< Ticked while the field is empty, cleared while it is not
+  CheckBox InputCostsPane::*optimal = nullptr;  ///< Ticked exactly while the field is empty
   bool inputCosts::*optimalFlag = nullptr;
 };
 

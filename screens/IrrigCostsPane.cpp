@@ -16,8 +16,7 @@
 namespace verdalis {
 namespace {
 
-/// Gallons in an acre-inch, as the hint counts them; the plant's own figure is another one, and that is
-/// meant.
+/// Gallons in an acre-inch, as used by the hint. The plant uses a different figure. This is intended.
 constexpr double hintGallonsPerAcreInch = 27154.2876;
 
 using Pane = IrrigCostsPane;
@@ -104,7 +103,7 @@ constexpr std::array<IrrigCostsField, 8> paneFields{{
      .changesHint = true},
 }};
 
-/// The value of a step of the figures shown; a step that fails counts as 0.
+/// The value of one term of the result; 0 if it cannot be calculated.
 template <class Step>
 double valueOrZero(Step step) {
   try {
@@ -115,7 +114,7 @@ double valueOrZero(Step step) {
   }
 }
 
-/// Gives the label the caption; one that cannot be made leaves the label as it was.
+/// Sets the caption of a label. If the caption cannot be made, the label keeps its old one.
 template <class Caption>
 void showWhereMade(Label& label, Caption caption) {
   try {
@@ -226,7 +225,7 @@ void IrrigCostsPane::apply() {
     if (field.value != nullptr) plant.*field.value = Val((this->*field.box).text());
   }
   plant.FuelType = cboFuelType.text();
-  // Another text than that of a fuel leaves the plant its last performance figure.
+  // A text that is not a fuel keeps the previous performance figure of the plant.
   if (const std::optional<double> performance = fuelPerformance(plant.FuelType)) plant.NPC = *performance;
   plant.active = true;
   onApplied();

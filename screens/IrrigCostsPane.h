@@ -20,20 +20,20 @@ namespace verdalis {
 
 class IrrigCostsPane;
 
-/// One field of the irrigation cost pane.
+/// A field of the irrigation cost pane.
 struct IrrigCostsField {
   FieldRow row;
   TextBox IrrigCostsPane::*box = nullptr;
-  ComboBox IrrigCostsPane::*list = nullptr;  ///< In place of the box: the list of fuels
-  double IrrigationCosts::*value = nullptr;  ///< Where Apply puts its number; nullptr for the list of fuels
+  ComboBox IrrigCostsPane::*list = nullptr;  ///< The list of fuels, in place of a box
+  double IrrigationCosts::*value = nullptr;  ///< Where Apply stores the number; nullptr for the list of fuels
   bool changesHint = false;                  ///< A change also recomputes the pumping hint
 };
 
-/// The message that refuses a text as the price of a unit of fuel; nothing for one that passes.
+/// Message that rejects a text as the price of a unit of fuel; nothing if it passes.
 [[nodiscard]] std::optional<std::string> fuelCostFault(const std::string& fuelType, const std::string& text);
 
-/// The pane that edits the farm's one pumping plant. It works on its fields; the plant changes only when
-/// Command9 is pressed.
+/// The pane for the farm's only pumping plant. Edits stay in its fields until Command9 stores them in the
+/// plant.
 class IrrigCostsPane : public Frame {
  public:
   IrrigCostsPane(Frame& window, Services& services, std::shared_ptr<IrrigationCosts> tempIrrigationCosts);
@@ -45,7 +45,8 @@ class IrrigCostsPane : public Frame {
   TextBox txtLaborPerHour{*this, "txtLaborPerHour"};
   TextBox txtRepairsPerAcre{*this, "txtRepairsPerAcre"};
   TextBox txtEstHours{*this, "txtEstHours"};
-  // Behind the fields, so that clearing the pane brings the subtotal down to 0 while the fuel still stands.
+  // Declared after the fields: the pane is cleared in this order, so the subtotal falls to 0 while the fuel
+  // is still set.
   ComboBox cboFuelType{*this, "cboFuelType", ComboBox::Style::freeText, fuelNames(), "Select fuel type"};
   Label lblICosts{*this, "lblICosts"};
   Label lblInchHint{*this, "lblInchHint"};
@@ -60,21 +61,22 @@ class IrrigCostsPane : public Frame {
 
   static constexpr std::string_view title = "Irrigation Costs";
 
-  /// The fields in the order in which they are shown, and their groups.
+  /// The fields and their groups, in display order.
   [[nodiscard]] static std::span<const IrrigCostsField> fields();
   [[nodiscard]] static std::span<const FieldGroup<IrrigCostsPane>> groups();
 
-  /// Makes the pane ready once it is shown: the pumping hint, and no zeros in the fields of the window.
+  /// Prepares the pane after it is shown: updates the pumping hint and empties the fields of the window that
+  /// contain "0".
   void open();
 
-  /// Puts the default values into the fields; the plant stays.
+  /// Shows the default values in the fields. The plant does not change.
   void showDefaults();
 
-  Event<> onApplied;  ///< The plant has its new values
+  Event<> onApplied;  ///< The new values are stored in the plant
   Event<> onBack;
   Event<int> onHelp;
 
-  /// The text of the total acres; empty without one.
+  /// Returns the text of the total acres. May be empty.
   std::function<std::string()> areaText;
 
  private:

@@ -56,8 +56,7 @@ std::optional<Message> capacityWarning(const IrrigationCosts& plant, const std::
                      " inches."};
 }
 
-MainPane::MainPane(Frame& window, Services& services, ProgramState& state,
-                   std::shared_ptr<IrrigationCosts> tempIrrigationCosts)
+MainPane::MainPane(Frame& window, Services& services, std::shared_ptr<IrrigationCosts> tempIrrigationCosts)
     : Frame(window, "pneMain"), services_(services), tempIrrigationCosts_(std::move(tempIrrigationCosts)) {
   for (std::size_t i = 0; i < landDivisions().size(); ++i) {
     Option1.push_back(std::make_unique<OptionButton>(*this, "Option1(" + std::to_string(i) + ")", landSplits,
@@ -78,8 +77,7 @@ MainPane::MainPane(Frame& window, Services& services, ProgramState& state,
   txtSoil.onChange.connect(takeSoil);
   txtSoil.onClick.connect(takeSoil);
   txtSoil.onLeave.connect(takeSoil);
-  // Without any effect on an evaluation: meant.
-  Check1.onClick.connect([&state] { state.FallowNegatives = !state.FallowNegatives; });
+  Check1.onClick.connect([this] { FallowNegatives = !FallowNegatives; });
   cropScroll.onChange.connect([this] {
     cropFrameTop = -cropScroll.value();
     desk().moveFocus(Command7);  // so that no row keeps the focus while the list moves

@@ -12,7 +12,6 @@
 #include "controls/displays.h"
 #include "controls/inputs.h"
 #include "controls/services.h"
-#include "engine/ProgramState.h"
 #include "model/IrrigationCosts.h"
 #include "screens/CropRecord.h"
 #include "screens/FieldTable.h"
@@ -24,8 +23,7 @@ namespace verdalis {
 /// starts the evaluation.
 class MainPane : public Frame {
  public:
-  MainPane(Frame& window, Services& services, ProgramState& state,
-           std::shared_ptr<IrrigationCosts> tempIrrigationCosts);
+  MainPane(Frame& window, Services& services, std::shared_ptr<IrrigationCosts> tempIrrigationCosts);
 
   TextBox txtArea{*this, "txtArea"};
   TextBox txtMax{*this, "txtMax"};
@@ -47,7 +45,7 @@ class MainPane : public Frame {
   Frame cropFrameHolder{cropBox, "cropFrameHolder"};
   Frame cropFrame{cropFrameHolder, "cropFrame"};
   ScrollBar cropScroll{cropBox, "cropScroll"};
-  std::vector<std::unique_ptr<CropRecord>> cr;  ///< Element 0 is there from the start and stays over reloads
+  std::vector<std::unique_ptr<CropRecord>> cr;  ///< Element 0 always exists and survives reloads
   Button Command1{*this, "Command1", "Generate Output"};
   Label lblNumber{*this, "lblNumber"};
   TextBox txtArraySize{*this, "txtArraySize", "100"};
@@ -56,38 +54,40 @@ class MainPane : public Frame {
   Frame pnlBatchInstructions{*this, "pnlBatchInstructions"};
   HelpButtons cmdHelp{*this, {0, 1, 2, 3, 4, 5, 6, 9, 10, 28, 29}};
 
-  std::string currentSoil;  ///< Always the text of txtSoil
-  int cropFrameTop = 0;     ///< Layout units; 0 or less
+  std::string currentSoil;       ///< Always the text of txtSoil
+  bool FallowNegatives = false;  ///< Follows Check1; deliberately without effect
+  int cropFrameTop = 0;          ///< Layout units; 0 or less
 
-  std::vector<Wish> wishes;  ///< What every plan of a run must meet
-  bool mixes = false;        ///< A run keeps the best plan of each mix of crops alone
+  std::vector<Wish> wishes;  ///< Wishes that every plan of a run must meet
+  bool mixes = false;        ///< Whether a run keeps only the best plan of each mix of crops
 
-  /// The fields of the farm in their order, with all that belongs to them; and the land split, as "Option1".
+  /// The fields of the farm in display order, with their texts and tests, and the land split as "Option1".
   [[nodiscard]] static std::span<const FieldRow> fields();
 
-  /// The land split buttons, as a run reads them.
+  /// The state of the land split buttons, as a run reads it.
   [[nodiscard]] LandSplitButtons landSplitButtons() const;
 
-  /// All texts that a run reads, as they stand now.
+  /// The current inputs of a run.
   [[nodiscard]] ScenarioInputs scenarioInputs() const;
 
-  /// Whether everything that a run needs is there.
+  /// Whether all inputs that a run needs are entered.
   [[nodiscard]] bool ready() const;
 
-  /// Refreshes lblVolume. The result is always 0.
+  /// Updates lblVolume.
+  /// \returns always 0.
   double getVolume();
 
-  /// Takes the rows 1 and up away; element 0 stays.
+  /// Removes all rows except element 0.
   void unloadRows();
 
-  /// The row at an index; a new one is added behind the last.
+  /// The row at an index. An index beyond the last row adds one row at the end.
   CropRecord& row(std::size_t index);
 
-  /// Sizes the crop frame and the scroll bar to the rows.
-  /// \throws RunTimeError (overflow) for more than 59 rows.
+  /// Adjusts the crop frame and the scroll bar to the number of rows.
+  /// \throws RunTimeError (overflow) for more than 59 rows
   void InitializeCropFrame();
 
-  /// The crop of the last row of that name, ignoring case; nullptr without one.
+  /// The crop of the last row with this name, ignoring case; nullptr if there is none.
   [[nodiscard]] std::shared_ptr<Crop> findCropByName(const std::string& name) const;
 
   Event<> onRun;         ///< Command1
@@ -96,7 +96,7 @@ class MainPane : public Frame {
   Event<CropRecord&> onInputCosts;
   Event<int> onHelp;
 
-  /// The rows have been made anew.
+  /// The rows have been created again.
   Event<> onRowsChanged;
 
  private:
@@ -118,7 +118,7 @@ class MainPane : public Frame {
 /// The line over the button of the irrigation costs.
 inline constexpr const char* irrigationHeading = "Irrigation Costs and Capacity";
 
-/// The column heads of the crop rows, as captions are written, with their "?" buttons.
+/// The column headings of the crop rows, with "&&" for "&" as in captions, and their "?" buttons.
 struct CropColumn {
   const char* caption;
   int helpIndex;
@@ -126,12 +126,11 @@ struct CropColumn {
 inline constexpr std::array<CropColumn, 3> cropColumns{
     {{"Price per unit:", 10}, {"Input Costs && Returns", 28}, {"Maximum Yield / Acre:", 9}}};
 
-/// Layout units: the height of the crop list's window, and the pitch with which the frame's height is
-/// counted.
+/// The visible height of the crop list and the height of one row, in layout units.
 inline constexpr int cropFrameHolderHeight = 4410;
 inline constexpr int cropRowHeight = 550;
 
-/// The lines on the panel for trends, and the one under it.
+/// The lines on the panel for trends, and the line below it.
 inline constexpr std::array<const char*, 3> batchInstructions{
     "*Fixed batch starts after 'Generate Output'",
     "*Variable irrigation batch can be initiated through the 'Tools' menu above",

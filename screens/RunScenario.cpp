@@ -10,8 +10,8 @@
 namespace verdalis {
 namespace {
 
-/// Leaves in the crop of the library what pricing it on the undivided farm has worked out. What was typed on
-/// the cost screen while the run went on is not overwritten.
+/// Stores the results of pricing a crop on the undivided farm in the crop of the library. Values typed on the
+/// cost screen during the run are not overwritten.
 void leaveInLibrary(const Crop& before, const Crop& priced, Crop& kept) {
   const inputCosts& costs = priced.inputCosts;
   kept.Yield = priced.Yield;
@@ -40,7 +40,7 @@ BestMix RunScenario(const ScenarioInputs& inputs, const CropScenario& library,
       readScenario(inputs, library, *tempIrrigationCosts, efficiency, state, beginProgress);
   const CropScenario crops = state.cs;  // a run inside this one has crops of its own
 
-  // The one place that leaves something of the pricing behind: the screens show it.
+  // The only place where pricing changes the library and the plant: the screens show these values.
   const auto leaveBehind = [&](std::size_t crop, const Field& priced) {
     leaveInLibrary(*scenario.combinations.crops()[crop], *priced.theCrop,
                    *crops.Item(static_cast<long>(crop) + 1));

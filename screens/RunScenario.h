@@ -12,11 +12,11 @@
 
 namespace verdalis {
 
-/// One evaluation from the inputs to the ranked options: every water split with every crop combination, and
-/// with chkNoSplit each crop on the undivided farm. `description` is the second line of the progress window.
-/// What pricing the candidates of chkNoSplit works out stays in the library's crops and in the plant.
-/// \returns the options; a ranking of size 0 after a cancel.
-/// \throws RunTimeError; the progress window may then still be open.
+/// Evaluates the inputs and ranks the options: every water split with every crop combination and, with
+/// chkNoSplit, each crop on the undivided farm. `description` is the second line of the progress window.
+/// Pricing the candidates of chkNoSplit leaves its results in the library's crops and in the plant.
+/// \returns the ranked options; a ranking of size 0 if the run was cancelled.
+/// \throws RunTimeError; the progress window may still be open then
 BestMix RunScenario(const ScenarioInputs& inputs, const CropScenario& library,
                     const std::shared_ptr<IrrigationCosts>& tempIrrigationCosts, ProgramState& state,
                     RunHooks& hooks, const std::string& description);

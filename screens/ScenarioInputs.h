@@ -8,22 +8,22 @@
 
 namespace verdalis {
 
-/// Which button of the group "Land Split:" is on.
+/// The state of each button of the group "Land Split:".
 using LandSplitButtons = std::array<bool, 6>;
 
-/// What a run needs of one crop row. Its place in the list is that of its crop in the library.
+/// The inputs of a run from one crop row. Row i belongs to crop i of the library.
 struct CropRowInput {
   bool isActive = false;    ///< The row is ticked
   std::string txtPrice;     ///< $ per yield unit
   std::string txtMaxYield;  ///< Yield units per acre
 
-  /// The leading number of the text; 0 without one.
+  /// The leading number of the text; 0 if there is none.
   [[nodiscard]] double getPrice() const;
   [[nodiscard]] double getMaxYield() const;
 };
 
-/// The inputs of a run: the texts of the main pane's controls at the moment of the run. There is no other
-/// input model, so the texts mean what the conversions at their use make of them.
+/// The inputs of a run: the texts of the main pane's controls when the run starts. There is no other input
+/// model: each text is converted to a number where it is used.
 struct ScenarioInputs {
   std::string txtArea;                    ///< Total acres
   std::string txtMax;                     ///< Gross irrigation, inches
@@ -39,13 +39,13 @@ struct ScenarioInputs {
   bool mixes = false;                     ///< Keep the best plan of each mix of crops alone
 };
 
-/// Whether everything that a run needs is there: the acres, the inches, the volume that follows from them, a
-/// rainfall that is a number, and at least one ticked crop.
+/// Whether all inputs that a run needs are entered: the acres, the inches, the resulting volume, a numeric
+/// rainfall, and at least one ticked crop.
 [[nodiscard]] bool ready(const ScenarioInputs& inputs);
 
-/// Refreshes lblVolume from the acres and the inches. The run reads this text, so the volume's rounding to a
-/// whole number is part of the result; a volume that rounds to 0 is an empty text. \throws RunTimeError
-/// (overflow)
+/// Updates lblVolume from the acres and the inches. The run reads this text, so it works with the volume
+/// rounded to a whole number. A volume that rounds to 0 gives an empty text.
+/// \throws RunTimeError (overflow)
 void getVolume(ScenarioInputs& inputs);
 
 }  // namespace verdalis

@@ -5,7 +5,7 @@
 namespace verdalis {
 namespace {
 
-/// Above it a run may take long.
+/// A run with a larger factor may take long.
 constexpr std::int16_t largestSilentFactor = 10;
 
 FineFactorEntry refused(const char* text) {

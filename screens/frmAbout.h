@@ -4,8 +4,8 @@
 
 namespace verdalis {
 
-/// The window that tells the version, the disclaimer and whom to ask. It closes by a click anywhere on it and
-/// when it loses the activation.
+/// The window with the version, the disclaimer and the contact. It closes on a click anywhere on it and when
+/// it is deactivated.
 class frmAbout : public Window {
  public:
   explicit frmAbout(Desk& desk);
@@ -15,7 +15,7 @@ class frmAbout : public Window {
   Label lblVersion{*this, "lblVersion"};
   Label lblDisclaimer{*this, "lblDisclaimer"};
   Label lblMoreInfo{*this, "lblMoreInfo", "For more information, contact:"};
-  Label lblContact{*this, "lblContact"};  ///< Its lines are parted by "\n"
+  Label lblContact{*this, "lblContact"};  ///< Lines are separated by "\n"
 };
 
 }  // namespace verdalis

@@ -13,8 +13,8 @@ struct SystemEfficiency {
   std::string_view efficiency;
 };
 
-/// The window with the efficiencies of irrigation systems. It closes by its button and when it loses the
-/// activation. No command opens it.
+/// The window with the efficiencies of irrigation systems. It closes with its button and when it is
+/// deactivated. No command opens it.
 class frmHelpEff : public Window {
  public:
   explicit frmHelpEff(Desk& desk);

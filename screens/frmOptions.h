@@ -7,8 +7,8 @@
 
 namespace verdalis {
 
-/// The window of the program's one option, the irrigation iteration factor. It is set only by Apply; the
-/// window closes without setting it by Cancel and when it loses the activation.
+/// The window for the program's only option, the irrigation iteration factor. Apply sets it. Cancel and
+/// losing the activation close the window without setting it.
 class frmOptions : public Window {
  public:
   frmOptions(Desk& desk, ProgramState& state, Services& services);
@@ -22,7 +22,7 @@ class frmOptions : public Window {
   Button cmdCancel{*this, "cmdCancel", "Cancel"};
   Button cmdHelp{*this, "cmdHelp", "?"};
 
-  /// Opens the window with the factor in force.
+  /// Opens the window and shows the current factor.
   void show();
 
  private:

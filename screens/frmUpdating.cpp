@@ -4,13 +4,13 @@ namespace verdalis {
 
 frmUpdating::frmUpdating(Desk& desk, ProgramState& state) : Window(desk, "frmUpdating"), state_(state) {
   Command1.onClick.connect([&state] { state.CancelRequested = true; });
-  // Closing the window by its frame would leave the run without a way to stop it.
+  // Closing the window by its frame cancels the run; a closed window could no longer stop it.
   onCloseByUser = [&state] { state.CancelRequested = true; };
 }
 
 void frmUpdating::setTitle(const std::string& text) {
   lblTitle0.setCaption(text);
-  // Shown without taking the activation: the main window stays in use.
+  // Shown without being activated, so the main window stays usable.
   setVisible(true);
 }
 

@@ -9,7 +9,7 @@
 
 namespace verdalis {
 
-/// The progress window. It stands on top of the others and blocks none of them.
+/// The progress window. It is shown above the other windows and does not block them.
 class frmUpdating : public Window {
  public:
   frmUpdating(Desk& desk, ProgramState& state);
@@ -18,32 +18,32 @@ class frmUpdating : public Window {
   Label lblTitle1{*this, "lblTitle(1)"};
   verdalis::ProgressBar ProgressBar{*this, "ProgressBar"};
   Button Command1{*this, "Command1", "Cancel"};
-  bool topMost = false;  ///< It is kept above all other windows
+  bool topMost = false;  ///< Kept above all other windows
 
   /// Sets the first line and shows the window.
   void setTitle(const std::string& text);
 
-  /// The number of steps; the bar starts at 0.
+  /// Sets the number of steps and resets the bar to 0.
   void setMax(double steps);
 
-  /// Whether a cancel has been asked for that no run has taken yet.
+  /// Whether a cancel is requested that no run has handled yet.
   [[nodiscard]] bool isCancelled() const { return state_.CancelRequested; }
 
-  /// One step is done.
+  /// Advances the bar by one step.
   void Update();
 
  private:
   const ProgramState& state_;
 };
 
-/// Keeps the progress window above all others, or takes it out of that layer. Moves, sizes and activates
-/// nothing.
+/// Keeps the progress window above all other windows, or no longer does. Does not move, resize or activate
+/// it.
 void setTopMost(frmUpdating& window, bool flag);
 
-/// How a run reaches the progress window and gives the user interface its turn.
+/// The hooks of a run that update the progress window and process events of the user interface.
 class ProgressHooks : public RunHooks {
  public:
-  /// `listener` is told everything too, after the window; nullptr without one.
+  /// `listener` receives the progress calls and event pumps after the window; nullptr for none.
   ProgressHooks(frmUpdating& window, EventPumpService& eventPump, RunHooks* listener = nullptr)
       : window_(window), eventPump_(eventPump), listener_(listener) {}
 

@@ -4,7 +4,7 @@
 
 namespace verdalis {
 
-// The spelling is that of the text as it has always been shown.
+// The unusual spelling is kept: the text has always been shown this way.
 const char* const disclaimer =
     "This program was written for use as a tool to help with allocating irrigation water over a specified "
     "acreage "

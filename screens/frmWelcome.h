@@ -6,7 +6,7 @@
 
 namespace verdalis {
 
-/// The window that the program starts with.
+/// The first window of the program.
 class frmWelcome : public Window {
  public:
   frmWelcome(Desk& desk, Services& services);
@@ -25,7 +25,7 @@ class frmWelcome : public Window {
   Event<> onAbout;
 };
 
-/// What the program must not be held responsible for; the About window says it too.
+/// The disclaimer, also shown in the About window.
 extern const char* const disclaimer;
 
 }  // namespace verdalis

@@ -17,17 +17,17 @@ struct HelpNote {
   int height;  ///< Of the window, in layout units
 };
 
-/// What a "?" button of the main window does: opens a topic, shows a note, or nothing.
+/// The action of a "?" button of the main window: it opens a topic, shows a note, or does nothing.
 struct HelpAction {
   int index;
   std::string topic;
   HelpNote note;
 };
 
-/// The "?" buttons of the main window, by their index from 0.
+/// The actions of the "?" buttons of the main window, by index from 0.
 [[nodiscard]] const std::vector<HelpAction>& helpActions();
 
-/// The window of the short notes. It closes by its button and when it loses the activation.
+/// The window for short notes. It closes with its button and when it is deactivated.
 class frmHelp : public Window {
  public:
   explicit frmHelp(Desk& desk);
@@ -36,19 +36,19 @@ class frmHelp : public Window {
   Button Command1{*this, "Command1", "Close"};
   Image imgMap{*this, "imgMap"};
   Image imgLift{*this, "imgLift"};
-  /// Called after a note has been put in, with its title.
+  /// Raised after a note and its title are set.
   Event<const HelpNote&> onNote;
   int height = 0;     ///< Layout units
   int buttonTop = 0;  ///< Top of the close button, layout units
 };
 
-/// Opens the help viewer at a topic: a file name, with an anchor where it has one.
+/// Opens the help viewer at a topic: a file name, optionally with an anchor.
 void showHelpTopic(HelpService& help, const std::string& topic);
 
 /// Shows the note window with a text.
 void showHelpNote(frmHelp& window, const std::string& text, const std::string& title, int height);
 
-/// Opens a file with the desktop's program for it. Where that fails the user is told.
+/// Opens a file with the desktop's default program for it. Shows a message if that fails.
 void openWithShell(Desk& desk, Services& services, const std::filesystem::path& path);
 
 }  // namespace verdalis

@@ -15,8 +15,7 @@ void emptyText(WithText& control) {
   }
 }
 
-/// Empties the control if it is a text field or a combo with free text and its text is one that `counts`
-/// chooses.
+/// Empties a text field or free-text combo box if `counts` returns true for its text.
 template <class Counts>
 void emptyIf(Control& control, Counts counts) {
   if (auto* box = dynamic_cast<TextBox*>(&control)) {
@@ -40,7 +39,7 @@ void showInputError(const std::string& message, TextBox& control, MessageBoxServ
   try {
     if (control.canUndo()) control.undo();
   } catch (const RunTimeError&) {
-    // What follows from the text that is back failed; the text and the focus are back all the same.
+    // A handler of the restored text failed. The text and the focus are restored anyway.
     control.desk().moveFocus(control);
     throw;
   }

@@ -7,21 +7,21 @@
 
 namespace verdalis {
 
-/// The range test of a text field that a person leaves: what rangeFault() finds is told, the text goes back
-/// to what it was before it was edited, and the focus comes back to the field. A control that is not there
-/// passes. It blocks nothing.
+/// Tests a text field when the user leaves it. If the text is not a number, negative or above `limit`, it
+/// shows a message that begins with `label`, restores the text from before the edit, and moves the focus back
+/// to the field. An empty text, "-", "." and a `control` of nullptr pass. A failed test does not stop the
+/// action for which the user left the field.
 void testInput(TextBox* control, double limit, const std::string& label, MessageBoxService& messageBox);
 
-/// Tells the message, takes the last edit of the field back where there is one, and gives the field the
-/// focus.
+/// Shows a message, undoes the last edit of the field if there is one, and moves the focus to the field.
 void showInputError(const std::string& message, TextBox& control, MessageBoxService& messageBox);
 
-/// Empties the text fields and combos with free text, of the whole window, whose text is exactly "0". A
-/// run-time error of a change that follows is passed over.
+/// Empties all text fields and free-text combo boxes of a window whose text is exactly "0". A run-time error
+/// raised by such a change is ignored.
 void emptyZeroTexts(Frame& window);
 
-/// Empties the text fields and combos with free text that stand on the frame itself, not on a frame in it. A
-/// run-time error of a change that follows is passed over.
+/// Empties all text fields and free-text combo boxes directly on a frame, not those on its inner frames. A
+/// run-time error raised by such a change is ignored.
 void emptyTexts(Frame& frame);
 
 }  // namespace verdalis

@@ -13,7 +13,7 @@
 namespace verdalis {
 namespace {
 
-/// The number of a text, which stands under `label` on the main pane.
+/// The number in a text that is labelled `label` on the main pane.
 /// \throws RunTimeError as toDouble(); the message begins with the label.
 double numberUnder(const std::string& label, const std::string& text) {
   try {
@@ -23,8 +23,8 @@ double numberUnder(const std::string& label, const std::string& text) {
   }
 }
 
-/// What a soil text selects. The texts that the soil control offers match none of the keys and so take the
-/// last entry, like any other text: meant.
+/// What a soil text selects. The texts that the soil control offers match none of the keys, so they select
+/// the last entry, as any other text does. This is intended.
 struct SoilVariant {
   std::string_view key;
   FirstUse<SoilTables> Crop::*tables;
@@ -47,7 +47,7 @@ void useSoil(Crop& crop, std::string_view currentSoil) {
   const SoilTables& tables = *(crop.*variant.tables);
   if (tables.empty()) return;
   crop.soilName = variant.soilName;
-  // The second table holds fractions of the maximum yield. A crop without it keeps the table that it has.
+  // The second table contains fractions of the maximum yield. A crop without it keeps its current table.
   if (tables.size() >= 2) crop.yieldTable = tables[1].second;
 }
 
@@ -89,7 +89,7 @@ Scenario readScenario(const ScenarioInputs& inputs, const CropScenario& library,
   const std::int16_t n = landSplit.Count();
   const double netVolume = checked(
       numberUnder("Calculated Gross Water Volume:", inputs.lblVolume) * efficiency, "The net water volume");
-  // The acres have to be a number as a whole too, although their leading number is what counts.
+  // The whole text of the acres must be a number, although only its leading number is used.
   const double wholeAcres = numberUnder("Total Acres:", inputs.txtArea);
   SplitCollection depths = volumesToDepths(makeWaterSplits(n, netVolume, wholeAcres, state), landSplit);
   state.cs = returnCrops(inputs, library);

@@ -12,21 +12,20 @@
 
 namespace verdalis {
 
-/// The percentages of the land division whose button is on.
-/// \throws RunTimeError (invalidCall) when none is.
+/// The percentages of the land division whose button is checked.
+/// \throws RunTimeError (invalidCall) if none is checked
 [[nodiscard]] Split getLandSplit(const LandSplitButtons& Option1);
 
-/// The crops of the ticked rows, in the order of the rows. They are the library's own objects, and what is
-/// set here stays on them: price, maximum yield, scale, the table of the soil and the name of the soil.
+/// The crops of the ticked rows, in row order. They are the library's objects, not copies, so the values set
+/// here stay on them: price, maximum yield, scale, yield table of the soil, and name of the soil.
 /// \throws RunTimeError (subscript) for a ticked row without a crop, (overflow) for a number that is too
-/// large.
+/// large
 CropScenario returnCrops(const ScenarioInputs& inputs, const CropScenario& library);
 
-/// Reads the texts of the main pane, in their fixed order, which decides the error that is told first. The
-/// iteration factor comes from `state`; the acres of the fields, the crops and the number of splits and
-/// combinations go into it. `onWaterSplits` hears the number of splits as soon as it is known, before the
-/// last texts are read. \throws RunTimeError for a text that is no number, and for numbers that make no
-/// scenario
+/// Reads the texts of the main pane. Their fixed order decides which error is reported first. The iteration
+/// factor is taken from `state`; the acres of the fields, the crops and the numbers of splits and
+/// combinations are stored in it. `onWaterSplits` receives the number of water splits before the last texts
+/// are read. \throws RunTimeError for a text that is not a number and for numbers that give no scenario
 [[nodiscard]] Scenario readScenario(const ScenarioInputs& inputs, const CropScenario& library,
                                     const IrrigationCosts& plant, double efficiency, ProgramState& state,
                                     const std::function<void(std::size_t)>& onWaterSplits = nullptr);

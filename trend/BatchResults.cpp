@@ -19,7 +19,6 @@ BatchResults::BatchResults(Frame& container, Services& services, ProgramState& s
     : Frame(container, "theBatchResults", Scope::named),
       theResults(*this, "theResults", services, state),
       services_(services),
-      state_(state),
       trend_(trend),
       host_(host) {
   pnlBatchSteps.setVisible(false);
@@ -61,7 +60,11 @@ void BatchResults::showOutcome(const TrendOutcome& outcome, const BatchProcess& 
 }
 
 void BatchResults::showStep(long step, const std::function<std::vector<Results::Option>()>& options) {
-  passOver([&] { theResults.loadResults(options()); });
+  passOver([&] {
+    const std::vector<Results::Option> shown = options();
+    theResults.EnableBatch(host_.trendEnabled());
+    theResults.loadResults(shown);
+  });
   step_ = step;
   UnitsPair units;
   passOver([&] { units = GetVariableUnits(host_, bp.VariableIndex, bp.cropIndex); });
@@ -92,7 +95,7 @@ void BatchResults::exportFixed() {
       return theResults.CheckVariable(variable, static_cast<std::int16_t>(GetCropIndex(host_, crop).row));
     };
     writeFixedTrend(
-        {trend_.TrendOptionArray, *state_.SelectedOption, isTrended, host_.txtEff(), services_.clock.now()},
+        {trend_.TrendOptionArray, *trend_.SelectedOption, isTrended, host_.txtEff(), services_.clock.now()},
         text);
   });
 }

@@ -61,7 +61,6 @@ class BatchResults : public Frame {
   void exportTo(const std::function<void(std::string&)>& write);
 
   Services& services_;
-  ProgramState& state_;
   TrendState& trend_;
   TrendHost& host_;
   std::vector<BestMix> batches_;

@@ -94,7 +94,7 @@ void BatchSetupPane::tell(const Message& message) {
 }
 
 void BatchSetupPane::ShowBatchScreen() {
-  if (state_.SelectedOption->Count() > 0) {
+  if (trend_.SelectedOption->Count() > 0) {
     openFixed();
   } else if (!openVariable()) {
     return;
@@ -112,7 +112,7 @@ void BatchSetupPane::openFixed() {
   trend_.CurrentProcess = 0;
   cboBatches.clear();
   cboCrops.clear();
-  for (const std::string& crop : state_.SelectedOption->getCrops())
+  for (const std::string& crop : trend_.SelectedOption->getCrops())
     cboCrops.addItem(crop);
   cboCrops.setIndex(0);
   frmBatches.setVisible(true);
@@ -223,8 +223,8 @@ void BatchSetupPane::showCropHint() {
   const std::string& name = cboCrops.text();
   if (refuseCrop(name)) {
     hint = "There is no crop of this name on the main screen.";
-  } else if (state_.SelectedOption->Count() > 0 && trendVariable(getSelectedIndex(batchVariables)).ofCrop) {
-    const std::vector<std::string> crops = state_.SelectedOption->getCrops();
+  } else if (trend_.SelectedOption->Count() > 0 && trendVariable(getSelectedIndex(batchVariables)).ofCrop) {
+    const std::vector<std::string> crops = trend_.SelectedOption->getCrops();
     if (std::find(crops.begin(), crops.end(), name) == crops.end()) {
       hint = "The chosen option has no field with this crop, so its values would change nothing.";
     }
@@ -266,7 +266,7 @@ void BatchSetupPane::goBack() {
   plant.BatchIrrigationCosts = 0;
   state_.TrendMode = false;
   host_.loadInputs();
-  if (state_.SelectedOption->Count() < 1) {
+  if (trend_.SelectedOption->Count() < 1) {
     host_.backToMain();
   } else {
     host_.backToResults();

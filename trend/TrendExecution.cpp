@@ -128,9 +128,9 @@ bool TrendExecution::runSecond(const FieldCollection& outer, std::size_t i, cons
 }
 
 bool TrendExecution::runFixed() {
-  state_.SelectedOption->ResetBatch();
+  trend_.SelectedOption->ResetBatch();
   // Pricing leaves sums in an option, so no screen that prices this one meanwhile may touch what is copied.
-  const FieldCollection selected = state_.SelectedOption->Copy();
+  const FieldCollection selected = trend_.SelectedOption->Copy();
   const Outline first = outline(0);
   std::optional<Outline> second;
   if (trend_.ProcessCollection.size() > 1) second = outline(1);

@@ -74,6 +74,9 @@ class TrendHost : public TrendInputs {
   /// Whether everything that a run needs is there.
   [[nodiscard]] virtual bool ready() const = 0;
 
+  /// Whether trend processing is on.
+  [[nodiscard]] virtual bool trendEnabled() const = 0;
+
   /// Writes the inputs to the saved inputs file, and reads them back over the screens.
   virtual void saveInputs() = 0;
   virtual void loadInputs() = 0;

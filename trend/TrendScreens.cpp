@@ -8,7 +8,12 @@
 namespace verdalis {
 
 void TrendScreens::mnuFallBatch_Click() {
-  state_.SelectedOption = std::make_shared<FieldCollection>();
+  trend.SelectedOption = std::make_shared<FieldCollection>();
+  ShowBatchScreen();
+}
+
+void TrendScreens::cmdBatchThis_Click(const BestMix::Option& option) {
+  trend.SelectedOption = option;
   ShowBatchScreen();
 }
 
@@ -16,7 +21,7 @@ void TrendScreens::cmdBatchIt_Click() {
   const std::string cropText = pneBatchSetup0.cboCrops.text();
   const std::optional<BatchProcess> process = pneBatchSetup0.GetBatchProcess(cropText, true);
   if (!process) return;
-  TrendRequest request{trend.ProcessCollection, state_.SelectedOption, cropText};
+  TrendRequest request{trend.ProcessCollection, trend.SelectedOption, cropText};
   auto& processes = request.processes;
   if (processes.empty()) {
     processes.push_back(*process);

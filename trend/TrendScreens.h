@@ -28,6 +28,9 @@ class TrendScreens {
   /// Opens the setup for a variable trend: no option is the selected one any more.
   void mnuFallBatch_Click();
 
+  /// Makes an option the selected one and opens the setup for it.
+  void cmdBatchThis_Click(const BestMix::Option& option);
+
   /// Opens the setup for the kind of trend that the selected option decides.
   void ShowBatchScreen() { pneBatchSetup0.ShowBatchScreen(); }
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "engine/BestMix.h"
+#include "model/FieldCollection.h"
 #include "trend/BatchProcess.h"
 
 namespace verdalis {
@@ -46,6 +47,9 @@ class TrendOptionArray {
 
 /// The trend processes that are being defined, and what the last trend has left.
 struct TrendState {
+  /// The option chosen for a fixed trend; without fields for a variable trend.
+  BestMix::Option SelectedOption = std::make_shared<FieldCollection>();
+
   std::vector<BatchProcess> ProcessCollection;  ///< In the order of their list
   std::int16_t CurrentProcess = 0;              ///< The process that the pane shows, from 0
   std::int16_t MaximumBatches = 2;              ///< Most processes

@@ -47,7 +47,6 @@ inline constexpr std::size_t trendVariableCount = 6;
 /// 5 rainfall. \throws RunTimeError (subscript) for another index
 [[nodiscard]] const TrendVariable& trendVariable(double index);
 
-inline constexpr std::int16_t efficiencyVariable = 3;
 inline constexpr std::int16_t rainVariable = 5;
 
 /// What stands before and after a value of the variable, for the crop of a row.

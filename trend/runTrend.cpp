@@ -19,7 +19,7 @@ std::optional<TrendOutcome> runTrend(const TrendRequest& request, TrendInputs& i
                                      TrendState& trend) {
   trend.ProcessCollection = request.processes;
   trend.BatchCollection.clear();
-  state.SelectedOption = request.option;
+  trend.SelectedOption = request.option;
   TrendExecution execution(inputs, state, trend, request.cropText);
   TrendOutcome outcome;
   if (request.isVariable()) {

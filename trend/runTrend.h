@@ -9,6 +9,7 @@
 #include "controls/services.h"
 #include "engine/BestMix.h"
 #include "engine/ProgramState.h"
+#include "model/FieldCollection.h"
 #include "trend/BatchProcess.h"
 #include "trend/TrendExecution.h"
 #include "trend/TrendHost.h"

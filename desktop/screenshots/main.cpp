@@ -90,7 +90,7 @@ void photographTrends(Desktop& desktop, const Photographer& camera) {
   BatchSetupPane& setup = main.trends.pneBatchSetup0;
   Results& results = main.trends.pneBatchSetup1.theBatchResults.theResults;
   typeFarm(main.pneMain);
-  desktop.program().state.TrendNoticeShown = true;
+  main.TrendNoticeShown = true;
   main.menus.mnuEnableBatch.click();
   main.menus.mnuFallBatch.click();
   setup.cboCrops.pick(1);

@@ -33,14 +33,14 @@ TEST_F(Ask, ShowsTheBoxAndReturnsTheAnswer) {
   EXPECT_EQ(messageBox.log[1].buttons, MessageButtons::yesNo);
 }
 
-TEST_F(Ask, NoWindowLosesTheActivationMeanwhile) {
+TEST_F(Ask, AnOpenBoxDeactivatesNoWindow) {
   EXPECT_EQ(ask(desk, messageBox, {}), MessageAnswer::ok);
   EXPECT_EQ(take(), Log{"shown"});
   desk.activate(&help);
   EXPECT_EQ(take(), Log{"main inactive"});
 }
 
-TEST_F(Ask, AChooserGetsTheQuestion) {
+TEST_F(Ask, TheFileChooserReceivesTheQuestion) {
   fileChooser.answers = {"/farm/values.txt", std::nullopt, "/farm/table", std::nullopt};
   const FileQuestion question{"Select a file", "/farm", "Comma Separated Values|csv", "csv"};
   EXPECT_EQ(askToOpen(desk, fileChooser, question), std::filesystem::path("/farm/values.txt"));

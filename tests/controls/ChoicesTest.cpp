@@ -22,7 +22,7 @@ class Choices : public ::verdalis::testing::ControlsFixture {
   std::vector<Connection> clicks;
 };
 
-TEST_F(Choices, CheckBoxToggles) {
+TEST_F(Choices, ClickingACheckBoxTogglesIt) {
   check.click();
   EXPECT_TRUE(check.checked());
   check.click();
@@ -31,14 +31,14 @@ TEST_F(Choices, CheckBoxToggles) {
   EXPECT_EQ(desk.focus(), &check);
 }
 
-TEST_F(Choices, ProgramFiresTheCheckBoxOnlyWhereItChanges) {
+TEST_F(Choices, SettingACheckBoxRaisesClickOnlyOnAChange) {
   check.setChecked(false);
   EXPECT_TRUE(take().empty());
   check.setChecked(true);
   EXPECT_EQ(take(), Log{"on"});
 }
 
-TEST_F(Choices, CheckBoxCaption) {
+TEST_F(Choices, TheCaptionOfACheckBoxCanBeChanged) {
   check.onStateChange.connect(writes("watcher"));
   check.setCaption("Corn");
   check.setCaption("Corn");
@@ -46,7 +46,7 @@ TEST_F(Choices, CheckBoxCaption) {
   EXPECT_EQ(take(), Log{"watcher"});
 }
 
-TEST_F(Choices, AtMostOneOptionIsOn) {
+TEST_F(Choices, AtMostOneOptionButtonIsChecked) {
   EXPECT_EQ(group.selected(), -1);
   options[0]->click();
   options[2]->click();
@@ -55,7 +55,7 @@ TEST_F(Choices, AtMostOneOptionIsOn) {
   EXPECT_EQ(take(), (Log{"option 0", "option 2"}));
 }
 
-TEST_F(Choices, SelectByIndex) {
+TEST_F(Choices, AnOptionGroupSelectsByIndex) {
   group.select(1);
   EXPECT_EQ(group.selected(), 1);
   EXPECT_EQ(take(), Log{"option 1"});
@@ -68,7 +68,7 @@ TEST_F(Choices, SelectByIndex) {
   EXPECT_TRUE(take().empty());
 }
 
-TEST_F(Choices, EveryOptionThatChangesIsWatched) {
+TEST_F(Choices, EveryOptionButtonThatChangesNotifiesItsView) {
   options[0]->setChecked(true);
   options[0]->onStateChange.connect(writes("0 watched"));
   options[1]->onStateChange.connect(writes("1 watched"));
@@ -78,7 +78,7 @@ TEST_F(Choices, EveryOptionThatChangesIsWatched) {
   EXPECT_EQ(take(), (Log{"0 watched", "1 watched", "option 1"}));
 }
 
-TEST_F(Choices, HandlerSeesTheOthersOff) {
+TEST_F(Choices, AClickHandlerSeesTheOtherOptionsUnchecked) {
   options[0]->setChecked(true);
   clicks[1] = options[1]->onClick.connectScoped([this] { log.push_back(std::to_string(group.selected())); });
   static_cast<void>(take());

@@ -17,7 +17,7 @@ class Combos : public ::verdalis::testing::ControlsFixture {
   ComboBox list{window, "cboList", ComboBox::Style::list, {"9", "10", "11"}};
 };
 
-TEST_F(Combos, Start) {
+TEST_F(Combos, ANewComboBoxSelectsTheEntryOfItsText) {
   EXPECT_EQ(combo.index(), 0);
   EXPECT_EQ(combo.text(), "Silt Loam");
   EXPECT_EQ(list.index(), -1);
@@ -27,7 +27,7 @@ TEST_F(Combos, Start) {
   EXPECT_EQ(prompt.text(), "Select fuel type");
 }
 
-TEST_F(Combos, PickingSelectsAndClicks) {
+TEST_F(Combos, PickingAnEntrySelectsItAndRaisesClick) {
   combo.pick(1);
   EXPECT_EQ(combo.text(), "Fine Sand");
   EXPECT_EQ(combo.index(), 1);
@@ -46,7 +46,7 @@ TEST_F(Combos, PickingOutsideTheListDoesNothing) {
   EXPECT_TRUE(take().empty());
 }
 
-TEST_F(Combos, TypingFreeText) {
+TEST_F(Combos, FreeTextCanBeTyped) {
   combo.type("Clay");
   EXPECT_EQ(combo.text(), "Clay");
   EXPECT_EQ(combo.index(), -1);
@@ -76,7 +76,7 @@ TEST_F(Combos, SettingTheTextSelectsItsEntry) {
   EXPECT_EQ(take(), Log{"change 7"});
 }
 
-TEST_F(Combos, SettingTheIndex) {
+TEST_F(Combos, SettingTheIndexSelectsTheEntry) {
   list.setIndex(1);
   EXPECT_EQ(list.text(), "10");
   EXPECT_EQ(take(), Log{"click 1"});
@@ -90,7 +90,7 @@ TEST_F(Combos, SettingTheIndex) {
   EXPECT_TRUE(take().empty());
 }
 
-TEST_F(Combos, DisabledListDoesNotClick) {
+TEST_F(Combos, ADisabledListRaisesNoClick) {
   list.setEnabled(false);
   list.setIndex(1);
   list.setText("11");
@@ -98,7 +98,7 @@ TEST_F(Combos, DisabledListDoesNotClick) {
   EXPECT_EQ(take(), Log{"change 11"});
 }
 
-TEST_F(Combos, ClearAndAdd) {
+TEST_F(Combos, ClearEmptiesTheListAndAddItemAppends) {
   list.setIndex(1);
   static_cast<void>(take());
   list.clear();

@@ -5,7 +5,7 @@ namespace {
 
 using Displays = ::verdalis::testing::ControlsFixture;
 
-TEST_F(Displays, Captions) {
+TEST_F(Displays, LabelsButtonsAndMenusHaveCaptions) {
   Label label(window, "lblVolume");
   label.onStateChange.connect(writes("watcher"));
   EXPECT_EQ(label.caption(), "");
@@ -17,7 +17,7 @@ TEST_F(Displays, Captions) {
   EXPECT_EQ(window.caption(), "Verdalis");
 }
 
-TEST_F(Displays, ShownCaption) {
+TEST_F(Displays, ADoubledAmpersandIsShownAsOne) {
   EXPECT_EQ(shownCaption("Apply Costs && Returns"), "Apply Costs & Returns");
   EXPECT_EQ(shownCaption("a & b"), "a & b");
   EXPECT_EQ(shownCaption("&&&"), "&&");
@@ -25,7 +25,7 @@ TEST_F(Displays, ShownCaption) {
   EXPECT_EQ(shownCaption(""), "");
 }
 
-TEST_F(Displays, ButtonClicks) {
+TEST_F(Displays, ClickingAButtonRaisesClick) {
   Button button(window, "Command1", "Generate Output");
   button.click();
   button.onClick.connect(writes("click"));
@@ -34,14 +34,14 @@ TEST_F(Displays, ButtonClicks) {
   EXPECT_EQ(desk.focus(), &button);
 }
 
-TEST_F(Displays, FrameClicks) {
+TEST_F(Displays, ClickingAFrameRaisesClick) {
   Frame frame(window, "frmRow");
   frame.onClick.connect(writes("click"));
   frame.click();
   EXPECT_EQ(take(), Log{"click"});
 }
 
-TEST_F(Displays, MenuEntryTakesNoFocus) {
+TEST_F(Displays, AMenuEntryTakesNoFocus) {
   TextBox box(window, "txtArea");
   box.onLeave.connect(writes("leave"));
   box.enter();
@@ -60,7 +60,7 @@ TEST_F(Displays, MenuEntryTakesNoFocus) {
   EXPECT_EQ(take(), Log{"watcher"});
 }
 
-TEST_F(Displays, ProgressBar) {
+TEST_F(Displays, AProgressBarHasAValueAndAMaximum) {
   ProgressBar bar(window, "pgb");
   bar.onStateChange.connect(writes("watcher"));
   EXPECT_EQ(bar.maximum(), 100);
@@ -71,7 +71,7 @@ TEST_F(Displays, ProgressBar) {
   EXPECT_EQ(take().size(), 2U);
 }
 
-TEST_F(Displays, ScrollBarStopsAtItsEnds) {
+TEST_F(Displays, AScrollBarStopsAtItsEnds) {
   ScrollBar bar(window, "cropScroll");
   bar.onChange.connect([&] { log.push_back(std::to_string(bar.value())); });
   bar.scroll(5);
@@ -94,7 +94,7 @@ TEST_F(Displays, ScrollBarStopsAtItsEnds) {
   EXPECT_EQ(bar.value(), 0);
 }
 
-TEST_F(Displays, EveryKindHasAName) {
+TEST_F(Displays, EveryKindOfControlHasAName) {
   EXPECT_EQ(kindName(TextBox(window, "a").kind()), "TextBox");
   EXPECT_EQ(kindName(ComboBox(window, "a", ComboBox::Style::list).kind()), "ComboBox");
   EXPECT_EQ(kindName(CheckBox(window, "a", "").kind()), "CheckBox");

@@ -27,7 +27,7 @@ TEST_F(Events, WithoutAListenerNothingHappens) {
   withArguments("text", 1);
 }
 
-TEST_F(Events, AllListenersHearInTheOrderOfConnecting) {
+TEST_F(Events, ListenersAreCalledInTheOrderOfConnecting) {
   event.connect(writes("first"));
   event.connect(writes("second"));
   event.connect(writes("third"));
@@ -50,7 +50,7 @@ TEST_F(Events, EveryListenerGetsTheArguments) {
   EXPECT_EQ(take(), (Log{"a3", "a3"}));
 }
 
-TEST_F(Events, AReferenceReachesTheListenersAsOne) {
+TEST_F(Events, AReferenceArgumentIsNotCopied) {
   Event<int&> counting;
   counting.connect([](int& count) { ++count; });
   counting.connect([](int& count) { count *= 10; });
@@ -59,7 +59,7 @@ TEST_F(Events, AReferenceReachesTheListenersAsOne) {
   EXPECT_EQ(count, 20);
 }
 
-TEST_F(Events, AListenerThatIsAddedInsideHearsFromTheNextTimeOn) {
+TEST_F(Events, AListenerConnectedDuringTheEventIsCalledFromTheNextTimeOn) {
   event.connect([this] {
     log.emplace_back("adds");
     if (log.size() == 1) event.connect(writes("added"));
@@ -72,7 +72,7 @@ TEST_F(Events, AListenerThatIsAddedInsideHearsFromTheNextTimeOn) {
   EXPECT_EQ(take(), (Log{"again", "adds", "second", "added"}));
 }
 
-TEST_F(Events, AListenerMayAddManyOthers) {
+TEST_F(Events, AListenerMayConnectManyOthers) {
   event.connect([this] {
     for (int i = 0; i < 100; ++i)
       event.connect(writes("added"));
@@ -83,7 +83,7 @@ TEST_F(Events, AListenerMayAddManyOthers) {
   EXPECT_EQ(take(), (Log{"first", "second"}));
 }
 
-TEST_F(Events, ItMayHappenAgainInside) {
+TEST_F(Events, AListenerMayRaiseTheEventAgain) {
   int depth = 0;
   event.connect([&] {
     log.push_back("in " + std::to_string(++depth));
@@ -96,14 +96,14 @@ TEST_F(Events, ItMayHappenAgainInside) {
             (Log{"in 1", "in 2", "in 3", "out 3", "second 2", "out 2", "second 1", "out 1", "second 0"}));
 }
 
-TEST_F(Events, AnErrorOfTheFirstEndsIt) {
+TEST_F(Events, AnErrorOfAListenerSkipsTheRemainingListeners) {
   event.connect([] { throw RunTimeError(ErrorNumber::overflow, "too large"); });
   event.connect(writes("second"));
   EXPECT_THROW(event(), RunTimeError);
   EXPECT_TRUE(take().empty());
 }
 
-TEST_F(Events, AnErrorLeavesTheListenersConnected) {
+TEST_F(Events, AListenerThatFailsStaysConnected) {
   bool fails = true;
   event.connect(writes("first"));
   event.connect([&] {
@@ -117,7 +117,7 @@ TEST_F(Events, AnErrorLeavesTheListenersConnected) {
   EXPECT_EQ(take(), (Log{"first", "third"}));
 }
 
-TEST_F(Events, AConnectionThatGoesTakesItsListenerAway) {
+TEST_F(Events, DestroyingAConnectionDisconnectsItsListener) {
   event.connect(writes("stays"));
   {
     const Connection connection = event.connectScoped(writes("goes"));
@@ -128,7 +128,7 @@ TEST_F(Events, AConnectionThatGoesTakesItsListenerAway) {
   EXPECT_EQ(take(), Log{"stays"});
 }
 
-TEST_F(Events, OnlyConnectionsThatAreThereAreHeard) {
+TEST_F(Events, AnEventIsHeardWhileAConnectionExists) {
   {
     const Connection connection = event.connectScoped(writes("goes"));
     EXPECT_TRUE(event.isHeard());
@@ -138,7 +138,7 @@ TEST_F(Events, OnlyConnectionsThatAreThereAreHeard) {
   EXPECT_TRUE(take().empty());
 }
 
-TEST_F(Events, AConnectionIsReplacedAndMoved) {
+TEST_F(Events, AConnectionCanBeMovedAndReplaced) {
   Connection connection = event.connectScoped(writes("first"));
   connection = event.connectScoped(writes("second"));
   event();
@@ -158,7 +158,7 @@ TEST_F(Events, AConnectionMayOutliveItsEvent) {
   EXPECT_TRUE(take().empty());
 }
 
-TEST_F(Events, AListenerThatIsTakenAwayInsideIsNotCalledAnyMore) {
+TEST_F(Events, AListenerDisconnectedDuringTheEventIsNotCalled) {
   Connection second;
   event.connect([&] {
     log.emplace_back("first");
@@ -184,7 +184,7 @@ TEST_F(Events, AListenerMayEndItsOwnConnection) {
   EXPECT_EQ(take(), Log{"later"});
 }
 
-TEST_F(Events, AListenerMayTakeTheEventAway) {
+TEST_F(Events, AListenerMayDestroyTheEvent) {
   auto shortLived = std::make_unique<Event<>>();
   shortLived->connect([&] {
     shortLived.reset();
@@ -195,7 +195,7 @@ TEST_F(Events, AListenerMayTakeTheEventAway) {
   EXPECT_EQ(take(), Log{"first"});
 }
 
-TEST_F(Events, AListenerMayTakeTheControlAway) {
+TEST_F(Events, AListenerMayDestroyTheControl) {
   auto button = std::make_unique<Button>(window, "Command1", "Run");
   button->onClick.connect([&] {
     button.reset();
@@ -208,7 +208,7 @@ TEST_F(Events, AListenerMayTakeTheControlAway) {
   EXPECT_EQ(desk.focus(), nullptr);
 }
 
-TEST_F(Events, AFieldMayGoBetweenTwoOfItsEvents) {
+TEST_F(Events, ATextBoxMayBeDestroyedBetweenTwoOfItsEvents) {
   auto box = std::make_unique<TextBox>(window, "txtArea");
   box->onKey.connect([&] { box.reset(); });
   box->onChange.connect(writes("changed"));
@@ -222,7 +222,7 @@ TEST_F(Events, AFieldMayGoBetweenTwoOfItsEvents) {
   EXPECT_TRUE(take().empty());
 }
 
-TEST_F(Events, AListMayGoBetweenTwoOfItsEvents) {
+TEST_F(Events, AComboBoxMayBeDestroyedBetweenTwoOfItsEvents) {
   const auto make = [this] {
     auto box = std::make_unique<ComboBox>(window, "cboCrops", ComboBox::Style::freeText,
                                           std::vector<std::string>{"Corn", "Wheat"});
@@ -246,7 +246,7 @@ TEST_F(Events, AListMayGoBetweenTwoOfItsEvents) {
   EXPECT_TRUE(take().empty());
 }
 
-TEST_F(Events, OtherControlsMayGoBetweenTwoOfTheirEvents) {
+TEST_F(Events, OtherControlsMayBeDestroyedBetweenTwoOfTheirEvents) {
   auto check = std::make_unique<CheckBox>(window, "Check1", "Fallow");
   check->onStateChange.connect([&] { check.reset(); });
   check->onClick.connect(writes("clicked"));
@@ -272,7 +272,7 @@ TEST_F(Events, OtherControlsMayGoBetweenTwoOfTheirEvents) {
   EXPECT_TRUE(take().empty());
 }
 
-TEST_F(Events, TheControlThatAPersonComesToMayGoWhileAnotherIsLeft) {
+TEST_F(Events, AControlMayBeDestroyedWhileTheFocusMovesToIt) {
   TextBox left{window, "txtArea"};
   auto button = std::make_unique<Button>(window, "Command1", "Run");
   left.onLeave.connect([&] {
@@ -287,7 +287,7 @@ TEST_F(Events, TheControlThatAPersonComesToMayGoWhileAnotherIsLeft) {
   EXPECT_EQ(desk.focus(), nullptr);
 }
 
-TEST_F(Events, TheControlThatAPersonComesToMayGoWhileAWindowIsLeft) {
+TEST_F(Events, AControlMayBeDestroyedWhileItsWindowIsActivated) {
   Window help{desk, "frmHelp"};
   help.open();
   auto button = std::make_unique<Button>(window, "Command1", "Run");
@@ -297,7 +297,7 @@ TEST_F(Events, TheControlThatAPersonComesToMayGoWhileAWindowIsLeft) {
   EXPECT_TRUE(take().empty());
 }
 
-TEST_F(Events, AControlTellsAllWhoListen) {
+TEST_F(Events, AControlCallsAllListeners) {
   Button button{window, "Command1", "Run"};
   button.onClick.connect(writes("program"));
   button.onClick.connect(writes("page"));
@@ -305,7 +305,7 @@ TEST_F(Events, AControlTellsAllWhoListen) {
   EXPECT_EQ(take(), (Log{"program", "page"}));
 }
 
-TEST_F(Events, TheErrorOfAListenerIsToldOnceByTheDesk) {
+TEST_F(Events, TheDeskReportsTheErrorOfAListenerOnce) {
   desk.onRunTimeError = [this](const RunTimeError& error) { log.emplace_back(error.what()); };
   TextBox box{window, "txtArea"};
   box.onChange.connect([] { throw RunTimeError(ErrorNumber::overflow, "too large"); });
@@ -314,7 +314,7 @@ TEST_F(Events, TheErrorOfAListenerIsToldOnceByTheDesk) {
   EXPECT_EQ(take(), Log{"too large"});
 }
 
-TEST_F(Events, AFieldThatIsTestedMayBeLeftByTwoListeners) {
+TEST_F(Events, TwoListenersMayTestAFieldOnLeaving) {
   TextBox first{window, "txtArea"};
   TextBox second{window, "txtMax"};
   first.onLeave.connect([&] { desk.moveFocus(first); });

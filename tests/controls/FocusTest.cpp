@@ -32,7 +32,7 @@ class Focus : public ::verdalis::testing::ControlsFixture {
   Connection ofButton = button.onClick.connectScoped(writes("click"));
 };
 
-TEST_F(Focus, EnteringAndLeaving) {
+TEST_F(Focus, EnteringAControlLeavesThePreviousOne) {
   first.enter();
   first.enter();
   EXPECT_EQ(take(), Log{"enter txtFirst"});
@@ -47,7 +47,7 @@ TEST_F(Focus, EnteringAndLeaving) {
   EXPECT_TRUE(take().empty());
 }
 
-TEST_F(Focus, ActionTakesTheFocusFirst) {
+TEST_F(Focus, AnActionTakesTheFocusFirst) {
   first.type("1");
   second.type("2");
   button.click();
@@ -55,13 +55,13 @@ TEST_F(Focus, ActionTakesTheFocusFirst) {
                          "change txtSecond", "leave txtSecond", "click"}));
 }
 
-TEST_F(Focus, WhatTheProgramSetsTakesNoFocus) {
+TEST_F(Focus, AChangeByTheProgramTakesNoFocus) {
   first.setText("1");
   EXPECT_EQ(take(), Log{"change txtFirst"});
   EXPECT_EQ(desk.focus(), nullptr);
 }
 
-TEST_F(Focus, MovedByTheProgramTestsNothing) {
+TEST_F(Focus, MovingTheFocusByTheProgramTestsNoField) {
   first.enter();
   static_cast<void>(take());
   desk.moveFocus(second);
@@ -69,7 +69,7 @@ TEST_F(Focus, MovedByTheProgramTestsNothing) {
   EXPECT_EQ(desk.focus(), &second);
 }
 
-TEST_F(Focus, FailedTestKeepsAFocusThatOnlyMoves) {
+TEST_F(Focus, AFailedTestTakesTheFocusBack) {
   first.enter();
   failFirst();
   static_cast<void>(take());
@@ -80,7 +80,7 @@ TEST_F(Focus, FailedTestKeepsAFocusThatOnlyMoves) {
   EXPECT_EQ(desk.focus(), &first);
 }
 
-TEST_F(Focus, ActionIsCarriedOutAfterAFailedTest) {
+TEST_F(Focus, AnActionIsCarriedOutAfterAFailedTest) {
   first.enter();
   failFirst();
   static_cast<void>(take());
@@ -96,7 +96,7 @@ TEST_F(Focus, ActionIsCarriedOutAfterAFailedTest) {
   EXPECT_EQ(desk.focus(), &second);
 }
 
-TEST_F(Focus, ControlThatGoesAwayLosesIt) {
+TEST_F(Focus, ADestroyedControlLosesTheFocus) {
   {
     TextBox passing(window, "txtPassing");
     passing.onLeave.connect(writes("never"));
@@ -108,7 +108,7 @@ TEST_F(Focus, ControlThatGoesAwayLosesIt) {
   EXPECT_EQ(take(), Log{"enter txtFirst"});
 }
 
-TEST_F(Focus, FieldOfAClosedWindowIsNotTested) {
+TEST_F(Focus, AFieldOfAClosedWindowIsNotTested) {
   Window options(desk, "frmOptions");
   TextBox factor(options, "txtFineFactor");
   factor.onLeave.connect(writes("leave txtFineFactor"));
@@ -120,7 +120,7 @@ TEST_F(Focus, FieldOfAClosedWindowIsNotTested) {
   EXPECT_EQ(take(), Log{"enter txtFirst"});
 }
 
-TEST_F(Focus, RunTimeErrorsAreToldOnce) {
+TEST_F(Focus, RunTimeErrorsAreReportedOnce) {
   std::vector<std::string> told;
   desk.onRunTimeError = [&](const RunTimeError& error) { told.emplace_back(error.what()); };
   const auto fails = [] { throw RunTimeError(ErrorNumber::overflow, "too large"); };
@@ -137,7 +137,7 @@ TEST_F(Focus, RunTimeErrorsAreToldOnce) {
   EXPECT_EQ(told, Log(4, "too large"));
 }
 
-TEST_F(Focus, FailingLeaveDoesNotStopTheAction) {
+TEST_F(Focus, AnErrorOnLeavingAFieldDoesNotStopTheAction) {
   std::vector<std::string> told;
   desk.onRunTimeError = [&](const RunTimeError& error) { told.emplace_back(error.what()); };
   first.enter();
@@ -149,12 +149,12 @@ TEST_F(Focus, FailingLeaveDoesNotStopTheAction) {
   EXPECT_EQ(desk.focus(), &button);
 }
 
-TEST_F(Focus, WithoutAListenerTheErrorGoesOn) {
+TEST_F(Focus, WithoutAnErrorHandlerTheErrorIsPassedOn) {
   ofButton = button.onClick.connectScoped([] { throw RunTimeError(ErrorNumber::overflow, "too large"); });
   EXPECT_THROW(button.click(), RunTimeError);
 }
 
-TEST_F(Focus, OtherExceptionsAreNotTaken) {
+TEST_F(Focus, OtherExceptionsArePassedOn) {
   desk.onRunTimeError = [this](const RunTimeError&) { log.emplace_back("told"); };
   ofButton = button.onClick.connectScoped([] { throw std::logic_error("a mistake of the program"); });
   EXPECT_THROW(button.click(), std::logic_error);

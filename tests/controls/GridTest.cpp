@@ -15,7 +15,7 @@ class Grids : public ::verdalis::testing::ControlsFixture {
   Grid grid{window, "grdCustom", 3, 2};
 };
 
-TEST_F(Grids, CellsInsideAndOutside) {
+TEST_F(Grids, OnlyCellsInsideTheGridHoldTexts) {
   grid.setCell(2, 1, "a");
   EXPECT_EQ(grid.cell(2, 1), "a");
   EXPECT_EQ(take().size(), 1U);
@@ -32,7 +32,7 @@ TEST_F(Grids, CellsInsideAndOutside) {
   EXPECT_TRUE(take().empty());
 }
 
-TEST_F(Grids, SizeKeepsWhatFits) {
+TEST_F(Grids, ResizingKeepsTheCellsThatFit) {
   for (int row = 0; row < 3; ++row) {
     for (int column = 0; column < 2; ++column)
       grid.setCell(row, column, std::to_string(row) + std::to_string(column));
@@ -59,7 +59,7 @@ TEST_F(Grids, SizeKeepsWhatFits) {
   EXPECT_TRUE(take().empty());
 }
 
-TEST_F(Grids, Colors) {
+TEST_F(Grids, ACellHasAColour) {
   EXPECT_EQ(grid.color(0, 0), std::nullopt);
   grid.setColor(0, 0, 0x008000);
   EXPECT_EQ(grid.color(0, 0), 0x008000U);
@@ -67,7 +67,7 @@ TEST_F(Grids, Colors) {
   EXPECT_EQ(grid.color(0, 0), std::nullopt);
 }
 
-TEST_F(Grids, ClearEmptiesTextsAndColors) {
+TEST_F(Grids, ClearRemovesTextsAndColours) {
   grid.setCell(1, 1, "a");
   grid.setColor(1, 1, 1);
   grid.clear();
@@ -76,13 +76,13 @@ TEST_F(Grids, ClearEmptiesTextsAndColors) {
   EXPECT_EQ(grid.rows(), 3);
 }
 
-TEST_F(Grids, CurrentCellStaysInside) {
+TEST_F(Grids, TheCurrentCellStaysInsideTheGrid) {
   grid.setCurrent(9, -3);
   EXPECT_EQ(grid.row(), 2);
   EXPECT_EQ(grid.column(), 0);
 }
 
-TEST_F(Grids, BatchTellsOnceAtItsEnd) {
+TEST_F(Grids, ABatchNotifiesTheViewOnceAtItsEnd) {
   {
     const Grid::Batch outer(grid);
     {
@@ -95,7 +95,7 @@ TEST_F(Grids, BatchTellsOnceAtItsEnd) {
   EXPECT_EQ(take(), Log{"watcher"});
 }
 
-TEST_F(Grids, ClickMakesTheCellCurrent) {
+TEST_F(Grids, AClickedCellBecomesTheCurrentOne) {
   grid.onClick.connect(
       [this] { log.push_back(std::to_string(grid.row()) + "," + std::to_string(grid.column())); });
   grid.clickCell(2, 1);
@@ -106,7 +106,7 @@ TEST_F(Grids, ClickMakesTheCellCurrent) {
   EXPECT_EQ(grid.row(), 2);
 }
 
-TEST_F(Grids, CharactersAndKeys) {
+TEST_F(Grids, CharactersAndKeysRaiseTheirEvents) {
   Connection characters =
       grid.onCharacter.connectScoped([this](const std::string& character) { log.push_back(character); });
   Connection keys = grid.onKey.connectScoped(
@@ -123,7 +123,7 @@ TEST_F(Grids, CharactersAndKeys) {
   EXPECT_TRUE(take().empty());
 }
 
-TEST_F(Grids, AnySizeKeepsTheCellsThatFit) {
+TEST_F(Grids, ResizingToAnySizeKeepsTheCellsThatFit) {
   rc::check([this] {
     const int rows = *rc::gen::inRange(1, 8);
     const int columns = *rc::gen::inRange(1, 8);

@@ -15,19 +15,19 @@ class TextBoxes : public ::verdalis::testing::ControlsFixture {
   TextBox other{window, "txtMax"};
 };
 
-TEST_F(TextBoxes, TypingTellsKeyThenWatcherThenChange) {
+TEST_F(TextBoxes, TypingRaisesKeyThenStateChangeThenChange) {
   box.type("8");
   EXPECT_EQ(take(), (Log{"key", "watcher", "change 8"}));
   EXPECT_EQ(desk.focus(), &box);
 }
 
-TEST_F(TextBoxes, TypingTheSameTextIsAKeyAndNoChange) {
+TEST_F(TextBoxes, TypingTheSameTextRaisesKeyButNoChange) {
   box.type("7");
   EXPECT_EQ(take(), Log{"key"});
   EXPECT_FALSE(box.canUndo());
 }
 
-TEST_F(TextBoxes, SettingTellsAChangeOnlyWhereThereIsOne) {
+TEST_F(TextBoxes, SettingTheTextRaisesChangeOnlyIfItDiffers) {
   box.setText("7");
   EXPECT_TRUE(take().empty());
   box.setText("9");
@@ -35,7 +35,7 @@ TEST_F(TextBoxes, SettingTellsAChangeOnlyWhereThereIsOne) {
   EXPECT_EQ(desk.focus(), nullptr);
 }
 
-TEST_F(TextBoxes, UndoGoesBackToTheTextOfTheFocus) {
+TEST_F(TextBoxes, UndoRestoresTheTextFromWhenTheFocusCame) {
   box.type("8");
   box.type("80");
   EXPECT_TRUE(box.canUndo());
@@ -48,7 +48,7 @@ TEST_F(TextBoxes, UndoGoesBackToTheTextOfTheFocus) {
   EXPECT_TRUE(box.canUndo());
 }
 
-TEST_F(TextBoxes, UndoGoesBackToWhatTheProgramSetLast) {
+TEST_F(TextBoxes, UndoRestoresTheTextLastSetByTheProgram) {
   box.type("8");
   box.setText("50");
   EXPECT_FALSE(box.canUndo());
@@ -57,7 +57,7 @@ TEST_F(TextBoxes, UndoGoesBackToWhatTheProgramSetLast) {
   EXPECT_EQ(box.text(), "50");
 }
 
-TEST_F(TextBoxes, LeavingAndComingBackStartsTheUndoAnew) {
+TEST_F(TextBoxes, EnteringTheFieldAgainResetsUndo) {
   box.type("8");
   other.type("1");
   box.enter();
@@ -67,7 +67,7 @@ TEST_F(TextBoxes, LeavingAndComingBackStartsTheUndoAnew) {
   EXPECT_EQ(box.text(), "8");
 }
 
-TEST_F(TextBoxes, FocusMovedByTheProgramStartsTheUndoAnew) {
+TEST_F(TextBoxes, MovingTheFocusByTheProgramResetsUndo) {
   box.type("8");
   desk.moveFocus(box);
   EXPECT_FALSE(box.canUndo());
@@ -81,7 +81,7 @@ TEST_F(TextBoxes, TypingBackToTheOldTextCanStillBeUndone) {
   EXPECT_EQ(box.text(), "7");
 }
 
-TEST_F(TextBoxes, HandlerMaySetTheTextItself) {
+TEST_F(TextBoxes, AChangeHandlerMaySetTheText) {
   box.onChange.connect([this] {
     if (box.text() == "x") box.setText("y");
   });

@@ -22,7 +22,7 @@ class Tree : public ::verdalis::testing::ControlsFixture {
   TextBox factor{options, "txtFineFactor"};
 };
 
-TEST_F(Tree, FindsByPath) {
+TEST_F(Tree, FindsAControlByItsPath) {
   EXPECT_EQ(desk.find("txtArea"), &area);
   EXPECT_EQ(desk.find("pneMain"), &pane);
   EXPECT_EQ(desk.find("cr(0)"), &row);
@@ -35,7 +35,7 @@ TEST_F(Tree, FindsByPath) {
   EXPECT_EQ(desk.find("frmMain"), &window);
 }
 
-TEST_F(Tree, FindsNothingElse) {
+TEST_F(Tree, FindsNoControlByAnotherPath) {
   for (const char* path : {"", ".", "txtPrice", "lblCrop", "rh(0).lblCrop", "cr(1)", "cr(0).",
                            "cr(0).txtArea", "txtFineFactor", "frmOptions.", "frmOptions.txtArea",
                            "pneMain.txtArea", "txtarea", "cr(0)txtPrice", "theResults..rh(0)"}) {
@@ -43,7 +43,7 @@ TEST_F(Tree, FindsNothingElse) {
   }
 }
 
-TEST_F(Tree, PathLeadsBackToEveryControl) {
+TEST_F(Tree, EveryControlIsFoundByItsOwnPath) {
   for (const Control* control : std::vector<const Control*>{&pane, &area, &row, &price, &price10, &inner,
                                                             &record, &crop, &options, &factor}) {
     EXPECT_EQ(desk.find(control->path()), control) << control->path();
@@ -53,7 +53,7 @@ TEST_F(Tree, PathLeadsBackToEveryControl) {
   EXPECT_EQ(area.path(), "txtArea");
 }
 
-TEST_F(Tree, ContainersAndWindows) {
+TEST_F(Tree, EveryControlKnowsItsContainerAndWindow) {
   EXPECT_EQ(price.container(), &row);
   EXPECT_EQ(&price.window(), &window);
   EXPECT_EQ(&window.window(), &window);
@@ -62,7 +62,7 @@ TEST_F(Tree, ContainersAndWindows) {
   EXPECT_EQ(row.controls(), std::vector<Control*>{&price});
 }
 
-TEST_F(Tree, ControlsComeInOrderAndGo) {
+TEST_F(Tree, AFrameListsItsControlsInOrderOfCreation) {
   auto passing = std::make_unique<Label>(row, "lblPassing");
   EXPECT_EQ(row.controls(), (std::vector<Control*>{&price, passing.get()}));
   EXPECT_EQ(desk.find("cr(0).lblPassing"), passing.get());
@@ -71,7 +71,7 @@ TEST_F(Tree, ControlsComeInOrderAndGo) {
   EXPECT_EQ(desk.find("cr(0).lblPassing"), nullptr);
 }
 
-TEST_F(Tree, ReachableOnlyWhereAllAroundItIs) {
+TEST_F(Tree, AControlIsReachableOnlyIfItsContainersAre) {
   EXPECT_TRUE(price.isReachable());
   price.setEnabled(false);
   EXPECT_FALSE(price.isReachable());
@@ -95,7 +95,7 @@ TEST_F(Tree, ReachableOnlyWhereAllAroundItIs) {
   EXPECT_FALSE(factor.isReachable());
 }
 
-TEST_F(Tree, StateIsWatchedWhereItChanges) {
+TEST_F(Tree, AViewIsNotifiedOnlyOfRealChanges) {
   price.onStateChange.connect(writes("watcher"));
   price.setEnabled(true);
   price.setVisible(true);

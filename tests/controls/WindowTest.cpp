@@ -20,7 +20,7 @@ class Windows : public ::verdalis::testing::ControlsFixture {
   MenuEntry menu{window, "mnuExit", "Exit"};
 };
 
-TEST_F(Windows, OpenAndClosed) {
+TEST_F(Windows, AWindowCanBeOpenedAndClosed) {
   EXPECT_TRUE(window.isOpen());
   EXPECT_FALSE(help.isOpen());
   help.open();
@@ -31,7 +31,7 @@ TEST_F(Windows, OpenAndClosed) {
   EXPECT_TRUE(take().empty());
 }
 
-TEST_F(Windows, UsingAnotherWindowTakesTheActivation) {
+TEST_F(Windows, UsingAnotherWindowActivatesIt) {
   help.open();
   close.click();
   static_cast<void>(take());
@@ -40,21 +40,21 @@ TEST_F(Windows, UsingAnotherWindowTakesTheActivation) {
   EXPECT_FALSE(help.isOpen());
 }
 
-TEST_F(Windows, MenuOfAnotherWindowTakesTheActivation) {
+TEST_F(Windows, UsingTheMenuOfAnotherWindowActivatesIt) {
   help.open();
   static_cast<void>(take());
   menu.click();
   EXPECT_EQ(take(), Log{"help inactive"});
 }
 
-TEST_F(Windows, NoWindowOfTheProgramIsActive) {
+TEST_F(Windows, AWindowIsDeactivatedWhenTheProgramLosesTheActivation) {
   help.open();
   static_cast<void>(take());
   desk.activate(nullptr);
   EXPECT_EQ(take(), Log{"help inactive"});
 }
 
-TEST_F(Windows, BoxesDoNotTakeTheActivation) {
+TEST_F(Windows, AnOpenMessageBoxDeactivatesNoWindow) {
   help.open();
   static_cast<void>(take());
   {
@@ -71,7 +71,7 @@ TEST_F(Windows, BoxesDoNotTakeTheActivation) {
   EXPECT_EQ(take(), Log{"help inactive"});
 }
 
-TEST_F(Windows, ClosedByAPerson) {
+TEST_F(Windows, AHandlerCanReplaceTheClosingByTheUser) {
   help.open();
   help.closeByUser();
   EXPECT_FALSE(help.isOpen());
@@ -83,14 +83,14 @@ TEST_F(Windows, ClosedByAPerson) {
   EXPECT_TRUE(help.isOpen());
 }
 
-TEST_F(Windows, ErrorWhileClosingIsTold) {
+TEST_F(Windows, AnErrorWhileClosingIsReported) {
   desk.onRunTimeError = [this](const RunTimeError& error) { log.emplace_back(error.what()); };
   help.onCloseByUser = [] { throw RunTimeError(ErrorNumber::overflow, "too large"); };
   help.closeByUser();
   EXPECT_EQ(take(), Log{"too large"});
 }
 
-TEST_F(Windows, OneThatGoesAwayIsForgotten) {
+TEST_F(Windows, ADestroyedWindowIsForgotten) {
   {
     Window passing(desk, "frmPassing");
     Button button(passing, "Command1", "Press");

@@ -51,7 +51,7 @@ class Layout : public RunningDesktop {
     shown("pneCustomCrop");
     press("cmdCustomGrid(5)");
     typeFarm();
-    program().state.TrendNoticeShown = true;
+    program().main().TrendNoticeShown = true;
     choose(program().main().menus.mnuEnableBatch);
     choose(program().main().menus.mnuFallBatch);
     type("txtBatchList", "4,5,6");

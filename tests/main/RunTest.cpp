@@ -158,11 +158,11 @@ TEST_F(Run, TheInertBoxTogglesItsFlagAndNothingElse) {
   const std::string before = main.theResults.lblTotalProfit.caption();
   running.press("theResults.Command1");
   running.control<CheckBox>("Check1").click();
-  EXPECT_TRUE(running.program->state.FallowNegatives);
+  EXPECT_TRUE(main.pneMain.FallowNegatives);
   running.press("Command1");
   EXPECT_EQ(main.theResults.lblTotalProfit.caption(), before);
   running.control<CheckBox>("Check1").click();
-  EXPECT_FALSE(running.program->state.FallowNegatives);
+  EXPECT_FALSE(main.pneMain.FallowNegatives);
 }
 
 TEST_F(Run, TheSoilFollowsItsField) {

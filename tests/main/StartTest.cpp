@@ -119,7 +119,7 @@ TEST(Start, TrendsOfTheSavedInputsComeWithoutANotice) {
                              running.home() / "inputs.txt");
   std::ofstream(running.home() / "inputs.txt", std::ios::app | std::ios::binary) << "batch_enabled\r\n";
   frmMain& main = running.start();
-  EXPECT_TRUE(running.program->state.TrendEnabled);
+  EXPECT_TRUE(main.TrendEnabled);
   EXPECT_TRUE(main.menus.mnuEnableBatch.checked());
   EXPECT_TRUE(main.menus.mnuFallBatch.enabled());
   EXPECT_TRUE(main.pneMain.pnlBatchInstructions.visible());
@@ -147,7 +147,7 @@ TEST(Start, WithTrendsTellsTheNoticeBeforeAnythingIsRead) {
       "To make use of the trend processing options, select 'Run variable trend process' from the Tools menu\n"
       " or click 'Run Fixed Trend Process' after you execute a normal VDL evaluation.\n"
       "Disable trend processing by unchecking it in the Tools menu.");
-  EXPECT_TRUE(running.program->state.TrendEnabled);
+  EXPECT_TRUE(running.program->main().TrendEnabled);
   EXPECT_TRUE(running.program->main().isOpen());
   EXPECT_EQ(running.history(), (Strings{"pneMain"}));
 }

@@ -260,6 +260,16 @@ TEST_F(TrendWindow, IrrigationCostsOfATrendAreInTheDetails) {
   EXPECT_EQ(caption("theDetails.lblIrrigationCosts"), "Subtotal: $24.00 /acre");
 }
 
+TEST_F(TrendWindow, EachRunOffersATrendWhileTrendProcessingIsOn) {
+  running.press("Command1");
+  EXPECT_TRUE(main.theResults.batchDisplay.visible());
+  running.press("theResults.Command1");
+  main.TrendEnabled = false;
+  EXPECT_TRUE(main.theResults.batchDisplay.visible());
+  running.press("Command1");
+  EXPECT_FALSE(main.theResults.batchDisplay.visible());
+}
+
 TEST_F(TrendWindow, AFixedTrendOverAStepOfAVariableTrend) {
   runVariable(1, 1, "100, 200");
   running.press("theBatchResults.cmdBatchStep(0)");
@@ -269,7 +279,9 @@ TEST_F(TrendWindow, AFixedTrendOverAStepOfAVariableTrend) {
   EXPECT_TRUE(running.control<Frame>("frmBatches").isShown());
   EXPECT_EQ(running.control<ComboBox>("cboCrops").items(), Strings{"Corn"});
   EXPECT_EQ(running.control<ComboBox>("cboCrops").text(), "Alfalfa");
-  EXPECT_EQ(running.program->state.SelectedOption->Count(), 1);
+  const Results& options = main.trends.pneBatchSetup1.theBatchResults.theResults;
+  EXPECT_EQ(main.trends.trend.SelectedOption, options.FieldCollection.at(0));
+  EXPECT_EQ(main.trends.trend.SelectedOption->Count(), 1);
   EXPECT_EQ(main.lblMainInfo.caption(), fixedBand);
 
   // The costs of the variable trend are no part of the option that the fixed trend begins with.

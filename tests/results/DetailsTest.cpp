@@ -56,7 +56,7 @@ std::shared_ptr<Field> markedField(const std::string& cropType, const std::strin
   return field;
 }
 
-TEST_F(DetailsTest, ControlsAreReachedThroughTheScreen) {
+TEST_F(DetailsTest, ControlsAreFoundByTheNameOfTheScreen) {
   EXPECT_EQ(desk.find("theDetails.lblNC"), &details.lblNC);
   EXPECT_EQ(desk.find("theDetails.picBatch(1)"), &details.picBatch[1]);
   EXPECT_EQ(desk.find("theDetails.lblBatchIrrigationCosts"), &details.lblBatchIrrigationCosts);
@@ -66,7 +66,7 @@ TEST_F(DetailsTest, ControlsAreReachedThroughTheScreen) {
   EXPECT_EQ(details.picBatch[1].caption(), "Irrigation Costs:");
 }
 
-TEST_F(DetailsTest, GeneralInputCosts) {
+TEST_F(DetailsTest, ShowsTheGeneralInputCosts) {
   details.loadCosts(*markedField("Corn", "bu.,bushels"));
   EXPECT_EQ(details.lblNC.caption(), "$0.44/lb");
   EXPECT_EQ(details.lblNAPA.caption(), "1,234.6 lb/ac");
@@ -80,7 +80,7 @@ TEST_F(DetailsTest, GeneralInputCosts) {
   EXPECT_EQ(details.lblGeneralCosts.caption(), "Subtotal: $1,679.41 /acre");
 }
 
-TEST_F(DetailsTest, OperationCostsAndLandReturns) {
+TEST_F(DetailsTest, ShowsOperationCostsAndLandReturns) {
   details.loadCosts(*markedField("Corn", "bu.,bushels"));
   EXPECT_EQ(details.lblTC.caption(), "$1234.00 /acre");
   EXPECT_EQ(details.lblPlantCost.caption(), "$.00 /acre");
@@ -94,7 +94,7 @@ TEST_F(DetailsTest, OperationCostsAndLandReturns) {
   EXPECT_EQ(details.lblReturns.caption(), "Subtotal: $0.00 /acre");
 }
 
-TEST_F(DetailsTest, LandReturnsAreGrouped) {
+TEST_F(DetailsTest, LandReturnsHaveThousandsCommas) {
   auto field = markedField("Corn", "bu.,bushels");
   field->theCrop->inputCosts.Returns = 1500.5;
   details.loadCosts(*field);
@@ -102,7 +102,7 @@ TEST_F(DetailsTest, LandReturnsAreGrouped) {
   EXPECT_EQ(details.lblReturns.caption(), "Subtotal: $1,500.50 /acre");
 }
 
-TEST_F(DetailsTest, Irrigation) {
+TEST_F(DetailsTest, ShowsTheIrrigationCosts) {
   details.loadCosts(*markedField("Corn", "bu.,bushels"));
   EXPECT_EQ(details.lblGPM.caption(), "750 GPM");
   EXPECT_EQ(details.lblPWL.caption(), "120 feet");
@@ -117,7 +117,7 @@ TEST_F(DetailsTest, Irrigation) {
   EXPECT_EQ(details.lblIrrigationCosts.caption(), "Subtotal: $31.60 /acre");
 }
 
-TEST_F(DetailsTest, ADryFieldShowsTheHoursThatItsPlantHeld) {
+TEST_F(DetailsTest, ADryFieldShowsTheHoursAlreadyInItsPlant) {
   auto field = plainField(10, 1, 0);
   *field->irrigCosts = defaultPlant();
   details.loadCosts(*field);
@@ -128,7 +128,7 @@ TEST_F(DetailsTest, ADryFieldShowsTheHoursThatItsPlantHeld) {
   EXPECT_EQ(details.lblIrrigationCosts.caption(), "Subtotal: $0.00 /acre");
 }
 
-TEST_F(DetailsTest, FieldInformationAndTotals) {
+TEST_F(DetailsTest, ShowsFieldInformationAndTotals) {
   details.loadCosts(*markedField("Corn", "bu.,bushels"));
   EXPECT_EQ(details.lblAcres.caption(), "40");
   EXPECT_EQ(details.lblCrop.caption(), "Corn");
@@ -175,7 +175,7 @@ TEST_F(DetailsTest, AForageCropSpreadsItsEstablishmentOverTheStand) {
   EXPECT_EQ(details.lblAnnualized.caption(), "");
 }
 
-TEST_F(DetailsTest, SeedUnitsGoByTheNameOfTheCrop) {
+TEST_F(DetailsTest, SeedUnitsDependOnTheNameOfTheCrop) {
   for (const char* pounds : {"Alfalfa", "Grain Sorghum", "Wheat"}) {
     details.loadCosts(*markedField(pounds, "bu.,bushels"));
     EXPECT_EQ(details.lblSC.caption(), "$3.00 / lb") << pounds;
@@ -188,7 +188,7 @@ TEST_F(DetailsTest, SeedUnitsGoByTheNameOfTheCrop) {
   }
 }
 
-TEST_F(DetailsTest, FallowFillsTheScreenToo) {
+TEST_F(DetailsTest, FallowFillsTheScreen) {
   auto field = std::make_shared<Field>();
   field->acres = 25;
   *field->theCrop = fallowCrop();
@@ -203,7 +203,7 @@ TEST_F(DetailsTest, FallowFillsTheScreenToo) {
   EXPECT_EQ(details.lblAlfDetails.caption(), "");
 }
 
-TEST_F(DetailsTest, TheOverridesOfATrendStandBesideTheLines) {
+TEST_F(DetailsTest, TheCostsOfATrendAreShownBesideTheLines) {
   auto field = markedField("Corn", "bu.,bushels");
   details.loadCosts(*field);
   EXPECT_FALSE(details.picBatch[0].visible());
@@ -228,7 +228,7 @@ TEST_F(DetailsTest, TheOverridesOfATrendStandBesideTheLines) {
   EXPECT_FALSE(details.picBatch[1].visible());
 }
 
-TEST_F(DetailsTest, NothingFlowsBackToTheField) {
+TEST_F(DetailsTest, ShowingAFieldDoesNotChangeIt) {
   const auto field = stockField(cornCrop(), 40, 10.2);
   field->theCrop->inputCosts.SeedRate = 1;
   details.loadCosts(*field);
@@ -237,7 +237,7 @@ TEST_F(DetailsTest, NothingFlowsBackToTheField) {
   EXPECT_EQ(field->irrigCosts->hours, 0);
 }
 
-TEST_F(DetailsTest, HandsTheFieldItselfOn) {
+TEST_F(DetailsTest, PassesOnTheFieldItself) {
   std::vector<const Field*> loaded;
   details.onFieldLoaded.connect([&](const Field& field) { loaded.push_back(&field); });
   const auto field = markedField("Corn", "bu.,bushels");
@@ -245,7 +245,7 @@ TEST_F(DetailsTest, HandsTheFieldItselfOn) {
   EXPECT_THAT(loaded, ElementsAre(field.get()));
 }
 
-TEST_F(DetailsTest, PrintAndBack) {
+TEST_F(DetailsTest, PrintAndBackRaiseTheirEvents) {
   int prints = 0;
   std::vector<Details::BackTo> backs;
   details.Command2.click();
@@ -276,7 +276,7 @@ TEST_F(DetailsTest, AFigureThatCannotBeCalculatedIsARunTimeError) {
   EXPECT_EQ(loaded, 1);
 }
 
-TEST_F(DetailsTest, EveryLabelOfTheScreenStandsInOneBlock) {
+TEST_F(DetailsTest, EveryLabelBelongsToOneBlock) {
   std::multiset<const Control*> inBlocks;
   std::vector<std::string> captions;
   for (const Details::Block& block : Details::blocks()) {

@@ -8,8 +8,8 @@
 
 namespace verdalis::testing {
 
-/// What was printed, a text for each piece: where it was placed ("@7300 "), its font ("12b "), the text
-/// itself in bars, and "/" where it ended its line.
+/// The printed pieces, each as a text: its position ("@7300 "), its font ("12b "), the text itself between
+/// bars, and "/" if it ended its line.
 inline std::vector<std::string> operations(const FakeDocument& document) {
   std::vector<std::string> result;
   for (const FakePiece& piece : document.pieces) {
@@ -21,7 +21,7 @@ inline std::vector<std::string> operations(const FakeDocument& document) {
   return result;
 }
 
-/// Two lists of operations, one behind the other.
+/// Two lists of operations, one after the other.
 inline std::vector<std::string> join(std::vector<std::string> first, const std::vector<std::string>& second) {
   first.insert(first.end(), second.begin(), second.end());
   return first;

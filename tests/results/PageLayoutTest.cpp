@@ -7,7 +7,7 @@
 
 #include "results/PageLayout.h"
 
-// Where texts come to stand on paper.
+// The positions of texts on paper.
 
 namespace verdalis {
 namespace {
@@ -63,7 +63,7 @@ class PageLayoutTest : public ::testing::Test {
   }
 };
 
-TEST_F(PageLayoutTest, TextsFollowEachOtherAndLinesBeginAtTheLeft) {
+TEST_F(PageLayoutTest, TextsFollowEachOtherAndLinesStartAtTheLeft) {
   page.print("ab");
   page.printLine("cd");
   page.printLine("ef");
@@ -78,7 +78,7 @@ TEST_F(PageLayoutTest, StopsAreInTwentiethsOfAPoint) {
   EXPECT_THAT(places(), ElementsAre(Place{0, 10, 13, "ab"}, Place{0, 40, 13, "cd"}));
 }
 
-TEST_F(PageLayoutTest, AStopThatIsPassedMovesBehindTheText) {
+TEST_F(PageLayoutTest, ATextAtAPassedStopStartsAfterThePreviousText) {
   page.print("abcdefgh");  // ends at 40
   page.setCurrentX(600);   // 30
   page.print("x");
@@ -88,7 +88,7 @@ TEST_F(PageLayoutTest, AStopThatIsPassedMovesBehindTheText) {
               ElementsAre(Place{0, 10, 13, "abcdefgh"}, Place{0, 55, 13, "x"}, Place{0, 70, 13, "y"}));
 }
 
-TEST_F(PageLayoutTest, EachTextKeepsTheFontThatWasSet) {
+TEST_F(PageLayoutTest, EachTextHasTheFontSetBeforeIt) {
   page.setBold(true);
   page.print("a");
   page.setBold(false);
@@ -102,7 +102,7 @@ TEST_F(PageLayoutTest, EachTextKeepsTheFontThatWasSet) {
   EXPECT_EQ(page.texts()[1].font, (PageFont{8, false, true, true}));
 }
 
-TEST_F(PageLayoutTest, ALineIsAsHighAsItsLargestTextAndStandsOnOneBaseline) {
+TEST_F(PageLayoutTest, ALineIsAsHighAsItsLargestTextAndHasOneBaseline) {
   page.print("a");
   page.setFontSize(20);
   page.print("B");
@@ -113,7 +113,7 @@ TEST_F(PageLayoutTest, ALineIsAsHighAsItsLargestTextAndStandsOnOneBaseline) {
                                     Place{0, 10, 37, "d"}));
 }
 
-TEST_F(PageLayoutTest, EmptyLinesTakeTheHeightOfTheFont) {
+TEST_F(PageLayoutTest, EmptyLinesAreAsHighAsTheFont) {
   page.printLine("a");
   page.setFontSize(20);
   page.printLine("");
@@ -122,7 +122,7 @@ TEST_F(PageLayoutTest, EmptyLinesTakeTheHeightOfTheFont) {
   EXPECT_THAT(places(), ElementsAre(Place{0, 10, 13, "a"}, Place{0, 10, 49, "b"}));
 }
 
-TEST_F(PageLayoutTest, ALineThatIsNotEndedStandsOnThePaper) {
+TEST_F(PageLayoutTest, AnUnfinishedLineIsPrinted) {
   page.print("a");
   EXPECT_THAT(places(), ElementsAre(Place{0, 10, 13, "a"}));
 }
@@ -134,7 +134,7 @@ TEST_F(PageLayoutTest, ATextAsWideAsTheLineKeepsItsSize) {
   EXPECT_EQ(page.texts()[0].font.size, 10);
 }
 
-TEST_F(PageLayoutTest, ATextALittleTooWideIsSetSmaller) {
+TEST_F(PageLayoutTest, ATextSlightlyTooWideIsSetSmaller) {
   page.printLine(std::string(22, '*'));
   page.endDocument();
   ASSERT_THAT(page.texts(), SizeIs(1));
@@ -142,14 +142,14 @@ TEST_F(PageLayoutTest, ATextALittleTooWideIsSetSmaller) {
   EXPECT_THAT(page.texts()[0].text, SizeIs(22));
 }
 
-TEST_F(PageLayoutTest, AWiderTextIsPartedAtABlank) {
+TEST_F(PageLayoutTest, AWiderTextIsBrokenAtASpace) {
   page.printLine("the quick brown fox jumps over it");
   page.printLine("x");
   EXPECT_THAT(places(), ElementsAre(Place{0, 10, 13, "the quick brown fox"},
                                     Place{0, 10, 25, "jumps over it"}, Place{0, 10, 37, "x"}));
 }
 
-TEST_F(PageLayoutTest, ALongValueGoesOnBelowItsLabel) {
+TEST_F(PageLayoutTest, ALongValueContinuesBelowItsLabel) {
   page.print("Crops: ");
   page.print("Corn, Grain Sorghum, Wheat");
   page.printLine("!");
@@ -157,14 +157,14 @@ TEST_F(PageLayoutTest, ALongValueGoesOnBelowItsLabel) {
                                     Place{0, 10, 25, "Sorghum, Wheat"}, Place{0, 80, 25, "!"}));
 }
 
-TEST_F(PageLayoutTest, AWordThatDoesNotFitInTheRestOfALineTakesTheNext) {
+TEST_F(PageLayoutTest, AWordThatDoesNotFitMovesToTheNextLine) {
   page.print("0123456789");
   page.setCurrentX(1200);
   page.printLine("abcdefghijklm nop");
   EXPECT_THAT(places(), ElementsAre(Place{0, 10, 13, "0123456789"}, Place{0, 10, 25, "abcdefghijklm nop"}));
 }
 
-TEST_F(PageLayoutTest, AWordWiderThanALineIsPartedBetweenCharacters) {
+TEST_F(PageLayoutTest, AWordWiderThanALineIsBrokenBetweenCharacters) {
   std::string word;
   for (int i = 0; i < 45; ++i)
     word += "\u20AC";
@@ -184,7 +184,7 @@ TEST_F(PageLayoutTest, AStopOutsideThePaperCutsNothing) {
   EXPECT_THAT(places(), ElementsAre(Place{0, 10, 13, "abc"}, Place{0, 10, 25, "d"}));
 }
 
-TEST_F(PageLayoutTest, LinesRunOverOntoFurtherPages) {
+TEST_F(PageLayoutTest, LinesContinueOnFurtherPages) {
   for (int i = 1; i <= 12; ++i)
     page.printLine("line " + std::to_string(i));
   const auto all = places();
@@ -195,7 +195,7 @@ TEST_F(PageLayoutTest, LinesRunOverOntoFurtherPages) {
   EXPECT_EQ(page.pages(), 3);
 }
 
-TEST_F(PageLayoutTest, APartedTextRunsOverToo) {
+TEST_F(PageLayoutTest, ABrokenTextContinuesOnTheNextPage) {
   for (int i = 0; i < 4; ++i)
     page.printLine("x");
   page.printLine("the quick brown fox jumps over it");
@@ -204,7 +204,7 @@ TEST_F(PageLayoutTest, APartedTextRunsOverToo) {
   EXPECT_EQ(all[5], (Place{1, 10, 13, "jumps over it"}));
 }
 
-TEST_F(PageLayoutTest, EmptyLinesMakeNoPage) {
+TEST_F(PageLayoutTest, EmptyLinesStartNoPage) {
   page.printLine("a");
   for (int i = 0; i < 50; ++i)
     page.printLine("");
@@ -220,7 +220,7 @@ TEST_F(PageLayoutTest, AnEmptyDocumentIsAnEmptyPage) {
   EXPECT_EQ(page.pages(), 1);
 }
 
-TEST_F(PageLayoutTest, ATextHigherThanThePageStandsOnAPageOfItsOwn) {
+TEST_F(PageLayoutTest, ATextHigherThanThePageHasAPageOfItsOwn) {
   page.printLine("a");
   page.setFontSize(100);
   page.printLine("b");
@@ -231,12 +231,12 @@ TEST_F(PageLayoutTest, ATextHigherThanThePageStandsOnAPageOfItsOwn) {
   EXPECT_EQ(page.texts()[2].page, 2);
 }
 
-TEST_F(PageLayoutTest, ControlCharactersAreBlanks) {
+TEST_F(PageLayoutTest, ControlCharactersArePrintedAsSpaces) {
   page.printLine("a\nb\tc\r");
   EXPECT_THAT(places(), ElementsAre(Place{0, 10, 13, "a b c "}));
 }
 
-TEST_F(PageLayoutTest, TheEndIsToldOnce) {
+TEST_F(PageLayoutTest, TheEndIsReportedOnce) {
   int ends = 0;
   page.onEnd = [&](const PageLayout& layout) {
     ++ends;
@@ -253,7 +253,7 @@ std::string withoutBlanks(std::string text) {
   return text;
 }
 
-TEST(PageLayout, CutsNothingAndLaysNothingOverAnother) {
+TEST(PageLayout, NoTextIsCutOffOrOverlapsAnother) {
   rc::check([] {
     const PlainMetrics metrics;
     PageLayout page(metrics, card);

@@ -90,7 +90,7 @@ const Operations head{
 const std::string blockRule = "9 |" + std::string(178, '-') + "|/";
 const std::string totalsRule = "12 |" + std::string(59, '-') + "|/";
 
-TEST_F(DetailsReportTest, ACropOfOneYear) {
+TEST_F(DetailsReportTest, PrintsAnAnnualCrop) {
   const Operations body{
       "12b |Field Information & Totals|/",
       "@0 9b |Area: |",
@@ -199,7 +199,7 @@ TEST_F(DetailsReportTest, ACropOfOneYear) {
   EXPECT_THAT(printed(*pricedField("Corn", "bu.,bushels")), ElementsAreArray(join(head, body)));
 }
 
-TEST_F(DetailsReportTest, AForageCropIsSpreadOverItsStand) {
+TEST_F(DetailsReportTest, TheCostsOfAForageCropAreSpreadOverItsStand) {
   const Operations operations = printed(*pricedField("Alfalfa", "ton,tons", 4));
   const auto note = std::find(operations.begin(), operations.end(), "9b |-Life of forage stand is |");
   ASSERT_NE(note, operations.end());
@@ -214,7 +214,7 @@ TEST_F(DetailsReportTest, AForageCropIsSpreadOverItsStand) {
   }
 }
 
-TEST_F(DetailsReportTest, TheUnitsOfSeedAreThoseOfTheCrop) {
+TEST_F(DetailsReportTest, SeedUnitsDependOnTheCrop) {
   for (const char* crop : {"Alfalfa", "Grain Sorghum", "Wheat"}) {
     const Operations operations = printed(*pricedField(crop, "bu.,bushels", 1));
     EXPECT_THAT(operations, Contains("@1900 9 |$3.00 / lb|")) << crop;
@@ -236,7 +236,7 @@ TEST_F(DetailsReportTest, FallowHasNoUnitsAndNoYield) {
   EXPECT_THAT(operations, Contains("@6700 9 | hrs|"));
 }
 
-TEST_F(DetailsReportTest, ADryFieldShowsTheHoursThatItsPlantHeld) {
+TEST_F(DetailsReportTest, ADryFieldShowsTheHoursAlreadyInItsPlant) {
   auto field = pricedField("Corn", "bu.,bushels");
   field->Depth = 0;
   field->irrigCosts->hours = 1234.5;
@@ -244,7 +244,7 @@ TEST_F(DetailsReportTest, ADryFieldShowsTheHoursThatItsPlantHeld) {
 }
 
 TEST_F(DetailsReportTest, TheFiguresAreThoseOfTheScreen) {
-  // Never priced: the screen shows what stood in the field before its totals price it.
+  // Never priced: the screen shows the values of the field from before its totals price it.
   auto field = pricedField("Corn", "bu.,bushels");
   field->TotalCost = 0;
   field->irrigCosts->hours = 7;
@@ -264,8 +264,8 @@ TEST_F(DetailsReportTest, TheFiguresAreThoseOfTheScreen) {
   EXPECT_THAT(operations, Contains("@3900 12 |" + details.lblTotalCosts.caption() + "|"));
 }
 
-TEST_F(DetailsReportTest, TheSeedRateIsThatOfTheScreenEvenWhereTheSumsFindAnother) {
-  // The optimal rate is found by the sums, which come after the line on the screen and on paper.
+TEST_F(DetailsReportTest, TheSeedRateIsThatOfTheScreenEvenIfTheSumsChangeIt) {
+  // The sums calculate the optimal rate, and they follow the line of the rate on the screen and on paper.
   auto field = pricedField("Corn", "bu.,bushels");
   field->theCrop->inputCosts.SeedOptimal = true;
   field->theCrop->inputCosts.SeedRate = 111;
@@ -278,7 +278,7 @@ TEST_F(DetailsReportTest, TheSeedRateIsThatOfTheScreenEvenWhereTheSumsFindAnothe
   EXPECT_THAT(printed(*field), Contains("@6700 9 |111 seeds/acre|"));
 }
 
-TEST_F(DetailsReportTest, TheOverridesOfATrendShowInTheTotals) {
+TEST_F(DetailsReportTest, TheTotalsIncludeTheCostsOfATrend) {
   auto field = pricedField("Corn", "bu.,bushels");
   field->TotalCost = 0;
   field->theCrop->inputCosts.UseBatch = true;
@@ -292,7 +292,7 @@ TEST_F(DetailsReportTest, TheOverridesOfATrendShowInTheTotals) {
   EXPECT_THAT(operations, Contains("9b |Subtotal: $1,281.37 /acre|/"));
 }
 
-TEST_F(DetailsReportTest, TheFieldIsACopyAndPrintingChangesNothing) {
+TEST_F(DetailsReportTest, PrintingACopyDoesNotChangeTheField) {
   auto field = pricedField("Corn", "bu.,bushels");
   field->theCrop->inputCosts.SeedOptimal = true;
   const Operations first = printed(*field);
@@ -303,7 +303,7 @@ TEST_F(DetailsReportTest, TheFieldIsACopyAndPrintingChangesNothing) {
   EXPECT_EQ(printed(), first);
 }
 
-TEST_F(DetailsReportTest, EachCopyHasItsStopsAnew) {
+TEST_F(DetailsReportTest, EveryCopyUsesTheSameStops) {
   printer.setField(*pricedField("Corn", "bu.,bushels"));
   paper.copies = {2};
   printer.printDetails();
@@ -320,7 +320,7 @@ TEST_F(DetailsReportTest, WithoutAFieldThereIsNoReport) {
     EXPECT_FALSE(document->ended);
 }
 
-TEST_F(DetailsReportTest, AFigureThatCannotBeWorkedOutEndsTheReport) {
+TEST_F(DetailsReportTest, AFigureThatCannotBeCalculatedEndsTheReport) {
   auto field = pricedField("Alfalfa", "ton,tons", 4);
   field->theCrop->inputCosts.AlfalfaStand = 0;
   printer.setField(*field);

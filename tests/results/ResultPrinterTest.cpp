@@ -8,7 +8,7 @@
 #include "tests/results/Operations.h"
 #include "tests/results/Options.h"
 
-// The results report, and how both reports come to the printer.
+// The results report, and the printing of both reports.
 
 namespace verdalis {
 namespace {
@@ -28,7 +28,7 @@ class ResultPrinterTest : public ::testing::Test {
   ClockTime time{2024, 5, 6, 7, 8, 9};
   ResultPrinter printer{paper, {[this] { return farm; }, [this] { return time; }}};
 
-  /// The operations of the one document that a dialog with one copy gives.
+  /// The operations of the document that is printed when one copy is requested.
   Operations printed() {
     paper.documents.clear();
     paper.copies = {1};
@@ -68,11 +68,11 @@ const Operations note{"8i |*Net returns to land, management, and irrigation equi
 
 const std::string asterisks(168, '*');
 
-TEST_F(ResultPrinterTest, WithoutOptionsThereAreHeadAndNote) {
+TEST_F(ResultPrinterTest, WithoutOptionsOnlyHeadingAndNoteArePrinted) {
   EXPECT_THAT(printed(), ElementsAreArray(join(head, note)));
 }
 
-TEST_F(ResultPrinterTest, AnOption) {
+TEST_F(ResultPrinterTest, PrintsAnOption) {
   printer.setCollection(
       {optionOf({plainField(75, 1500, 200, 8.5, "Corn"), plainField(25.5, 100.5, 300.25)})});
   const Operations option{
@@ -128,14 +128,14 @@ std::vector<Option> earning(std::initializer_list<double> profits) {
   return options;
 }
 
-TEST_F(ResultPrinterTest, AtMostFiveOptions) {
+TEST_F(ResultPrinterTest, PrintsAtMostFiveOptions) {
   printer.setCollection(earning({70, 60, 50, 40, 30, 20, 10}));
   EXPECT_THAT(optionLines(printed()),
               ElementsAreArray({"12b |Option 1|/", "12b |Option 2|/", "12b |Option 3|/", "12b |Option 4|/",
                                 "12b |Option 5|/"}));
 }
 
-TEST_F(ResultPrinterTest, EndsBeforeAnOptionWithoutNetReturn) {
+TEST_F(ResultPrinterTest, EndsBeforeTheFirstOptionWithoutNetReturn) {
   printer.setCollection(earning({20, 10, 0, 5}));
   EXPECT_THAT(optionLines(printed()), SizeIs(2));
   printer.setCollection(earning({20, -1, 5}));
@@ -144,14 +144,14 @@ TEST_F(ResultPrinterTest, EndsBeforeAnOptionWithoutNetReturn) {
   EXPECT_THAT(optionLines(printed()), SizeIs(1));
 }
 
-TEST_F(ResultPrinterTest, WithoutAProfitableOptionThereAreHeadAndNote) {
+TEST_F(ResultPrinterTest, WithoutAProfitableOptionOnlyHeadingAndNoteArePrinted) {
   printer.setCollection(earning({0, -10}));
   EXPECT_THAT(printed(), ElementsAreArray(join(head, note)));
   printer.setCollection({placeholder()});
   EXPECT_THAT(printed(), ElementsAreArray(join(head, note)));
 }
 
-TEST_F(ResultPrinterTest, TheHeadTellsWhatStandsWhenItIsPrinted) {
+TEST_F(ResultPrinterTest, TheHeadingShowsTheFarmAtTheTimeOfPrinting) {
   printer.setCollection(earning({10}));
   farm = {"", "90", "11", "0.5", ""};
   time = {2025, 12, 31, 23, 59, 59};
@@ -164,7 +164,7 @@ TEST_F(ResultPrinterTest, TheHeadTellsWhatStandsWhenItIsPrinted) {
   EXPECT_EQ(operations[17], "9 ||");
 }
 
-TEST_F(ResultPrinterTest, GrossDepthsFollowTheEfficiencyInForce) {
+TEST_F(ResultPrinterTest, GrossDepthsUseTheCurrentEfficiency) {
   printer.setCollection({optionOf({plainField(10, 100, 50, 8.5)})});
   EfficiencyFraction = 0.5;
   const Operations operations = printed();
@@ -181,7 +181,7 @@ TEST_F(ResultPrinterTest, TheOptionsAreCopies) {
   EXPECT_EQ(printed(), before);
 }
 
-TEST_F(ResultPrinterTest, NewOptionsTakeThePlaceOfTheOld) {
+TEST_F(ResultPrinterTest, NewOptionsReplaceTheOldOnes) {
   printer.setCollection(earning({30, 20, 10}));
   printer.setCollection(earning({40}));
   EXPECT_THAT(optionLines(printed()), SizeIs(1));
@@ -189,7 +189,7 @@ TEST_F(ResultPrinterTest, NewOptionsTakeThePlaceOfTheOld) {
   EXPECT_THAT(optionLines(printed()), IsEmpty());
 }
 
-TEST_F(ResultPrinterTest, EachCopyIsADocumentOfItsOwn) {
+TEST_F(ResultPrinterTest, EachCopyIsASeparateDocument) {
   printer.setCollection(earning({10}));
   paper.copies = {3};
   printer.printResults();
@@ -210,7 +210,7 @@ TEST_F(ResultPrinterTest, ACancelledDialogPrintsNothing) {
   EXPECT_THAT(paper.documents, IsEmpty());
 }
 
-TEST_F(ResultPrinterTest, AFigureThatCannotBeWorkedOutEndsTheReport) {
+TEST_F(ResultPrinterTest, AFigureThatCannotBeCalculatedEndsTheReport) {
   printer.setCollection({optionEarning(10), optionOf({plainField(1e200, 1e200, 0)})});
   paper.copies = {2};
   printer.printResults();
@@ -253,7 +253,7 @@ class FaultyPrinter : public PrinterService {
   };
 };
 
-TEST_F(ResultPrinterTest, AFailureOfThePrinterEndsTheReportWithoutAWord) {
+TEST_F(ResultPrinterTest, AFailureOfThePrinterEndsTheReportWithoutAMessage) {
   for (const int texts : {0, 1, 7, 18}) {
     FaultyPrinter faulty;
     faulty.texts = texts;
@@ -271,7 +271,7 @@ TEST_F(ResultPrinterTest, AFailureOfThePrinterEndsTheReportWithoutAWord) {
   EXPECT_EQ(faulty.documents, 0);
 }
 
-TEST(ReportTime, IsThatOfATwelveHourClock) {
+TEST(ReportTime, UsesATwelveHourClock) {
   EXPECT_EQ(reportTime({2025, 1, 2, 0, 5, 0}), "1/2/2025 12:05 AM");
   EXPECT_EQ(reportTime({2025, 1, 2, 9, 30, 0}), "1/2/2025 9:30 AM");
   EXPECT_EQ(reportTime({2025, 11, 22, 12, 0, 0}), "11/22/2025 12:00 PM");

@@ -18,7 +18,7 @@ class ResultsTest : public ::testing::Test {
  protected:
   ResultsTest() { window.open(); }
 
-  /// The row numbers on show.
+  /// The numbers of the visible rows.
   [[nodiscard]] std::vector<int> rowsShown() const {
     std::vector<int> rows;
     for (std::size_t i = 0; i < results.rh.size(); ++i) {
@@ -40,7 +40,7 @@ class ResultsTest : public ::testing::Test {
   Results results{window, "theResults", fake.services, state};
 };
 
-TEST_F(ResultsTest, ControlsAreReachedThroughTheirScreenAndRow) {
+TEST_F(ResultsTest, ControlsAreFoundByTheirScreenAndRow) {
   EXPECT_EQ(desk.find("theResults.rh(3).lblCrop"), &results.rh[3].lblCrop);
   EXPECT_EQ(desk.find("theResults.rh(0).cmdDetails"), &results.rh[0].cmdDetails);
   EXPECT_EQ(desk.find("theResults.cmdBatchThis"), &results.cmdBatchThis);
@@ -56,7 +56,7 @@ TEST_F(ResultsTest, StartsWithoutRowsAndPanels) {
   EXPECT_FALSE(results.pnlBatchedVariables.visible());
 }
 
-TEST_F(ResultsTest, Captions) {
+TEST_F(ResultsTest, ControlsHaveTheirCaptions) {
   EXPECT_EQ(results.cmdPrevious.caption(), "<<");
   EXPECT_EQ(results.cmdAdvance.caption(), ">>");
   EXPECT_EQ(results.cmdSaveResult.caption(), "Compare this option");
@@ -82,7 +82,7 @@ TEST_F(ResultsTest, ARowShowsEveryFigureOfItsField) {
   EXPECT_EQ(results.lblTotalProfit.caption(), "$150 /acre");
 }
 
-TEST_F(ResultsTest, ThousandsAreGrouped) {
+TEST_F(ResultsTest, LargeFiguresHaveThousandsCommas) {
   results.loadResults({optionOf({plainField(2, 1234567, 1000)})});
   EXPECT_EQ(results.rh[0].lblTC.caption(), "$1,000 /acre");
   EXPECT_EQ(results.rh[0].lblTR.caption(), "$1,234,567 /acre");
@@ -90,7 +90,7 @@ TEST_F(ResultsTest, ThousandsAreGrouped) {
   EXPECT_EQ(results.lblTotalProfit.caption(), "$1,233,567 /acre");
 }
 
-TEST_F(ResultsTest, ALossHasItsSignBehindTheDollarSign) {
+TEST_F(ResultsTest, ALossHasItsSignAfterTheDollarSign) {
   results.loadResults({optionEarning(-12.4)});
   EXPECT_EQ(results.rh[0].lblProfit.caption(), "$-12 /acre");
   EXPECT_EQ(results.lblTotalProfit.caption(), "$-12 /acre");
@@ -153,7 +153,7 @@ TEST_F(ResultsTest, PagingStopsBeforeThePlaceholders) {
   EXPECT_TRUE(results.cmdAdvance.enabled());
 }
 
-TEST_F(ResultsTest, BeforeTheFirstThereIsNothing) {
+TEST_F(ResultsTest, ThereIsNoOptionBeforeTheFirst) {
   results.loadResults({optionEarning(100), optionEarning(90)});
   results.cmdPrevious.click();
   EXPECT_EQ(results.currentRecord, 1);
@@ -163,7 +163,7 @@ TEST_F(ResultsTest, BeforeTheFirstThereIsNothing) {
   EXPECT_TRUE(results.cmdPrevious.enabled());
 }
 
-TEST_F(ResultsTest, ANewRunBeginsAtItsFirstOption) {
+TEST_F(ResultsTest, ANewRunStartsAtItsFirstOption) {
   results.loadResults({optionEarning(100), optionEarning(90)});
   advance(1);
   results.loadResults({optionEarning(80), optionEarning(70), optionEarning(60)});
@@ -173,7 +173,7 @@ TEST_F(ResultsTest, ANewRunBeginsAtItsFirstOption) {
   EXPECT_EQ(results.lblCounter.caption(), "Option 3");
 }
 
-TEST_F(ResultsTest, AnEmptyListLeavesTheRowsOfTheRunBefore) {
+TEST_F(ResultsTest, AnEmptyListKeepsTheRowsOfThePreviousRun) {
   results.loadResults({optionEarning(100), optionEarning(90)});
   advance(1);
   results.loadResults({});
@@ -186,14 +186,14 @@ TEST_F(ResultsTest, AnEmptyListLeavesTheRowsOfTheRunBefore) {
   EXPECT_THAT(rowsShown(), ElementsAre(0));
 }
 
-TEST_F(ResultsTest, PlaceholdersAloneLeaveTheRowsToo) {
+TEST_F(ResultsTest, AListOfPlaceholdersKeepsTheRowsOfThePreviousRun) {
   results.loadResults({optionEarning(100)});
   results.loadResults({placeholder(), placeholder()});
   EXPECT_THAT(rowsShown(), ElementsAre(0));
   EXPECT_EQ(results.currentRecord, 0);
 }
 
-TEST_F(ResultsTest, PagingBackInAnEmptyListOnlyCounts) {
+TEST_F(ResultsTest, PagingBackInAnEmptyListChangesOnlyTheCounter) {
   results.loadResults({});
   for (int i = 0; i < 3; ++i)
     results.cmdPrevious.click();
@@ -204,7 +204,7 @@ TEST_F(ResultsTest, PagingBackInAnEmptyListOnlyCounts) {
   EXPECT_EQ(results.currentRecord, std::numeric_limits<std::int16_t>::min());
 }
 
-TEST_F(ResultsTest, FieldsWithoutAcresLeaveTheFiguresAsTheyWere) {
+TEST_F(ResultsTest, FieldsWithoutAcresKeepTheOldFigures) {
   results.loadResults({optionOf({plainField(10, 100, 40)}), optionOf({plainField(0, 7, 3, 8.5, "Oats")})});
   advance(1);
   const ResultHolder& row = results.rh[0];
@@ -219,7 +219,7 @@ TEST_F(ResultsTest, FieldsWithoutAcresLeaveTheFiguresAsTheyWere) {
   EXPECT_TRUE(fake.messageBox.log.empty());
 }
 
-TEST_F(ResultsTest, EachFigureThatFailsIsPassedOverByItself) {
+TEST_F(ResultsTest, AFigureThatFailsIsSkippedOnItsOwn) {
   auto field = plainField(10, 100, 0, 8.5);
   field->theCrop->price = std::numeric_limits<double>::max();
   results.loadResults({optionEarning(5), optionOf({field})});
@@ -230,7 +230,7 @@ TEST_F(ResultsTest, EachFigureThatFailsIsPassedOverByItself) {
   EXPECT_EQ(results.rh[0].lblProfit.caption(), "$5 /acre");
 }
 
-TEST_F(ResultsTest, WithoutAnEfficiencyTheGrossDepthStays) {
+TEST_F(ResultsTest, WithoutAnEfficiencyTheOldGrossDepthIsKept) {
   results.loadResults({optionOf({plainField(10, 100, 40, 8.5)}), optionOf({plainField(10, 90, 40, 17)})});
   EfficiencyFraction = 0;
   advance(1);
@@ -249,7 +249,7 @@ TEST_F(ResultsTest, PagingAndDetailsCannotChangeAnOption) {
   EXPECT_EQ(field->theCrop->price, 100);
 }
 
-TEST_F(ResultsTest, DetailsOfARowHandOverItsCopy) {
+TEST_F(ResultsTest, DetailsOfARowPassOnItsCopy) {
   std::vector<std::shared_ptr<Field>> asked;
   results.onDetails.connect([&](const std::shared_ptr<Field>& field) { asked.push_back(field); });
   results.loadResults({optionOf({plainField(10, 1, 0), plainField(20, 2, 0)})});
@@ -265,7 +265,7 @@ TEST_F(ResultsTest, AnInactiveRowHasNoDetails) {
   EXPECT_TRUE(results.rh[1].cmdDetails.enabled());
 }
 
-TEST_F(ResultsTest, SavingHandsOverTheOptionItselfAndSaysSo) {
+TEST_F(ResultsTest, SavingPassesOnTheOptionItselfAndShowsAMessage) {
   std::vector<Option> saved;
   results.onSaveOption.connect([&](const Option& option) { saved.push_back(option); });
   const std::vector<Option> options{optionEarning(100), optionEarning(90)};
@@ -295,14 +295,14 @@ TEST_F(ResultsTest, SavingWithoutAnOptionIsARunTimeError) {
   EXPECT_TRUE(fake.messageBox.log.empty());
 }
 
-TEST_F(ResultsTest, AFixedTrendTakesTheOptionOnShow) {
+TEST_F(ResultsTest, AFixedTrendUsesTheShownOption) {
   const std::vector<Option> options{optionEarning(100), optionEarning(90)};
   Option seen;
   bool shownBefore = true;
   results.onBatchThis.connect([&](const Option& option) {
     seen = option;
     shownBefore = results.batchDisplay.visible();
-    EXPECT_EQ(state.SelectedOption, option);
+    EXPECT_EQ(option, options[1]);
   });
   results.loadResults(options);
   advance(1);
@@ -313,10 +313,10 @@ TEST_F(ResultsTest, AFixedTrendTakesTheOptionOnShow) {
 }
 
 TEST_F(ResultsTest, TheTrendRequestFollowsTrendProcessing) {
-  state.TrendEnabled = true;
+  results.EnableBatch(true);
   results.loadResults({optionEarning(1)});
   EXPECT_TRUE(results.batchDisplay.visible());
-  state.TrendEnabled = false;
+  results.EnableBatch(false);
   results.loadResults({optionEarning(1)});
   EXPECT_FALSE(results.batchDisplay.visible());
   results.EnableBatch(true);
@@ -332,7 +332,7 @@ TEST_F(ResultsTest, BackLeadsHomeOrToTheTrendSetup) {
   EXPECT_THAT(backs, ElementsAre(Results::BackTo::main, Results::BackTo::trendSetup));
 }
 
-TEST_F(ResultsTest, PrintAndExport) {
+TEST_F(ResultsTest, PrintAndExportRaiseTheirEvents) {
   std::vector<std::string> asked;
   results.onPrint.connect([&] { asked.emplace_back("print"); });
   results.onExcel.connect([&] { asked.emplace_back("export"); });
@@ -341,7 +341,7 @@ TEST_F(ResultsTest, PrintAndExport) {
   EXPECT_THAT(asked, ElementsAre("print", "export"));
 }
 
-TEST_F(ResultsTest, Help) {
+TEST_F(ResultsTest, HelpButtonsRaiseTheirEvents) {
   std::vector<std::string> topics;
   std::vector<std::tuple<std::string, std::string, int>> notes;
   results.onHelpTopic.connect([&](const std::string& topic) { topics.push_back(topic); });
@@ -369,7 +369,7 @@ TEST_F(ResultsTest, ButtonsWithoutAListenerDoNothing) {
   }
 }
 
-TEST_F(ResultsTest, DescribesWhatATrendDid) {
+TEST_F(ResultsTest, DescribesTheValuesOfATrend) {
   auto option = optionEarning(100);
   option->AddBatchDescription("Crop Price - Corn", 5.5, {"$", "/ bu."});
   option->AddBatchDescription("Annual Rainfall", 0, {"", "inches"});
@@ -399,7 +399,7 @@ TEST_F(ResultsTest, ADescriptionThatFailsStaysEmptyAndTheNextIsShown) {
   EXPECT_EQ(results.lblBatchDescriptions[1].caption(), "Two : $2.00 x");
 }
 
-TEST_F(ResultsTest, ThePanelOfTrendVariablesIsShownOnRequest) {
+TEST_F(ResultsTest, ThePanelOfTrendVariablesCanBeShownAndHidden) {
   results.ShowBatchedVariables(true);
   EXPECT_TRUE(results.pnlBatchedVariables.visible());
   results.ShowBatchedVariables(false);
@@ -424,7 +424,7 @@ TEST_F(ResultsTest, ReadsTheOptionsOfAFixedTrend) {
   EXPECT_EQ(results.GetSortedBatchArrayField(2, 3), option);
 }
 
-TEST_F(ResultsTest, AnOptionThatIsNotThereIsARunTimeError) {
+TEST_F(ResultsTest, AMissingOptionIsARunTimeError) {
   results.loadResults({optionEarning(1)});
   for (const std::int16_t number : {std::int16_t{-1}, std::int16_t{0}, std::int16_t{2}}) {
     errorText(ErrorNumber::subscript, [&] { (void)results.getTotalProfit(number); });

@@ -55,7 +55,7 @@ Option fieldsOf(int count) {
   return option;
 }
 
-TEST_F(SummaryPaneTest, Controls) {
+TEST_F(SummaryPaneTest, ControlsHaveTheirNamesAndCaptions) {
   EXPECT_EQ(pane.caption(), "Summary of Saved Options");
   EXPECT_EQ(desk.find("pneSummary"), &pane);
   EXPECT_EQ(desk.find("fgsummary"), &pane.fgsummary);
@@ -65,7 +65,7 @@ TEST_F(SummaryPaneTest, Controls) {
   EXPECT_EQ(pane.cmdExcelSave.caption(), "Save table to CSV");
 }
 
-TEST_F(SummaryPaneTest, WithoutSavedOptionsOnlyTheNoticeIsThere) {
+TEST_F(SummaryPaneTest, WithoutSavedOptionsOnlyTheNoticeIsShown) {
   pane.showSummary();
   EXPECT_FALSE(pane.fgsummary.visible());
   EXPECT_EQ(
@@ -76,7 +76,7 @@ TEST_F(SummaryPaneTest, WithoutSavedOptionsOnlyTheNoticeIsThere) {
   EXPECT_EQ(shows, 1);
 }
 
-TEST_F(SummaryPaneTest, TheTableHasAColumnForAField) {
+TEST_F(SummaryPaneTest, TheTableHasAColumnForEachField) {
   auto field = plainField(1250.5, 1234.5, 61.4, 10.2, "Corn");
   saved.push_back(optionOf({field}));
   pane.showSummary();
@@ -93,7 +93,7 @@ TEST_F(SummaryPaneTest, TheTableHasAColumnForAField) {
                           "16''", "12.0''", "10.2''", "$61 /acre", "$1,235 /acre", "$1,173 /acre"));
 }
 
-TEST_F(SummaryPaneTest, HeadsNumberTheFieldsOfAnOptionThatHasSeveral) {
+TEST_F(SummaryPaneTest, HeadingsNumberTheFieldsOfAnOptionWithSeveral) {
   saved = {fieldsOf(3), fieldsOf(1), fieldsOf(2)};
   pane.showSummary();
   ASSERT_EQ(pane.fgsummary.columns(), 7);
@@ -119,7 +119,7 @@ TEST_F(SummaryPaneTest, OptionsAlternateInGreenAndBlue) {
   EXPECT_EQ(pane.fgsummary.color(0, 1), std::nullopt);
 }
 
-TEST_F(SummaryPaneTest, RainAndGrossDepthAreThoseOfNow) {
+TEST_F(SummaryPaneTest, RainAndGrossDepthAreTheCurrentOnes) {
   saved = {optionOf({plainField(10, 100, 50, 8.5)})};
   pane.showSummary();
   EXPECT_EQ(pane.fgsummary.cell(6, 1), "16''");
@@ -134,7 +134,7 @@ TEST_F(SummaryPaneTest, RainAndGrossDepthAreThoseOfNow) {
   EXPECT_EQ(pane.fgsummary.cell(6, 1), "0''");
 }
 
-TEST_F(SummaryPaneTest, TheSameOptionCanStandThereTwice) {
+TEST_F(SummaryPaneTest, TheSameOptionCanBeSavedTwice) {
   const auto option = fieldsOf(1);
   saved = {option, option};
   pane.showSummary();
@@ -164,7 +164,7 @@ TEST_F(SummaryPaneTest, RemovingAsksFirst) {
   EXPECT_EQ(shows, 1);
 }
 
-TEST_F(SummaryPaneTest, TheLastRemovalLeavesTheNotice) {
+TEST_F(SummaryPaneTest, RemovingTheLastOptionShowsTheNotice) {
   saved = {fieldsOf(2)};
   pane.showSummary();
   fake.messageBox.answers = {MessageAnswer::yes};
@@ -187,7 +187,7 @@ TEST_F(SummaryPaneTest, RemovingRebuildsTheTable) {
   EXPECT_EQ(pane.fgsummary.color(1, 2), 0x0000FFU);
 }
 
-TEST_F(SummaryPaneTest, AClickOnTheRowHeadsRemovesNothingButShowsThePane) {
+TEST_F(SummaryPaneTest, AClickOnTheRowHeadingsRemovesNothingButShowsThePane) {
   saved = {fieldsOf(1)};
   pane.showSummary();
   pane.fgsummary.clickCell(4, 0);
@@ -208,7 +208,7 @@ TEST_F(SummaryPaneTest, SingleFieldOptionsAreRemovedByPairsOfColumns) {
   }
 }
 
-TEST_F(SummaryPaneTest, TheRemovedOptionIsTheOneThatCountingFinds) {
+TEST_F(SummaryPaneTest, TheRemovedOptionIsFoundByCountingItsColumns) {
   EXPECT_TRUE(rc::check("the counting of columns", [this] {
     const auto sizes = *rc::gen::nonEmpty(rc::gen::container<std::vector<int>>(rc::gen::inRange(1, 5)));
     saved.clear();
@@ -240,7 +240,7 @@ TEST_F(SummaryPaneTest, BackIsRaised) {
   EXPECT_EQ(backs, 1);
 }
 
-TEST_F(SummaryPaneTest, SavesTheTableAsItStands) {
+TEST_F(SummaryPaneTest, SavesTheTableAsItIsShown) {
   saved = {optionOf({plainField(10, 1234.5, 1000, 8.5, "Corn")}), fieldsOf(1)};
   pane.showSummary();
   fake.fileChooser.answers.emplace_back("/tmp/table.csv");
@@ -274,7 +274,7 @@ TEST_F(SummaryPaneTest, ACancelledChooserWritesNothing) {
   EXPECT_TRUE(written.empty());
 }
 
-TEST_F(SummaryPaneTest, WithoutOptionsTheGridAsItWasIsWritten) {
+TEST_F(SummaryPaneTest, WithoutOptionsThePreviousGridIsWritten) {
   fake.fileChooser.answers = {"a.csv", "b.csv"};
   pane.cmdExcelSave.click();
   ASSERT_EQ(written.size(), 1U);
@@ -288,7 +288,7 @@ TEST_F(SummaryPaneTest, WithoutOptionsTheGridAsItWasIsWritten) {
   EXPECT_EQ(written[1].second.find(",Saved Option #1\r\nCrop,Millet\r\nAcres,10\r\n"), 0U);
 }
 
-TEST_F(SummaryPaneTest, TheFileIsInTheEncodingOfOtherPrograms) {
+TEST_F(SummaryPaneTest, TheFileIsWrittenInWindows1252IfPossible) {
   saved = {optionOf({plainField(10, 1, 0, 0, "Ma\xC3\xAFs")})};
   fake.fileChooser.answers = {"a.csv", "b.csv"};
   pane.showSummary();
@@ -316,7 +316,7 @@ TEST_F(SummaryPaneTest, AFileThatCannotBeWrittenIsARunTimeError) {
   EXPECT_THAT(told, ElementsAre("No place."));
 }
 
-TEST_F(SummaryPaneTest, AFieldThatCannotBeCalculatedEndsTheTableThere) {
+TEST_F(SummaryPaneTest, TheTableEndsAtAFieldThatCannotBeCalculated) {
   saved = {fieldsOf(1), optionOf({plainField(0, 1, 0, 0, "Oats")}), fieldsOf(2)};
   errorText(ErrorNumber::divisionByZero, [&] { pane.showSummary(); });
   EXPECT_EQ(shows, 0);
@@ -325,7 +325,7 @@ TEST_F(SummaryPaneTest, AFieldThatCannotBeCalculatedEndsTheTableThere) {
   EXPECT_EQ(pane.fgsummary.cell(9, 2), "");
 }
 
-TEST_F(SummaryPaneTest, WhoeverShowsTheTableIsToldOnceForItAll) {
+TEST_F(SummaryPaneTest, TheViewIsNotifiedOnceOfTheWholeTable) {
   saved = {fieldsOf(4), fieldsOf(4)};
   pane.showSummary();
   int told = 0;
@@ -334,7 +334,7 @@ TEST_F(SummaryPaneTest, WhoeverShowsTheTableIsToldOnceForItAll) {
   EXPECT_EQ(told, 1);
 }
 
-TEST_F(SummaryPaneTest, ThousandsOfSavedOptionsAreNoTrouble) {
+TEST_F(SummaryPaneTest, ThousandsOfOptionsCanBeSaved) {
   saved.assign(5000, fieldsOf(4));
   pane.showSummary();
   EXPECT_EQ(pane.fgsummary.columns(), 20001);

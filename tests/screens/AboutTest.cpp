@@ -23,7 +23,7 @@ class SmallWindows : public ::testing::Test {
   TextBox elsewhere{main, "txtElsewhere"};
 };
 
-TEST_F(SmallWindows, AboutTellsTheVersionAndTheDisclaimer) {
+TEST_F(SmallWindows, AboutShowsTheVersionAndTheDisclaimer) {
   frmAbout about(desk);
   EXPECT_EQ(about.name(), "frmAbout");
   EXPECT_EQ(about.lblVersion.caption(), "Version 1.16  Build 002");
@@ -38,7 +38,7 @@ TEST_F(SmallWindows, AboutTellsTheVersionAndTheDisclaimer) {
   EXPECT_EQ(images, 2);
 }
 
-TEST_F(SmallWindows, AboutClosesByAClickOnIt) {
+TEST_F(SmallWindows, AboutClosesOnAClick) {
   frmAbout about(desk);
   about.open();
   about.click();
@@ -47,14 +47,14 @@ TEST_F(SmallWindows, AboutClosesByAClickOnIt) {
   EXPECT_TRUE(about.isOpen());
 }
 
-TEST_F(SmallWindows, AboutClosesWhenItLosesTheActivation) {
+TEST_F(SmallWindows, AboutClosesWhenItIsDeactivated) {
   frmAbout about(desk);
   about.open();
   elsewhere.enter();
   EXPECT_FALSE(about.isOpen());
 }
 
-TEST_F(SmallWindows, TheEfficienciesAreThoseOfTheSystems) {
+TEST_F(SmallWindows, EachIrrigationSystemHasItsEfficiency) {
   std::vector<std::string> rows;
   rows.reserve(frmHelpEff::efficiencies.size());
   for (const SystemEfficiency& row : frmHelpEff::efficiencies)
@@ -68,7 +68,7 @@ TEST_F(SmallWindows, TheEfficienciesAreThoseOfTheSystems) {
           "Sprinkler with heads in canopy: 90%", "Drip irrigation: 95%"}));
 }
 
-TEST_F(SmallWindows, TheEfficiencyWindowClosesByItsButtonAndByItself) {
+TEST_F(SmallWindows, TheEfficiencyWindowClosesWithItsButtonAndWhenDeactivated) {
   frmHelpEff window(desk);
   EXPECT_EQ(window.name(), "frmHelpEff");
   EXPECT_EQ(window.caption(), "Help - Irrigation Efficiency");
@@ -80,7 +80,7 @@ TEST_F(SmallWindows, TheEfficiencyWindowClosesByItsButtonAndByItself) {
   EXPECT_FALSE(window.isOpen());
 }
 
-TEST_F(SmallWindows, OpeningAFileTellsOnlyAFailure) {
+TEST_F(SmallWindows, OpeningAFileReportsOnlyFailures) {
   openWithShell(desk, fakes.services, "/a/b.xls");
   EXPECT_TRUE(fakes.messageBox.log.empty());
   fakes.openFile.works = false;

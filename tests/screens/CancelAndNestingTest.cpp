@@ -29,7 +29,7 @@ void expectCancelled(FarmRun& farm, const BestMix& best) {
   EXPECT_EQ(farm.hooks.closed, 1);
 }
 
-TEST_F(DuringARun, CancelAtAnyWaterSplitGivesNothing) {
+TEST_F(DuringARun, ACancelAtAnyWaterSplitGivesNoOptions) {
   for (int at = 1; at <= 11; ++at) {
     SCOPED_TRACE(at);
     const auto farm = cornAndWheatFarm();
@@ -38,7 +38,7 @@ TEST_F(DuringARun, CancelAtAnyWaterSplitGivesNothing) {
   }
 }
 
-TEST_F(DuringARun, CancelStopsTheProgress) {
+TEST_F(DuringARun, ACancelStopsTheProgress) {
   const auto farm = cornAndWheatFarm();
   farm->divide(4);
   farm->hooks.onUpdate = [&](int update) { farm->state.CancelRequested |= update == 3; };
@@ -46,13 +46,13 @@ TEST_F(DuringARun, CancelStopsTheProgress) {
   EXPECT_EQ(farm->hooks.updates, 3);
 }
 
-TEST_F(DuringARun, CancelWithinTheFirstWaterSplitGivesNothing) {
+TEST_F(DuringARun, ACancelWithinTheFirstWaterSplitGivesNoOptions) {
   const auto farm = cornAndWheatFarm();
   farm->hooks.onPump = [&](int pump) { farm->state.CancelRequested |= pump == 2; };
   expectCancelled(*farm, farm->run());
 }
 
-TEST_F(DuringARun, CancelAtTheFirstWaterSplitComesBeforeAnyError) {
+TEST_F(DuringARun, ACancelAtTheFirstWaterSplitPrecedesAnyError) {
   const auto farm = cornAndWheatFarm();
   farm->inputs.txtAnnRain = "25";
   EXPECT_THROW(static_cast<void>(farm->run()), RunTimeError);
@@ -62,7 +62,7 @@ TEST_F(DuringARun, CancelAtTheFirstWaterSplitComesBeforeAnyError) {
   expectCancelled(*cancelled, cancelled->run());
 }
 
-TEST_F(DuringARun, CancelFromAnEarlierRunOrBeforeTheSearchDoesNotCount) {
+TEST_F(DuringARun, ACancelBeforeTheSearchIsIgnored) {
   const auto farm = cornAndWheatFarm();
   farm->state.CancelRequested = true;
   farm->hooks.onShow = [&] { farm->state.CancelRequested = true; };
@@ -71,7 +71,7 @@ TEST_F(DuringARun, CancelFromAnEarlierRunOrBeforeTheSearchDoesNotCount) {
   EXPECT_FALSE(farm->state.CancelRequested);
 }
 
-TEST_F(DuringARun, CancelAsTheProgressWindowClosesStillDropsTheResult) {
+TEST_F(DuringARun, ACancelWhileTheProgressWindowClosesDropsTheResult) {
   const auto farm = cornAndWheatFarm();
   farm->inputs.chkNoSplit = true;
   farm->hooks.onClose = [&] { farm->state.CancelRequested = true; };
@@ -79,7 +79,7 @@ TEST_F(DuringARun, CancelAsTheProgressWindowClosesStillDropsTheResult) {
   EXPECT_EQ(farm->library.Item(1)->Yield, 0);
 }
 
-TEST_F(DuringARun, CancelInsideATrendIsToldToTheTrend) {
+TEST_F(DuringARun, ACancelInsideATrendIsReportedToTheTrend) {
   for (const bool trend : {false, true}) {
     const auto farm = cornAndWheatFarm();
     farm->state.TrendMode = trend;
@@ -90,14 +90,14 @@ TEST_F(DuringARun, CancelInsideATrendIsToldToTheTrend) {
   }
 }
 
-TEST_F(DuringARun, NoCancelLeavesTheTrendAlone) {
+TEST_F(DuringARun, WithoutACancelTheTrendContinues) {
   const auto farm = cornAndWheatFarm();
   farm->state.TrendMode = true;
   (void)farm->run();
   EXPECT_FALSE(farm->state.TrendCancelled);
 }
 
-TEST_F(DuringARun, CancelKeepsWhatTheRunHadSetUp) {
+TEST_F(DuringARun, ACancelKeepsTheStateSetUpByTheRun) {
   const auto farm = cornAndWheatFarm();
   farm->hooks.onUpdate = [&](int) { farm->state.CancelRequested = true; };
   (void)farm->run();
@@ -142,7 +142,7 @@ std::unique_ptr<FarmRun> fullFarm() {
   return farm;
 }
 
-TEST_F(DuringARun, ASecondRunChangesNeitherTheFirstNorItself) {
+TEST_F(DuringARun, ANestedRunAffectsNeitherItselfNorTheOuterRun) {
   const auto expected = describe(fullFarm()->run());
   const auto alone = runInside(*fullFarm());
   const auto startAt = [&](bool update, int at) {
@@ -165,7 +165,7 @@ TEST_F(DuringARun, ASecondRunChangesNeitherTheFirstNorItself) {
     startAt(true, update);
 }
 
-TEST_F(DuringARun, ASecondRunThatFailsLeavesTheFirstAlone) {
+TEST_F(DuringARun, ANestedRunThatFailsDoesNotAffectTheOuterRun) {
   const auto expected = describe(fullFarm()->run());
   const auto farm = fullFarm();
   int failures = 0;
@@ -186,7 +186,7 @@ TEST_F(DuringARun, ASecondRunThatFailsLeavesTheFirstAlone) {
   EXPECT_EQ(EfficiencyFraction, 0.85);
 }
 
-TEST_F(DuringARun, ACancelledSecondRunCancelsTheFirstToo) {
+TEST_F(DuringARun, CancellingANestedRunCancelsTheOuterRunToo) {
   const auto farm = fullFarm();
   farm->hooks.onUpdate = [&](int update) {
     if (update != 4) return;
@@ -197,7 +197,7 @@ TEST_F(DuringARun, ACancelledSecondRunCancelsTheFirstToo) {
   expectCancelled(*farm, farm->run());
 }
 
-TEST_F(DuringARun, EditsOfCropsAndPlantCountForTheNextRunOnly) {
+TEST_F(DuringARun, EditsOfCropsAndPlantAffectOnlyTheNextRun) {
   const auto expected = describe(fullFarm()->run());
   const auto farm = fullFarm();
   farm->hooks.onUpdate = [&](int update) {
@@ -219,7 +219,7 @@ TEST_F(DuringARun, EditsOfCropsAndPlantCountForTheNextRunOnly) {
   EXPECT_EQ(farm->library.Item(1)->inputCosts.Herbicide, 1000);
 }
 
-TEST_F(DuringARun, WhatIsTypedOnTheCostScreenIsNotOverwrittenByTheUndividedFarm) {
+TEST_F(DuringARun, TypedCostsAreNotOverwrittenByTheUndividedFarm) {
   const auto farm = fullFarm();
   Crop& corn = *farm->library.Item(1);
   Crop& wheat = *farm->library.Item(2);

@@ -68,18 +68,18 @@ TEST_F(CropRow, ShowsTheCropItIsGiven) {
   EXPECT_TRUE(row.txtMaxYield.visible());
 }
 
-TEST_F(CropRow, NamesTheCropItShowsAndNotTheOneItHolds) {
+TEST_F(CropRow, GetCropReturnsTheNameThatIsShown) {
   row.Crop->cropType = "Wheat";
   EXPECT_EQ(row.GetCrop(), "Corn");
 }
 
-TEST_F(CropRow, HasAnInputCostOf20WhateverTheCropCosts) {
+TEST_F(CropRow, TheInputCostIsAlways20) {
   row.Crop->inputCost = 300;
   row.Crop->inputCosts.Herbicide = 45;
   EXPECT_EQ(CropRecord::getInputCost(), 20);
 }
 
-TEST_F(CropRow, IsTestedByTheLimitsOfItsCrop) {
+TEST_F(CropRow, UsesTheLimitsOfItsCrop) {
   struct Limits {
     std::string crop;
     std::string price;
@@ -118,7 +118,7 @@ TEST_F(CropRow, RefusesNegativeNumbersButNotZero) {
   EXPECT_EQ(row.Crop->maxYield, 0);
 }
 
-TEST_F(CropRow, OfAnyOtherCropIsNotTested) {
+TEST_F(CropRow, OnlyStockCropsAreTested) {
   // A name has to be that of the stock crop letter by letter.
   for (const char* name : {"Oats", "corn", "CORN", "Corn ", "Fallow"}) {
     SCOPED_TRACE(name);
@@ -130,7 +130,7 @@ TEST_F(CropRow, OfAnyOtherCropIsNotTested) {
   }
 }
 
-TEST_F(CropRow, APartlyTypedPriceLeavesTheCropItsLastOne) {
+TEST_F(CropRow, AnIncompletePriceKeepsThePriceOfTheCrop) {
   row.txtPrice.type("6.5");
   EXPECT_EQ(row.Crop->price, 6.5);
   for (const char* text : {"12x", "-", ".", "", "1e400", "$7", "1.2.3"}) {
@@ -142,7 +142,7 @@ TEST_F(CropRow, APartlyTypedPriceLeavesTheCropItsLastOne) {
   EXPECT_EQ(row.Crop->price, 10);
 }
 
-TEST_F(CropRow, APartlyTypedYieldGivesTheCropItsLeadingDigits) {
+TEST_F(CropRow, AnIncompleteYieldStoresItsLeadingDigits) {
   row.txtMaxYield.type("200");
   EXPECT_EQ(row.Crop->maxYield, 200);
   row.txtMaxYield.type("12x");
@@ -156,7 +156,7 @@ TEST_F(CropRow, APartlyTypedYieldGivesTheCropItsLeadingDigits) {
   }
 }
 
-TEST_F(CropRow, WhatIsNoNumberIsRefusedOnLeavingAndTheCropGetsItsOldOneBack) {
+TEST_F(CropRow, LeavingAFieldWithATextThatIsNoNumberRestoresTheCrop) {
   row.txtPrice.setText("6.5");
   row.txtMaxYield.setText("200");
   expectRefused(row.txtPrice, "12x", "Crop Price - Corn:  Please enter a numeric value!");
@@ -165,7 +165,7 @@ TEST_F(CropRow, WhatIsNoNumberIsRefusedOnLeavingAndTheCropGetsItsOldOneBack) {
   EXPECT_EQ(row.Crop->maxYield, 200);
 }
 
-TEST_F(CropRow, ClearingTheTickKeepsWhatWasTyped) {
+TEST_F(CropRow, UntickingARowKeepsItsTypedValues) {
   row.txtPrice.type("6.5");
   row.txtMaxYield.type("200");
   row.chkCrop.click();
@@ -190,7 +190,7 @@ TEST_F(CropRow, RefreshShowsTheNumbersOfTheCrop) {
   EXPECT_EQ(row.getMaxYield(), 1234.5);
 }
 
-TEST_F(CropRow, RefreshGroupsALargePriceAndTheCropKeepsIt) {
+TEST_F(CropRow, RefreshGroupsTheThousandsOfAPriceWithoutChangingIt) {
   row.Crop->price = 1000;
   row.refresh();
   EXPECT_EQ(row.txtPrice.text(), "1,000.00");
@@ -204,7 +204,7 @@ TEST_F(CropRow, RefreshGroupsALargePriceAndTheCropKeepsIt) {
   EXPECT_TRUE(fakes.messageBox.log.empty());
 }
 
-TEST_F(CropRow, RefreshRoundsThePriceOfTheCropToWhatItShows) {
+TEST_F(CropRow, RefreshRoundsThePriceOfTheCropToCents) {
   row.Crop->price = 999.995;
   row.refresh();
   EXPECT_EQ(row.txtPrice.text(), "1,000.00");
@@ -220,7 +220,7 @@ TEST_F(CropRow, RefreshRoundsThePriceOfTheCropToWhatItShows) {
   EXPECT_EQ(row.Crop->price, 1234.568);
 }
 
-TEST_F(CropRow, DefaultsAreWrittenWithoutGroups) {
+TEST_F(CropRow, DefaultsAreShownWithoutThousandsCommas) {
   row.setDefault(1234.5, 3500);
   EXPECT_EQ(row.txtPrice.text(), "1234.50");
   EXPECT_EQ(row.txtMaxYield.text(), "3500");

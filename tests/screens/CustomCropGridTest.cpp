@@ -9,7 +9,7 @@ namespace {
 
 using CustomCropGrid = CustomCropEditor;
 
-TEST_F(CustomCropGrid, TheSmallestHasTwoRowsAndThreeColumns) {
+TEST_F(CustomCropGrid, TheSmallestGridHasTwoRowsAndThreeColumns) {
   makeSmallest();
   EXPECT_EQ(grid().rows(), 2);
   EXPECT_EQ(rowOf(0), (Strings{"", "11 in.", "12 in."}));
@@ -17,7 +17,7 @@ TEST_F(CustomCropGrid, TheSmallestHasTwoRowsAndThreeColumns) {
   EXPECT_TRUE(fakes.messageBox.log.empty());
 }
 
-TEST_F(CustomCropGrid, TheLargestHas33RowsAnd24ColumnsOfData) {
+TEST_F(CustomCropGrid, TheLargestGridHas33RowsAnd24ColumnsOfData) {
   list(1).pick(0);
   list(2).pick(20);
   list(3).pick(32);
@@ -28,7 +28,7 @@ TEST_F(CustomCropGrid, TheLargestHas33RowsAnd24ColumnsOfData) {
   EXPECT_EQ(grid().cell(33, 0), "32 in.");
 }
 
-TEST_F(CustomCropGrid, SizingKeepsWhatStillFits) {
+TEST_F(CustomCropGrid, ResizingKeepsTheCellsThatFit) {
   makeSmallest();
   grid().setCell(1, 1, "a");
   grid().setCell(1, 2, "b");
@@ -40,13 +40,13 @@ TEST_F(CustomCropGrid, SizingKeepsWhatStillFits) {
   EXPECT_EQ(rowOf(1), (Strings{"0 in.", "a", "b"}));
 }
 
-TEST_F(CustomCropGrid, TheListsAloneDoNotSizeIt) {
+TEST_F(CustomCropGrid, ChangingTheListsDoesNotResizeTheGrid) {
   makeSmallest();
   list(2).pick(5);
   EXPECT_EQ(grid().columns(), 3);
 }
 
-TEST_F(CustomCropGrid, TypingActsOnTheCurrentCell) {
+TEST_F(CustomCropGrid, TypingChangesTheCurrentCell) {
   makeSmallest();
   grid().clickCell(1, 2);
   for (const char* character : {"1", "2", ".", "x", " ", "é", "🌽"})
@@ -60,7 +60,7 @@ TEST_F(CustomCropGrid, TypingActsOnTheCurrentCell) {
   EXPECT_FALSE(pane.customAltered);
 }
 
-TEST_F(CustomCropGrid, BackspaceTakesTheLastCharacter) {
+TEST_F(CustomCropGrid, BackspaceRemovesTheLastCharacter) {
   makeSmallest();
   grid().clickCell(1, 1);
   const auto after = [&](const std::string& text) {
@@ -110,7 +110,7 @@ TEST_F(CustomCropGrid, CopyCutPasteAndDeleteActOnTheCurrentCell) {
   EXPECT_TRUE(fakes.messageBox.log.empty());
 }
 
-TEST_F(CustomCropGrid, CopiesTheWholeGridWithItsHeads) {
+TEST_F(CustomCropGrid, CopyingTheGridIncludesItsHeadings) {
   makeSmallest();
   grid().setCell(1, 1, "1.5");
   grid().setCell(1, 2, "2");
@@ -139,7 +139,7 @@ class CustomCropPaste : public CustomCropEditor {
   }
 };
 
-TEST_F(CustomCropPaste, AllRowEndsEndARow) {
+TEST_F(CustomCropPaste, EveryKindOfLineEndEndsARow) {
   for (const char* text : {"1\t2\r\n3\t4\r\n", "1\t2\n3\t4\n", "1\t2\r3\t4", "1\t2\r\n3\t4\r\n\r\n"})
     EXPECT_EQ(pasted(text), (Strings{"1|2", "3|4"})) << text;
   EXPECT_TRUE(fakes.messageBox.log.empty());
@@ -147,7 +147,7 @@ TEST_F(CustomCropPaste, AllRowEndsEndARow) {
   EXPECT_EQ(grid().column(), 1);
 }
 
-TEST_F(CustomCropPaste, TheExcessIsLost) {
+TEST_F(CustomCropPaste, ValuesBeyondTheGridAreIgnored) {
   EXPECT_EQ(pasted("1\t2\t3\t4\n5\t6\t7\n8\t9\n"), (Strings{"1|2", "5|6"}));
   EXPECT_EQ(rowOf(0), (Strings{"", "11 in.", "12 in."}));
   EXPECT_EQ(grid().cell(1, 0), "0 in.");
@@ -155,7 +155,7 @@ TEST_F(CustomCropPaste, TheExcessIsLost) {
   EXPECT_TRUE(fakes.messageBox.log.empty());
 }
 
-TEST_F(CustomCropPaste, WhatTheTextDoesNotReachStays) {
+TEST_F(CustomCropPaste, CellsBeyondTheTextKeepTheirContents) {
   pasted("1\t2\n3\t4");
   EXPECT_EQ(pasted("9\n"), (Strings{"9|2", "3|4"}));
   EXPECT_EQ(pasted("\t7\n"), (Strings{"|7", "3|4"}));
@@ -180,7 +180,7 @@ TEST_F(CustomCropPaste, OtherCharactersAreRefused) {
   EXPECT_EQ(theBox().title, "Try again");
 }
 
-TEST_F(CustomCropPaste, AnEmptyClipboardIsTold) {
+TEST_F(CustomCropPaste, AnEmptyClipboardIsReported) {
   EXPECT_EQ(pasted(""), (Strings{"|", "|"}));
   const Message box = theBox();
   EXPECT_EQ(box.title, "Copy from Excel");
@@ -188,7 +188,7 @@ TEST_F(CustomCropPaste, AnEmptyClipboardIsTold) {
   EXPECT_EQ(box.icon, MessageIcon::exclamation);
 }
 
-TEST_F(CustomCropPaste, TellsWhoeverShowsTheGridOnce) {
+TEST_F(CustomCropPaste, NotifiesTheViewOnce) {
   int changes = 0;
   grid().onStateChange.connect([&] { ++changes; });
   pasted("1\t2\n3\t4");
@@ -196,7 +196,7 @@ TEST_F(CustomCropPaste, TellsWhoeverShowsTheGridOnce) {
 }
 
 // Ten megabytes of each kind that could make a paste take long.
-TEST_F(CustomCropPaste, AnEnormousClipboardIsClipped) {
+TEST_F(CustomCropPaste, AHugeClipboardIsCutToTheGrid) {
   constexpr std::size_t size = 10U << 20U;
   const std::string digits(size, '7');
   EXPECT_EQ(pasted(digits), (Strings{digits + "|", "|"}));
@@ -212,7 +212,7 @@ TEST_F(CustomCropPaste, AnEnormousClipboardIsClipped) {
   EXPECT_EQ(theBox().title, "Try again");
 }
 
-TEST_F(CustomCropPaste, TakesBackTheDataOfACopy) {
+TEST_F(CustomCropPaste, RestoresTheDataOfACopy) {
   EXPECT_TRUE(rc::check("a table comes back as it was copied", [this] {
     const auto cell = rc::gen::map(rc::gen::inRange(0, 100000), [](int n) {
       return n % 7 == 0 ? std::string() : std::to_string(n / 10) + "." + std::to_string(n % 10);
@@ -291,7 +291,7 @@ const std::vector<DefaultRow>& defaultRows() {
   return rows;
 }
 
-TEST_F(CustomCropGrid, LoadsTheDefaultTables) {
+TEST_F(CustomCropGrid, LoadsTheDefaultTableOfEachStockCrop) {
   pane.open();
   for (std::size_t i = 0; i < defaultRows().size(); ++i) {
     const DefaultRow& row = defaultRows()[i];
@@ -334,7 +334,7 @@ TEST_F(CustomCropGrid, AsksBeforeDefaultsOverwriteTheGrid) {
   EXPECT_EQ(grid().rows(), 26);
 }
 
-TEST_F(CustomCropGrid, DefaultsAskOnlyForTheFirstCell) {
+TEST_F(CustomCropGrid, DefaultsAskOnlyIfTheFirstCellIsFilled) {
   makeSmallest();
   grid().setCell(1, 2, "5");
   list(5).pick(1);
@@ -342,7 +342,7 @@ TEST_F(CustomCropGrid, DefaultsAskOnlyForTheFirstCell) {
   EXPECT_EQ(grid().cell(1, 1), "1.391");
 }
 
-TEST(CustomGrid, FillsRowAfterRowAndLeavesOutTheExcess) {
+TEST(CustomGrid, FillsRowByRowAndIgnoresTheExcess) {
   Desk desk;
   Window window{desk, "w"};
   Grid grid{window, "g", 3, 3};
@@ -356,7 +356,7 @@ TEST(CustomGrid, FillsRowAfterRowAndLeavesOutTheExcess) {
   EXPECT_EQ(customGridValues(headsOnly), "");
 }
 
-TEST(CustomGrid, RefusesRangesThatAreNone) {
+TEST(CustomGrid, RefusesDescendingAndTooLongRanges) {
   Desk desk;
   Window window{desk, "w"};
   Grid grid{window, "g", 3, 3};

@@ -66,7 +66,7 @@ TEST_F(CustomCropSave, WritesTheWordsOfTheUnit) {
   EXPECT_NE(home.read("custom/Oats.txt").find("\r\nUNITS=bu.,bushels\r\n"), std::string::npos);
 }
 
-TEST_F(CustomCropSave, EmptyCellsAreEmptyFields) {
+TEST_F(CustomCropSave, EmptyCellsAreSavedAsEmptyFields) {
   enterCrop("Oats");
   list(3).pick(1);
   pane.cmdCustomGrid0.click();
@@ -75,7 +75,7 @@ TEST_F(CustomCropSave, EmptyCellsAreEmptyFields) {
   EXPECT_EQ(home.read("custom/Oats.txt"), cropFileText("Oats", "bu.,bushels", "11,12", "0,1", "1.5,,,"));
 }
 
-TEST_F(CustomCropSave, TheRangesAreThoseOfTheListsAndNotOfTheGrid) {
+TEST_F(CustomCropSave, TheSavedRangesAreThoseOfTheLists) {
   enterCrop("Oats");
   list(1).pick(0);
   list(3).pick(2);
@@ -112,7 +112,7 @@ TEST_F(CustomCropSave, TheSavedCropIsOverwrittenWithoutAQuestion) {
             cropFileText("Oats", "bu.,bushels", "9,10,11,12", "0,1", "100,2,3,4,5,6,7,8"));
 }
 
-TEST_F(CustomCropSave, AnotherNameAsks) {
+TEST_F(CustomCropSave, SavingUnderAnotherNameAsks) {
   const std::string before = (selectSaved(), home.read("custom/oats.txt"));
   pane.txtCustom.type("Rye");
   answer(MessageAnswer::cancel);
@@ -137,7 +137,7 @@ TEST_F(CustomCropSave, AnotherNameAsks) {
             cropFileText("Rye", "bu.,bushels", "9,10,11,12", "0,1", "1,2,3,4,5,6,7,8"));
 }
 
-TEST_F(CustomCropSave, NoRenamesTheCropInItsOldFile) {
+TEST_F(CustomCropSave, AnsweringNoRenamesTheCropInItsFile) {
   selectSaved();
   pane.txtCustom.type("Rye");
   answer(MessageAnswer::no);
@@ -147,7 +147,7 @@ TEST_F(CustomCropSave, NoRenamesTheCropInItsOldFile) {
             cropFileText("Rye", "bu.,bushels", "9,10,11,12", "0,1", "1,2,3,4,5,6,7,8"));
 }
 
-TEST_F(CustomCropSave, TheQuestionComesBeforeTheContentsAreChecked) {
+TEST_F(CustomCropSave, TheQuestionIsAskedBeforeTheContentsAreChecked) {
   selectSaved();
   pane.txtCustom.type("");
   answer(MessageAnswer::yes);
@@ -160,7 +160,7 @@ struct BadName {
   std::string file;
 };
 
-TEST_F(CustomCropSave, NamesBecomeFileNamesWithoutWhatTheseCannotHave) {
+TEST_F(CustomCropSave, FileNamesOmitInvalidCharactersOfTheCropName) {
   const std::vector<BadName> names{{"a/b", "ab.txt"},        {"../../etc/passwd", "....etcpasswd.txt"},
                                    {"..", "...txt"},         {"/", ".txt"},
                                    {"*?/\\:|<>\"", ".txt"},  {"C:\\crop", "Ccrop.txt"},
@@ -180,7 +180,7 @@ TEST_F(CustomCropSave, NamesBecomeFileNamesWithoutWhatTheseCannotHave) {
   EXPECT_EQ(home.names(), Strings{"custom"});
 }
 
-TEST_F(CustomCropSave, AFileThatCannotBeWrittenEndsWithTheSameMessage) {
+TEST_F(CustomCropSave, AWriteFailureShowsTheSameMessage) {
   enterCrop(std::string(300, 'x'));
   save();
   EXPECT_EQ(titles(), Strings{"Saved"});
@@ -190,14 +190,14 @@ TEST_F(CustomCropSave, AFileThatCannotBeWrittenEndsWithTheSameMessage) {
   EXPECT_EQ(grid().cell(1, 1), "1.5");
 }
 
-TEST_F(CustomCropSave, AMissingFolderIsMade) {
+TEST_F(CustomCropSave, AMissingFolderIsCreated) {
   std::filesystem::remove_all(folder());
   enterCrop("Oats");
   save();
   EXPECT_EQ(files(), Strings{"Oats.txt"});
 }
 
-TEST_F(CustomCropSave, AFileInTheFoldersPlaceBreaksNothing) {
+TEST_F(CustomCropSave, AFileInPlaceOfTheFolderIsTolerated) {
   std::filesystem::remove_all(folder());
   home.write("custom", "no folder");
   pane.open();
@@ -243,7 +243,7 @@ TEST_F(CustomCropSave, AReadOnlyFolderKeepsItsFiles) {
   EXPECT_TRUE(kept.value_or(true));
 }
 
-TEST_F(CustomCropSave, ALineEndInACellDoesNotEndTheLine) {
+TEST_F(CustomCropSave, ALineEndInACellIsSavedAsSpaces) {
   enterCrop("Oats");
   grid().clickCell(1, 1);
   fakes.clipboard.contents = "7\r\n";
@@ -253,7 +253,7 @@ TEST_F(CustomCropSave, ALineEndInACellDoesNotEndTheLine) {
   EXPECT_EQ(home.read("custom/Oats.txt"), cropFileText("Oats", "bu.,bushels", "11,12", "0", "7  ,2"));
 }
 
-TEST_F(CustomCropSave, AReloadThatFailsBreaksNothing) {
+TEST_F(CustomCropSave, AFailedReloadIsTolerated) {
   pane.loadCropRows = [] { throw RunTimeError(ErrorNumber::overflow, "too many"); };
   enterCrop("Oats");
   save();
@@ -263,7 +263,7 @@ TEST_F(CustomCropSave, AReloadThatFailsBreaksNothing) {
   EXPECT_EQ(titles(), Strings{"Saved"});
 }
 
-TEST_F(CustomCropSave, DeletingAsksForTheCropOfTheFile) {
+TEST_F(CustomCropSave, DeletingAsksForConfirmation) {
   selectSaved();
   pane.txtCustom.type("another name");
   for (const MessageAnswer given : {MessageAnswer::no, MessageAnswer::cancel}) {
@@ -293,7 +293,7 @@ TEST_F(CustomCropSave, DeletingAsksForTheCropOfTheFile) {
   EXPECT_EQ(boxes[1].icon, MessageIcon::exclamation);
 }
 
-TEST_F(CustomCropSave, DeletesAFileThatIsProtectedFromWriting) {
+TEST_F(CustomCropSave, DeletesAWriteProtectedFile) {
   selectSaved();
   std::filesystem::permissions(folder() / "oats.txt", std::filesystem::perms::owner_read);
   openToAll(home);
@@ -305,14 +305,14 @@ TEST_F(CustomCropSave, DeletesAFileThatIsProtectedFromWriting) {
   EXPECT_TRUE(gone.value_or(true));
 }
 
-TEST_F(CustomCropSave, DeletingAFileThatIsGoneEndsAsUsual) {
+TEST_F(CustomCropSave, DeletingAMissingFileEndsAsUsual) {
   selectSaved();
   std::filesystem::remove(folder() / "oats.txt");
   pane.cmdCustomGrid6.click();
   EXPECT_EQ(titles(), (Strings{"Delete crop?", "Crop deleted"}));
 }
 
-TEST_F(CustomCropSave, BackAsksOnlyAfterTypingTheName) {
+TEST_F(CustomCropSave, BackAsksOnlyAfterTypingInTheName) {
   makeSmallest();
   grid().typeCharacter("5");
   pane.cmdCustomGrid5.click();
@@ -343,7 +343,7 @@ TEST_F(CustomCropSave, EveryKeyInTheNameCountsAsAChange) {
   EXPECT_TRUE(pane.customAltered);
 }
 
-TEST_F(CustomCropSave, WhatIsSavedComesBackAndIsACropOfTheLibrary) {
+TEST_F(CustomCropSave, ASavedCropCanBeLoadedAndIsInTheLibrary) {
   EXPECT_TRUE(rc::check("save, open, load", [this] {
     const int from = *rc::gen::inRange(0, 3);
     const int to = *rc::gen::inRange(0, 21);

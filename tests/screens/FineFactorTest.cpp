@@ -9,7 +9,7 @@
 namespace verdalis {
 namespace {
 
-TEST(FineFactor, AFactorUpToTenIsTakenSilently) {
+TEST(FineFactor, AFactorUpTo10IsAcceptedWithoutAMessage) {
   for (const auto& [text, factor] : std::vector<std::pair<std::string, int>>{{"10", 10},
                                                                              {"1", 1},
                                                                              {" 7 ", 7},
@@ -27,7 +27,7 @@ TEST(FineFactor, AFactorUpToTenIsTakenSilently) {
   }
 }
 
-TEST(FineFactor, ALargerOneIsTakenWithACaution) {
+TEST(FineFactor, AFactorAbove10IsAcceptedWithACaution) {
   for (const auto& [text, factor] : std::vector<std::pair<std::string, int>>{
            {"11", 11}, {"10.6", 11}, {"99", 99}, {"99.4", 99}, {"99.5", 100}, {"99.9", 100}}) {
     const FineFactorEntry entry = readFineFactor(text);
@@ -50,12 +50,12 @@ void expectRefusal(const std::string& text, const std::string& message) {
   EXPECT_EQ(entry.message->text, message) << text;
 }
 
-TEST(FineFactor, WhatIsNoNumberIsRefused) {
+TEST(FineFactor, ATextThatIsNoNumberIsRefused) {
   for (const char* text : {"", "abc", "5x", "-", ".", "1e400"})
     expectRefusal(text, "Please enter a valid number");
 }
 
-TEST(FineFactor, WhatIsOutOfBoundsIsRefused) {
+TEST(FineFactor, ANumberOutOfBoundsIsRefused) {
   for (const char* text : {"0", "-3", "100", "100.0", "1e3", "1,000"})
     expectRefusal(text, "Please enter a number between 1 and 100");
 }

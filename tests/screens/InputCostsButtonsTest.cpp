@@ -44,7 +44,7 @@ const std::map<std::string, std::array<const char*, 7>> defaultTexts{
     {"txtMiscCost", {dash, dash, dash, dash, dash, dash, dash}},
 };
 
-TEST_F(InputCostsButtons, DefaultsCellByCell) {
+TEST_F(InputCostsButtons, LoadsTheDefaultsOfEachStockCrop) {
   ASSERT_EQ(defaultTexts.size(), boxNames().size());
   for (std::size_t c = 0; c < defaultCrops.size(); ++c) {
     const std::string& crop = defaultCrops.at(c);
@@ -84,7 +84,7 @@ TEST_F(InputCostsButtons, DefaultsRefreshTheSubtotals) {
   EXPECT_EQ(pane.lblOC.caption(), "$60.36 / ac");
 }
 
-TEST_F(InputCostsButtons, CancelForgetsTheDefaults) {
+TEST_F(InputCostsButtons, CancelDiscardsTheDefaults) {
   const auto crop = makeCrop("Corn");
   const std::string before = crop->writeData();
   pane.open(crop);
@@ -112,7 +112,7 @@ TEST_F(InputCostsButtons, ClearEmptiesEveryBox) {
   EXPECT_EQ(elsewhere.text(), "5");
 }
 
-TEST_F(InputCostsButtons, ClearPassesOverWhatCannotBeCalculated) {
+TEST_F(InputCostsButtons, ClearIgnoresErrorsOfCalculation) {
   std::vector<std::string> told;
   desk.onRunTimeError = [&](const RunTimeError& error) { told.emplace_back(error.what()); };
   auto crop = makeCrop("My Beans");
@@ -149,7 +149,7 @@ TEST_F(InputCostsButtons, ApplyStoresAGrainCrop) {
 }
 
 /// Each field of the costs goes to the box of its own name.
-TEST_F(InputCostsButtons, ApplyMapsBoxesToFields) {
+TEST_F(InputCostsButtons, ApplyStoresEachBoxInItsField) {
   const auto crop = alfalfa();
   pane.open(crop);
   const std::map<std::string, std::string> texts = fillAllBoxes();
@@ -220,7 +220,7 @@ TEST_F(InputCostsButtons, OpeningAndApplyingRoundsTheRates) {
   EXPECT_EQ(crop->inputCosts.HarvestHauling, 0.21);
 }
 
-TEST_F(InputCostsButtons, ForageCropWithoutALifeOfStand) {
+TEST_F(InputCostsButtons, AForageCropNeedsALifeOfStand) {
   for (const char* stand : {"", "-", ".", "words"}) {
     const auto crop = alfalfa();
     crop->inputCosts.Returns = 3;
@@ -245,7 +245,7 @@ TEST_F(InputCostsButtons, ForageCropWithoutALifeOfStand) {
   }
 }
 
-TEST_F(InputCostsButtons, TheUnitsDecideOnTheLifeOfStand) {
+TEST_F(InputCostsButtons, TheUnitsDecideWhetherALifeOfStandIsNeeded) {
   const auto clover = makeCrop("My Clover", "ton", "tons");
   clover->Custom = true;
   pane.open(clover);
@@ -262,7 +262,7 @@ TEST_F(InputCostsButtons, TheUnitsDecideOnTheLifeOfStand) {
   EXPECT_TRUE(fakes.messageBox.log.empty());
 }
 
-TEST_F(InputCostsButtons, BoxOfTheMessageKeepsTheWindowActive) {
+TEST_F(InputCostsButtons, AMessageBoxDoesNotDeactivateTheWindow) {
   int deactivations = 0;
   window.onDeactivate.connect([&] { ++deactivations; });
   fakes.messageBox.onShow = [this](const Message&) { desk.activate(nullptr); };
@@ -272,7 +272,7 @@ TEST_F(InputCostsButtons, BoxOfTheMessageKeepsTheWindowActive) {
   EXPECT_EQ(deactivations, 0);
 }
 
-TEST_F(InputCostsButtons, ListenersMayBeAbsent) {
+TEST_F(InputCostsButtons, TheButtonsNeedNoListeners) {
   listeners.clear();
   pane.open(makeCrop("Corn"));
   pane.Command6.click();

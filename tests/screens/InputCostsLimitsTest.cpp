@@ -58,7 +58,7 @@ class InputCostsLimits : public ::verdalis::testing::InputCostsFixture {
   }
 };
 
-TEST_F(InputCostsLimits, SameForAllCrops) {
+TEST_F(InputCostsLimits, SomeLimitsAreTheSameForAllCrops) {
   const std::vector<std::array<std::string, 3>> rows{
       {"txtNitrogenCost", "Nitrogen Cost", "1.5"},
       {"txtPCost", "Phosphorus Cost", "1.5"},
@@ -87,7 +87,7 @@ TEST_F(InputCostsLimits, SameForAllCrops) {
   }
 }
 
-TEST_F(InputCostsLimits, ByCrop) {
+TEST_F(InputCostsLimits, SomeLimitsDependOnTheCrop) {
   const std::array<std::string, 6> crops{"Alfalfa",  "Corn",      "Grain Sorghum",
                                          "Soybeans", "Sunflower", "Wheat"};
   const Limited none;
@@ -125,7 +125,7 @@ TEST_F(InputCostsLimits, ByCrop) {
   }
 }
 
-TEST_F(InputCostsLimits, FieldsWithoutATest) {
+TEST_F(InputCostsLimits, SomeFieldsAreNotTested) {
   pane.open(makeCrop("Corn"));
   for (const char* name : {"txtBalingNum", "txtMiscCost", "txtExceed", "txtReturns"}) {
     expectUntested(name);
@@ -134,7 +134,7 @@ TEST_F(InputCostsLimits, FieldsWithoutATest) {
   }
 }
 
-TEST_F(InputCostsLimits, PressFollowsTheMessage) {
+TEST_F(InputCostsLimits, AButtonIsPressedAfterTheMessage) {
   const auto crop = makeCrop("Corn");
   pane.open(crop);
   pane.txtTillage.type("40");
@@ -146,7 +146,7 @@ TEST_F(InputCostsLimits, PressFollowsTheMessage) {
   EXPECT_EQ(crop->inputCosts.Tillage, 40);
 }
 
-TEST_F(InputCostsLimits, WithoutACropNothingIsTestedByCrop) {
+TEST_F(InputCostsLimits, WithoutACropNoLimitOfACropApplies) {
   EXPECT_EQ(messageFor("txtSeedRate", "1e9"), "");
   EXPECT_EQ(messageFor("txtStand", "41"),
             "Life of  Stand:  Please enter a value that's less than or equal to 40");

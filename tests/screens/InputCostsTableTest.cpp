@@ -15,7 +15,7 @@ void collectBoxes(const Frame& frame, std::set<std::string>& names) {
   }
 }
 
-TEST_F(InputCostsTable, HasEveryBoxOnce) {
+TEST_F(InputCostsTable, ContainsEveryBoxOnce) {
   std::set<std::string> onPane;
   collectBoxes(pane, onPane);
   const std::vector<std::string> inTable = boxNames();
@@ -24,7 +24,7 @@ TEST_F(InputCostsTable, HasEveryBoxOnce) {
   EXPECT_EQ(onPane.size(), 28U);
 }
 
-TEST_F(InputCostsTable, NamesBoxesFramesUnitsAndHelp) {
+TEST_F(InputCostsTable, DescribesBoxesFramesUnitsAndHelp) {
   const auto groups = InputCostsPane::groups();
   for (const InputCostsField& field : InputCostsPane::fields()) {
     const FieldRow& row = field.row;
@@ -55,7 +55,7 @@ TEST_F(InputCostsTable, NamesBoxesFramesUnitsAndHelp) {
   }
 }
 
-TEST_F(InputCostsTable, FixedTexts) {
+TEST_F(InputCostsTable, ContainsTheFixedTexts) {
   struct Expected {
     std::string label;
     std::string unit;
@@ -100,7 +100,7 @@ TEST_F(InputCostsTable, FixedTexts) {
   }
 }
 
-TEST_F(InputCostsTable, CaptionsOfTheControls) {
+TEST_F(InputCostsTable, TheControlsHaveTheirCaptions) {
   EXPECT_EQ(pane.name(), "pneInputCosts");
   EXPECT_EQ(pane.chkNOptimal.caption(), "Use optimal yield based nitrogen rate");
   EXPECT_EQ(pane.chkPOptimal.caption(), "Use optimal yield based phosphorus rate");
@@ -116,7 +116,7 @@ TEST_F(InputCostsTable, CaptionsOfTheControls) {
   EXPECT_FALSE(pane.lblAnnualized.visible());
 }
 
-TEST_F(InputCostsTable, TextsOfTheGroups) {
+TEST_F(InputCostsTable, ContainsTheTextsOfTheGroups) {
   const auto groups = InputCostsPane::groups();
   EXPECT_EQ(groups[generalGroup].heading, "General Input Costs");
   EXPECT_EQ(groups[generalGroup].resultLabel, "General Input Costs Subtotal:");
@@ -129,7 +129,7 @@ TEST_F(InputCostsTable, TextsOfTheGroups) {
   EXPECT_EQ(groups[returnsGroup].heading, "Land Usage Returns");
 }
 
-TEST_F(InputCostsTable, HelpButtons) {
+TEST_F(InputCostsTable, ContainsTheHelpButtons) {
   const std::vector<int> indices{11, 12, 13, 14, 21, 22, 23, 24};
   for (const int index : indices) {
     auto* button = dynamic_cast<Button*>(desk.find("cmdHelp(" + std::to_string(index) + ")"));

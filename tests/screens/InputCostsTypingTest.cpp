@@ -20,7 +20,7 @@ class InputCostsTyping : public ::verdalis::testing::InputCostsFixture {
   }
 };
 
-TEST_F(InputCostsTyping, RateSwitchesItsBox) {
+TEST_F(InputCostsTyping, TypingARateUnticksItsOptimalRateBox) {
   pane.open(makeCrop("Corn"));
   for (const Pair& pair : pairs()) {
     EXPECT_TRUE(pair.optimal->checked());
@@ -33,7 +33,7 @@ TEST_F(InputCostsTyping, RateSwitchesItsBox) {
   }
 }
 
-TEST_F(InputCostsTyping, OnlyItsOwnBox) {
+TEST_F(InputCostsTyping, TypingARateChangesOnlyItsOwnBox) {
   pane.open(makeCrop("Corn"));
   pane.txtPApplied.type("5");
   EXPECT_TRUE(pane.chkNOptimal.checked());
@@ -43,7 +43,7 @@ TEST_F(InputCostsTyping, OnlyItsOwnBox) {
   EXPECT_TRUE(pane.chkSeedOptimal.checked());
 }
 
-TEST_F(InputCostsTyping, SwitchLeavesTheRateAlone) {
+TEST_F(InputCostsTyping, ClickingAnOptimalRateBoxKeepsTheRate) {
   pane.open(makeCrop("Corn"));
   pane.txtNitrogenApplied.type("5");
   pane.chkNOptimal.click();
@@ -53,7 +53,7 @@ TEST_F(InputCostsTyping, SwitchLeavesTheRateAlone) {
   EXPECT_FALSE(pane.chkNOptimal.checked());
 }
 
-TEST_F(InputCostsTyping, RefusedRateRestoresTheSwitch) {
+TEST_F(InputCostsTyping, ARefusedRateRestoresItsOptimalRateBox) {
   pane.open(makeCrop("Corn"));
   pane.txtSeedRate.type("100000");
   EXPECT_FALSE(pane.chkSeedOptimal.checked());
@@ -63,7 +63,7 @@ TEST_F(InputCostsTyping, RefusedRateRestoresTheSwitch) {
   EXPECT_TRUE(pane.chkSeedOptimal.checked());
 }
 
-TEST_F(InputCostsTyping, GeneralSubtotal) {
+TEST_F(InputCostsTyping, TypingUpdatesTheGeneralSubtotal) {
   pane.open(makeCrop("Corn"));
   pane.txtNitrogenCost.type("0.5");
   EXPECT_EQ(pane.lblGICTOTAL.caption(), "$0.00 / ac");
@@ -86,7 +86,7 @@ TEST_F(InputCostsTyping, GeneralSubtotal) {
   EXPECT_EQ(pane.lblOC.caption(), "$0.00 / ac");
 }
 
-TEST_F(InputCostsTyping, SeedByPoundOrByThousand) {
+TEST_F(InputCostsTyping, SeedIsPricedByThePoundOrByTheThousand) {
   const std::map<std::string, std::string> captions{
       {"Alfalfa", "$40.00 / ac"},  {"Grain Sorghum", "$40.00 / ac"}, {"Wheat", "$40.00 / ac"},
       {"Corn", "$0.04 / ac"},      {"Soybeans", "$0.04 / ac"},       {"Sunflower", "$0.04 / ac"},
@@ -99,7 +99,7 @@ TEST_F(InputCostsTyping, SeedByPoundOrByThousand) {
   }
 }
 
-TEST_F(InputCostsTyping, OperationSubtotal) {
+TEST_F(InputCostsTyping, TypingUpdatesTheOperationSubtotal) {
   pane.open(makeCrop("Corn"));
   double sum = 0;
   for (TextBox* field : {&pane.txtFertilizerApplication, &pane.txtHerbicideApplication,
@@ -129,7 +129,7 @@ TEST_F(InputCostsTyping, OtherFieldsChangeNoSubtotal) {
   EXPECT_EQ(pane.lblOC.caption(), "operation");
 }
 
-TEST_F(InputCostsTyping, TooLargeANumberIsToldAndGoesBack) {
+TEST_F(InputCostsTyping, ATooLargeNumberIsReportedAndRestored) {
   std::vector<std::string> told;
   desk.onRunTimeError = [&](const RunTimeError& error) { told.emplace_back(error.what()); };
   pane.open(makeCrop("Corn"));
@@ -143,7 +143,7 @@ TEST_F(InputCostsTyping, TooLargeANumberIsToldAndGoesBack) {
   EXPECT_EQ(told.size(), 1U);
 }
 
-TEST_F(InputCostsTyping, NoTextEscapesAsAnError) {
+TEST_F(InputCostsTyping, NoTypedTextThrows) {
   rc::check([this](const std::vector<std::string>& texts) {
     desk.onRunTimeError = [](const RunTimeError&) {};
     pane.open(alfalfa());

@@ -54,18 +54,18 @@ class InputTest : public ::testing::Test {
   ::verdalis::testing::FakeServices fakes;
 };
 
-TEST_F(InputTest, PartialEntriesPass) {
+TEST_F(InputTest, IncompleteEntriesPass) {
   expectPasses("", 100);
   expectPasses("-", 100);
   expectPasses(".", 100);
 }
 
-TEST_F(InputTest, AbsentControlIsPassedOver) {
+TEST_F(InputTest, AMissingControlPasses) {
   testInput(nullptr, 1, "Label", fakes.messageBox);
   EXPECT_TRUE(fakes.messageBox.log.empty());
 }
 
-TEST_F(InputTest, LimitItselfPassesAndAnythingAboveFails) {
+TEST_F(InputTest, TheLimitPassesAndAnythingAboveFails) {
   expectPasses("0", 100);
   expectPasses("-0", 100);
   expectPasses("100", 100);
@@ -77,7 +77,7 @@ TEST_F(InputTest, LimitItselfPassesAndAnythingAboveFails) {
   expectFails("1e300", 100, message);
 }
 
-TEST_F(InputTest, LimitIsToldInWholeNumbers) {
+TEST_F(InputTest, TheMessageShowsTheLimitAsAWholeNumber) {
   const std::string head = "Tillage Cost:  Please enter a value that's less than or equal to ";
   expectFails("9", 0.99, head + "1");
   expectFails("9", 1.5, head + "2");
@@ -93,7 +93,7 @@ TEST_F(InputTest, NegativeNumbersFail) {
   expectFails("-1e300", 100, message);
 }
 
-TEST_F(InputTest, WhatIsNoNumberFails) {
+TEST_F(InputTest, ATextThatIsNoNumberFails) {
   const std::string message = "Tillage Cost:  Please enter a numeric value!";
   for (const char* text :
        {"12x", "x", "1.2.3", "--1", "1e", "1e400", "$5", "5 %", " ", "inf", "nan", "0x10"}) {
@@ -101,12 +101,12 @@ TEST_F(InputTest, WhatIsNoNumberFails) {
   }
 }
 
-TEST_F(InputTest, OtherFormsOfNumbersPass) {
+TEST_F(InputTest, EveryFormOfANumberPasses) {
   for (const char* text : {"1e3", "1,000", "+5", " 5 ", ".9", "9.", "1E+3"})
     expectPasses(text, 1000);
 }
 
-TEST_F(InputTest, TextThatTheProgramSetStays) {
+TEST_F(InputTest, ATextSetByTheProgramIsKept) {
   box.onLeave.connect([this] { testInput(&box, 100, "Tillage Cost", fakes.messageBox); });
   box.setText("500");
   box.enter();
@@ -116,7 +116,7 @@ TEST_F(InputTest, TextThatTheProgramSetStays) {
   EXPECT_EQ(desk.focus(), &box);
 }
 
-TEST_F(InputTest, UndoGoesBackBehindSeveralEdits) {
+TEST_F(InputTest, UndoRevertsSeveralEdits) {
   box.setText("7");
   box.onLeave.connect([this] { testInput(&box, 100, "Tillage Cost", fakes.messageBox); });
   box.type("1");
@@ -129,7 +129,7 @@ TEST_F(InputTest, UndoGoesBackBehindSeveralEdits) {
   EXPECT_EQ(desk.focus(), &other);
 }
 
-TEST_F(InputTest, UndoTellsTheChange) {
+TEST_F(InputTest, UndoRaisesChange) {
   box.setText("7");
   std::vector<std::string> seen;
   box.onChange.connect([&] { seen.push_back(box.text()); });
@@ -138,7 +138,7 @@ TEST_F(InputTest, UndoTellsTheChange) {
   EXPECT_EQ(seen, (std::vector<std::string>{"x", "7"}));
 }
 
-TEST_F(InputTest, FocusComesBackEvenIfTheChangeFails) {
+TEST_F(InputTest, TheFocusReturnsEvenIfTheChangeFails) {
   box.setText("7");
   box.type("x");
   box.onChange.connect([] { throw RunTimeError(ErrorNumber::overflow, "too large"); });
@@ -147,7 +147,7 @@ TEST_F(InputTest, FocusComesBackEvenIfTheChangeFails) {
   EXPECT_EQ(desk.focus(), &box);
 }
 
-TEST_F(InputTest, WindowIsNotDeactivatedByTheBox) {
+TEST_F(InputTest, TheMessageBoxDoesNotDeactivateTheWindow) {
   int deactivations = 0;
   window.onDeactivate.connect([&] { ++deactivations; });
   window.open();
@@ -157,7 +157,7 @@ TEST_F(InputTest, WindowIsNotDeactivatedByTheBox) {
   EXPECT_EQ(deactivations, 0);
 }
 
-TEST_F(InputTest, NoTextRaisesAnError) {
+TEST_F(InputTest, NoTypedTextThrows) {
   rc::check([this](const std::string& text, double limit) {
     static_cast<void>(messagesFor(text, limit));
     RC_ASSERT(box.text() == text || box.text() == "7");
@@ -189,7 +189,7 @@ TEST_F(ZeroTexts, AreEmptiedInTheWholeWindow) {
   EXPECT_EQ(list.index(), 0);
 }
 
-TEST_F(ZeroTexts, OtherWritingsOfZeroStay) {
+TEST_F(ZeroTexts, OtherFormsOfZeroAreKept) {
   for (const char* text : {"00", "-0", "0.", " 0", "0 ", "0.0"}) {
     box.setText(text);
     emptyZeroTexts(window);
@@ -197,7 +197,7 @@ TEST_F(ZeroTexts, OtherWritingsOfZeroStay) {
   }
 }
 
-TEST_F(ZeroTexts, FailingChangeIsPassedOver) {
+TEST_F(ZeroTexts, AFailingChangeIsIgnored) {
   box.setText("0");
   box.onChange.connect([] { throw RunTimeError(ErrorNumber::overflow, "too large"); });
   emptyZeroTexts(window);
@@ -205,7 +205,7 @@ TEST_F(ZeroTexts, FailingChangeIsPassedOver) {
   EXPECT_EQ(price.text(), "");
 }
 
-TEST_F(ZeroTexts, EmptyTextsLeavesInnerFramesAlone) {
+TEST_F(ZeroTexts, EmptyTextsDoesNotTouchInnerFrames) {
   box.setText("5");
   price.setText("6");
   rain.setText("11");

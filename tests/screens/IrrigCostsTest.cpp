@@ -65,7 +65,7 @@ class IrrigCosts : public ::testing::Test {
   std::vector<int> helped;
 };
 
-TEST_F(IrrigCosts, Start) {
+TEST_F(IrrigCosts, StartsWithItsTextsAndStartValues) {
   EXPECT_EQ(pane.name(), "pneIrrigCosts");
   EXPECT_EQ(pane.caption(), "Irrigation Costs");
   EXPECT_EQ(pane.txtRepairsPerAcre.text(), "0.33");
@@ -82,7 +82,7 @@ TEST_F(IrrigCosts, Start) {
   EXPECT_FALSE(plant->active);
 }
 
-TEST_F(IrrigCosts, RowsAndControlsBelongTogether) {
+TEST_F(IrrigCosts, EveryRowDescribesItsControl) {
   struct Expected {
     std::string control;
     std::string label;
@@ -116,7 +116,7 @@ TEST_F(IrrigCosts, RowsAndControlsBelongTogether) {
   }
 }
 
-TEST_F(IrrigCosts, GroupsNameTheirControls) {
+TEST_F(IrrigCosts, EveryGroupNamesItsControls) {
   const auto groups = IrrigCostsPane::groups();
   ASSERT_EQ(groups.size(), 2U);
   EXPECT_EQ(groups[0].heading, "Variable Irrigation Costs");
@@ -128,7 +128,7 @@ TEST_F(IrrigCosts, GroupsNameTheirControls) {
   EXPECT_EQ(&(pane.*groups[1].resultControl), &pane.lblInchHint);
 }
 
-TEST_F(IrrigCosts, LimitsAtAndAboveThem) {
+TEST_F(IrrigCosts, LimitsPassAndAnythingAboveFails) {
   struct Tested {
     TextBox* box;
     std::string label;
@@ -154,13 +154,13 @@ TEST_F(IrrigCosts, LimitsAtAndAboveThem) {
   }
 }
 
-TEST_F(IrrigCosts, DischargeHasNoTest) {
+TEST_F(IrrigCosts, TheDischargeIsNotTested) {
   EXPECT_EQ(messageFor(pane.txtGPM, "99999999"), "");
   EXPECT_EQ(messageFor(pane.txtGPM, "-4"), "");
   EXPECT_EQ(messageFor(pane.txtGPM, "words"), "");
 }
 
-TEST_F(IrrigCosts, FuelCostLimitFollowsTheFuel) {
+TEST_F(IrrigCosts, TheFuelCostLimitDependsOnTheFuel) {
   struct Fuel {
     int index;
     std::string atLimit;
@@ -179,14 +179,14 @@ TEST_F(IrrigCosts, FuelCostLimitFollowsTheFuel) {
   EXPECT_EQ(messageFor(pane.txtCost, "100.01"), head + "100");
 }
 
-TEST_F(IrrigCosts, ChangingTheFuelTestsNothingAgain) {
+TEST_F(IrrigCosts, ChangingTheFuelDoesNotRepeatTheTest) {
   pane.txtCost.type("25");
   pane.cboFuelType.pick(3);
   EXPECT_TRUE(fakes.messageBox.log.empty());
   EXPECT_EQ(pane.txtCost.text(), "25");
 }
 
-TEST_F(IrrigCosts, Defaults) {
+TEST_F(IrrigCosts, TheDefaultButtonFillsTheFields) {
   pane.cmdDefaultIrrigCosts.click();
   expectDefaults();
   // 750 * (35 * 2.31 + 120) / 3960 = 38.03977 hp over 61.7 for 0.6 hours at 5.10, and 0.33 for repairs.
@@ -201,14 +201,14 @@ TEST_F(IrrigCosts, Defaults) {
   EXPECT_FALSE(plant->active);
 }
 
-TEST_F(IrrigCosts, ShowDefaultsIsTheSame) {
+TEST_F(IrrigCosts, ShowDefaultsFillsTheFieldsLikeTheButton) {
   pane.cboFuelType.type("Steam");
   pane.showDefaults();
   expectDefaults();
   EXPECT_EQ(pane.lblICosts.caption(), "$2.22 / ac-in");
 }
 
-TEST_F(IrrigCosts, SubtotalFollowsEveryField) {
+TEST_F(IrrigCosts, EveryFieldUpdatesTheSubtotal) {
   pane.showDefaults();
   std::set<std::string> captions{pane.lblICosts.caption()};
   for (TextBox* box : {&pane.txtGPM, &pane.txtLift, &pane.txtPSI, &pane.txtCost, &pane.txtRepairsPerAcre}) {
@@ -227,7 +227,7 @@ TEST_F(IrrigCosts, SubtotalFollowsEveryField) {
   }
 }
 
-TEST_F(IrrigCosts, SubtotalByFuel) {
+TEST_F(IrrigCosts, TheSubtotalDependsOnTheFuel) {
   pane.showDefaults();
   const std::map<int, std::string> captions{
       {0, "$9.64 / ac-in"}, {1, "$17.22 / ac-in"}, {2, "$2.22 / ac-in"}, {3, "$131.86 / ac-in"}};
@@ -240,14 +240,14 @@ TEST_F(IrrigCosts, SubtotalByFuel) {
   EXPECT_EQ(pane.lblICosts.caption(), "$131.86 / ac-in");
 }
 
-TEST_F(IrrigCosts, UnsetFuelKeepsTheSubtotal) {
+TEST_F(IrrigCosts, AnUnknownFuelKeepsTheSubtotal) {
   pane.lblICosts.setCaption("as it was");
   pane.txtGPM.type("750");
   pane.txtCost.type("3");
   EXPECT_EQ(pane.lblICosts.caption(), "as it was");
 }
 
-TEST_F(IrrigCosts, FailingStepsOfTheSubtotalCountAsNothing) {
+TEST_F(IrrigCosts, TermsThatCannotBeCalculatedCountAs0) {
   pane.showDefaults();
   pane.txtGPM.type("0");
   EXPECT_EQ(pane.lblICosts.caption(), "$0.33 / ac-in");
@@ -266,7 +266,7 @@ TEST_F(IrrigCosts, FailingStepsOfTheSubtotalCountAsNothing) {
   EXPECT_EQ(pane.lblICosts.caption(), "$-1.87 / ac-in");
 }
 
-TEST_F(IrrigCosts, HintFollowsFlowAndHours) {
+TEST_F(IrrigCosts, TheHintDependsOnFlowAndHours) {
   const auto hint = [](const std::string& gpm, const std::string& acres, const std::string& hours,
                        const std::string& inches) {
     return "Based on " + gpm + " gpm, " + acres + " acres, and " + hours +
@@ -292,7 +292,7 @@ TEST_F(IrrigCosts, HintFollowsFlowAndHours) {
   EXPECT_NE(pane.lblInchHint.caption().find("you would apply 0.0 inches"), std::string::npos);
 }
 
-TEST_F(IrrigCosts, HintWithoutAnArea) {
+TEST_F(IrrigCosts, TheHintNeedsAnArea) {
   pane.areaText = nullptr;
   pane.open();
   EXPECT_EQ(
@@ -300,7 +300,7 @@ TEST_F(IrrigCosts, HintWithoutAnArea) {
       "Based on 0 gpm, 0 acres, and 0 hours of pumping, you would apply 0.0 inches of water in a season");
 }
 
-TEST_F(IrrigCosts, OpeningEmptiesZerosOfTheWholeWindow) {
+TEST_F(IrrigCosts, OpeningEmptiesTheZerosOfTheWindow) {
   pane.txtLift.setText("0");
   pane.txtPSI.setText("0.0");
   pane.cboFuelType.setText("0");
@@ -355,7 +355,7 @@ TEST_F(IrrigCosts, ApplySetsThePerformanceOfEachFuel) {
   }
 }
 
-TEST_F(IrrigCosts, ApplyWithoutAFuelKeepsThePerformance) {
+TEST_F(IrrigCosts, ApplyWithAnUnknownFuelKeepsThePerformance) {
   plant->NPC = 12.5;
   pane.Command9.click();
   EXPECT_EQ(plant->NPC, 12.5);
@@ -363,7 +363,7 @@ TEST_F(IrrigCosts, ApplyWithoutAFuelKeepsThePerformance) {
   EXPECT_EQ(applied, 1);
 }
 
-TEST_F(IrrigCosts, ClearThenApplyCostsNothing) {
+TEST_F(IrrigCosts, ApplyAfterClearStoresACostOf0) {
   pane.cmdDefaultIrrigCosts.click();
   pane.Command4.click();
   for (const IrrigCostsField& field : IrrigCostsPane::fields()) {
@@ -383,13 +383,13 @@ TEST_F(IrrigCosts, ClearThenApplyCostsNothing) {
   EXPECT_EQ(plant->getCosts(10, 100), 0);
 }
 
-TEST_F(IrrigCosts, ClearLeavesOtherPanesAlone) {
+TEST_F(IrrigCosts, ClearDoesNotTouchOtherPanes) {
   elsewhere.setText("5");
   pane.Command4.click();
   EXPECT_EQ(elsewhere.text(), "5");
 }
 
-TEST_F(IrrigCosts, TooLargeANumberIsToldAtApplyAndStaysOpen) {
+TEST_F(IrrigCosts, ApplyReportsATooLargeNumberAndKeepsThePaneOpen) {
   std::vector<std::string> told;
   desk.onRunTimeError = [&](const RunTimeError& error) { told.emplace_back(error.what()); };
   pane.txtGPM.type("1e400");
@@ -401,7 +401,7 @@ TEST_F(IrrigCosts, TooLargeANumberIsToldAtApplyAndStaysOpen) {
   EXPECT_EQ(pane.txtGPM.text(), "1e400");
 }
 
-TEST_F(IrrigCosts, HelpButtons) {
+TEST_F(IrrigCosts, HelpButtonsRaiseTheirIndex) {
   for (const int index : {7, 8, 15, 16, 17, 18, 19, 20}) {
     auto* button = dynamic_cast<Button*>(desk.find("cmdHelp(" + std::to_string(index) + ")"));
     ASSERT_NE(button, nullptr);
@@ -411,7 +411,7 @@ TEST_F(IrrigCosts, HelpButtons) {
   EXPECT_EQ(helped.size(), 8U);
 }
 
-TEST_F(IrrigCosts, WithoutListenersNothingHappens) {
+TEST_F(IrrigCosts, TheButtonsNeedNoListeners) {
   listeners.clear();
   pane.Command9.click();
   pane.cmdCancel.click();
@@ -419,7 +419,7 @@ TEST_F(IrrigCosts, WithoutListenersNothingHappens) {
   EXPECT_TRUE(plant->active);
 }
 
-TEST_F(IrrigCosts, NoTypedTextEscapesAsAnError) {
+TEST_F(IrrigCosts, NoTypedTextThrows) {
   pane.showDefaults();
   rc::check([this](const std::string& text) {
     for (const IrrigCostsField& field : IrrigCostsPane::fields()) {

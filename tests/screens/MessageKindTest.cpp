@@ -17,11 +17,11 @@ class MessageKinds : public ::testing::Test {
   ::verdalis::testing::FakeServices fakes;
 };
 
-TEST(MessageKindOf, AMessageIsANoticeUnlessItSaysMore) {
+TEST(MessageKindOf, AMessageIsANoticeByDefault) {
   EXPECT_EQ(Message().kind, MessageKind::notice);
 }
 
-TEST_F(MessageKinds, AFailedTestIsARefusal) {
+TEST_F(MessageKinds, AFailedFieldTestIsARefusal) {
   for (const char* text : {"x", "-1", "101"}) {
     box.setText(text);
     testInput(&box, 100, "Tillage Cost", fakes.messageBox);
@@ -32,7 +32,7 @@ TEST_F(MessageKinds, AFailedTestIsARefusal) {
     EXPECT_EQ(message.kind, MessageKind::refusal) << message.text;
 }
 
-TEST_F(MessageKinds, AFactorIsRefusedOrOnlyWarnedOf) {
+TEST_F(MessageKinds, AnInvalidFactorIsARefusalAndALargeOneANotice) {
   ASSERT_TRUE(readFineFactor("x").message);
   EXPECT_EQ(readFineFactor("x").message->kind, MessageKind::refusal);
   EXPECT_EQ(readFineFactor("0").message->kind, MessageKind::refusal);

@@ -88,14 +88,14 @@ TEST_F(NoSplit, OnTheUndividedFarmIsADuplicateOfTheSearch) {
   EXPECT_THAT(optionsOf(best), SizeIs(2));
 }
 
-TEST_F(NoSplit, RunsWithoutAnyWaterSplitToo) {
+TEST_F(NoSplit, WorksWithoutAWaterSplit) {
   const auto farm = undivided({cornCrop(), wheatCrop()});
   farm->divide(5);
   farm->state.FineFactor = 6;
   EXPECT_THAT(optionsOf(farm->run()), SizeIs(2));
 }
 
-TEST_F(NoSplit, EarnsWhatTheFormulasSay) {
+TEST_F(NoSplit, EarnsTheProfitOfTheFormulas) {
   const auto farm = undivided({cornCrop(), wheatCrop(), alfalfaCrop(), fallowCrop()});
   farm->inputs.txtArraySize = "1000";
   const auto singles = singleFieldsOf(farm->run());
@@ -119,7 +119,7 @@ TEST_F(NoSplit, LeavesYieldAndRatesOnTheCropOfTheLibrary) {
   EXPECT_EQ(corn.inputCosts.PPerAcre, 0.43 * corn.Yield);
 }
 
-TEST_F(NoSplit, SoChangesTheSeedingRateThatIsSaved) {
+TEST_F(NoSplit, ChangesTheSavedSeedingRate) {
   const auto farm = undivided({cornCrop(), wheatCrop()});
   EXPECT_THAT(farm->library.Item(1)->writeData(), HasSubstr("\r\n2.89\r\n0\r\nTrue\r\n"));
   (void)farm->run();
@@ -127,7 +127,7 @@ TEST_F(NoSplit, SoChangesTheSeedingRateThatIsSaved) {
   EXPECT_THAT(farm->library.Item(2)->writeData(), HasSubstr("\r\n0.16\r\n90\r\nTrue\r\n"));
 }
 
-TEST_F(NoSplit, KeepsASeedingRateThatWasTyped) {
+TEST_F(NoSplit, KeepsATypedSeedingRate) {
   Crop corn = cornCrop();
   corn.inputCosts.SeedOptimal = false;
   corn.inputCosts.SeedRate = 31000;
@@ -159,7 +159,7 @@ TEST_F(NoSplit, LeavesThePumpingHoursInThePlant) {
   EXPECT_NEAR(farm->plant->hours, 720, 1e-9);
 }
 
-TEST_F(NoSplit, ShowsTheHoursOfTheCropBeforeOnADryField) {
+TEST_F(NoSplit, ShowsThePumpingHoursOfThePreviousCropOnADryField) {
   const auto farm = undivided({fallowCrop(), cornCrop(), fallowCrop()});
   farm->plant->hours = 77;
   std::vector<double> fallowHours;
@@ -172,14 +172,14 @@ TEST_F(NoSplit, ShowsTheHoursOfTheCropBeforeOnADryField) {
   EXPECT_NEAR(farm->plant->hours, 720, 1e-9);
 }
 
-TEST_F(NoSplit, LeavesThePlantItselfAsItWas) {
+TEST_F(NoSplit, DoesNotChangeTheInputsOfThePlant) {
   const auto farm = undivided({cornCrop(), fallowCrop()});
   const std::string before = farm->plant->writeData();
   (void)farm->run();
   EXPECT_EQ(farm->plant->writeData(), before);
 }
 
-TEST_F(NoSplit, KeepsItsOptionsApartFromTheLibrary) {
+TEST_F(NoSplit, OptionsAreCopiesOfTheLibrary) {
   const auto farm = undivided({cornCrop()});
   BestMix best = farm->run();
   const auto before = describe(best);
@@ -188,7 +188,7 @@ TEST_F(NoSplit, KeepsItsOptionsApartFromTheLibrary) {
   EXPECT_EQ(describe(best), before);
 }
 
-TEST_F(NoSplit, UsesATrendFigureOfTheCropAndOfThePlant) {
+TEST_F(NoSplit, UsesTheTrendCostsOfCropAndPlant) {
   const auto farm = undivided({cornCrop()});
   farm->library.Item(1)->inputCosts.UseBatch = true;
   farm->library.Item(1)->inputCosts.BatchGeneralCosts = 300;
@@ -199,7 +199,7 @@ TEST_F(NoSplit, UsesATrendFigureOfTheCropAndOfThePlant) {
   EXPECT_EQ(farm->library.Item(1)->inputCosts.SeedRate, 0);  // nothing was worked out
 }
 
-TEST_F(NoSplit, IsLeftOutAfterACancel) {
+TEST_F(NoSplit, IsSkippedAfterACancel) {
   const auto farm = undivided({cornCrop()});
   farm->hooks.onUpdate = [&](int) { farm->state.CancelRequested = true; };
   EXPECT_EQ(farm->run().getSize(), 0);

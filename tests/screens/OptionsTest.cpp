@@ -31,7 +31,7 @@ class Options : public ::testing::Test {
   frmOptions window{desk, state, fakes.services};
 };
 
-TEST_F(Options, ShowsItsTextsAndTheFactorInForce) {
+TEST_F(Options, ShowsItsTextsAndTheCurrentFactor) {
   EXPECT_EQ(window.name(), "frmOptions");
   EXPECT_EQ(window.caption(), "Options");
   EXPECT_EQ(std::string(frmOptions::heading), "Options");
@@ -58,7 +58,7 @@ TEST_F(Options, ShowsItsTextsAndTheFactorInForce) {
   EXPECT_EQ(window.txtFineFactor.text(), "7");
 }
 
-TEST_F(Options, SmallFactorsApplySilently) {
+TEST_F(Options, SmallFactorsAreAppliedWithoutAMessage) {
   const std::vector<std::pair<std::string, int>> factors{{"10", 10}, {"1", 1},   {"0.4", 0},
                                                          {"0.5", 0}, {"0.6", 1}, {"1.5", 2},
                                                          {"2.5", 2}, {" 5 ", 5}, {"10.5", 10}};
@@ -71,7 +71,7 @@ TEST_F(Options, SmallFactorsApplySilently) {
   }
 }
 
-TEST_F(Options, LargeFactorsAreCautionedAndApply) {
+TEST_F(Options, LargeFactorsAreAppliedWithACaution) {
   const std::vector<std::pair<std::string, int>> factors{{"11", 11}, {"10.6", 11}, {"99", 99}, {"99.9", 100}};
   for (const auto& [text, factor] : factors) {
     fakes.messageBox.onShow = [&, expected = factor](const Message&) {
@@ -92,7 +92,7 @@ TEST_F(Options, LargeFactorsAreCautionedAndApply) {
   }
 }
 
-TEST_F(Options, WhatIsNoFactorIsRefused) {
+TEST_F(Options, InvalidFactorsAreRefused) {
   const std::string noNumber = "Please enter a valid number";
   const std::string outside = "Please enter a number between 1 and 100";
   const std::vector<std::pair<std::string, std::string>> texts{{"abc", noNumber},
@@ -119,7 +119,7 @@ TEST_F(Options, WhatIsNoFactorIsRefused) {
   }
 }
 
-TEST_F(Options, CancelAndTheLossOfActivationLoseWhatWasTyped) {
+TEST_F(Options, CancelAndDeactivationDiscardTheTypedFactor) {
   window.txtFineFactor.type("7");
   window.cmdCancel.click();
   EXPECT_FALSE(window.isOpen());

@@ -32,7 +32,7 @@ TEST(SelectedCrops, AreThoseOfTheTickedRowsInTheirOrder) {
   EXPECT_EQ(cropsOf(farm).Count(), 0);
 }
 
-TEST(SelectedCrops, AreTheCropsOfTheLibraryAndKeepWhatTheRowsSay) {
+TEST(SelectedCrops, AreTheCropsOfTheLibraryWithTheValuesOfTheRows) {
   FarmRun farm;
   Crop& corn = farm.add(cornCrop());
   Crop& wheat = farm.add(wheatCrop());
@@ -58,7 +58,7 @@ TEST(SelectedCrops, TakeTextsWithoutANumberAs0) {
   EXPECT_EQ(corn.maxYield, 0);
 }
 
-TEST(SelectedCrops, KeepTheirScaleWhereTheRainIsOutsideTheTable) {
+TEST(SelectedCrops, KeepTheirScaleIfTheRainIsOutsideTheTable) {
   FarmRun farm;
   Crop& corn = farm.add(cornCrop());
   corn.normalFactor = 1.5;
@@ -67,14 +67,14 @@ TEST(SelectedCrops, KeepTheirScaleWhereTheRainIsOutsideTheTable) {
   EXPECT_EQ(corn.normalFactor, 1.5);
 }
 
-TEST(SelectedCrops, TellATickedRowWithoutACrop) {
+TEST(SelectedCrops, ReportATickedRowWithoutACrop) {
   FarmRun farm;
   farm.add(cornCrop());
   farm.inputs.cr.push_back({true, "1", "1"});
   errorText(ErrorNumber::subscript, [&] { (void)cropsOf(farm); });
 }
 
-TEST(SelectedCrops, TellANumberThatIsTooLarge) {
+TEST(SelectedCrops, ReportATooLargeNumber) {
   FarmRun farm;
   farm.add(cornCrop());
   farm.inputs.cr[0].txtPrice = "1e999";
@@ -134,7 +134,7 @@ TEST(SoilTables, LeaveACropWithoutThemAsItIs) {
   }
 }
 
-TEST(SoilTables, NameTheSoilAndKeepTheTableWhereTheSecondOneIsMissing) {
+TEST(SoilTables, WithoutASecondTableSetOnlyTheNameOfTheSoil) {
   const auto farm = farmWithSoils();
   const Crop& corn = *farm->library.Item(1);
   corn.soil_valent->pop_back();
@@ -143,7 +143,7 @@ TEST(SoilTables, NameTheSoilAndKeepTheTableWhereTheSecondOneIsMissing) {
   EXPECT_EQ(table, cornTable());
 }
 
-TEST(SoilTables, ComeAfterTheScaleSoThatThisIsOfTheTableBefore) {
+TEST(SoilTables, AreUsedAfterTheScaleIsSetFromThePreviousTable) {
   const auto farm = farmWithSoils();
   (void)soilFor(*farm, "Silt Loam");
   const Crop& corn = *farm->library.Item(1);
@@ -165,7 +165,7 @@ TEST(SoilTables, StayOnTheCropForTheNextRun) {
   EXPECT_EQ(table, *fractions(0.5));
 }
 
-TEST(SoilTables, OfAFallowRowAreNone) {
+TEST(SoilTables, AreNotUsedForFallow) {
   FarmRun farm;
   farm.add(fallowCrop());
   const CropScenario crops = cropsOf(farm);

@@ -55,7 +55,7 @@ TEST_F(RunFailure, NamesAFarmOf0Acres) {
               AllOf(HasSubstr("0 acres"), HasSubstr("Total Acres:")));
 }
 
-TEST_F(RunFailure, NamesAnUndividedFarmOf0AcresWithoutWaterSplitsToo) {
+TEST_F(RunFailure, NamesAnUndividedFarmOf0AcresWithoutWaterSplits) {
   const std::string text = [&] {
     const auto farm = cornAndWheatFarm();
     farm->divide(5);
@@ -74,7 +74,7 @@ TEST_F(RunFailure, NamesAnEfficiencyOf0) {
   }
 }
 
-TEST_F(RunFailure, NamesANumberOfOptionsThatCannotBe) {
+TEST_F(RunFailure, NamesAnInvalidNumberOfOptions) {
   const std::vector<std::pair<const char*, const char*>> tooSmall = {
       {"0", "0"}, {"", "0"}, {"0.5", "0"}, {"-3", "-3"}, {"many", "0"}};
   for (const auto& each : tooSmall) {
@@ -105,7 +105,7 @@ TEST_F(RunFailure, NamesARainfallOutsideTheTable) {
   }
 }
 
-TEST_F(RunFailure, NamesTheCropWhoseTableTheRainfallIsOutsideOf) {
+TEST_F(RunFailure, NamesTheCropWhoseTableLacksTheRainfall) {
   const auto farm = typicalFarm();
   farm->inputs.txtAnnRain = "14";
   farm->add(cornCrop());
@@ -121,7 +121,7 @@ TEST_F(RunFailure, NamesACropWithoutATable) {
               HasSubstr("Oats"));
 }
 
-TEST_F(RunFailure, NamesATextThatIsTooLarge) {
+TEST_F(RunFailure, NamesATooLargeText) {
   for (std::string ScenarioInputs::*field : {&ScenarioInputs::txtArea, &ScenarioInputs::txtEff,
                                              &ScenarioInputs::txtAnnRain, &ScenarioInputs::txtArraySize}) {
     const auto farm = cornAndWheatFarm();
@@ -132,7 +132,7 @@ TEST_F(RunFailure, NamesATextThatIsTooLarge) {
               HasSubstr("1e400"));
 }
 
-TEST_F(RunFailure, NamesWhatBecameTooLarge) {
+TEST_F(RunFailure, NamesATooLargeResult) {
   EXPECT_THAT(failureOf(ErrorNumber::overflow,
                         [](FarmRun& farm) {
                           farm.inputs.lblVolume = "1e308";
@@ -148,7 +148,7 @@ TEST_F(RunFailure, NamesANegativeDepth) {
               AllOf(HasSubstr("net irrigation of -"), HasSubstr("efficiency")));
 }
 
-TEST_F(RunFailure, LeavesTheNextRunAsItWouldHaveBeen) {
+TEST_F(RunFailure, DoesNotAffectTheNextRun) {
   const auto expected = describe(cornAndWheatFarm()->run());
   const auto farm = cornAndWheatFarm();
   farm->inputs.txtAnnRain = "25";
@@ -157,7 +157,7 @@ TEST_F(RunFailure, LeavesTheNextRunAsItWouldHaveBeen) {
   EXPECT_EQ(describe(farm->run()), expected);
 }
 
-TEST_F(RunFailure, LetsAFallowFarmRunWithAnyRainfall) {
+TEST_F(RunFailure, AFallowFarmRunsWithAnyRainfall) {
   const auto farm = typicalFarm();
   farm->add(fallowCrop());
   farm->inputs.txtAnnRain = "99";

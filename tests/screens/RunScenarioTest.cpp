@@ -6,8 +6,10 @@
 #include <string>
 #include <vector>
 
+#include "screens/MainPane.h"
 #include "screens/RunScenario.h"
 #include "tests/support/Errors.h"
+#include "tests/support/FakeServices.h"
 #include "tests/support/Run.h"
 
 // One evaluation from the texts to the ranked options.
@@ -23,6 +25,23 @@ class Run : public ::testing::Test {
  private:
   ScopedEfficiency efficiency_{0};
 };
+
+/// Fills the controls of a pane with the inputs of a farm.
+void typeInto(MainPane& pane, const ScenarioInputs& inputs) {
+  pane.txtArea.type(inputs.txtArea);
+  pane.txtMax.type(inputs.txtMax);
+  pane.txtAnnRain.type(inputs.txtAnnRain);
+  pane.txtEff.type(inputs.txtEff);
+  pane.currentSoil = inputs.currentSoil;
+  for (std::size_t i = 0; i < inputs.Option1.size(); ++i)
+    pane.Option1[i]->setChecked(inputs.Option1.at(i));
+  for (std::size_t i = 0; i < inputs.cr.size(); ++i) {
+    CropRecord& row = pane.row(i);
+    row.chkCrop.setChecked(inputs.cr[i].isActive);
+    row.txtPrice.type(inputs.cr[i].txtPrice);
+    row.txtMaxYield.type(inputs.cr[i].txtMaxYield);
+  }
+}
 
 TEST_F(Run, OnTheTypicalFarmPrices44Candidates) {
   const auto farm = cornAndWheatFarm();
@@ -55,7 +74,7 @@ TEST_F(Run, DividesTheNetVolumeOfTheFarm) {
   EXPECT_THAT(depths, Contains(0));
 }
 
-TEST_F(Run, RanksByProfitFallingAndKeepsDuplicatesForLater) {
+TEST_F(Run, RanksByDescendingProfitAndKeepsDuplicates) {
   const auto farm = cornAndWheatFarm();
   BestMix best = farm->run();
   const auto options = optionsOf(best);
@@ -64,7 +83,7 @@ TEST_F(Run, RanksByProfitFallingAndKeepsDuplicatesForLater) {
   EXPECT_LT(best.returnCollection(true)[43]->Count(), 1);  // mirrored splits of one crop are told once
 }
 
-TEST_F(Run, ReadsTheVolumeFromItsTextAndSoItsRounding) {
+TEST_F(Run, ReadsTheRoundedVolumeFromItsText) {
   const auto farm = cornAndWheatFarm();
   farm->water("617.3", "2");
   ASSERT_EQ(farm->inputs.lblVolume, "1,235");
@@ -75,7 +94,7 @@ TEST_F(Run, ReadsTheVolumeFromItsTextAndSoItsRounding) {
     EXPECT_NEAR(option->getVolume(), 425, 1e-9);
 }
 
-TEST_F(Run, LeavesOnePercentOfTheLandOutOfThreeThirds) {
+TEST_F(Run, ThreeThirdsLeaveOnePercentOfTheLandUnused) {
   const auto farm = cornAndWheatFarm();
   farm->divide(2);
   BestMix best = farm->run();
@@ -86,7 +105,7 @@ TEST_F(Run, LeavesOnePercentOfTheLandOutOfThreeThirds) {
   EXPECT_EQ(option->Item(1)->acres + option->Item(2)->acres + option->Item(3)->acres, 99);
 }
 
-TEST_F(Run, MakesTheKnownNumberOfCandidates) {
+TEST_F(Run, PricesTheExpectedNumberOfCandidates) {
   struct Row {
     std::size_t division;
     std::uint64_t splits;
@@ -123,7 +142,7 @@ TEST_F(Run, ShowsItsProgressOncePerWaterSplit) {
   EXPECT_GE(farm->hooks.pumps, 2);
 }
 
-TEST_F(Run, KeepsAsManyOptionsAsAskedForHalvesToEven) {
+TEST_F(Run, RoundsTheNumberOfOptionsHalvesToEven) {
   const std::vector<std::pair<const char*, int>> cases = {
       {"7", 7}, {"2.5", 2}, {"3.5", 4}, {"1", 1}, {"0.6", 1}, {"1.5", 2}, {"1,000", 1}, {"12 options", 12}};
   for (const auto& [text, size] : cases) {
@@ -135,7 +154,7 @@ TEST_F(Run, KeepsAsManyOptionsAsAskedForHalvesToEven) {
   }
 }
 
-TEST_F(Run, KeepsTheBestOfTheLongerList) {
+TEST_F(Run, AShorterListKeepsTheBestOptions) {
   const auto farm = cornAndWheatFarm();
   auto all = describe(farm->run());
   farm->inputs.txtArraySize = "7";
@@ -143,7 +162,7 @@ TEST_F(Run, KeepsTheBestOfTheLongerList) {
   EXPECT_EQ(describe(farm->run()), all);
 }
 
-TEST_F(Run, PutsTheCandidateSubmittedLastFirstAmongEquals) {
+TEST_F(Run, RanksTheLastSubmittedFirstAmongEquals) {
   const auto farm = typicalFarm();
   farm->plant->active = false;
   farm->add(steadyCrop("A", 5));
@@ -162,7 +181,7 @@ TEST_F(Run, PutsTheCandidateSubmittedLastFirstAmongEquals) {
   EXPECT_EQ(cropsOf(*optionsOf(farm->run()).front()), "A, A");
 }
 
-TEST_F(Run, GivesFallowNoWaterAndNobodyElseItsShare) {
+TEST_F(Run, GivesFallowNoWaterAndItsShareToNoOtherField) {
   const auto farm = typicalFarm();
   farm->add(cornCrop());
   farm->add(fallowCrop());
@@ -180,7 +199,7 @@ TEST_F(Run, GivesFallowNoWaterAndNobodyElseItsShare) {
   EXPECT_THAT(cornDepths, SizeIs(11));  // also the splits that gave the fallow field most of the water
 }
 
-TEST_F(Run, KnowsFallowByItsExactName) {
+TEST_F(Run, RecognizesFallowByItsExactName) {
   const auto farm = typicalFarm();
   farm->add(steadyCrop("fallow", 5));
   for (const auto& option : optionsOf(farm->run()))
@@ -232,7 +251,7 @@ TEST_F(Run, WithoutACropHasNoOptions) {
   EXPECT_EQ(farm->hooks.closed, 1);
 }
 
-TEST_F(Run, LeavesTheYieldAndTheSeedRateOfTheLibraryAlone) {
+TEST_F(Run, DoesNotChangeYieldAndSeedRateOfTheLibrary) {
   const auto farm = cornAndWheatFarm();
   const std::string before = farm->library.Item(1)->writeData();
   farm->plant->hours = 77;
@@ -253,7 +272,7 @@ TEST_F(Run, ShowsThePumpingHoursOfThePlantOnADryField) {
   }
 }
 
-TEST_F(Run, GivesOptionsThatNothingOutsideReaches) {
+TEST_F(Run, OptionsShareNothingWithTheInputs) {
   const auto farm = cornAndWheatFarm();
   BestMix best = farm->run();
   const auto before = describe(best);
@@ -270,15 +289,23 @@ TEST_F(Run, IsRepeatable) {
   EXPECT_EQ(describe(farm->run()), first);
 }
 
-TEST_F(Run, TakesNoNoteOfTheBoxForFallowLand) {
+TEST_F(Run, IgnoresTheBoxForFallowLand) {
   const auto farm = cornAndWheatFarm();
   farm->add(fallowCrop());
+  FakeServices fakes;
+  Desk desk;
+  Window window(desk, "frmMain", Frame::Scope::transparent);
+  MainPane pane(window, fakes.services, farm->plant);
+  typeInto(pane, farm->inputs);
+  farm->inputs = pane.scenarioInputs();
   const auto first = describe(farm->run());
-  farm->state.FallowNegatives = true;
+  pane.Check1.click();
+  EXPECT_TRUE(pane.FallowNegatives);
+  farm->inputs = pane.scenarioInputs();
   EXPECT_EQ(describe(farm->run()), first);
 }
 
-TEST_F(Run, ReadsRainfallWithItsHalves) {
+TEST_F(Run, AcceptsAFractionalRainfall) {
   const auto farm = cornAndWheatFarm();
   farm->inputs.txtAnnRain = "17.5";
   const auto option = optionsOf(farm->run()).front();
@@ -287,14 +314,14 @@ TEST_F(Run, ReadsRainfallWithItsHalves) {
   EXPECT_EQ(optionsOf(farm->run()).front()->Item(1)->theCrop->Yield, option->Item(1)->theCrop->Yield);
 }
 
-TEST_F(Run, TakesAnEmptyRainfallAsNone) {
+TEST_F(Run, ReadsAnEmptyRainfallAs0) {
   const auto farm = cornAndWheatFarm();
   farm->inputs.txtAnnRain = "";
   for (const auto& option : optionsOf(farm->run()))
     EXPECT_EQ(option->Item(1)->theCrop->Yield, 0);
 }
 
-TEST_F(Run, ReadsTheAcresUpToACommaAsTheVolumeDoes) {
+TEST_F(Run, ReadsTheAcresUpToAComma) {
   const auto farm = cornAndWheatFarm();
   farm->water("1,000", "12");
   const auto option = optionsOf(farm->run()).front();

@@ -1,14 +1,17 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "model/LandDivision.h"
+#include "screens/MainPane.h"
 #include "screens/ScenarioInputs.h"
 #include "screens/readScenario.h"
 #include "tests/support/Errors.h"
+#include "tests/support/FakeServices.h"
 #include "tests/support/Run.h"
 
 // The texts that a run starts from: whether they are all there, and the volume that follows from them.
@@ -28,7 +31,7 @@ std::string volumeOf(const std::string& acres, const std::string& inches) {
   return inputs.lblVolume;
 }
 
-TEST(LandDivisions, AreChosenByTheButtonThatIsOn) {
+TEST(LandDivisions, AreChosenByTheCheckedButton) {
   for (std::size_t i = 0; i < 6; ++i) {
     LandSplitButtons buttons{};
     buttons.at(i) = true;
@@ -49,7 +52,7 @@ TEST(GrossVolume, IsShownInWholeAcreInchesWithThousandsCommas) {
   EXPECT_EQ(volumeOf("1", "0.5"), "1");  // halves away from zero
 }
 
-TEST(GrossVolume, IsAnEmptyTextWhereItRoundsTo0) {
+TEST(GrossVolume, IsAnEmptyTextIfItRoundsTo0) {
   EXPECT_EQ(volumeOf("10", "0.04"), "");
   EXPECT_EQ(volumeOf("", "12"), "");
   EXPECT_EQ(volumeOf("100", ""), "");
@@ -57,12 +60,12 @@ TEST(GrossVolume, IsAnEmptyTextWhereItRoundsTo0) {
   EXPECT_EQ(volumeOf("abc", "12"), "");
 }
 
-TEST(GrossVolume, ReadsTheLeadingNumbersSoThatACommaEndsThem) {
+TEST(GrossVolume, ReadsItsInputsUpToAComma) {
   EXPECT_EQ(volumeOf("1,000", "12"), "12");
   EXPECT_EQ(volumeOf("100 acres", "12 in"), "1,200");
 }
 
-TEST(GrossVolume, TellsAVolumeThatIsTooLarge) {
+TEST(GrossVolume, ReportsATooLargeVolume) {
   EXPECT_THAT(errorText(ErrorNumber::overflow, [] { (void)volumeOf("1e200", "1e200"); }),
               HasSubstr("gross water volume"));
   EXPECT_THAT(errorText(ErrorNumber::overflow, [] { (void)volumeOf("1e400", "1"); }), HasSubstr("1e400"));
@@ -153,8 +156,15 @@ TEST(ProgramState, StartsWithTheDefaultsOfTheProgram) {
   EXPECT_FALSE(state.CancelRequested);
   EXPECT_FALSE(state.TrendMode);
   EXPECT_FALSE(state.TrendCancelled);
-  EXPECT_FALSE(state.FallowNegatives);
   EXPECT_EQ(state.splitCounter, 0);
+}
+
+TEST(MainPane, StartsWithFallowNegativesOff) {
+  FakeServices fakes;
+  Desk desk;
+  Window window(desk, "frmMain", Frame::Scope::transparent);
+  const MainPane pane(window, fakes.services, std::make_shared<IrrigationCosts>());
+  EXPECT_FALSE(pane.FallowNegatives);
 }
 
 }  // namespace

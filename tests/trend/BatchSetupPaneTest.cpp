@@ -89,9 +89,9 @@ TEST_F(BatchSetupPaneTest, HelpIsRaisedWithItsIndex) {
 }
 
 TEST_F(BatchSetupPaneTest, OpensForAVariableTrend) {
-  state.SelectedOption = cornAndWheat();
+  trend.SelectedOption = cornAndWheat();
   screens.mnuFallBatch_Click();
-  EXPECT_EQ(state.SelectedOption->Count(), 0);
+  EXPECT_EQ(trend.SelectedOption->Count(), 0);
   EXPECT_THAT(host.take(), ElementsAre("save", "pneBatchSetup(0)"));
   EXPECT_TRUE(state.TrendMode);
   EXPECT_THAT(setup.cboCrops.items(), ElementsAre("Corn", "Wheat"));  // the ticked rows
@@ -137,9 +137,9 @@ TEST_F(BatchSetupPaneTest, AVariableTrendAfterAFixedOneHidesTicksAndStartsAtTheF
 }
 
 TEST_F(BatchSetupPaneTest, OpensForAFixedTrend) {
-  state.SelectedOption = std::make_shared<FieldCollection>();
+  trend.SelectedOption = std::make_shared<FieldCollection>();
   for (Crop* crop : {&wheat(), &corn(), &wheat()})
-    state.SelectedOption->Add(fieldOf(*crop, 10, 4));
+    trend.SelectedOption->Add(fieldOf(*crop, 10, 4));
   screens.ShowBatchScreen();
   EXPECT_THAT(host.take(), ElementsAre("pneBatchSetup(0)"));  // nothing is saved
   EXPECT_TRUE(state.TrendMode);
@@ -169,8 +169,8 @@ TEST_F(BatchSetupPaneTest, AFixedTrendDoesNotAskForCompleteInputs) {
 }
 
 TEST_F(BatchSetupPaneTest, ABlankProcessShowsTheFirstRowsCropAndBlankFields) {
-  state.SelectedOption = std::make_shared<FieldCollection>();
-  state.SelectedOption->Add(fieldOf(wheat(), 10, 4));
+  trend.SelectedOption = std::make_shared<FieldCollection>();
+  trend.SelectedOption->Add(fieldOf(wheat(), 10, 4));
   screens.ShowBatchScreen();
   EXPECT_EQ(setup.cboCrops.text(), "Corn");  // which the option does not hold
   EXPECT_EQ(setup.cboCrops.index(), -1);

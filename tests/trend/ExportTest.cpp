@@ -143,8 +143,8 @@ TEST_F(FixedExportTest, OneProcess) {
 }
 
 TEST_F(FixedExportTest, TwoProcesses) {
-  state.SelectedOption->Remove(2);  // Corn alone: 48 or 56 bushels for 65 dollars
-  state.SelectedOption->Item(1)->acres = 37.5;
+  trend.SelectedOption->Remove(2);  // Corn alone: 48 or 56 bushels for 65 dollars
+  trend.SelectedOption->Item(1)->acres = 37.5;
   define(0, "4, 5, 6000");
   setup.cmdAddBatchProcess.click();
   define(5, "16, 20");

@@ -36,6 +36,7 @@ class FakeTrendHost : public TrendHost {
   std::vector<std::string> efficiencies;
   std::string mainInfo;
   bool isReady = true;
+  bool isTrendEnabled = false;
   std::function<void()> onRun = [] {};                ///< At the start of a run
   std::function<BestMix(const std::string&)> result;  ///< In place of a real run
 
@@ -81,6 +82,7 @@ class FakeTrendHost : public TrendHost {
     return found;
   }
   bool ready() const override { return isReady; }
+  bool trendEnabled() const override { return isTrendEnabled; }
 
   void saveInputs() override {
     log.emplace_back("save");

@@ -220,7 +220,7 @@ TEST_F(FixedTrendTest, TheSelectedOptionKeepsNoTraceOfATrend) {
   defineSecond(4, "2");
   run();
   run();
-  const FieldCollection& option = *state.SelectedOption;
+  const FieldCollection& option = *trend.SelectedOption;
   EXPECT_TRUE(option.theVariable.empty());
   EXPECT_FALSE(option.Item(1)->theCrop->inputCosts.UseBatch);
   EXPECT_FALSE(option.Item(1)->irrigCosts->UseBatch);
@@ -231,8 +231,8 @@ TEST_F(FixedTrendTest, TheSelectedOptionKeepsNoTraceOfATrend) {
 TEST_F(FixedTrendTest, ATrendOnTheResultOfATrendForgetsTheFirst) {
   define(1, "50");
   run();
-  results.theResults.onBatchThis.connect([this](const auto&) { screens.ShowBatchScreen(); });
-  state.TrendEnabled = true;
+  results.theResults.onBatchThis.connect([this](const auto& option) { screens.cmdBatchThis_Click(option); });
+  host.isTrendEnabled = true;
   results.theResults.EnableBatch(true);
   results.theResults.cmdBatchThis.click();
   define(0, "5");
@@ -246,14 +246,14 @@ TEST_F(FixedTrendTest, ASharedObjectIsNeverChanged) {
   define(0, "9");
   run();
   EXPECT_EQ(corn().price, cornPrice);
-  EXPECT_EQ(state.SelectedOption->Item(1)->theCrop->price, cornPrice);
+  EXPECT_EQ(trend.SelectedOption->Item(1)->theCrop->price, cornPrice);
   EXPECT_EQ(host.inputs.cr[0].txtPrice, "5");
 }
 
 TEST_F(FixedTrendTest, PricingTheSelectedOptionMeanwhileDoesNoHarm) {
   define(4, "1, 2");
   host.recorder.onPump = [this](int) {
-    (void)state.SelectedOption->getProfit();
+    (void)trend.SelectedOption->getProfit();
     EfficiencyFraction = 0.5;  // a run inside this one leaves its own
   };
   run();
@@ -352,7 +352,7 @@ TEST_F(FixedTrendTest, TheLargestTrendIsRun) {
 TEST_F(FixedTrendTest, ATableThatEndsBelowTheRainIsARunTimeError) {
   std::vector<std::string> told;
   desk.onRunTimeError = [&](const RunTimeError& error) { told.emplace_back(error.what()); };
-  state.SelectedOption->Item(1)->theCrop->setYieldTable(tableOf(11, {{0.1, 0.2}, {0.3, 0.4}}));
+  trend.SelectedOption->Item(1)->theCrop->setYieldTable(tableOf(11, {{0.1, 0.2}, {0.3, 0.4}}));
   define(5, "12, 20");
   run();
   EXPECT_EQ(told.size(), 1U);
@@ -369,7 +369,7 @@ TEST_F(FixedTrendTest, RunsWithoutThePanes) {
   rain.SetValueArray(readValuesList("16, 20").values);
   outcome.ProcessCollection = {price, rain};
   TrendExecution execution(host, state, outcome, "Corn");
-  EXPECT_FALSE(refuseTrend({outcome.ProcessCollection, state.SelectedOption, "Corn"}, host));
+  EXPECT_FALSE(refuseTrend({outcome.ProcessCollection, trend.SelectedOption, "Corn"}, host));
   EXPECT_TRUE(execution.runFixed());
   EXPECT_EQ(outcome.TrendOptionArray.rows(), 2U);
   EXPECT_EQ(outcome.TrendOptionArray.columns(), 2U);

@@ -82,7 +82,7 @@ class TrendTest : public ::testing::Test {
     host.take();
   }
   void openFixed() {
-    state.SelectedOption = cornAndWheat();
+    trend.SelectedOption = cornAndWheat();
     screens.ShowBatchScreen();
     host.take();
   }
