@@ -48,6 +48,8 @@ std::vector<std::string> readHead(CsvReader& table) {
 FarmRequest commonFarm(const BatchRequest& request) {
   FarmRequest farm = request.farm;
   farm.crops.clear();
+  farm.wishes.clear();  // each row has those that its crops and its land split can have
+  farm.mixes = false;
   if (!farm.keep) farm.sets.insert(farm.sets.begin(), std::string(keptOptions) + "=1");
   return farm;
 }
@@ -80,14 +82,14 @@ void requireReadable(const std::vector<std::string>& wishes, const CropNames& li
 BatchBase makeBase(const BatchRequest& request, TypedFarm& farm) {
   BatchBase base;
   base.inputs = farm.inputs();
-  base.inputs.mixes = request.mixes;
+  base.inputs.mixes = request.farm.mixes;
   base.factor = farm.state().FineFactor;
   base.library = farm.library();
   base.names = farm.cropNames();
   base.plant = farm.plant();
   base.crops = cropRows(request.farm.crops, base.names);
-  requireReadable(request.wishes, base.names);
-  base.wishes = request.wishes;
+  requireReadable(request.farm.wishes, base.names);
+  base.wishes = request.farm.wishes;
   return base;
 }
 
@@ -105,8 +107,7 @@ const CLI::App& addBatchCommand(CLI::App& app, BatchRequest& request) {
                 "The table as CSV, below a row that tells what each column sets;\n- reads standard input");
   addFarmOptions(command, request.farm);
   command.get_option("--keep")->description("How many options to keep of each farm; 1 without it");
-  addTextOption(command, "--wish", "TEXT", request.wishes, "What every plan must meet");
-  command.add_flag("--mixes", request.mixes, "Keep the best plan of each mix of crops alone");
+  addMixesOption(command, request.farm);
   command.add_option("--format", request.format, "csv or json; csv without it")
       ->type_name("FORMAT")
       ->check(CLI::IsMember({"csv", "json"}));

@@ -16,8 +16,6 @@ namespace verdalis {
 struct BatchRequest {
   std::optional<std::string> table;  ///< File, or "-" for standard input
   FarmRequest farm;
-  std::vector<std::string> wishes;
-  bool mixes = false;
   std::string format = "csv";
   std::optional<std::string> output;  ///< File in place of standard output
   std::optional<std::size_t> jobs;  ///< Rows that are worked on at the same time; as many as there are cores
