@@ -18,6 +18,8 @@ struct ReportedFarm {
   std::string txtAnnRain;  ///< Inches
   std::string txtMax;      ///< Inches
   std::string crops;       ///< The crops of the last run, as CropScenario::toString() lists them
+  std::vector<std::string> wishes = {};  ///< What every option meets, in words
+  bool mixes = false;                    ///< The options are the best of their mixes
 };
 
 /// Where the reports get the texts that are not of their options, at the moment they are printed.
