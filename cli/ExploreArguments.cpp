@@ -18,20 +18,6 @@ namespace {
 
 using Kind = FarmInput::Kind;
 
-/// The inputs by their names. That of a crop's stands in front of the crop.
-struct InputWord {
-  std::string_view word;
-  Kind kind;
-  bool ofCrop;
-};
-
-constexpr std::array<InputWord, 6> inputWords{{{"water", Kind::water, false},
-                                               {"rain", Kind::rain, false},
-                                               {"efficiency", Kind::efficiency, false},
-                                               {"fuel", Kind::fuel, false},
-                                               {"price", Kind::price, true},
-                                               {"max-yield", Kind::maxYield, true}}};
-
 /// The unit of an input for the head of a table; nothing where it depends on the crop or the fuel.
 constexpr std::string_view unitOf(Kind kind) {
   switch (kind) {
@@ -96,13 +82,13 @@ std::string cropOf(std::string_view name, const Farm& farm) {
 FarmInput inputOf(std::string_view text, const Farm& farm) {
   const std::size_t end = std::min(text.find_first_of(blanks), text.size());
   const std::string word = lowerCase(text.substr(0, end));
-  const auto found = std::find_if(inputWords.begin(), inputWords.end(),
-                                  [&](const InputWord& entry) { return entry.word == word; });
+  const auto* const found = std::find(inputWords.begin(), inputWords.end(), word);
+  const auto kind = static_cast<Kind>(found - inputWords.begin());
   const std::string_view name = trimmed(text.substr(end));
-  if (found == inputWords.end() || found->ofCrop == name.empty())
+  if (found == inputWords.end() || isOfCrop(kind) == name.empty())
     throw Refusal("There is no such input. An input is " + std::string(inputForms) + ".");
-  if (!found->ofCrop) return {found->kind, {}};
-  FarmInput input{found->kind, cropOf(name, farm)};
+  if (!isOfCrop(kind)) return {kind, {}};
+  FarmInput input{kind, cropOf(name, farm)};
   if (cropKind(input.crop) == CropKind::fallow) {
     throw Refusal(input.crop + (input.kind == Kind::price ? " has no price." : " has no maximum yield."));
   }
@@ -130,12 +116,6 @@ Farm exploredFarm(const FarmRequest& request, Messages& messages) {
   Farm farm = typed->farm();
   BestMix().setSize(farm.size);  // an evaluation without a place to keep an option fails, so each point does
   return farm;
-}
-
-std::string inputName(const FarmInput& input) {
-  const auto found = std::find_if(inputWords.begin(), inputWords.end(),
-                                  [&](const InputWord& entry) { return entry.kind == input.kind; });
-  return std::string(found->word) + (found->ofCrop ? " " + input.crop : "");
 }
 
 std::string inputTitle(const FarmInput& input) {

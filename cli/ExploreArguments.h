@@ -19,10 +19,7 @@ inline constexpr std::size_t mostPoints = 100000;
 /// \throws Refusal for what an evaluation of it would refuse, RunTimeError for numbers that make no farm
 [[nodiscard]] Farm exploredFarm(const FarmRequest& request, Messages& messages);
 
-/// How an input is named, such as "water" or "price Corn".
-[[nodiscard]] std::string inputName(const FarmInput& input);
-
-/// The same with its unit, for a table.
+/// The name of an input with its unit, for a table.
 [[nodiscard]] std::string inputTitle(const FarmInput& input);
 
 /// Reads the name of an input, in any case, and of a crop as elsewhere: exactly, else ignoring case where

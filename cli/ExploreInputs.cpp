@@ -92,6 +92,8 @@ class ExploreInputs : public ExploreQuestion {
     const double percent = by_ ? readNumber("--by", *by_) : usualPercent;
     if (!(percent > 0 && percent < 100))
       throw Refusal("--by " + generalText(percent) + ": The percentage is above 0 and below 100.");
+    const double leastWater = call.farm.grossDepth * (1 - percent / 100);
+    requireAccepted("--by", {FarmInput::Kind::water, {}}, leastWater, call.farm);
     const auto boundsOf = [&](const FarmInput& input) { return inputBounds(input, call.farm); };
     const std::optional<InputsResult> found =
         exploreInputs(call.farm, percent, boundsOf, call.state, call.hooks);

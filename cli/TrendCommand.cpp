@@ -11,7 +11,9 @@
 #include "cli/TrendCommandText.h"
 #include "cli/TrendCommandWriter.h"
 #include "cli/output.h"
+#include "cli/relaxation.h"
 #include "cli/textOptions.h"
+#include "explore/bestPlan.h"
 #include "model/EfficiencyFraction.h"
 #include "text/RunTimeError.h"
 #include "text/encoding.h"
@@ -40,6 +42,18 @@ struct Findings {
 struct Outcome {
   TextPieces text;
   Page page;
+};
+
+/// No option of a trend meets all of these wishes.
+class NoTrend : public NoPlan {
+ public:
+  NoTrend(std::vector<Wish> wishes, std::vector<Relaxation> relaxations)
+      : NoPlan(std::move(relaxations)), wishes_(std::move(wishes)) {}
+
+  [[nodiscard]] const std::vector<Wish>& wishes() const { return wishes_; }
+
+ private:
+  std::vector<Wish> wishes_;
 };
 
 /// The option of the request, from 1; 0 without one.
@@ -117,6 +131,8 @@ class TrendRun {
 
     Findings findings;
     describeSteps(outcome, findings.result);
+    requirePlan(std::all_of(findings.result.steps.begin(), findings.result.steps.end(),
+                            [](const TrendStep& step) { return step.result.options.empty(); }));
     if (request_.exportFile) {
       findings.page = makePage([&](std::string& page) {
         const TrendVariable& variable = trendVariable(processes_[0].process.VariableIndex);
@@ -133,7 +149,9 @@ class TrendRun {
     const auto options = farm_.evaluate(progress_);
     if (!options) throw Cancelled();
     Findings findings;
+    requirePlan(options->empty() || options->front()->Count() == 0);
     findings.result.evaluation = describeRun({}, farm_.state(), 0);
+    findings.result.evaluation.wishes = findings.result.wishes = wishTexts(farm_.inputs().wishes);
     reports.write(farm_.printer(), *options);
     selectOption(*options, number);
     const std::vector<std::string> crops = trend_.option->getCrops();
@@ -158,6 +176,12 @@ class TrendRun {
   }
 
  private:
+  /// \throws NoTrend for a trend that has `nothing` because of its wishes
+  void requirePlan(bool nothing) {
+    if (!nothing || farm_.inputs().wishes.empty()) return;
+    throw NoTrend(farm_.inputs().wishes, findRelaxations(farm_.farm(), farm_.state(), progress_));
+  }
+
   /// The first ticked row's crop; an empty name where none is ticked.
   [[nodiscard]] std::string firstTickedCrop() const {
     for (std::size_t row = 0; row < inputs_.rowCount(); ++row) {
@@ -221,6 +245,7 @@ class TrendRun {
 
   /// Each step is described with the efficiency of its own run.
   void describeSteps(const TrendOutcome& outcome, TrendResult& result) const {
+    result.wishes = wishTexts(farm_.inputs().wishes);
     result.variables = variablesOf(processes_);
     result.prefix = units()[0];
     result.suffix = units()[1];
@@ -232,6 +257,7 @@ class TrendRun {
       step.result.waterSplits = evaluation.waterSplits;
       step.result.cropCombinations = evaluation.cropCombinations;
       step.result.efficiency = evaluation.efficiency;
+      step.result.wishes = result.wishes;
       for (const auto& option : outcome.options(i)) {
         if (option->Count() > 0)
           step.result.options.push_back(describeOption(*option, evaluation.efficiency));
@@ -324,7 +350,13 @@ void trend(const TrendArguments& request, std::ostream& out, Messages& messages)
   Reports reports(request.reports);
   // All of the text is there before the first byte goes out.
   Outcome outcome;
-  makeOutcome(request, reports, messages, outcome);
+  try {
+    makeOutcome(request, reports, messages, outcome);
+  } catch (const NoTrend& noTrend) {
+    if (request.format == "json")
+      deliver(noPlanJson(noTrend.wishes(), noTrend.relaxations()), request.output, out);
+    throw;
+  }
   reports.deliver();
   if (request.exportFile) deliverToFile(encodeForExport(outcome.page.text), *request.exportFile);
   deliverPieces(outcome.text, request.output, out);

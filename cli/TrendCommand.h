@@ -30,7 +30,7 @@ const CLI::App& addTrendCommand(CLI::App& app, TrendArguments& request);
 
 /// One trend: its outcome goes to `out` or to the file asked for, and into the spreadsheet export. An export
 /// that cannot be worked out to its end is written as far as it came and fails the command after everything
-/// else is delivered. It saves no inputs. \throws Refusal, Cancelled, RunTimeError
+/// else is delivered. It saves no inputs. \throws Refusal, Cancelled, NoPlan, RunTimeError
 void trend(const TrendArguments& request, std::ostream& out, Messages& messages);
 
 }  // namespace verdalis

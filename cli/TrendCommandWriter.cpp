@@ -66,6 +66,7 @@ void putGridAndRanking(JsonStream& json, const TrendResult& trend) {
 void writeTrendJson(std::ostream& out, const TrendResult& trend) {
   JsonStream json(out);
   json.beginObject();
+  if (!trend.wishes.empty()) json.put("wishes", trend.wishes);
   if (trend.fixed) {
     putGridAndRanking(json, trend);
   } else {

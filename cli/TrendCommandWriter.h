@@ -47,6 +47,7 @@ struct TrendGridEntry {
 /// and the ranking.
 struct TrendResult {
   bool fixed = false;
+  std::vector<std::string> wishes;         ///< What every option that was evaluated meets
   std::vector<TrendedVariable> variables;  ///< One, or two of a fixed trend
   std::string prefix;                      ///< Of a variable trend, before its values
   std::string suffix;                      ///< And behind them

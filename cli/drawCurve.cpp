@@ -13,8 +13,9 @@ namespace verdalis {
 namespace {
 
 constexpr std::size_t lines = 8;
-constexpr std::size_t most = 80;  ///< Columns of blocks
-constexpr int eighths = 8;        ///< Of a block's height
+constexpr std::size_t least = 20;  ///< Columns of blocks, whatever the labels need
+constexpr std::size_t most = 80;
+constexpr int eighths = 8;  ///< Of a block's height
 constexpr std::array<const char*, eighths + 1> blocks{" ", "▁", "▂", "▃", "▄", "▅", "▆", "▇", "█"};
 
 /// The height of a point in eighths of a line, 1 or more so that each is seen.
@@ -31,17 +32,18 @@ int heightOf(double y, double lowest, double highest) {
 void drawCurve(std::ostream& out, const std::vector<CurvePoint>& points, std::string_view title) {
   const auto [lowest, highest] = std::minmax_element(
       points.begin(), points.end(), [](const CurvePoint& a, const CurvePoint& b) { return a.y < b.y; });
-  const std::size_t shown = std::min(points.size(), most);
-  const std::size_t width = most / shown;
+  const std::string top = dollarsText(highest->y);
+  const std::string bottom = dollarsText(lowest->y);
+  const std::size_t margin = std::max(textWidth(top), textWidth(bottom));
+  const std::size_t room = std::clamp(mostTableColumns - std::min(margin + 2, mostTableColumns), least, most);
+  const std::size_t shown = std::min(points.size(), room);
+  const std::size_t width = room / shown;
   std::vector<int> heights;
   for (std::size_t i = 0; i < shown; ++i) {
     const std::size_t point = shown < 2 ? 0 : i * (points.size() - 1) / (shown - 1);
     heights.push_back(heightOf(points[point].y, lowest->y, highest->y));
   }
 
-  const std::string top = dollarsText(highest->y);
-  const std::string bottom = dollarsText(lowest->y);
-  const std::size_t margin = std::max(textWidth(top), textWidth(bottom));
   const auto label = [&](const std::string& text) {
     return std::string(margin - textWidth(text), ' ') + text;
   };

@@ -8,7 +8,6 @@
 #include "cli/ExplorePlan.h"
 #include "cli/Interrupt.h"
 #include "cli/Messages.h"
-#include "screens/wishText.h"
 
 namespace verdalis {
 namespace {
@@ -45,14 +44,6 @@ std::vector<Relaxation> findRelaxations(const Farm& farm, ProgramState& state, R
   return std::move(*found);
 }
 
-std::vector<std::string> wishTexts(const std::vector<Wish>& wishes) {
-  std::vector<std::string> texts;
-  texts.reserve(wishes.size());
-  for (const Wish& wish : wishes)
-    texts.push_back(wishText(wish));
-  return texts;
-}
-
 Json relaxJson(const std::vector<Relaxation>& relaxations) {
   Json list = Json::array();
   for (const Relaxation& relaxation : relaxations) {
@@ -73,10 +64,11 @@ std::string noPlanJson(const std::vector<Wish>& wishes, const std::vector<Relaxa
   return std::move(text).str();
 }
 
-std::string noPlanText(const std::vector<Relaxation>& relaxations) {
-  std::string text = "No plan meets all wishes.";
-  if (relaxations.empty()) return text + " There is no candidate at all, whatever the wishes are.";
-  for (const Relaxation& relaxation : relaxations) {
+std::string noPlanText(const NoPlan& noPlan) {
+  std::string text = noPlan.what();
+  if (!noPlan.where().empty()) text += " That is for " + noPlan.where() + ".";
+  if (noPlan.relaxations().empty()) return text + " There is no candidate at all, whatever the wishes are.";
+  for (const Relaxation& relaxation : noPlan.relaxations()) {
     text += "\nWithout " + quotedList(relaxation.without) + " the best net return is " +
             dollarsText(relaxation.profit) + ".";
   }

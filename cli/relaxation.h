@@ -8,6 +8,8 @@
 #include "engine/ProgramState.h"
 #include "engine/RunHooks.h"
 #include "engine/relaxWishes.h"
+#include "explore/bestPlan.h"
+#include "screens/wishText.h"
 
 namespace verdalis {
 
@@ -17,9 +19,6 @@ namespace verdalis {
 /// \throws Cancelled, RunTimeError
 [[nodiscard]] std::vector<Relaxation> findRelaxations(const Farm& farm, ProgramState& state, RunHooks& hooks);
 
-/// The texts of wishes in their standard form.
-[[nodiscard]] std::vector<std::string> wishTexts(const std::vector<Wish>& wishes);
-
 /// The value of "relax".
 [[nodiscard]] Json relaxJson(const std::vector<Relaxation>& relaxations);
 
@@ -28,6 +27,6 @@ namespace verdalis {
                                      const std::vector<Relaxation>& relaxations);
 
 /// For a person: that no plan meets all wishes, and what to give up.
-[[nodiscard]] std::string noPlanText(const std::vector<Relaxation>& relaxations);
+[[nodiscard]] std::string noPlanText(const NoPlan& noPlan);
 
 }  // namespace verdalis

@@ -79,7 +79,7 @@ int run(const std::vector<std::string>& args, std::istream& in, std::ostream& ou
     messages.tell(refusal.what());
     return refused;
   } catch (const NoPlan& noPlan) {
-    messages.tell(noPlanText(noPlan.relaxations()));
+    messages.tell(noPlanText(noPlan));
     return failed;
   } catch (const std::exception& error) {  // a run-time error, a cancel, or no memory left
     messages.tell(error.what());

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <memory>
 
+#include "text/numbers.h"
+
 namespace verdalis {
 namespace {
 
@@ -18,9 +20,17 @@ const Crop* cropOf(const Farm& farm, const FarmInput& input) {
 
 }  // namespace
 
+std::string inputName(const FarmInput& input) {
+  const std::string word(inputWords.at(static_cast<std::size_t>(input.kind)));
+  return isOfCrop(input.kind) ? word + " " + input.crop : word;
+}
+
+std::string inputText(const FarmInput& input, double value) {
+  return inputName(input) + " " + generalText(value);
+}
+
 bool hasInput(const Farm& farm, const FarmInput& input) {
-  const bool isOfCrop = input.kind == FarmInput::Kind::price || input.kind == FarmInput::Kind::maxYield;
-  return !isOfCrop || cropOf(farm, input) != nullptr;
+  return !isOfCrop(input.kind) || cropOf(farm, input) != nullptr;
 }
 
 double valueOf(const Farm& farm, const FarmInput& input) {

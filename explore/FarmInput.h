@@ -1,6 +1,9 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "engine/Farm.h"
@@ -24,6 +27,21 @@ struct FarmInput {
 
   friend bool operator==(const FarmInput&, const FarmInput&) = default;
 };
+
+/// The word of a kind, such as "max-yield", in the order of the kinds.
+inline constexpr std::array<std::string_view, 6> inputWords{"water", "rain",  "efficiency",
+                                                            "fuel",  "price", "max-yield"};
+
+/// Whether inputs of a kind belong to a crop.
+[[nodiscard]] constexpr bool isOfCrop(FarmInput::Kind kind) {
+  return kind == FarmInput::Kind::price || kind == FarmInput::Kind::maxYield;
+}
+
+/// How an input is named, such as "water" or "price Corn".
+[[nodiscard]] std::string inputName(const FarmInput& input);
+
+/// An input with a value, such as "price Corn 6.52".
+[[nodiscard]] std::string inputText(const FarmInput& input, double value);
 
 /// Whether the farm has the input: a price or a yield needs a chosen crop of that name.
 [[nodiscard]] bool hasInput(const Farm& farm, const FarmInput& input);

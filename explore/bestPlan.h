@@ -32,14 +32,20 @@ struct Plan {
 /// No plan of the farm meets all wishes.
 class NoPlan : public std::runtime_error {
  public:
-  explicit NoPlan(std::vector<Relaxation> relaxations)
-      : std::runtime_error("No plan meets all wishes."), relaxations_(std::move(relaxations)) {}
+  explicit NoPlan(std::vector<Relaxation> relaxations, std::string where = {})
+      : std::runtime_error("No plan meets all wishes."),
+        relaxations_(std::move(relaxations)),
+        where_(std::move(where)) {}
 
   /// What to give up; best profit first.
   [[nodiscard]] const std::vector<Relaxation>& relaxations() const { return relaxations_; }
 
+  /// The inputs of the point, of several, that has none, such as "water 1.5".
+  [[nodiscard]] const std::string& where() const { return where_; }
+
  private:
   std::vector<Relaxation> relaxations_;
+  std::string where_;
 };
 
 /// The first option that an evaluation of the farm ranks, priced. Cancel is asked for by `state`, which may

@@ -18,7 +18,8 @@ constexpr std::chrono::milliseconds betweenTurns{10};
 /// What the threads share.
 class Points {
  public:
-  Points(std::size_t count, const FarmOfPoint& farmOf) : plans(count), farmOf_(farmOf), firstFailed_(count) {}
+  Points(std::size_t count, const FarmOfPoint& farmOf, const NameOfPoint& nameOf)
+      : plans(count), farmOf_(farmOf), nameOf_(nameOf), firstFailed_(count) {}
 
   std::vector<Plan> plans;
   std::atomic<bool> stopped = false;
@@ -52,8 +53,10 @@ class Points {
 
  private:
   void solve(const Farm& base, std::size_t point);
+  void fail(std::size_t point, std::exception_ptr error);
 
   const FarmOfPoint& farmOf_;
+  const NameOfPoint& nameOf_;
   std::atomic<std::size_t> next_ = 0;
   std::mutex mutex_;
   std::condition_variable changed_;
@@ -84,13 +87,19 @@ void Points::work(const Farm& base) {
     // Points are handed out in their order, so none before the first that fails is left out.
     try {
       solve(base, point);
+    } catch (const NoPlan& noPlan) {
+      fail(point, std::make_exception_ptr(NoPlan(noPlan.relaxations(), nameOf_(point))));
     } catch (...) {
-      const std::lock_guard lock(mutex_);
-      if (point >= firstFailed_) return;
-      firstFailed_ = point;
-      failure_ = std::current_exception();
+      fail(point, std::current_exception());
     }
   }
+}
+
+void Points::fail(std::size_t point, std::exception_ptr error) {
+  const std::lock_guard lock(mutex_);
+  if (point >= firstFailed_) return;
+  firstFailed_ = point;
+  failure_ = std::move(error);
 }
 
 void Points::solve(const Farm& base, std::size_t point) {
@@ -142,12 +151,14 @@ unsigned allCores() {
 }
 
 std::optional<std::vector<Plan>> bestPlans(const Farm& base, std::size_t count, const FarmOfPoint& farmOf,
-                                           ProgramState& state, RunHooks& hooks, unsigned jobs) {
+                                           const NameOfPoint& nameOf, ProgramState& state, RunHooks& hooks,
+                                           unsigned jobs) {
   const auto threads = static_cast<unsigned>(std::min<std::size_t>(std::max(jobs, 1U), count));
-  std::vector<Farm> bases;  // copying changes the crops that are copied, so no thread copies another's
+  // A farm of its own for each thread: what a crop makes at its first use is not made for several of them.
+  std::vector<Farm> bases;
   for (unsigned i = 0; i < threads; ++i)
     bases.push_back(base.Copy());
-  Points points(count, farmOf);
+  Points points(count, farmOf, nameOf);
   {
     const std::vector<std::jthread> workers = startThreads(points, bases);
     const StopAtEnd stop(points);

@@ -26,9 +26,13 @@ std::optional<InputMap> exploreMap(const Farm& farm, const MapAxis& x, const Map
     setInput(changed, y.input, y.values[point / columns]);
     return changed;
   };
+  const NameOfPoint nameOf = [&](std::size_t point) {
+    return inputText(x.input, x.values[point % columns]) + ", " +
+           inputText(y.input, y.values[point / columns]);
+  };
   hooks.showProgress("Exploring a Map");
   hooks.setProgress(static_cast<double>(count), "");
-  const std::optional<std::vector<Plan>> plans = bestPlans(farm, count, farmOf, state, hooks, jobs);
+  const std::optional<std::vector<Plan>> plans = bestPlans(farm, count, farmOf, nameOf, state, hooks, jobs);
   if (!plans) return std::nullopt;
   hooks.closeProgress();
 

@@ -66,9 +66,14 @@ std::optional<InputsResult> exploreInputs(const Farm& farm, double percent,
     const InputEffect& effect = result.inputs[(point - 1) / 2];
     return withInput(base, effect.input, point % 2 == 1 ? effect.low : effect.high);
   };
+  const NameOfPoint nameOf = [&](std::size_t point) {
+    if (point == 0) return std::string("the farm as it stands");
+    const InputEffect& effect = result.inputs[(point - 1) / 2];
+    return inputText(effect.input, point % 2 == 1 ? effect.low : effect.high);
+  };
   hooks.showProgress("Exploring Inputs");
   hooks.setProgress(static_cast<double>(count), "");
-  std::optional<std::vector<Plan>> plans = bestPlans(farm, count, farmOf, state, hooks, jobs);
+  std::optional<std::vector<Plan>> plans = bestPlans(farm, count, farmOf, nameOf, state, hooks, jobs);
   if (!plans) return std::nullopt;
   hooks.closeProgress();
 

@@ -56,7 +56,8 @@ std::optional<WaterResult> exploreWater(const Farm& farm, const std::vector<doub
   const FarmOfPoint farmOf = [&](const Farm& base, std::size_t point) {
     return point == 0 ? base.Copy() : withInput(base, water, all[point]);
   };
-  std::optional<std::vector<Plan>> plans = bestPlans(farm, all.size(), farmOf, state, hooks, jobs);
+  const NameOfPoint nameOf = [&](std::size_t point) { return inputText(water, all[point]); };
+  std::optional<std::vector<Plan>> plans = bestPlans(farm, all.size(), farmOf, nameOf, state, hooks, jobs);
   if (!plans) return std::nullopt;
 
   WaterResult result;

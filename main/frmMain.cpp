@@ -9,6 +9,7 @@
 #include "main/SavedInputsControls.h"
 #include "screens/RunScenario.h"
 #include "screens/modInputTest.h"
+#include "screens/wishText.h"
 #include "text/RunTimeError.h"
 #include "text/encoding.h"
 
@@ -39,12 +40,14 @@ frmMain::frmMain(Desk& desk, Services& services, ProgramState& state, SecondaryW
       theDetails(pneDetails, "theDetails", state),
       pneSummary(*this, services, summaryResults, {[this] { return pneMain.txtAnnRain.text(); }, writeFile}),
       pneCustomCrop(*this, services, files.home / "crops" / "custom"),
-      thePrinter(services.printer, {[this] {
-                                      return ReportedFarm{pneMain.txtArea.text(), pneMain.txtEff.text(),
-                                                          pneMain.txtAnnRain.text(), pneMain.txtMax.text(),
-                                                          state_.cs.toString()};
-                                    },
-                                    [this] { return services_.clock.now(); }}),
+      thePrinter(services.printer,
+                 {[this] {
+                    return ReportedFarm{
+                        pneMain.txtArea.text(), pneMain.txtEff.text(), pneMain.txtAnnRain.text(),
+                        pneMain.txtMax.text(),  state_.cs.toString(),  wishTexts(pneMain.wishes),
+                        pneMain.mixes};
+                  },
+                  [this] { return services_.clock.now(); }}),
       trendHost(*this, windows, services.eventPump, files.home),
       trends(*this, services, state, trendHost),
       services_(services),

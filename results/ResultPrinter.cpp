@@ -36,6 +36,15 @@ void writeFarm(PageSurface& page, const ReportedFarm& farm) {
   page.setCurrentX(stops[0]);
   write.pair("Crops to Evaluate: ", farm.crops);
   write.endLine();
+  for (const std::string& wish : farm.wishes) {
+    page.setCurrentX(stops[0]);
+    write.pair("Wish: ", wish);
+    write.endLine();
+  }
+  if (!farm.mixes) return;
+  page.setCurrentX(stops[0]);
+  write.pair("Options: ", "of each mix of acres and crops the best alone");
+  write.endLine();
 }
 
 void writeHeadings(PageSurface& page) {

@@ -18,6 +18,8 @@ struct ReportedFarm {
   std::string txtAnnRain;  ///< Inches
   std::string txtMax;      ///< Inches
   std::string crops;       ///< The crops of the last run, as CropScenario::toString() lists them
+  std::vector<std::string> wishes = {};  ///< What every option meets, in words
+  bool mixes = false;                    ///< The options are the best of their mixes
 };
 
 /// Provides the report texts that do not come from the options, when a report is printed.

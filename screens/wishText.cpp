@@ -233,6 +233,14 @@ std::string wishText(const Wish& wish) {
   return "at most " + counted(wish.amount, "crop", "crops");
 }
 
+std::vector<std::string> wishTexts(const std::vector<Wish>& wishes) {
+  std::vector<std::string> texts;
+  texts.reserve(wishes.size());
+  for (const Wish& wish : wishes)
+    texts.push_back(wishText(wish));
+  return texts;
+}
+
 void addWish(std::vector<Wish>& wishes, const Wish& wish) {
   if (std::find(wishes.begin(), wishes.end(), wish) != wishes.end()) return;
   if (wishes.size() == mostWishes) refuse("At most " + std::to_string(mostWishes) + " wishes can be made.");

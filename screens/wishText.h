@@ -23,6 +23,9 @@ struct WishContext {
 /// The standard form of a wish: as it is written, with plurals by number and general number text.
 [[nodiscard]] std::string wishText(const Wish& wish);
 
+/// The same of each.
+[[nodiscard]] std::vector<std::string> wishTexts(const std::vector<Wish>& wishes);
+
 /// Adds a wish unless it stands there already. \throws std::invalid_argument for one too many
 void addWish(std::vector<Wish>& wishes, const Wish& wish);
 

@@ -60,6 +60,9 @@ TEST(ExploreRefusal, APercentageLiesBetween) {
   const StockHome home;
   for (const char* percent : {"0", "100", "-1", "1000", "ten"})
     EXPECT_TRUE(has(refused(home, {"explore", "inputs"}, {"--by", percent}), "--by"));
+  // 1 acre-inch, and half of it less than rounds up.
+  const Args little{"--set", "txtArea=1", "--set", "txtMax=0.9", "--by", "50"};
+  EXPECT_TRUE(has(refused(home, {"explore", "inputs"}, little), "1 ac-in"));
 }
 
 TEST(ExploreRefusal, AMapNeedsTwoInputs) {

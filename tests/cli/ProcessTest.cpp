@@ -75,6 +75,14 @@ Args plainFarm(const SmallHome& home, const Args& more = {}) {
   return args;
 }
 
+/// The same farm in `explore`.
+Args plainQuestion(const SmallHome& home, const std::string& question, const Args& more = {}) {
+  Args args = plainFarm(home, more);
+  args.front() = "explore";
+  args.insert(args.begin() + 1, question);
+  return args;
+}
+
 const std::string plainCsv =
     "option,field,crop,acres,net_inches,gross_inches,yield,yield_unit,price,max_yield,soil,costs,return,"
     "profit,"
@@ -186,13 +194,15 @@ TEST(Process, WithoutAUserHasNoHomeFolder) {
 TEST(Process, CtrlCCancelsARun) {
   const SmallHome home;
   const std::string file = (home.folder() / "result").string();
-  for (const Args& more : {Args{}, Args{"--output", file}}) {
+  const Args map{"--x", "water=1:10:100", "--y", "price Plain=1:2:100", "--output", file};
+  for (const Args& args : {plainFarm(home), plainFarm(home, {"--output", file}), plainQuestion(home, "water"),
+                           plainQuestion(home, "map", map), plainQuestion(home, "seasons")}) {
     sigset_t interrupt{};
     sigset_t before{};
     sigemptyset(&interrupt);
     sigaddset(&interrupt, SIGINT);
     ::pthread_sigmask(SIG_BLOCK, &interrupt, &before);
-    const CliResult result = runProcess(plainFarm(home, more), {}, "", [] { ::raise(SIGINT); });
+    const CliResult result = runProcess(args, {}, "", [] { ::raise(SIGINT); });
     ::pthread_sigmask(SIG_SETMASK, &before, nullptr);
     EXPECT_EQ(result.exitCode, 1);
     EXPECT_EQ(result.out, "");
@@ -240,16 +250,16 @@ TEST(Process, CtrlCAtAnyTimeLeavesNoPartialResult) {
   }
 }
 
-/// The program with its standard error on a pseudo terminal.
+/// The program with its standard error on a pseudo terminal, and with `outToo` its standard output.
 class OnTerminal {
  public:
-  explicit OnTerminal(const Args& args) {
+  explicit OnTerminal(const Args& args, bool outToo = false) {
     int slave = -1;
     if (::openpty(&master_, &slave, nullptr, nullptr, nullptr) != 0) return;
     child_ = ::fork();
     if (child_ == 0) {
       ::close(master_);
-      become(args, {}, ::open(out().c_str(), O_WRONLY | O_CREAT, 0600), slave);
+      become(args, {}, outToo ? slave : ::open(out().c_str(), O_WRONLY | O_CREAT, 0600), slave);
     }
     ::close(slave);
   }
@@ -299,6 +309,21 @@ TEST(Process, AShortRunShowsNoProgressOnATerminal) {
   EXPECT_EQ(result.exitCode, 0);
   EXPECT_EQ(result.err, "");
   EXPECT_EQ(result.out, plainCsv);
+}
+
+TEST(Process, TheWorthOfWaterIsDrawnOnATerminalAlone) {
+  const SmallHome home;
+  const Args args = plainQuestion(home, "water");
+  const std::string block = "█";
+  OnTerminal drawn(args, true);
+  if (!drawn.runs()) GTEST_SKIP() << "the system has no terminals: /dev/pts is not mounted";
+  EXPECT_NE(drawn.finish().err.find(block), std::string::npos);
+  OnTerminal file(args);
+  EXPECT_EQ(file.finish().out.find(block), std::string::npos);
+  Args csv = args;
+  csv.insert(csv.end(), {"--format", "csv"});
+  OnTerminal rows(csv, true);
+  EXPECT_EQ(rows.finish().err.find(block), std::string::npos);
 }
 
 }  // namespace

@@ -111,6 +111,56 @@ TEST(Wish, WhatIsWrongIsTold) {
   EXPECT_EQ(home.run({"evaluate"}, many).exitCode, 0);
 }
 
+TEST(Wish, TheReportNamesIt) {
+  const StockHome home;
+  const std::string report = (home.folder() / "report.txt").string();
+  EXPECT_EQ(home.run({"evaluate"}, {"--wish", "field 1 is corn", "--report", report}).exitCode, 0);
+  EXPECT_TRUE(has(bytesOf(report), "Wish: field 1 is Corn\n")) << bytesOf(report);
+  EXPECT_EQ(home.run({"evaluate"}, {"--report", report}).exitCode, 0);
+  EXPECT_FALSE(has(bytesOf(report), "Wish"));
+}
+
+TEST(Wish, AVariableTrendObeysIt) {
+  const StockHome home;
+  const Args trend{"--variable", "5", "--values", "15,18", "--keep", "4"};
+  Args wished = trend;
+  wished.insert(wished.end(), {"--wish", "field 1 is wheat"});
+  const json steps = home.json({"trend"}, wished);
+  EXPECT_EQ(steps["wishes"], json({"field 1 is Wheat"}));
+  EXPECT_FALSE(home.json({"trend"}, trend).contains("wishes"));
+  for (std::size_t i = 0; i < 2; ++i) {
+    const json evaluated = home.json({"evaluate"}, {"--keep", "4", "--wish", "field 1 is wheat", "--set",
+                                                    i == 0 ? "txtAnnRain=15" : "txtAnnRain=18"});
+    EXPECT_EQ(steps["steps"][i]["options"], evaluated["options"]);
+    EXPECT_EQ(steps["steps"][i]["options"][0]["fields"][0]["crop"], "Wheat");
+  }
+  EXPECT_TRUE(has(home.run({"trend"}, wished).out, "Wish: field 1 is Wheat\n"));
+}
+
+TEST(Wish, AFixedTrendTakesItsOptionFromThoseThatMeetIt) {
+  const StockHome home;
+  const json result = home.json(
+      {"trend"}, {"--option", "2", "--variable", "4", "--values", "15", "--wish", "field 1 is wheat"});
+  EXPECT_EQ(result["wishes"], json({"field 1 is Wheat"}));
+  EXPECT_EQ(result["grid"][0]["option"]["fields"][0]["crop"], "Wheat");
+}
+
+TEST(Wish, ATrendWithoutAPlanTellsWhatToGiveUp) {
+  const StockHome home;
+  for (const Args& kind : std::vector<Args>{{"--values", "15,16"}, {"--values", "15", "--option", "1"}}) {
+    Args trend{"--variable", "4", "--wish", "field 1 is Wheat", "--wish", "Wheat at most 1 acre"};
+    trend.insert(trend.end(), kind.begin(), kind.end());
+    const CliResult table = home.run({"trend"}, trend);
+    EXPECT_EQ(table.exitCode, 1);
+    EXPECT_EQ(table.out, "");
+    EXPECT_TRUE(has(table.err, "No plan meets all wishes.")) << table.err;
+    trend.insert(trend.end(), {"--format", "json"});
+    const json told = json::parse(home.run({"trend"}, trend).out);
+    EXPECT_EQ(told["options"], json::array());
+    EXPECT_EQ(told["relax"].size(), 2);
+  }
+}
+
 TEST(Wish, AWishNeedsTheFarmToBeComplete) {
   const StockHome home;
   const CliResult result = runCli({"evaluate", "--home", home.path(), "--wish", "field 1 is Corn"});

@@ -72,6 +72,21 @@ TEST_F(ResultPrinterTest, WithoutOptionsOnlyHeadingAndNoteArePrinted) {
   EXPECT_THAT(printed(), ElementsAreArray(join(head, note)));
 }
 
+TEST_F(ResultPrinterTest, PrintsWishesAndMixesBelowTheCrops) {
+  farm.wishes = {"Corn at least 40 acres", "field 1 is not Wheat"};
+  farm.mixes = true;
+  const Operations wished{"@0 9b |Wish: |",
+                          "9 |Corn at least 40 acres|",
+                          "9 ||/",
+                          "@0 9b |Wish: |",
+                          "9 |field 1 is not Wheat|",
+                          "9 ||/",
+                          "@0 9b |Options: |",
+                          "9 |of each mix of acres and crops the best alone|",
+                          "9 ||/"};
+  EXPECT_THAT(printed(), ElementsAreArray(join(join(head, wished), note)));
+}
+
 TEST_F(ResultPrinterTest, PrintsAnOption) {
   printer.setCollection(
       {optionOf({plainField(75, 1500, 200, 8.5, "Corn"), plainField(25.5, 100.5, 300.25)})});

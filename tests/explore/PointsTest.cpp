@@ -1,0 +1,281 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <set>
+#include <string>
+
+#include "explore/inputMap.h"
+#include "explore/inputs.h"
+#include "explore/water.h"
+#include "tests/explore/SmallFarm.h"
+#include "text/RunTimeError.h"
+
+// Questions that put many points to the search: each is the best plan of a farm with that input, whatever the
+// number of threads.
+
+namespace verdalis {
+namespace {
+
+using testing::smallFarm;
+using testing::twoCropFarm;
+using Kind = FarmInput::Kind;
+
+constexpr unsigned manyJobs = 5;
+
+/// Counts the steps, and cancels at one of them.
+class Steps : public RunHooks {
+ public:
+  explicit Steps(ProgramState& state, int cancelAt = -1) : state_(state), cancelAt_(cancelAt) {}
+  void setProgress(double steps, const std::string& /*description*/) override { announced = steps; }
+  void update() override {
+    if (++done == cancelAt_) state_.CancelRequested = true;
+  }
+
+  double announced = 0;
+  int done = 0;
+
+ private:
+  ProgramState& state_;
+  int cancelAt_;
+};
+
+std::string numberOf(std::size_t point) {
+  return "point " + std::to_string(point);
+}
+
+std::string describe(const Plan& plan) {
+  std::string text = std::to_string(plan.profit);
+  for (const PlannedField& field : plan.fields)
+    text += " " + field.crop + std::to_string(field.acres) + "/" + std::to_string(field.netDepth);
+  return text;
+}
+
+void expectSame(const Plan& a, const Plan& b) {
+  EXPECT_EQ(a.profit, b.profit);
+  EXPECT_EQ(describe(a), describe(b));
+}
+
+Plan planAt(const Farm& farm, const FarmInput& input, double value) {
+  ProgramState state;
+  RunHooks hooks;
+  return bestPlan(withInput(farm, input, value), state, hooks).value();
+}
+
+TEST(BestPlans, AreThoseOfOneThread) {
+  for (std::uint64_t seed = 1; seed <= 30; ++seed) {
+    const Farm farm = smallFarm(seed);
+    if (farm.crops.Count() == 0) continue;
+    const std::vector<double> amounts = evenValues(1, 25, 13);
+    const FarmOfPoint farmOf = [&](const Farm& base, std::size_t point) {
+      return withInput(base, {Kind::water, {}}, amounts[point]);
+    };
+    const auto plansWith = [&](unsigned jobs) {
+      ProgramState state;
+      Steps hooks(state);
+      auto plans = bestPlans(farm, amounts.size(), farmOf, numberOf, state, hooks, jobs);
+      EXPECT_EQ(hooks.done, 13);
+      return plans;
+    };
+    try {
+      const auto alone = plansWith(1);
+      const auto together = plansWith(manyJobs);
+      for (std::size_t i = 0; i < amounts.size(); ++i) {
+        expectSame((*alone)[i], (*together)[i]);
+        expectSame((*alone)[i], planAt(farm, {Kind::water, {}}, amounts[i]));
+      }
+    } catch (const std::exception& error) {  // a farm that cannot be evaluated, or that has no candidate
+      EXPECT_ANY_THROW(static_cast<void>(plansWith(manyJobs))) << error.what();
+    }
+  }
+}
+
+TEST(BestPlans, TheFirstPointThatFailsIsTold) {
+  const Farm farm = twoCropFarm();
+  for (unsigned jobs = 1; jobs <= manyJobs; ++jobs) {
+    ProgramState state;
+    RunHooks hooks;
+    const FarmOfPoint farmOf = [&](const Farm& base, std::size_t point) {
+      return withInput(base, {Kind::rain, {}}, point < 30 ? 16 : static_cast<double>(point));
+    };
+    try {
+      static_cast<void>(bestPlans(farm, 60, farmOf, numberOf, state, hooks, jobs));
+      ADD_FAILURE() << "30 inches of rain are outside the yield tables";
+    } catch (const RunTimeError& error) {
+      EXPECT_NE(std::string(error.what()).find("rainfall 30 "), std::string::npos) << error.what();
+    }
+  }
+}
+
+TEST(BestPlans, ACancelEndsThem) {
+  const Farm farm = twoCropFarm();
+  const FarmOfPoint farmOf = [](const Farm& base, std::size_t /*point*/) { return base.Copy(); };
+  for (const unsigned jobs : {1U, manyJobs}) {
+    ProgramState state;
+    Steps hooks(state, 3);
+    EXPECT_FALSE(bestPlans(farm, 100000, farmOf, numberOf, state, hooks, jobs));
+    EXPECT_LT(hooks.done, 100000);
+  }
+}
+
+TEST(BestPlans, AFailureOfTheHooksEndsThem) {
+  class Failing : public RunHooks {
+    void pumpEvents() override { throw std::runtime_error("no events"); }
+  };
+  const Farm farm = twoCropFarm();
+  ProgramState state;
+  Failing hooks;
+  const FarmOfPoint farmOf = [](const Farm& base, std::size_t /*point*/) { return base.Copy(); };
+  EXPECT_THROW(static_cast<void>(bestPlans(farm, 100000, farmOf, numberOf, state, hooks, 2)),
+               std::runtime_error);
+}
+
+TEST(ExploreWater, TheUsualAmountsAreWater) {
+  Farm farm = twoCropFarm();
+  EXPECT_EQ(usualAmounts(farm).size(), 20);
+  EXPECT_EQ(usualAmounts(farm).back(), 24);
+  farm.acres = 0.3;
+  farm.takeWater(4);
+  // 0.12 to 2.4 acre-inches by 0.12: those of half an acre-inch and more.
+  EXPECT_EQ(usualAmounts(farm).size(), 16);
+  for (const double gross : usualAmounts(farm))
+    EXPECT_TRUE(isWater(farm, gross));
+  EXPECT_FALSE(isWater(farm, 0));
+}
+
+TEST(ExploreWater, MostIsTheFirstOfTheHighest) {
+  ProgramState state;
+  Steps hooks(state);
+  // The same amount twice, so two points have the highest profit.
+  const auto result = exploreWater(twoCropFarm(), {2, 12, 12, 3}, state, hooks);
+  ASSERT_TRUE(result);
+  EXPECT_EQ(result->most, 1);
+  EXPECT_EQ(hooks.announced, hooks.done);
+}
+
+TEST(ExploreWater, AWishThatNeedsTheLastInchLeavesItWithoutAWorth) {
+  Farm farm = twoCropFarm();
+  Wish wish;
+  wish.kind = Wish::Kind::depthAtLeast;
+  wish.field = 1;
+  wish.amount = 47.5;  // of 48 inches that the whole water is on a quarter of the farm
+  farm.wishes = {wish};
+  ProgramState state;
+  RunHooks hooks;
+  const auto result = exploreWater(farm, {12, 13}, state, hooks);
+  ASSERT_TRUE(result);
+  EXPECT_FALSE(result->lastInch);
+  try {
+    static_cast<void>(exploreWater(farm, {13, 11.5, 10}, state, hooks));
+    ADD_FAILURE() << "11.5 inches are not enough";
+  } catch (const NoPlan& noPlan) {
+    EXPECT_EQ(noPlan.where(), "water 11.5");
+    EXPECT_EQ(noPlan.relaxations().size(), 1);
+  }
+}
+
+TEST(ExploreInputs, EachCropHasItsInputsOnce) {
+  Farm farm = twoCropFarm();
+  farm.crops.Add(std::make_shared<Crop>(testing::fallowCrop()));
+  farm.crops.Add(std::make_shared<Crop>(testing::cornCrop()));
+  const std::vector<FarmInput> expected{
+      {Kind::water, {}},     {Kind::rain, {}},         {Kind::efficiency, {}}, {Kind::fuel, {}},
+      {Kind::price, "Corn"}, {Kind::maxYield, "Corn"}, {Kind::price, "Wheat"}, {Kind::maxYield, "Wheat"}};
+  EXPECT_EQ(inputsOf(farm), expected);
+}
+
+TEST(ExploreInputs, EachEndIsThatFarm) {
+  for (std::uint64_t seed = 40; seed < 60; ++seed) {
+    const Farm farm = smallFarm(seed);
+    ProgramState state;
+    Steps hooks(state);
+    std::optional<InputsResult> result;
+    const auto bounds = [](const FarmInput& input) {
+      return input.kind == Kind::efficiency ? InputBounds{0, 90} : InputBounds{};
+    };
+    try {
+      result = exploreInputs(farm, 7.5, bounds, state, hooks, manyJobs);
+    } catch (const std::exception&) {
+      continue;
+    }
+    ASSERT_TRUE(result);
+    EXPECT_EQ(hooks.done, hooks.announced);
+    for (const InputEffect& effect : result->inputs) {
+      EXPECT_EQ(effect.profitLow, planAt(farm, effect.input, effect.low).profit);
+      EXPECT_EQ(effect.profitHigh, planAt(farm, effect.input, effect.high).profit);
+      EXPECT_LE(effect.low, effect.high);
+      EXPECT_TRUE(effect.input.kind != Kind::efficiency || effect.high <= 90);
+      EXPECT_TRUE(effect.input.kind != Kind::rain || effect.low >= 11);
+    }
+  }
+}
+
+TEST(ExploreInputs, EqualChangesKeepTheOrderOfTheInputs) {
+  // Crops that bring in nothing but a fixed income: water, rain and yields change nothing.
+  Farm farm = twoCropFarm();
+  farm.crops = CropScenario();
+  farm.crops.Add(std::make_shared<Crop>(testing::namedCrop("Rest")));
+  farm.crops.Item(1)->setYieldTable(testing::tableOf(11, {std::vector<double>(11, 0)}));
+  farm.plant.active = false;
+  ProgramState state;
+  RunHooks hooks;
+  const auto result = exploreInputs(
+      farm, 10, [](const FarmInput&) { return InputBounds(); }, state, hooks);
+  ASSERT_TRUE(result);
+  std::vector<FarmInput> told;
+  for (const InputEffect& effect : result->inputs) {
+    told.push_back(effect.input);
+    EXPECT_FALSE(effect.changesPlan);
+  }
+  EXPECT_EQ(told, inputsOf(farm));
+}
+
+TEST(ExploreMap, EachPointIsThatFarmAndEachMixStandsOnce) {
+  const Farm farm = twoCropFarm();
+  const MapAxis x{{Kind::price, "Corn"}, evenValues(2, 8, 4)};
+  const MapAxis y{{Kind::rain, {}}, evenValues(12, 20, 3)};
+  ProgramState state;
+  Steps hooks(state);
+  const auto map = exploreMap(farm, x, y, state, hooks, manyJobs);
+  ASSERT_TRUE(map);
+  EXPECT_EQ(hooks.done, 12);
+  for (std::size_t row = 0; row < 3; ++row) {
+    for (std::size_t column = 0; column < 4; ++column) {
+      const Plan plan = planAt(withInput(farm, y.input, y.values[row]), x.input, x.values[column]);
+      EXPECT_EQ(map->profit[map->at(row, column)], plan.profit);
+      EXPECT_EQ(map->mixes[map->mix[map->at(row, column)]], mixOf(plan));
+    }
+  }
+  std::size_t newest = 0;
+  for (const std::size_t mix : map->mix) {
+    EXPECT_LE(mix, newest);
+    if (mix == newest) ++newest;
+  }
+  EXPECT_EQ(newest, map->mixes.size());
+  for (std::size_t i = 0; i < map->mixes.size(); ++i)
+    EXPECT_EQ(std::count(map->mixes.begin(), map->mixes.end(), map->mixes[i]), 1);
+}
+
+TEST(ExploreMap, AYieldAndTheRainScaleACropInEitherOrder) {
+  const Farm farm = twoCropFarm();
+  const MapAxis yield{{Kind::maxYield, "Corn"}, {150, 250}};
+  const MapAxis rain{{Kind::rain, {}}, {12, 20}};
+  ProgramState state;
+  RunHooks hooks;
+  const auto one = exploreMap(farm, yield, rain, state, hooks);
+  const auto other = exploreMap(farm, rain, yield, state, hooks);
+  for (std::size_t i = 0; i < 2; ++i) {
+    for (std::size_t j = 0; j < 2; ++j)
+      EXPECT_EQ(one->profit[one->at(i, j)], other->profit[other->at(j, i)]);
+  }
+}
+
+TEST(Mix, DoesNotHeedTheOrderOfTheFields) {
+  const Plan a{1, {{40, "Wheat", 0, 0, 0}, {40, "Corn", 5, 6, 7}, {80, "Corn", 0, 0, 0}}};
+  const Plan b{2, {{80, "Corn", 1, 2, 3}, {40, "Wheat", 0, 0, 0}, {40, "Corn", 0, 0, 0}}};
+  EXPECT_EQ(mixOf(a), mixOf(b));
+  EXPECT_EQ(mixOf(a), (Mix{{80, "Corn"}, {40, "Corn"}, {40, "Wheat"}}));
+}
+
+}  // namespace
+}  // namespace verdalis
