@@ -17,9 +17,9 @@
 namespace verdalis {
 namespace {
 
-void writeJson(std::ostream& out, const SwitchAnswer& answer) {
+void writeJson(std::ostream& out, const Farm& farm, const SwitchAnswer& answer) {
   JsonStream json(out);
-  json.beginObject();
+  beginAnswer(json, farm);
   json.put("input", inputName(answer.input));
   json.put("now", jsonNumber(answer.now));
   json.beginList("segments");
@@ -66,7 +66,7 @@ class ExploreSwitch : public ExploreQuestion {
     const SwitchAnswer result{input, unitOf(input, call.farm), valueOf(call.farm, input),
                               answered(switchPrices(call.farm, input, from, to, call.state, call.hooks))};
     if (call.format == "json") {
-      writeJson(out, result);
+      writeJson(out, call.farm, result);
     } else if (call.format == "csv") {
       writeCsv(out, result);
     } else {

@@ -102,6 +102,17 @@ TEST(ExploreSwitch, ShowsAsManyDecimalsAsTellTheValuesApart) {
   EXPECT_THAT(result.out, HasSubstr("Below $4.000:"));
 }
 
+TEST(ExploreSwitch, TellsTheWishesThatItObeys) {
+  const SmallHome home;
+  Args wished = asked("price Plain", "1", "9", "json");
+  EXPECT_FALSE(jsonOf(switchOf(home, wished)).contains("wishes"));
+  wished.insert(wished.end(), {"--wish", "FIELD 1 is plain"});
+  const json result = jsonOf(switchOf(home, wished));
+  EXPECT_EQ(result["wishes"], json::parse(R"(["field 1 is Plain"])"));
+  for (const json& segment : result["segments"])
+    EXPECT_EQ(segment["fields"][0]["crop"], "Plain");
+}
+
 TEST(ExploreSwitch, RefusesWhatItCannotAnswer) {
   const SmallHome home;
   const auto expectRefusal = [&](const Args& more, const std::string& why) {
