@@ -131,7 +131,7 @@ class CustomCropPaste : public CustomCropEditor {
     pane.cmdCustomGrid0.click();
   }
 
-  /// The data cells after pasting, a row a text.
+  /// The data cells after pasting, one text per row.
   Strings pasted(const std::string& text) {
     fakes.clipboard.contents = text;
     pane.cmdCustomGrid4.click();
@@ -195,7 +195,7 @@ TEST_F(CustomCropPaste, NotifiesTheViewOnce) {
   EXPECT_EQ(changes, 1);
 }
 
-// Ten megabytes of each kind that could make a paste take long.
+// Ten megabytes of each kind of text that could make pasting slow.
 TEST_F(CustomCropPaste, AHugeClipboardIsCutToTheGrid) {
   constexpr std::size_t size = 10U << 20U;
   const std::string digits(size, '7');

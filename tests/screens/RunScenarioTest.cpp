@@ -174,7 +174,7 @@ TEST_F(Run, RanksTheLastSubmittedFirstAmongEquals) {
     EXPECT_EQ(option->getProfit(), 500);
     order.push_back(cropsOf(*option) + (option->Item(1)->Depth > 0 ? " / first" : " / second"));
   }
-  // Water split outside, crops inside, both falling: the first submission stands last.
+  // Water splits outside, crops inside, both descending: the first submission is last.
   EXPECT_THAT(order, ElementsAre("A, A / second", "A, B / second", "B, A / second", "B, B / second",
                                  "A, A / first", "A, B / first", "B, A / first", "B, B / first"));
   farm->inputs.txtArraySize = "1";
