@@ -185,7 +185,7 @@ void frmMain::wirePanes() {
   });
   pneMain.onInputCosts.connect([this](CropRecord& row) {
     if (row.Crop) showPane(pneInputCosts);
-    pneInputCosts.open(row.Crop);  // tells that there is no crop
+    pneInputCosts.open(row.Crop);  // throws if there is no crop
   });
   pneMain.onHelp.connect(help);
   pneInputCosts.onHelp.connect(help);
@@ -229,7 +229,7 @@ void frmMain::wireOptions(Results& results) {
   results.onSaveOption.connect([this](const Results::Option& option) { summaryResults.push_back(option); });
   results.onBatchThis.connect([this](const Results::Option& option) { trends.cmdBatchThis_Click(option); });
   results.onDetails.connect([this](const std::shared_ptr<Field>& field) {
-    theDetails.loadCosts(*field);  // a field that it cannot price leaves the options on show
+    theDetails.loadCosts(*field);  // if this throws, the options stay visible
     showPane(pneDetails);
   });
   results.onHelpTopic.connect([this](const std::string& topic) { showHelpTopic(services_.help, topic); });

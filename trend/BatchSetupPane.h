@@ -80,12 +80,14 @@ class BatchSetupPane : public Frame {
   Event<int> onHelp;
 
   /// Opens the pane for a fixed or a variable trend, depending on the selected option. Refuses a variable
-  /// trend with incomplete inputs. \throws RunTimeError
+  /// trend with incomplete inputs.
+  /// \throws RunTimeError
   void ShowBatchScreen();
 
   /// Reads the pane into a new process. Without `validate` the range, the file and the list may be empty.
   /// \returns nothing if the values are refused, or the variable belongs to a crop and no row has a crop of
-  /// that name; a message has been shown then \throws RunTimeError for numbers that are too large
+  /// that name; a message has been shown then.
+  /// \throws RunTimeError for numbers that are too large
   [[nodiscard]] std::optional<BatchProcess> GetBatchProcess(const std::string& cropName, bool validate);
 
   /// Whether the pane contains a valid process. Shows a message if not.

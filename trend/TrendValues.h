@@ -34,7 +34,8 @@ struct TrendRange {
 
 /// Values evenly spread from the minimum to the maximum. With `validate`, the maximum must be above the
 /// minimum and must not be 0, even if the minimum is negative; this is intended. Fewer than two values are
-/// always refused. \throws RunTimeError (overflow) for numbers that are too large
+/// always refused.
+/// \throws RunTimeError (overflow) for numbers that are too large
 [[nodiscard]] TrendReading readRange(const TrendRange& range, bool validate = true);
 
 /// The values of a comma-delimited file, as texts. In this format a line end does not separate values: lines

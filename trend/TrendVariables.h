@@ -45,7 +45,8 @@ inline constexpr std::size_t trendVariableCount = 6;
 [[nodiscard]] const std::array<TrendVariable, trendVariableCount>& trendVariables();
 
 /// A variable: 0 price, 1 production costs, 2 maximum yield (these three of a crop), 3 efficiency, 4
-/// irrigation costs, 5 rainfall. \throws RunTimeError (subscript) for another index
+/// irrigation costs, 5 rainfall.
+/// \throws RunTimeError (subscript) for another index
 [[nodiscard]] const TrendVariable& trendVariable(double index);
 
 inline constexpr std::int16_t rainVariable = 5;

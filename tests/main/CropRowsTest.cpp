@@ -192,7 +192,7 @@ TEST_F(CropRows, DefaultsOnlyTurnOnTheOptimalRatesOfOtherCustomCrops) {
   MainPane& pane = start();
   CropRecord& row = *pane.cr[7];
   row.chkCrop.click();
-  row.txtPrice.type("1.5x");  // as it stands, and not the crop's number
+  row.txtPrice.type("1.5x");  // kept as typed, not replaced by the crop's number
   row.txtMaxYield.type("70");
   inputCosts& costs = row.Crop->inputCosts;
   costs.NitrogenApplied = 50;

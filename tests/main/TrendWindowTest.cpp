@@ -232,7 +232,7 @@ TEST_F(TrendWindow, BackFromDetailsOfATrendShowsItsResults) {
                                         "pneDetails", "pneBatchSetup(1)", "pneBatchSetup(0)", "pneMain"}));
 }
 
-// With other production costs in their place alfalfa needs no life of stand, until its lines are to be shown.
+// With the production costs replaced, alfalfa needs a life of stand only to show its details.
 TEST_F(TrendWindow, DetailsThatCannotBeCalculatedKeepTheOptionsShown) {
   running.control<CheckBox>("cr(1).chkCrop").click();
   runVariable(0, 1, "300, 400");

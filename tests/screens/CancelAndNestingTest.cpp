@@ -178,7 +178,7 @@ TEST_F(DuringARun, ANestedRunThatFailsDoesNotAffectTheOuterRun) {
     try {
       (void)RunScenario(typed, farm->library, farm->plant, farm->state, hooks, "");
     } catch (const RunTimeError&) {
-      ++failures;  // where the event entered, it is told
+      ++failures;  // reported where the event started
     }
   };
   EXPECT_EQ(describe(farm->run()), expected);

@@ -213,7 +213,7 @@ TEST_F(CropRow, RefreshRoundsThePriceOfTheCropToCents) {
   row.refresh();
   EXPECT_EQ(row.txtPrice.text(), "1,234.57");
   EXPECT_EQ(row.Crop->price, 1234.57);
-  // A text that stands there already is no change.
+  // Setting the same text is not a change.
   row.Crop->price = 1234.568;
   row.refresh();
   EXPECT_EQ(row.txtPrice.text(), "1,234.57");

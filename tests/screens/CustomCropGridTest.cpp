@@ -279,7 +279,7 @@ const std::vector<DefaultRow>& defaultRows() {
        23,
        {"0 in.", "41", "176", "316", "461", "613", "770", "932", "1097", "1263", "1428", "1591"},
        {"22 in.", "3311", "3344", "3371", "3394", "3414", "3431", "3445", "3458", "3469", "3478", "3486"}},
-      // In bushels, and tons all the same.
+      // The table is in bushels, but the unit is tons.
       {"Wheat",
        "21",
        "22",

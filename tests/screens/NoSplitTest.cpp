@@ -196,7 +196,7 @@ TEST_F(NoSplit, UsesTheTrendCostsOfCropAndPlant) {
   farm->plant->BatchIrrigationCosts = 4;
   const auto option = singleFieldsOf(farm->run()).front();
   EXPECT_EQ(option->getCosts(), 4 * 100 * option->Item(1)->Depth + 30000);
-  EXPECT_EQ(farm->library.Item(1)->inputCosts.SeedRate, 0);  // nothing was worked out
+  EXPECT_EQ(farm->library.Item(1)->inputCosts.SeedRate, 0);  // nothing was calculated
 }
 
 TEST_F(NoSplit, IsSkippedAfterACancel) {

@@ -80,7 +80,7 @@ TEST_F(Run, RanksByDescendingProfitAndKeepsDuplicates) {
   const auto options = optionsOf(best);
   for (std::size_t i = 0; i + 1 < options.size(); ++i)
     EXPECT_GE(options[i]->getProfit(), options[i + 1]->getProfit());
-  EXPECT_LT(best.returnCollection(true)[43]->Count(), 1);  // mirrored splits of one crop are told once
+  EXPECT_LT(best.returnCollection(true)[43]->Count(), 1);  // mirrored splits of one crop are listed once
 }
 
 TEST_F(Run, ReadsTheRoundedVolumeFromItsText) {

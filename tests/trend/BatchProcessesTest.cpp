@@ -12,7 +12,7 @@ class BatchProcessesTest : public TrendTest {
  protected:
   BatchProcessesTest() { openFixed(); }
 
-  /// The first process goes over prices of Corn, the second over efficiencies; the second is on show.
+  /// Defines two processes: prices of Corn, then efficiencies. The second is shown.
   void defineTwo() {
     typeList("1, 2");
     setup.cmdAddBatchProcess.click();

@@ -50,7 +50,7 @@ TEST_F(BatchResultsTest, SteppingStopsAtBothEnds) {
   results.cmdBatchStep[0].click();
   EXPECT_EQ(step(), "Step 3 of 3");
   EXPECT_EQ(value(), "Corn Crop Price: $7.00 / bu.");
-  EXPECT_EQ(results.theResults.lblCounter.caption(), "Option 2");  // nothing was loaded anew
+  EXPECT_EQ(results.theResults.lblCounter.caption(), "Option 2");  // nothing was loaded again
   results.cmdBatchStep[1].click();
   EXPECT_EQ(step(), "Step 2 of 3");
   EXPECT_EQ(value(), "Corn Crop Price: $6.00 / bu.");

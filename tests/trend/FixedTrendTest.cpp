@@ -196,7 +196,7 @@ TEST_F(FixedTrendTest, TheSameVariableTwiceIsAppliedTwice) {
   define(3, "40");
   defineSecond(3, "40");
   run();
-  EXPECT_EQ(entry(0, 0).Item(1)->Depth, 2);  // both times against the efficiency in force
+  EXPECT_EQ(entry(0, 0).Item(1)->Depth, 2);  // both times relative to the current efficiency
   EXPECT_THAT(entry(0, 0).theVariable,
               ElementsAre("Irrigation System Efficiency", "Irrigation System Efficiency"));
 }
@@ -262,7 +262,7 @@ TEST_F(FixedTrendTest, PricingTheSelectedOptionDuringATrendChangesNothing) {
 
 TEST_F(FixedTrendTest, ACancelWithOneProcessKeepsWindowAndFlag) {
   define(0, "4, 5, 6");
-  cancelAtPump(2);  // behind the first value
+  cancelAtPump(2);  // after the first value
   run();
   EXPECT_TRUE(state.CancelRequested);
   EXPECT_EQ(host.recorder.closed, 0);
@@ -293,7 +293,7 @@ TEST_F(FixedTrendTest, ACancelAfterTheLastValueOfOneProcessIsIgnored) {
 TEST_F(FixedTrendTest, ACancelWithTwoProcessesClosesTheWindowAndClearsTheFlag) {
   define(0, "4, 5");
   defineSecond(5, "16, 20");
-  // In order: before each outer value, and before and behind each inner one.
+  // In order: before each outer value, and before and after each inner one.
   for (const int pump : {2, 3, 4, 5, 7, 8, 9, 10}) {
     host.recorder.closed = 0;
     host.recorder.updates = 0;

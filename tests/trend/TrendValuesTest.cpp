@@ -67,7 +67,7 @@ TEST(TrendRangeTest, RefusesAMaximumNotAboveTheMinimum) {
   EXPECT_EQ(refusalOf(readRange({"5", "5", "2"})), badRange);
   EXPECT_EQ(refusalOf(readRange({"6", "5", "2"})), badRange);
   EXPECT_EQ(refusalOf(readRange({"", "", ""})), badRange);
-  EXPECT_EQ(refusalOf(readRange({"-5", "0", "2"})), badRange);  // above, and refused all the same
+  EXPECT_EQ(refusalOf(readRange({"-5", "0", "2"})), badRange);  // above the minimum, but refused
   EXPECT_EQ(refusalOf(readRange({"-5", "-0", "2"})), badRange);
   EXPECT_THAT(numbersOf(readRange({"-5", "-1", "2"})), ElementsAre(-5, -1));
 }
