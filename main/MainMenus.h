@@ -4,7 +4,7 @@
 
 namespace verdalis {
 
-/// The menu bar of the main window, in its order. The Location menu is a fixed display; nothing depends on
+/// The menu bar of the main window, in display order. The Location menu is only displayed; nothing depends on
 /// it.
 struct MainMenus {
   explicit MainMenus(Frame& window)

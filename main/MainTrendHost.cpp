@@ -79,7 +79,7 @@ void MainTrendHost::saveInputs() {
 }
 
 void MainTrendHost::loadInputs() {
-  // Saved inputs that are cut short leave in force what stands before the cut.
+  // If the file of saved inputs is cut off, the values before the cut are used.
   static_cast<void>(window_.loadInputs());
 }
 

@@ -8,7 +8,7 @@ namespace verdalis {
 class frmMain;
 class SecondaryWindows;
 
-/// The main window as the trends see it.
+/// Gives the trends access to the main window.
 class MainTrendHost : public TrendHost {
  public:
   MainTrendHost(frmMain& window, SecondaryWindows& windows, EventPumpService& eventPump,
@@ -43,7 +43,7 @@ class MainTrendHost : public TrendHost {
   EventPumpService& eventPump_;
   std::filesystem::path home_;
   std::unique_ptr<ProgressHooks> hooks_;
-  RunHooks* listener_ = nullptr;  ///< Of hooks_
+  RunHooks* listener_ = nullptr;  ///< The listener of hooks_
 };
 
 }  // namespace verdalis

@@ -7,24 +7,24 @@
 
 namespace verdalis {
 
-/// The panes of the main window and the history of those that were shown.
+/// The panes of the main window and the history of shown panes.
 class PaneStack {
  public:
-  /// Declares a frame to be a pane. Elements of an array of panes share the name in front of the index.
+  /// Adds a frame as a pane. Panes of the same array have the same name before the index.
   void addPane(Frame& pane);
 
-  /// Pushes the pane on the history, makes it visible and hides the others. Elements of the same array are
-  /// not hidden: showing one leaves the visibility of its sister as it was.
+  /// Pushes a pane on the history, makes it visible and hides the others. The visibility of other panes of
+  /// the same array does not change.
   void showPane(Frame& pane);
 
-  /// The pane below the top of the history. The history never shrinks, and that is meant: every pane ever
-  /// shown stays in it. Before a second pane has been shown, the one on top.
+  /// The pane below the top of the history, or the top one if only one pane has been shown. Does not remove a
+  /// pane: the history never shrinks. This is intended.
   [[nodiscard]] Frame& popPane() const;
 
-  /// The pane shown last.
+  /// The pane that was shown last.
   [[nodiscard]] Frame& top() const { return *paneStack_.back(); }
 
-  /// Every pane ever shown, in order.
+  /// All panes shown so far, in order.
   [[nodiscard]] const std::vector<Frame*>& history() const { return paneStack_; }
 
   [[nodiscard]] const std::vector<Frame*>& panes() const { return panes_; }

@@ -12,8 +12,8 @@
 
 namespace verdalis {
 
-/// The running program: its windows, and the state that they share. It begins at the welcome window and ends
-/// when no window is open any more.
+/// The running program: its windows and the state that they share. It starts with the welcome window and ends
+/// when no window is open.
 class Program {
  public:
   Program(Services& services, ProgramFiles files);
@@ -23,7 +23,7 @@ class Program {
   SecondaryWindows windows;
   frmWelcome welcome;
 
-  /// The main window; made at the first use. It loads when it is first touched.
+  /// The main window, created on the first call. frmMain::touch() loads it.
   frmMain& main();
   [[nodiscard]] bool hasMain() const { return main_ != nullptr; }
 
@@ -32,7 +32,7 @@ class Program {
 
   [[nodiscard]] bool ended() const;
 
-  /// Called after the main window has been made, before it is loaded: whoever shows it binds it here.
+  /// Raised after the main window is created and before it is loaded. The view connects to it here.
   Event<frmMain&> onMainCreated;
 
  private:

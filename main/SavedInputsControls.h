@@ -11,7 +11,7 @@ namespace verdalis {
 
 class frmMain;
 
-/// The main window's controls and objects, as the reader of the saved inputs fills them.
+/// Fills the controls and objects of the main window from the saved inputs.
 class SavedInputsControls : public SavedInputsTarget {
  public:
   explicit SavedInputsControls(frmMain& window);

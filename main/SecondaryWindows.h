@@ -13,13 +13,13 @@
 
 namespace verdalis {
 
-/// The windows beside the main one. Each is made when it is first needed.
+/// All windows other than the welcome and the main window. Each is created on its first use.
 class SecondaryWindows {
  public:
   SecondaryWindows(Desk& desk, ProgramState& state, Services& services)
       : desk_(desk), state_(state), services_(services) {}
 
-  /// Called when a window has been made: whoever shows it binds it here.
+  /// Raised after a window is created. The view connects to it here.
   Event<Window&> onCreated;
 
   frmUpdating& updating() { return made(updating_, state_); }
@@ -30,7 +30,7 @@ class SecondaryWindows {
 
   void closeUpdating() { close(updating_); }
 
-  /// Closes those that are open.
+  /// Closes all open windows.
   void closeAll() {
     close(updating_);
     close(help_);

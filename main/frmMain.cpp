@@ -81,7 +81,7 @@ void frmMain::load() {
   try {
     loadCropRows();
   } catch (const RunTimeError& error) {
-    // The start goes on with the rows that are there.
+    // The start continues with the rows created so far.
     if (!desk().onRunTimeError) throw;
     desk().onRunTimeError(error);
   }
@@ -108,7 +108,7 @@ void frmMain::loadCropRows() {
     CropRecord& row = pneMain.row(static_cast<std::size_t>(i));
     row.loadInfo(crop->cropType, "$/" + lowerCase(crop->cropUnitsArray[0]), "$/ac", crop->cropUnitsArray[1]);
     row.Crop = crop;
-    // Only ever added to: after a reload the names stand in the list once more.
+    // The list is never cleared here, so each reload adds the names again.
     trends.pneBatchSetup0.cboCrops.addItem(crop->cropType);
   }
   pneMain.InitializeCropFrame();
@@ -188,7 +188,7 @@ void frmMain::wirePanes() {
   });
   pneMain.onInputCosts.connect([this](CropRecord& row) {
     if (row.Crop) showPane(pneInputCosts);
-    pneInputCosts.open(row.Crop);  // tells that there is no crop
+    pneInputCosts.open(row.Crop);  // throws if there is no crop
   });
   pneMain.onHelp.connect(help);
   pneInputCosts.onHelp.connect(help);
@@ -202,7 +202,7 @@ void frmMain::wirePanes() {
   pneCustomCrop.onHelp.connect(help);
   pneCustomCrop.loadCropRows = [this] { loadCropRows(); };
   pneCustomCrop.onShowPane.connect([this] { showPane(pneCustomCrop); });
-  // The information band keeps its text.
+  // Unlike goHome(), this keeps the text of the information band.
   pneCustomCrop.onBackHome.connect([this] { showPane(pneMain); });
 }
 
@@ -232,7 +232,7 @@ void frmMain::wireOptions(Results& results) {
   results.onSaveOption.connect([this](const Results::Option& option) { summaryResults.push_back(option); });
   results.onBatchThis.connect([this](const Results::Option& option) { trends.cmdBatchThis_Click(option); });
   results.onDetails.connect([this](const std::shared_ptr<Field>& field) {
-    theDetails.loadCosts(*field);  // a field that it cannot price leaves the options on show
+    theDetails.loadCosts(*field);  // if this throws, the options stay visible
     showPane(pneDetails);
   });
   results.onHelpTopic.connect([this](const std::string& topic) { showHelpTopic(services_.help, topic); });
@@ -277,7 +277,7 @@ void frmMain::Command1_Click() {
   saveInputs();
   BestMix best = RunScenario("");
   if (best.getSize() == 0) return;
-  // Seconds since midnight, not the time that the run took: that is what the label has always shown.
+  // Seconds since midnight and not the duration of the run: the label has always shown this.
   pneMain.lblNumber.setCaption("This took " + std::to_string(services_.clock.now().secondsSinceMidnight()) +
                                " seconds");
   showPane(pneResults);
@@ -285,7 +285,8 @@ void frmMain::Command1_Click() {
   const std::vector<Results::Option> options = best.returnCollection(true);
   theResults.EnableBatch(TrendEnabled);
   theResults.loadResults(options);
-  // Once more: packing can have made new neighbours, and then paper lists fewer options than the screen.
+  // Packed again: the first packing may have brought new duplicates together. Then the report lists fewer
+  // options than the screen.
   thePrinter.setCollection(best.returnCollection(true));
   menus.mnuPrint.setEnabled(true);
 }

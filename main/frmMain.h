@@ -28,8 +28,8 @@
 
 namespace verdalis {
 
-/// The main window: owns the panes and the state of the running program, listens to the panes, and moves
-/// things between them.
+/// The main window. It owns the panes and the state of the session, listens to the events of the panes, and
+/// passes data between them.
 class frmMain : public Window {
  public:
   frmMain(Desk& desk, Services& services, ProgramState& state, SecondaryWindows& windows, ProgramFiles files);
@@ -54,50 +54,50 @@ class frmMain : public Window {
   SummaryPane::SavedOptions summaryResults;  ///< Saved options
   SummaryPane pneSummary;
   CustomCropPane pneCustomCrop;
-  ResultPrinter thePrinter;  ///< Of the options of the last run and the field last shown
+  ResultPrinter thePrinter;  ///< Holds the options of the last run and the last shown field
 
   MainTrendHost trendHost;
   TrendScreens trends;  ///< pneBatchSetup(0) and (1)
 
   PaneStack panes;
 
-  /// Before anything of the window is used: the first time, the library and the saved inputs are read and the
-  /// main pane is shown.
+  /// Loads the window on the first call: reads the crop library and the saved inputs and shows the main pane.
+  /// Call it before using the window.
   void touch();
 
-  /// Reads the crop library anew and makes a row for each crop.
-  /// \throws RunTimeError when there are more crops than rows have room; the rows are there by then.
+  /// Reads the crop library again and creates a row for each crop.
+  /// \throws RunTimeError if there are more crops than the list of rows has room for; the rows exist then
   void loadCropRows();
 
   void saveInputs();
 
-  /// Puts the saved inputs into the controls, the rows and the plant.
-  /// \returns whether they were read to their end; what stands before a fault is in force.
+  /// Loads the saved inputs into the controls, the rows and the plant.
+  /// \returns whether they were read completely; the values before an error are used in any case.
   bool loadInputs();
 
-  /// Whether the saved inputs were read to their end when the window was loaded.
+  /// Whether the saved inputs were read completely when the window was loaded.
   [[nodiscard]] bool inputsLoaded() const { return inputsLoaded_; }
 
-  /// Is told of the progress of each run too, beside the progress window; none when nobody else listens. It
-  /// must outlive the runs.
+  /// Receives the progress of each run in addition to the progress window; nullptr for none. It must outlive
+  /// the runs.
   RunHooks* runListener = nullptr;
 
-  /// One evaluation of what stands on the screens. `description` is the second line of the progress window.
+  /// Evaluates the current inputs. `description` is the second line of the progress window.
   [[nodiscard]] BestMix RunScenario(const std::string& description);
 
-  /// Turns trend processing on or off. The first time it is turned on, a notice says what that means; it
-  /// comes before the window is touched.
+  /// Turns trend processing on or off. Turning it on for the first time shows a notice that explains it,
+  /// before touch() is called.
   void EnableBatch(bool on);
 
-  /// Shows a text in the information band; strMainInfo stays.
+  /// Sets the text of the information band. strMainInfo does not change.
   void SetMainInfo(const std::string& text) { lblMainInfo.setCaption(text); }
 
   void showPane(Frame& pane) { panes.showPane(pane); }
 
-  /// The pane below the top of the history, which never shrinks.
+  /// The pane below the top of the history; see PaneStack::popPane().
   [[nodiscard]] Frame& popPane() const { return panes.popPane(); }
 
-  /// Cancels what runs and closes all windows.
+  /// Cancels running evaluations and closes all windows.
   void exit();
 
  private:

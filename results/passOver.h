@@ -10,7 +10,7 @@ template <class Step>
 void passOver(Step&& step) {
   try {
     step();
-  } catch (const RunTimeError&) {  // NOLINT(bugprone-empty-catch): the old state stays on show
+  } catch (const RunTimeError&) {  // NOLINT(bugprone-empty-catch): the old state is kept
   }
 }
 

@@ -67,7 +67,7 @@ template <class Step>
 void leaveOutIfFailing(Step step) {
   try {
     step();
-  } catch (const RunTimeError&) {  // NOLINT(bugprone-empty-catch): the next step follows all the same
+  } catch (const RunTimeError&) {  // NOLINT(bugprone-empty-catch): continue with the next step
   }
 }
 

@@ -68,7 +68,7 @@ struct FieldRow {
   int group = 0;                    ///< Index of its group, from 0
   std::string_view label = {};      ///< Fixed text in front of it
   std::string_view column = {};     ///< Heading of its column
-  std::string_view unit = {};       ///< Fixed text behind it
+  std::string_view unit = {};       ///< Fixed text after it
   std::string_view unitHint = {};   ///< Unit for display, if it has neither a fixed unit nor a label for it
   std::string_view testLabel = {};  ///< Start of the messages of its test
   Limit limit = {};

@@ -119,7 +119,7 @@ template <class Caption>
 void showWhereMade(Label& label, Caption caption) {
   try {
     label.setCaption(caption());
-  } catch (const RunTimeError&) {  // NOLINT(bugprone-empty-catch): half a number may stand in a field
+  } catch (const RunTimeError&) {  // NOLINT(bugprone-empty-catch): a field may contain an incomplete number
   }
 }
 

@@ -25,7 +25,8 @@ CropScenario returnCrops(const ScenarioInputs& inputs, const CropScenario& libra
 /// Reads the texts of the main pane. Their fixed order decides which error is reported first. The iteration
 /// factor is taken from `state`; the acres of the fields, the crops and the numbers of splits and
 /// combinations are stored in it. `onWaterSplits` receives the number of water splits before the last texts
-/// are read. \throws RunTimeError for a text that is not a number and for numbers that give no scenario
+/// are read.
+/// \throws RunTimeError for a text that is not a number and for numbers that give no scenario
 [[nodiscard]] Scenario readScenario(const ScenarioInputs& inputs, const CropScenario& library,
                                     const IrrigationCosts& plant, double efficiency, ProgramState& state,
                                     const std::function<void(std::size_t)>& onWaterSplits = nullptr);

@@ -8,22 +8,23 @@
 
 namespace verdalis {
 
-/// A value to run: a number, or the text of one as it was given.
+/// A value of a trend: a number, or the text of a number as entered.
 using TrendValue = std::variant<double, std::string>;
 
-/// \throws RunTimeError (typeMismatch, overflow) for a text that is no number.
+/// The number of a value.
+/// \throws RunTimeError (typeMismatch, overflow) for a text that is not a number
 [[nodiscard]] double numberOf(const TrendValue& value);
 
-/// How the values of a process were given.
+/// The way in which the values of a process are entered.
 enum class TrendValuesKind : std::int16_t { automatic = 0, import = 1, manual = 2 };
 
-/// A trend process: the one input that is varied, and the values it takes. Only the texts of the chosen way
-/// to give the values are filled.
+/// A trend process: the input that is varied, and its values. Of the texts of the three ways to enter values,
+/// only those of the chosen way are set.
 class BatchProcess {
  public:
-  double cropIndex = 0;             ///< Row of the crop, from 0; ignored for variables that belong to no crop
+  double cropIndex = 0;             ///< Row of the crop, from 0; ignored for variables of the whole farm
   double VariableIndex = 0;         ///< 0 to 5, see trendVariable()
-  std::string ContentString;        ///< Neither set nor read, and not carried by Copy() and Change()
+  std::string ContentString;        ///< Not used; Copy() and Change() do not copy it
   std::int16_t variables_type = 0;  ///< A TrendValuesKind
   std::string variables_min;        ///< Automatic: minimum as text
   std::string variables_max;        ///< Automatic: maximum as text
@@ -34,10 +35,10 @@ class BatchProcess {
   void SetValueArray(std::vector<TrendValue> values) { values_ = std::move(values); }
   [[nodiscard]] const std::vector<TrendValue>& GetValueArray() const { return values_; }
 
-  /// The values and all fields but ContentString.
+  /// A copy of the values and all fields except ContentString.
   [[nodiscard]] BatchProcess Copy() const;
 
-  /// Takes the values and all fields but ContentString over from another process.
+  /// Copies the values and all fields except ContentString from another process.
   void Change(const BatchProcess& other);
 
  private:

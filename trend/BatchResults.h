@@ -16,43 +16,44 @@
 
 namespace verdalis {
 
-/// The results of a trend: a results screen of its own and, for a variable trend, steps through the values. A
-/// fixed trend has no steps: its options say themselves which values made them. The events of theResults are
-/// raised there.
+/// The results of a trend: a separate results screen and, for a variable trend, buttons that step through the
+/// values. A fixed trend has no steps; each of its options shows the values that made it. For requests on
+/// options, connect to the events of theResults.
 class BatchResults : public Frame {
  public:
   BatchResults(Frame& container, Services& services, ProgramState& state, TrendState& trend, TrendHost& host);
 
-  BatchProcess bp;  ///< The process of the trend, for its crop and variable
+  BatchProcess bp;  ///< The process of the trend: its crop and variable
 
   Frame pnlBatchSteps{*this, "pnlBatchSteps"};
   std::array<Button, 2> cmdBatchStep{
       {{pnlBatchSteps, "cmdBatchStep(0)", "Next >"}, {pnlBatchSteps, "cmdBatchStep(1)", "< Previous"}}};
-  Label lblBatchDescription1{pnlBatchSteps, "lblBatchDescription(1)"};      ///< Which step
-  Label lblFreeBatchDescription{pnlBatchSteps, "lblFreeBatchDescription"};  ///< Its value
+  Label lblBatchDescription1{pnlBatchSteps, "lblBatchDescription(1)"};      ///< The number of the step
+  Label lblFreeBatchDescription{pnlBatchSteps, "lblFreeBatchDescription"};  ///< The value of the step
   Button cmdExcel{pnlBatchSteps, "cmdExcel", "Export to MS Excel"};
   Results theResults;
 
   /// Shows or hides the steps.
   void EnableBatch(bool on);
 
-  /// The values of a variable trend. They are kept; the steps are described by those of the trend itself.
+  /// Stores the values of a variable trend. The descriptions of the steps use those of the TrendState
+  /// instead.
   void setArray(std::vector<TrendValue> values) { values_ = std::move(values); }
 
-  /// Takes the rankings of a trend, one for each step, and its process. With fewer than two the steps are
-  /// hidden and the options say what made them.
+  /// Takes the rankings of a trend, one for each step, and its process. With fewer than two rankings it hides
+  /// the steps and shows the values that made each option.
   void setBatchCollection(const std::vector<BestMix>& batches, const BatchProcess& process);
 
-  /// Takes the outcome of a trend with its process, and shows the first step.
+  /// Takes the outcome of a trend and its process, and shows the first step.
   void showOutcome(const TrendOutcome& outcome, const BatchProcess& process);
 
-  /// Shows a step, from 1; outside the steps nothing happens. What cannot be shown keeps its old text.
+  /// Shows a step, from 1. Other numbers are ignored. A text that cannot be made keeps its old content.
   void LoadBatchResults(long step);
 
-  /// The step on show, from 1.
+  /// The shown step, from 1; 0 before the first.
   [[nodiscard]] long currentStep() const { return step_; }
 
-  /// Asks for a file and writes the outcome of the variable trend, or of the fixed one, for spreadsheets.
+  /// Asks for a file and exports the outcome of a variable or a fixed trend for spreadsheets.
   void exportVariable();
   void exportFixed();
 
@@ -67,7 +68,7 @@ class BatchResults : public Frame {
   std::vector<TrendValue> values_;
   long step_ = 0;
 
-  // Of the trend on show: a later one that is cancelled changes those of the TrendState.
+  // Copies for the shown trend, because a later trend changes the TrendState even if it is cancelled.
   std::vector<TrendValue> trendValues_;
   std::string variableName_;
   std::string variableCrop_;

@@ -134,7 +134,7 @@ bool BatchSetupPane::openVariable() {
   }
   host_.saveInputs();
   cboCrops.setIndex(0);
-  // The units are those of the price, whatever variable is on from before: meant.
+  // Shows the unit of the price, even if another variable is still selected. This is intended.
   SetVariableLabels(0);
   frmBatches.setVisible(false);
   cmdDeleteBatch.setEnabled(false);
@@ -210,7 +210,7 @@ std::string BatchSetupPane::SetVariableLabels(double variableIndex) {
 }
 
 void BatchSetupPane::showCropUnits() {
-  // An entry may outlive its crop, for instance when a custom crop has been deleted since.
+  // The crop of an entry may no longer exist, for example after deleting a custom crop.
   const std::shared_ptr<Crop> crop = host_.findCropByName(cboCrops.text());
   lblgeneric20.setCaption(crop ? trendVariables()[0].unitCaption(crop.get()) : unknownUnit);
   lblgeneric22.setCaption(crop ? trendVariables()[2].unitCaption(crop.get()) : unknownUnit);
@@ -257,7 +257,7 @@ void BatchSetupPane::chooseFile() {
 
 void BatchSetupPane::goBack() {
   if (const std::shared_ptr<Crop> crop = host_.rowCount() > 0 ? host_.rowCrop(0) : nullptr) {
-    // Only the first row's crop: another one keeps the production costs of the trend. Meant.
+    // Only the crop of the first row; other crops keep the production costs of the trend. This is intended.
     crop->inputCosts.UseBatch = false;
     crop->inputCosts.BatchGeneralCosts = 0;
   }

@@ -20,18 +20,18 @@
 
 namespace verdalis {
 
-/// The fixed texts of the trend setup that belong to no control of their own.
+/// The fixed texts of the trend setup that have no control.
 struct BatchSetupTexts {
   static constexpr const char* trends = "Trends:";  ///< Beside cboBatches
   static constexpr const char* crop = "Crop:";
   static constexpr const char* variable = "Select the variable you wish to process:";
-  static constexpr const char* cropColumn = "Variables that depend on the crop";  ///< Over 0 to 2
-  static constexpr const char* farmColumn = "Variables for all crops";            ///< Over 3 to 5
+  static constexpr const char* cropColumn = "Variables that depend on the crop";  ///< Above variables 0 to 2
+  static constexpr const char* farmColumn = "Variables for all crops";            ///< Above variables 3 to 5
   static constexpr const char* costsNote = "*Total production costs do not include cost of irrigation";
   static constexpr const char* minimum = "Minimum Value:";
   static constexpr const char* maximum = "Maximum Value:";
   static constexpr const char* steps = "Steps:";
-  /// Beside the three ways to give the values.
+  /// Beside the three ways to enter the values.
   static constexpr std::array<const char*, 3> ways{
       "Let VDL automatically determine the variables to use in the trend process.  Enter a minimum value, "
       "maximum value, and number of steps.",
@@ -41,22 +41,22 @@ struct BatchSetupTexts {
 };
 
 /// The pane that defines trend processes: one for a variable trend, up to two for a fixed trend on the
-/// selected option. Which kind it is, the selected option decides: with fields the trend is fixed.
+/// selected option. The trend is fixed if the selected option has fields.
 class BatchSetupPane : public Frame {
  public:
   BatchSetupPane(Frame& window, Services& services, ProgramState& state, TrendState& trend, TrendHost& host);
 
-  Label lblgeneric16{*this, "lblgeneric(16)"};  ///< What to do here
+  Label lblgeneric16{*this, "lblgeneric(16)"};  ///< Instructions
   Frame frmBatches{*this, "frmBatches"};        ///< Shown for a fixed trend
   ComboBox cboBatches{frmBatches, "cboBatches", ComboBox::Style::list};
   Button cmdAddBatchProcess{frmBatches, "cmdAddBatchProcess", "Add a trend process"};
   Button cmdDeleteBatch{frmBatches, "cmdDeleteBatch", "Delete this process"};
-  /// With free text, because a process may have a crop that its list does not hold.
+  /// Allows free text because a process may have a crop that is not in the list.
   ComboBox cboCrops{*this, "cboCrops", ComboBox::Style::freeText};
-  Label lblCropHint{*this, "lblCropHint"};  ///< What is wrong with the crop for this trend; else empty
+  Label lblCropHint{*this, "lblCropHint"};  ///< The problem with the crop for this trend; empty if none
   OptionGroup batchVariables;
   std::vector<std::unique_ptr<OptionButton>> optBatchVariable;
-  std::vector<std::unique_ptr<Image>> check;    ///< Shown beside the variables of the other process
+  std::vector<std::unique_ptr<Image>> check;    ///< Ticks beside the variables of the other process
   Label lblgeneric20{*this, "lblgeneric(20)"};  ///< Unit of the crop's price
   Label lblgeneric22{*this, "lblgeneric(22)"};  ///< Unit of the crop's yield
   Label lblgeneric5{*this, "lblgeneric(5)", "Determine Trend Process:"};
@@ -71,7 +71,7 @@ class BatchSetupPane : public Frame {
   Button cmdOpenBatch{*this, "cmdOpenBatch(1)", "Select file..."};
   Label lblBatchFile{*this, "lblBatchFile", "-"};
   TextBox txtBatchList{*this, "txtBatchList"};
-  Label lblBatchPreview{*this, "lblBatchPreview"};  ///< The values that would be run, or what is wrong
+  Label lblBatchPreview{*this, "lblBatchPreview"};  ///< The values to run, or what is wrong with them
   Button cmdBatchIt{*this, "cmdBatchIt", "Generate Trend Output"};
   Button Command10{*this, "Command10", "Back"};
   HelpButtons cmdHelp{*this, {25, 26}};
@@ -79,35 +79,39 @@ class BatchSetupPane : public Frame {
   Event<> onRun;  ///< cmdBatchIt
   Event<int> onHelp;
 
-  /// Opens the pane for the kind of trend that the selected option decides. A variable trend whose inputs are
-  /// not complete is refused. \throws RunTimeError
+  /// Opens the pane for a fixed or a variable trend, depending on the selected option. Refuses a variable
+  /// trend with incomplete inputs.
+  /// \throws RunTimeError
   void ShowBatchScreen();
 
-  /// Reads the pane into a new process. Nothing when its values are refused; the user has been told by then.
-  /// A variable of a crop is also refused when no row has a crop of that name. Without `validate` the range,
-  /// the file and the list may be empty. \throws RunTimeError for numbers that are too large
+  /// Reads the pane into a new process. Without `validate` the range, the file and the list may be empty.
+  /// \returns nothing if the values are refused, or the variable belongs to a crop and no row has a crop of
+  /// that name; a message has been shown then.
+  /// \throws RunTimeError for numbers that are too large
   [[nodiscard]] std::optional<BatchProcess> GetBatchProcess(const std::string& cropName, bool validate);
 
-  /// Whether the pane reads as a valid process; if not, the user has been told.
+  /// Whether the pane contains a valid process. Shows a message if not.
   [[nodiscard]] bool CheckCurrentProcess();
 
-  /// Adds a blank process and shows it. \returns whether it is shown.
+  /// Adds a blank process and shows it.
+  /// \returns whether it is shown.
   bool AddBatchProcess();
 
-  /// Shows a process, from 0; where there are several, the pane is first saved to the one it shows.
-  /// \returns false, with all as it was, when the pane cannot be read.
+  /// Shows a process, from 0. If there are several, first saves the pane to the process that it shows.
+  /// \returns false if the pane cannot be read; nothing changes then.
   bool LoadBatchProcess(std::int16_t index);
 
-  /// Empties the pane. \returns true.
+  /// Clears the pane.
+  /// \returns true.
   bool ClearBatchData();
 
   void RefreshBatchButtons();
 
-  /// Shows the unit of a variable for the crop in cboCrops beside minimum and maximum, and returns it;
-  /// "(units)" where it depends on a crop that is not there.
+  /// Shows the unit of a variable for the crop in cboCrops beside minimum and maximum.
+  /// \returns the unit; "(units)" if it depends on a crop that does not exist.
   std::string SetVariableLabels(double variableIndex);
 
-  /// The selected button of an array; 0 also when none is.
+  /// The index of the selected button of a group; also 0 if none is selected.
   [[nodiscard]] static std::int16_t getSelectedIndex(const OptionGroup& buttons);
 
   void tell(const Message& message);

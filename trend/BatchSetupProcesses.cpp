@@ -18,7 +18,7 @@ bool BatchSetupPane::CheckCurrentProcess() {
   return GetBatchProcess(cboCrops.text(), true).has_value();
 }
 
-/// While it is disabled, a list does not act on its selection.
+/// Selects an entry while the list is disabled, so that it raises no click.
 void BatchSetupPane::selectProcess(int index) {
   cboBatches.setEnabled(false);
   cboBatches.setIndex(index);
@@ -79,7 +79,7 @@ void BatchSetupPane::showProcess(const BatchProcess& process) {
   cboBatchSteps.setText(process.variables_steps);
   txtBatchList.setText(process.variables_manual);
   lblBatchFile.setCaption(process.inputfilename);
-  // The texts above have turned their own ways on.
+  // Setting the texts above has selected the ways they belong to.
   batchOptions.select(process.variables_type);
   showCropHint();
 }

@@ -15,7 +15,7 @@ constexpr const char* valuePattern = "###,##0.00";
 constexpr const char* moneyPattern = "###,###,##0.00";
 constexpr const char* plainPattern = "###,##0.0";
 
-/// The heading of a variable of an option, counted from 1: its name and its unit in brackets.
+/// The heading of a variable of an option (from 1): its name and its unit in brackets.
 std::string variableHead(const FieldCollection& option, long number) {
   const std::size_t place = listIndex(number, option.theVariable.size());
   const UnitsPair& units = option.theUnits[place];
@@ -82,7 +82,7 @@ void addField(const FixedTrendExport& trend, Field& field, int number, std::stri
   row("Crop:", crop.cropType);
   row("Acres:", generalText(field.acres) + " acres");
   row("Gross Irrigation", formatNumber(grossDepth(field.Depth, trend.txtEff), "##0.0") + " inches");
-  // The price is told with the plural and the yield with the short word: meant.
+  // The price has the plural of the unit and the yield the abbreviation. This is intended.
   if (shown(0)) {
     row("Crop Price:", "$" + formatNumber(crop.price, moneyPattern) + "/" + crop.cropUnitsArray[1]);
   }

@@ -13,25 +13,25 @@
 
 namespace verdalis {
 
-/// What the export of a fixed trend shows.
+/// The content of the export of a fixed trend.
 struct FixedTrendExport {
   const TrendOptionArray& options;
-  FieldCollection& SelectedOption;  ///< The option that the trend has re-priced
+  FieldCollection& SelectedOption;  ///< The option that the trend priced again
 
-  /// Whether a process of the trend goes through a variable, with the crop of a field: such a variable has no
-  /// value of its own to show.
+  /// Whether the trend varies a variable for the crop of a field. Such a variable has no single value to
+  /// show.
   std::function<bool(std::int16_t variable, const std::string& cropType)> isTrended;
 
   std::string txtEff;  ///< Text of the irrigation efficiency, percent
   ClockTime today;
 };
 
-/// The variables that processes go through, with the rows of their crops.
+/// The variables that processes vary, with the rows of their crops.
 [[nodiscard]] std::vector<Results::TrendedVariable> trendedVariables(
     const std::vector<BatchProcess>& processes);
 
-/// Appends the whole page. \throws RunTimeError where something cannot be worked out; the lines before that
-/// are in `text` by then.
+/// Appends the whole page to `text`.
+/// \throws RunTimeError if a figure cannot be calculated; the lines before it are already appended
 void writeFixedTrend(const FixedTrendExport& trend, std::string& text);
 
 }  // namespace verdalis

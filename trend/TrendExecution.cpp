@@ -50,8 +50,8 @@ TrendExecution::Outline TrendExecution::outline(std::size_t process) const {
 }
 
 bool TrendExecution::runVariable() {
-  // A trend that is started while this one pumps events leaves its own values behind, so this one works on
-  // copies and says at its end what its outcome is.
+  // While this trend pumps events, another one may start and overwrite the TrendState. So this one works on
+  // copies and stores its outcome at its end.
   const Outline process = outline(0);
   const std::size_t count = process.values.size();
   trend_.TrendValues = process.values;
@@ -61,7 +61,7 @@ bool TrendExecution::runVariable() {
     const double value = numberOf(process.values[i]);
     UpdateVariable(process.row, process.variable, value);
     const BestMix best = inputs_.RunScenario(std::to_string(count - i) + " evaluations left");
-    // A ranking without places comes of a cancel alone, also of one that was meant for a run inside this one.
+    // Only a cancel gives a ranking of size 0, even one that was meant for a run inside this one.
     if (state_.TrendCancelled || best.getSize() == 0) {
       state_.TrendCancelled = false;
       trend_.BatchCollection = std::move(batches);
@@ -79,7 +79,7 @@ bool TrendExecution::runVariable() {
 }
 
 void TrendExecution::pump() {
-  // A run that is started meanwhile puts an efficiency of its own in force.
+  // A run started by an event sets its own efficiency.
   EfficiencyInForce(EfficiencyFraction, inputs_.hooks()).pumpEvents();
 }
 
@@ -98,8 +98,8 @@ void TrendExecution::Candidates::submit(const FieldCollection& option) {
 }
 
 BestMix TrendExecution::Candidates::rank(std::int16_t size) {
-  // What BestMix::submit() would make of them one by one, the last of equals first; with as many places as
-  // candidates it would take a time that grows with their square.
+  // The same order as submitting them to BestMix one by one, with the last of equals first. With as many
+  // places as candidates, BestMix::submit() would take quadratic time.
   std::reverse(options_.begin(), options_.end());
   std::stable_sort(options_.begin(), options_.end(),
                    [](const auto& a, const auto& b) { return a->getProfit() > b->getProfit(); });
@@ -129,7 +129,8 @@ bool TrendExecution::runSecond(const FieldCollection& outer, std::size_t i, cons
 
 bool TrendExecution::runFixed() {
   trend_.SelectedOption->ResetBatch();
-  // Pricing leaves sums in an option, so no screen that prices this one meanwhile may touch what is copied.
+  // Pricing stores sums in an option. The copy protects the trend from screens that price the option
+  // meanwhile.
   const FieldCollection selected = trend_.SelectedOption->Copy();
   const Outline first = outline(0);
   std::optional<Outline> second;

@@ -15,7 +15,7 @@
 
 namespace verdalis {
 
-/// One evaluation of a variable trend: what it went through, and the efficiency that it ran with.
+/// One evaluation of a variable trend: its value, its efficiency and its size.
 struct TrendEvaluation {
   double value = 0;       ///< The value of the trend
   double efficiency = 0;  ///< Irrigation efficiency as a fraction
@@ -23,53 +23,59 @@ struct TrendEvaluation {
   std::uint64_t cropCombinations = 0;
 };
 
-/// Runs the trend processes of a TrendState on live inputs or on the selected option, and leaves the outcome
-/// in it.
+/// Runs the trend processes of a TrendState on the live inputs or on the selected option, and stores the
+/// outcome in the TrendState.
 class TrendExecution {
  public:
-  /// `cropText` is the crop's name for the headings.
+  /// `cropText` is the name of the crop for the headings.
   TrendExecution(TrendInputs& inputs, ProgramState& state, TrendState& trend, std::string cropText)
       : inputs_(inputs), state_(state), trend_(trend), cropText_(std::move(cropText)) {}
 
-  /// Puts one value into the live inputs, after clearing the costs that an earlier value may have replaced.
-  /// \throws RunTimeError (subscript) for a crop that is not there any more
+  /// Sets a value in the live inputs. First clears the costs with which an earlier value replaced others.
+  /// \throws RunTimeError (subscript) if the crop no longer exists
   void UpdateVariable(std::int16_t cropRowIndex, std::int16_t variableIndex, double value);
 
-  /// Puts one value into a copy of an option, with its description. An option without the crop changes in
-  /// nothing but its description. \throws RunTimeError
+  /// A copy of an option with a value set and described. If the option does not contain the crop, only the
+  /// description changes.
+  /// \throws RunTimeError
   [[nodiscard]] FieldCollection UpdateOption(std::int16_t cropRowIndex, std::int16_t variableIndex,
                                              double value, FieldCollection option);
 
-  /// A variable trend: one evaluation for each value of the first process. The live inputs keep the last
-  /// value. \returns false when it was cancelled; the rankings so far are then in BatchCollection.
+  /// Runs a variable trend: one evaluation for each value of the first process. The live inputs keep the last
+  /// value.
+  /// \returns false if it was cancelled; BatchCollection then contains the rankings so far.
   /// \throws RunTimeError
   [[nodiscard]] bool runVariable();
 
-  /// The evaluations of the last variable trend that ended.
+  /// The evaluations of the last variable trend that was not cancelled.
   [[nodiscard]] const std::vector<TrendEvaluation>& evaluations() const { return evaluations_; }
 
-  /// A fixed trend: the selected option with every value of the first process, or every pair of values of
-  /// both, in one ranking. \returns false when it was cancelled; no outcome is kept then. A cancel with one
-  /// process leaves the progress window open and CancelRequested on, which stops the next fixed trend at its
-  /// first step; a cancel between the values of the second process closes it and clears the flag. That
-  /// difference is meant. \throws RunTimeError; the progress window may then still be open
+  /// Runs a fixed trend: ranks the selected option with every value of the first process, or with every pair
+  /// of values of both processes.
+  ///
+  /// A cancel with one process leaves the progress window open and CancelRequested set, which stops the next
+  /// fixed trend at its first step. A cancel between the values of the second process closes the window and
+  /// clears the flag. This difference is intended.
+  /// \returns false if it was cancelled; no outcome is stored then.
+  /// \throws RunTimeError; the progress window may still be open then
   [[nodiscard]] bool runFixed();
 
  private:
-  /// A process with its indices as they are used.
+  /// A process with its indices as integers.
   struct Outline {
     std::int16_t row;
     std::int16_t variable;
     std::vector<TrendValue> values;
   };
 
-  /// The options of a fixed trend until they are ranked.
+  /// The options of a fixed trend before they are ranked.
   class Candidates {
    public:
-    /// Takes a copy of an option and prices it. \throws RunTimeError
+    /// Adds a copy of an option and prices it.
+    /// \throws RunTimeError
     void submit(const FieldCollection& option);
 
-    /// All of them as a ranking of that size, which is their number.
+    /// Ranks all options. `size` is their number.
     [[nodiscard]] BestMix rank(std::int16_t size);
 
    private:

@@ -13,8 +13,7 @@
 
 namespace verdalis {
 
-/// The live inputs that a trend writes its values into, and the run that reads them. Crop rows are counted
-/// from 0.
+/// The live inputs that a trend changes, and the run that reads them. Crop rows are counted from 0.
 class TrendInputs {
  public:
   TrendInputs() = default;
@@ -27,72 +26,72 @@ class TrendInputs {
   /// The crop of a row; nullptr in the row of an empty library.
   [[nodiscard]] virtual std::shared_ptr<Crop> rowCrop(std::size_t row) const = 0;
 
-  /// Puts a price ($ per yield unit) or a maximum yield (units per acre) into the field of a row.
+  /// Sets the price ($ per yield unit) or the maximum yield (units per acre) in the field of a row.
   virtual void setPrice(std::size_t row, double price) = 0;
   virtual void setMaxYield(std::size_t row, double yield) = 0;
 
   virtual IrrigationCosts& tempIrrigationCosts() = 0;
 
-  /// The text of the irrigation efficiency, percent.
+  /// The text of the irrigation efficiency field, percent.
   [[nodiscard]] virtual std::string txtEff() const = 0;
   virtual void setTxtEff(const std::string& text) = 0;
 
-  /// Puts a text into the annual rainfall, inches.
+  /// Sets the text of the annual rainfall field, inches.
   virtual void setTxtAnnRain(const std::string& text) = 0;
 
-  /// The text of the number of options that a run keeps.
+  /// The text of the field for the number of options to keep.
   [[nodiscard]] virtual std::string txtArraySize() const = 0;
 
-  /// One evaluation of the live inputs; `statusText` is the second line of its progress window. A ranking of
-  /// size 0 after a cancel.
+  /// Evaluates the live inputs. `statusText` is the second line of the progress window.
+  /// \returns the ranking; of size 0 if the run was cancelled.
   virtual BestMix RunScenario(const std::string& statusText) = 0;
 
-  /// The progress window and the event pump.
+  /// The hooks that update the progress window and pump events.
   virtual RunHooks& hooks() = 0;
 };
 
-/// The row of the first crop of exactly that name.
+/// The row of the first crop with exactly a given name.
 struct CropRow {
   bool found = false;
-  std::size_t row = 0;  ///< 0 where there is none
+  std::size_t row = 0;  ///< 0 if not found
 };
 [[nodiscard]] CropRow GetCropIndex(const TrendInputs& inputs, const std::string& cropName);
 
 /// The crop of a row.
-/// \throws RunTimeError (subscript) when there is no such row, or no crop in it.
+/// \throws RunTimeError (subscript) if there is no such row or no crop in it
 [[nodiscard]] std::shared_ptr<Crop> cropOfRow(const TrendInputs& inputs, double cropIndex);
 
-/// What the trend screens need of the rest of the window.
+/// What the trend screens need from the main window.
 class TrendHost : public TrendInputs {
  public:
   /// Whether the crop of a row is ticked.
   [[nodiscard]] virtual bool isActive(std::size_t row) const = 0;
 
-  /// The crop of the last row of that name, ignoring case; nullptr without one.
+  /// The crop of the last row with this name, ignoring case; nullptr if there is none.
   [[nodiscard]] virtual std::shared_ptr<Crop> findCropByName(const std::string& name) const = 0;
 
-  /// Whether everything that a run needs is there.
+  /// Whether all inputs that a run needs are entered.
   [[nodiscard]] virtual bool ready() const = 0;
 
   /// Whether trend processing is on.
   [[nodiscard]] virtual bool trendEnabled() const = 0;
 
-  /// Writes the inputs to the saved inputs file, and reads them back over the screens.
+  /// Writes the inputs to the file of saved inputs; reads them back into the controls.
   virtual void saveInputs() = 0;
   virtual void loadInputs() = 0;
 
-  /// Shows a text in the information band.
+  /// Sets the text of the information band.
   virtual void SetMainInfo(const std::string& text) = 0;
 
   virtual void showPane(Frame& pane) = 0;
 
-  /// Shows the main pane with its own text in the information band.
+  /// Shows the main pane and its text in the information band.
   virtual void backToMain() = 0;
 
-  /// Shows the results of the evaluation.
+  /// Shows the results of the last evaluation.
   virtual void backToResults() = 0;
 
-  /// The folder that file choosers begin in.
+  /// The initial folder of file choosers.
   [[nodiscard]] virtual std::filesystem::path home() const = 0;
 };
 

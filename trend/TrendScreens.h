@@ -9,10 +9,10 @@
 
 namespace verdalis {
 
-/// The two panes of the trends and what joins them: the run.
+/// The two panes of the trends, and the run that leads from one to the other.
 class TrendScreens {
  public:
-  /// `window` gets the panes.
+  /// Creates the panes in `window`.
   TrendScreens(Frame& window, Services& services, ProgramState& state, TrendHost& host)
       : pneBatchSetup0(window, services, state, trend, host),
         pneBatchSetup1(window, services, state, trend, host),
@@ -25,13 +25,13 @@ class TrendScreens {
   BatchSetupPane pneBatchSetup0;
   BatchResultsPane pneBatchSetup1;
 
-  /// Opens the setup for a variable trend: no option is the selected one any more.
+  /// Opens the setup for a variable trend. Deselects the selected option.
   void mnuFallBatch_Click();
 
-  /// Makes an option the selected one and opens the setup for it.
+  /// Selects an option and opens the setup for a fixed trend on it.
   void cmdBatchThis_Click(const BestMix::Option& option);
 
-  /// Opens the setup for the kind of trend that the selected option decides.
+  /// Opens the setup for a fixed or a variable trend, depending on the selected option.
   void ShowBatchScreen() { pneBatchSetup0.ShowBatchScreen(); }
 
  private:

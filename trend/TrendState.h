@@ -12,15 +12,15 @@
 
 namespace verdalis {
 
-/// The options of a fixed trend in the order of the values: of the first process alone, or of the first
-/// (rows) and the second (columns). Counted from 0.
+/// The options of a fixed trend in the order of the values: rows are the values of the first process, columns
+/// those of the second, if there is one. Counted from 0.
 class TrendOptionArray {
  public:
   using Option = BestMix::Option;
 
   TrendOptionArray() = default;
 
-  /// Room for one option for each value, or for each pair of values.
+  /// Creates an array with room for an option per value, or per pair of values.
   explicit TrendOptionArray(std::size_t rows) : dimensions_(1), rows_(rows), entries_(rows) {}
   TrendOptionArray(std::size_t rows, std::size_t columns)
       : dimensions_(2), rows_(rows), columns_(columns), entries_(rows * columns) {}
@@ -32,8 +32,8 @@ class TrendOptionArray {
 
   void set(std::size_t i, std::size_t j, Option option);
 
-  /// An entry; with one dimension `j` takes no part.
-  /// \throws RunTimeError (subscript) where there is none.
+  /// An option. `j` is ignored if there is only one dimension.
+  /// \throws RunTimeError (subscript) if there is no such option
   [[nodiscard]] const Option& at(std::size_t i, std::size_t j) const;
 
  private:
@@ -45,20 +45,20 @@ class TrendOptionArray {
   std::vector<Option> entries_;
 };
 
-/// The trend processes that are being defined, and what the last trend has left.
+/// The currently defined trend processes and the outcome of the last trend.
 struct TrendState {
   /// The option chosen for a fixed trend; without fields for a variable trend.
   BestMix::Option SelectedOption = std::make_shared<FieldCollection>();
 
-  std::vector<BatchProcess> ProcessCollection;  ///< In the order of their list
-  std::int16_t CurrentProcess = 0;              ///< The process that the pane shows, from 0
-  std::int16_t MaximumBatches = 2;              ///< Most processes
+  std::vector<BatchProcess> ProcessCollection;  ///< In list order
+  std::int16_t CurrentProcess = 0;              ///< The process shown by the pane, from 0
+  std::int16_t MaximumBatches = 2;              ///< Highest number of processes
 
-  std::vector<BestMix> BatchCollection;         ///< One ranking for each value; one alone after a fixed trend
+  std::vector<BestMix> BatchCollection;         ///< One ranking per value; only one after a fixed trend
   std::vector<TrendValue> TrendValues;          ///< Of the last variable trend
   verdalis::TrendOptionArray TrendOptionArray;  ///< Of the last fixed trend
-  std::string TrendVariableName;                ///< Label of the variable that a value was last put into
-  std::string TrendVariableCrop;                ///< The crop with it; empty where it belongs to no crop
+  std::string TrendVariableName;                ///< Label of the variable that was last set
+  std::string TrendVariableCrop;                ///< Its crop; empty for a variable of the whole farm
 };
 
 }  // namespace verdalis

@@ -43,7 +43,7 @@ void removeCharacters(std::string& text, std::string_view unwanted) {
   text.erase(std::remove_if(text.begin(), text.end(), isUnwanted), text.end());
 }
 
-/// Calls `use` with each entry of a list with commas, until it returns false.
+/// Calls `use` with each entry of a comma-separated list until it returns false.
 template <class Use>
 void forEachEntry(std::string_view list, Use use) {
   for (;;) {
@@ -148,7 +148,7 @@ TrendReading readValuesList(const std::string& list, bool validate) {
 }
 
 std::optional<Message> refuseRain(const std::vector<TrendValue>& values) {
-  // Numbers they are, so that a command goes on after it: told, and no refusal.
+  // A notice and not a refusal: the values are numbers, so the command line continues after it.
   const auto refusal = [](const char* text) {
     return Message{"Please try again", text, MessageKind::notice, MessageIcon::information,
                    MessageButtons::ok};

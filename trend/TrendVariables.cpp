@@ -7,7 +7,8 @@
 namespace verdalis {
 namespace {
 
-/// The yield at the field's water and rain; the field keeps its own depth where the table ends below it.
+/// Sets the yield at the field's water and rain. setYield() limits the depth to the table; the field keeps
+/// its own depth.
 void lookUpYield(Field& field) {
   double depth = field.Depth;
   field.theCrop->setYield(depth, field.annualRain);
@@ -36,7 +37,7 @@ void maxYieldToField(Field& field, double value) {
   lookUpYield(field);
 }
 
-/// The field keeps its gross water, and the new efficiency gives its net water.
+/// Sets the net water from the unchanged gross water and the new efficiency.
 void efficiencyToField(Field& field, double value) {
   field.Depth = checked((value / 100) * grossFromNet(field.Depth), "The net irrigation of a field");
   lookUpYield(field);
@@ -52,7 +53,7 @@ void rainToField(Field& field, double value) {
   lookUpYield(field);
 }
 
-/// The word of the crop's units that stands in the middle.
+/// The word of the crop's units that the unit contains.
 std::string cropUnit(const TrendVariable& variable, const Crop* crop) {
   if (variable.cropUnit < 0 || crop == nullptr) return {};
   return crop->cropUnitsArray.at(static_cast<std::size_t>(variable.cropUnit));
@@ -61,7 +62,8 @@ std::string cropUnit(const TrendVariable& variable, const Crop* crop) {
 }  // namespace
 
 const std::array<TrendVariable, trendVariableCount>& trendVariables() {
-  // The heading of the production costs is "Product" after a fixed trend and "Production" elsewhere: meant.
+  // The production costs are headed "Product" after a fixed trend and "Production" elsewhere. This is
+  // intended.
   static constexpr std::array<TrendVariable, trendVariableCount> variables{{
       {"Price per Unit", "Crop Price", "Crop Price", true, 0, "($ / ", ")", "$", "/ ", "",
        [](TrendInputs& inputs, std::size_t row, double value) { inputs.setPrice(row, value); },

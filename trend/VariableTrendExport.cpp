@@ -13,7 +13,7 @@ constexpr int ranks = 4;
 constexpr const char* valuePattern = "###,##0.00";
 constexpr const char* nextCell = "</td><td valign=top>";
 
-/// The colours of the rows in turn. The second has two number signs: meant.
+/// The alternating colours of the rows. The second has two number signs. This is intended.
 class RowColours {
  public:
   const std::string& next() {
@@ -27,7 +27,7 @@ class RowColours {
   std::string colour_;
 };
 
-/// Value of a step, counted from 1.
+/// The value of a step (from 1).
 std::string valueText(const VariableTrendExport& trend, long step) {
   const TrendValue& value = trend.TrendValues[listIndex(step, trend.TrendValues.size())];
   return formatNumber(numberOf(value), valuePattern);

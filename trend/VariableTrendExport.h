@@ -10,20 +10,21 @@
 
 namespace verdalis {
 
-/// What the export of a variable trend shows.
+/// The content of the export of a variable trend.
 struct VariableTrendExport {
-  std::vector<BestMix>& batches;  ///< One ranking for each value
+  std::vector<BestMix>& batches;  ///< One ranking per value
   const std::vector<TrendValue>& TrendValues;
   std::string TrendVariableName;
-  std::string TrendVariableCrop;  ///< Empty where the variable belongs to no crop
+  std::string TrendVariableCrop;  ///< Empty for a variable of the whole farm
   UnitsPair units;
   std::string txtEff;  ///< Text of the irrigation efficiency, percent
   ClockTime today;
 };
 
-/// Appends the whole page: the four best options of each step. It packs the rankings anew; see
-/// BestMix::returnCollection(). \throws RunTimeError where something cannot be worked out, such as with fewer
-/// than four options in a step; the lines before that are in `text` by then.
+/// Appends the whole page to `text`: the four best options of each step. Packs the rankings again, see
+/// BestMix::returnCollection().
+/// \throws RunTimeError if a figure cannot be calculated or a step has fewer than four options; the lines
+/// before it are already appended
 void writeVariableTrend(const VariableTrendExport& trend, std::string& text);
 
 }  // namespace verdalis

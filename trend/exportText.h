@@ -7,15 +7,15 @@
 
 namespace verdalis {
 
-// What both spreadsheet exports have in common: the lines of an HTML page that a spreadsheet program opens.
+// Common parts of both spreadsheet exports. An export is an HTML page that spreadsheet programs open.
 
-/// Appends a line with its end, CR LF.
+/// Appends a line and CR LF.
 void addLine(std::string& text, std::string_view line);
 
-/// The lines in front of the tables. The date names the worksheet.
+/// Appends the lines before the tables. The name of the worksheet contains the date.
 void addHead(std::string& text, const ClockTime& today);
 
-/// The lines behind the tables.
+/// Appends the lines after the tables.
 void addTail(std::string& text);
 
 /// Acres of all fields of an option.

@@ -19,41 +19,41 @@ namespace verdalis {
 
 /// A trend to run.
 struct TrendRequest {
-  /// The processes: one of a variable trend, up to two of a fixed one.
+  /// The processes: one for a variable trend, up to two for a fixed trend.
   std::vector<BatchProcess> processes;
 
-  /// The option of a fixed trend; without fields the trend is a variable one.
+  /// The option of a fixed trend. Without fields, the trend is variable.
   std::shared_ptr<FieldCollection> option = std::make_shared<FieldCollection>();
-  std::string cropText;  ///< The crop's name for the headings
+  std::string cropText;  ///< Name of the crop for the headings
 
   [[nodiscard]] bool isVariable() const { return option->Count() == 0; }
 };
 
-/// What a trend has found.
+/// The outcome of a trend.
 struct TrendOutcome {
-  std::vector<TrendEvaluation> evaluations;  ///< Of a variable trend: one for each value
-  std::vector<TrendValue> values;            ///< Of a variable trend
+  std::vector<TrendEvaluation> evaluations;  ///< One per value of a variable trend
+  std::vector<TrendValue> values;            ///< The values of a variable trend
 
-  /// One for each value; one alone after a fixed trend. The first is packed, for it is the one that is shown.
+  /// One ranking per value; only one after a fixed trend. The first is packed because it is shown.
   std::vector<BestMix> rankings;
-  TrendOptionArray grid;  ///< Of a fixed trend: an option for each value or pair of values
+  TrendOptionArray grid;  ///< An option per value or pair of values of a fixed trend
 
-  /// The options of the first ranking, without duplicates, placeholders behind.
+  /// The options of the first ranking without duplicates, followed by placeholders.
   std::vector<BestMix::Option> shown;
 
-  /// Those of the ranking at a place from 0. The rankings stay as they are.
+  /// The options of a ranking (from 0). Does not change the rankings.
   [[nodiscard]] std::vector<BestMix::Option> options(std::size_t place) const;
 };
 
-/// Why the trend would be too large, if it would be.
-/// \throws RunTimeError (overflow) for a number of options to keep that is too large
+/// The refusal of a trend that is too large; nothing if it is not.
+/// \throws RunTimeError (overflow) if the number of options to keep is too large
 [[nodiscard]] std::optional<Message> refuseTrend(const TrendRequest& request, const TrendInputs& inputs);
 
-/// Runs a trend. A variable trend evaluates the live inputs once for each value; they keep the last one. A
-/// fixed trend prices its option again with each value or pair of values. `trend` gets the processes and what
-/// its named members keep.
-/// \returns nothing when it was cancelled.
-/// \throws RunTimeError; the progress window may then still be open
+/// Runs a trend. A variable trend evaluates the live inputs once per value; they keep the last value. A fixed
+/// trend prices its option again with each value or pair of values. Stores the processes, the option and the
+/// outcome in `trend`.
+/// \returns nothing if it was cancelled.
+/// \throws RunTimeError; the progress window may still be open then
 [[nodiscard]] std::optional<TrendOutcome> runTrend(const TrendRequest& request, TrendInputs& inputs,
                                                    ProgramState& state, TrendState& trend);
 

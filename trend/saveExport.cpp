@@ -24,8 +24,9 @@ ExportError systemError(int reason) {
   return {reason, std::generic_category().message(reason)};
 }
 
-/// Whether the file can be written, asked of the system in the way that gets its own refusal: by opening it.
-/// What was in it stays.
+/// Opens the file for writing without changing its content, to get the error of the system if it cannot be
+/// written.
+/// \returns the error; nothing if it can be opened.
 std::optional<ExportError> openForOutput(const std::filesystem::path& path) {
   constexpr int flags = O_WRONLY | O_CREAT | O_CLOEXEC | O_NONBLOCK;
   const int file = ::open(path.c_str(), flags, 0666);  // NOLINT(cppcoreguidelines-pro-type-vararg)

@@ -11,12 +11,13 @@
 
 namespace verdalis {
 
-/// Puts bytes in the place of a file. \throws RunTimeError
+/// Replaces a file by these bytes.
+/// \throws RunTimeError
 using FileWriter = std::function<void(const std::filesystem::path&, std::string_view)>;
 
-/// Asks for a file, fills it with what `write` appends to a text, tells the user, and opens the file if that
-/// is wished. Where the file or the text fails, the user is told, and the text as far as it came is in the
-/// file. `folder` is where the chooser begins.
+/// Asks for a file, starting in `folder`, writes the text that `write` appends, and offers to open the file.
+/// If `write` or the file fails, shows a message; the file then contains the text up to the error, if it
+/// could be written.
 void exportForSpreadsheet(Desk& desk, Services& services, const std::filesystem::path& folder,
                           const std::function<void(std::string&)>& write,
                           const FileWriter& writer = &verdalis::writeFile);

@@ -12,7 +12,7 @@ class Ask : public ControlsFixture {
   Ask() {
     window.onDeactivate.connect(writes("main inactive"));
     messageBox.onShow = [this](const Message&) {
-      help.open();  // what lies behind a box does not lose the activation to it
+      help.open();  // a window behind a box is not deactivated by it
       log.emplace_back("shown");
     };
   }

@@ -11,12 +11,12 @@
 
 namespace verdalis::testing {
 
-/// A desk with a main window that is open, and a log of what happened.
+/// A desk with an open main window, and a log of events.
 class ControlsFixture : public ::testing::Test {
  protected:
   ControlsFixture() { window.open(); }
 
-  /// A handler that writes a word into the log.
+  /// A handler that adds a word to the log.
   auto writes(const std::string& word) {
     return [this, word] { log.push_back(word); };
   }

@@ -15,7 +15,7 @@ class Focus : public ::verdalis::testing::ControlsFixture {
     desk.onMoveFocus.connect([this](Control& control) { log.push_back("moved to " + control.name()); });
   }
 
-  /// The first field fails its test: the focus goes back to it.
+  /// Makes the first field fail its test and take the focus back.
   void failFirst() {
     ofFirst = first.onLeave.connectScoped([this] {
       log.emplace_back("test fails");

@@ -9,8 +9,7 @@
 #include "tests/data/OrdinaryUser.h"
 #include "tests/main/RunningProgram.h"
 
-// Home folders that no program has left behind: whatever lies there, the start comes to an end and the main
-// pane can be used.
+// Damaged home folders: whatever they contain, the start finishes and the main pane can be used.
 
 namespace verdalis::testing {
 namespace {
@@ -23,7 +22,7 @@ class BadHome : public ::testing::Test {
 
   void saveInputs(const std::string& bytes) { running.folder.write("inputs.txt", bytes); }
 
-  /// Starts, and types a farm.
+  /// Starts the program and types a farm.
   void expectUsable() {
     EXPECT_TRUE(running.start().isOpen());
     EXPECT_EQ(running.program->main().panes.top().name(), "pneMain");
@@ -57,7 +56,7 @@ std::string noise(std::size_t size) {
   return bytes;
 }
 
-/// Lines of a few characters, digits for the most part.
+/// Lines of a few characters, mostly digits.
 std::string shortLines(std::size_t size) {
   static const std::string alphabet = "0123456789.-eE\r\n\n, x";
   std::string bytes = noise(size);
@@ -79,7 +78,7 @@ TEST_F(BadHome, SavedInputsOf100MegabytesAreNotRead) {
   EXPECT_TRUE(running.fakes.messageBox.log.empty());
 }
 
-TEST_F(BadHome, NorAreThoseWithLines) {
+TEST_F(BadHome, SavedInputsOf100MegabytesOfLinesAreNotRead) {
   saveInputs(shortLines(huge));
   expectUsable();
   EXPECT_FALSE(running.program->main().inputsLoaded());
@@ -102,7 +101,7 @@ TEST_F(BadHome, OneLineOfDigitsIsRead) {
   EXPECT_FALSE(running.program->main().inputsLoaded());
 }
 
-TEST_F(BadHome, AFolderInPlaceOfTheSavedInputsStopsNoRun) {
+TEST_F(BadHome, AFolderInPlaceOfTheSavedInputsDoesNotStopARun) {
   fs::create_directory(running.home() / "inputs.txt");
   running.start();
   running.typeFarm();
@@ -111,7 +110,7 @@ TEST_F(BadHome, AFolderInPlaceOfTheSavedInputsStopsNoRun) {
   EXPECT_TRUE(running.fakes.messageBox.log.empty());
 }
 
-TEST_F(BadHome, PipesKeepNobodyWaiting) {
+TEST_F(BadHome, PipesDoNotBlockTheStart) {
   ASSERT_EQ(::mkfifo((running.home() / "inputs.txt").c_str(), 0600), 0);
   ASSERT_EQ(::mkfifo((crops() / "a.txt").c_str(), 0600), 0);
   fs::create_directories(crops() / "soils");
@@ -122,26 +121,26 @@ TEST_F(BadHome, PipesKeepNobodyWaiting) {
   EXPECT_EQ(running.program->main().panes.top().name(), "pneResults");
 }
 
-TEST_F(BadHome, AFileInPlaceOfTheCropsIsTold) {
+TEST_F(BadHome, AFileInPlaceOfTheCropsIsReported) {
   fs::remove_all(crops());
   running.folder.write("crops", "CROP=Corn");
   expectToldAndUsable(crops().string());
 }
 
-TEST_F(BadHome, ALinkToItselfInPlaceOfTheCropsIsTold) {
+TEST_F(BadHome, ALinkToItselfInPlaceOfTheCropsIsReported) {
   fs::remove_all(crops());
   fs::create_symlink(crops(), crops());
   expectToldAndUsable(crops().string());
 }
 
-TEST_F(BadHome, AnEmptyFolderOfCropsIsNoFault) {
+TEST_F(BadHome, AnEmptyFolderOfCropsIsAccepted) {
   fs::remove_all(crops());
   fs::create_directory(crops());
   expectUsable();
   EXPECT_TRUE(running.fakes.messageBox.log.empty());
 }
 
-TEST_F(BadHome, FilesThatAreNoCropsArePassedOver) {
+TEST_F(BadHome, FilesThatAreNoCropsAreSkipped) {
   running.folder.write("crops/0.txt", noise(100'000));
   running.folder.write("crops/1.txt", "CROP=Half a crop\r\n\r\nUNITS=");
   running.folder.write("crops/custom/2.txt", "");
@@ -152,7 +151,7 @@ TEST_F(BadHome, FilesThatAreNoCropsArePassedOver) {
   EXPECT_TRUE(running.program->main().pneMain.findCropByName("corn"));
 }
 
-TEST_F(BadHome, ANameOfManyBytesStandsInItsRow) {
+TEST_F(BadHome, AVeryLongNameIsShownInItsRow) {
   const std::string name(50'000, 'n');
   running.folder.write("crops/custom/long.txt",
                        "CROP=" + name + "\r\n\r\nUNITS=" + name + "," + name +
@@ -161,7 +160,7 @@ TEST_F(BadHome, ANameOfManyBytesStandsInItsRow) {
   EXPECT_TRUE(running.program->main().pneMain.findCropByName(name));
 }
 
-TEST_F(BadHome, CropsThatMayNotBeReadAreTold) {
+TEST_F(BadHome, UnreadableCropsAreReported) {
   openToAll(running.folder);
   fs::permissions(crops(), fs::perms::none);
   const auto told = asOrdinaryUser([&] {
@@ -173,7 +172,7 @@ TEST_F(BadHome, CropsThatMayNotBeReadAreTold) {
   EXPECT_TRUE(*told);
 }
 
-TEST_F(BadHome, SavedInputsThatMayNotBeReadOrWrittenStopNothing) {
+TEST_F(BadHome, InaccessibleSavedInputsDoNotStopTheProgram) {
   saveInputs("0\r\n77\r\n");
   openToAll(running.folder);
   fs::permissions(running.home() / "inputs.txt", fs::perms::none);

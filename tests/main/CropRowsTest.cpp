@@ -4,8 +4,8 @@
 
 #include "tests/main/RunningProgram.h"
 
-// The crop rows of the main pane and what acts on them: the library, the default values and the crop list of
-// the trends; and the warning of the pumping capacity beside them.
+// The crop rows of the main pane with the library, the default values and the crop list of the trends, and
+// the warning about the pumping capacity.
 
 namespace verdalis::testing {
 namespace {
@@ -21,7 +21,7 @@ const Strings stock{"Alfalfa", "Corn", "Grain Sorghum", "Soybeans", "Sunflower",
 
 class CropRows : public ::testing::Test {
  protected:
-  /// A custom crop of the library; those of a later `file` come later.
+  /// Adds a custom crop to the library. Crops are sorted by `file`.
   void addCrop(const std::string& file, const std::string& name) const {
     running.folder.write("crops/custom/" + file,
                          "CROP=" + name +
@@ -56,7 +56,7 @@ TEST_F(CropRows, AreFoundByTheirNameIgnoringCase) {
     EXPECT_FALSE(pane.findCropByName(name)) << name;
 }
 
-TEST_F(CropRows, TheLastOfANameIsFound) {
+TEST_F(CropRows, TheLastRowWithANameIsFound) {
   addCrop("1.txt", "corn");
   addCrop("2.txt", "Oats");
   addCrop("3.txt", "OATS");
@@ -67,7 +67,7 @@ TEST_F(CropRows, TheLastOfANameIsFound) {
   EXPECT_EQ(pane.findCropByName("Oats"), pane.cr[9]->Crop);
 }
 
-TEST_F(CropRows, FallowHasItsTickAndItsCostsAlone) {
+TEST_F(CropRows, FallowHasNeitherPriceNorYield) {
   MainPane& pane = start();
   CropRecord& fallow = *pane.cr[6];
   ASSERT_EQ(fallow.GetCrop(), "Fallow");
@@ -91,7 +91,7 @@ TEST_F(CropRows, FallowHasItsTickAndItsCostsAlone) {
   EXPECT_TRUE(running.fakes.messageBox.log.empty());
 }
 
-TEST_F(CropRows, TheirNamesStandInTheCropListOfTheTrends) {
+TEST_F(CropRows, TheirNamesAreInTheCropListOfTheTrends) {
   start();
   EXPECT_EQ(cropList().items(), stock);
   EXPECT_EQ(cropList().index(), 0);
@@ -99,7 +99,7 @@ TEST_F(CropRows, TheirNamesStandInTheCropListOfTheTrends) {
   EXPECT_EQ(running.control<Label>("lblgeneric(22)").caption(), "(tons / acre)");
 }
 
-TEST_F(CropRows, EachReloadAddsTheirNamesToTheCropListOnceMore) {
+TEST_F(CropRows, EachReloadAddsTheirNamesToTheCropListAgain) {
   start();
   running.program->main().loadCropRows();
   EXPECT_EQ(cropList().items(), stock + stock);
@@ -109,7 +109,7 @@ TEST_F(CropRows, EachReloadAddsTheirNamesToTheCropListOnceMore) {
   EXPECT_EQ(running.control<Label>("lblgeneric(22)").caption(), "(bushels / acre)");
 }
 
-TEST_F(CropRows, SavingACustomCropAndGoingHomeReloadThem) {
+TEST_F(CropRows, SavingACustomCropAndGoingHomeReloadsTheRows) {
   start();
   running.choose("mnuCustomCrop");
   running.control<ComboBox>("cboCustomGrid(5)").pick(5);
@@ -121,7 +121,7 @@ TEST_F(CropRows, SavingACustomCropAndGoingHomeReloadThem) {
   EXPECT_EQ(cropList().items(), stock + withOats + withOats);
 }
 
-TEST_F(CropRows, OneThatIsGoneStaysInTheCropListAndChangesNothing) {
+TEST_F(CropRows, ADeletedCropStaysInTheCropListOfTheTrends) {
   addCrop("oats.txt", "Oats");
   MainPane& pane = start();
   pane.cr[0]->chkCrop.click();
@@ -149,7 +149,7 @@ TEST_F(CropRows, OneThatIsGoneStaysInTheCropListAndChangesNothing) {
   EXPECT_EQ(running.control<Label>("lblgeneric(22)").caption(), "(pounds / acre)");
 }
 
-TEST_F(CropRows, DefaultsReachACustomCropThatBearsTheNameOfAStockCrop) {
+TEST_F(CropRows, DefaultsApplyToACustomCropNamedLikeAStockCrop) {
   addCrop("corn.txt", "CORN");
   MainPane& pane = start();
   CropRecord& row = *pane.cr[7];
@@ -187,12 +187,12 @@ TEST_F(CropRows, DefaultsReachACustomCropThatBearsTheNameOfAStockCrop) {
   EXPECT_TRUE(row.isActive());
 }
 
-TEST_F(CropRows, DefaultsTurnTheSwitchesOfAnotherCustomCropOnAndKeepItsValues) {
+TEST_F(CropRows, DefaultsOnlyTurnOnTheOptimalRatesOfOtherCustomCrops) {
   addCrop("oats.txt", "Oats");
   MainPane& pane = start();
   CropRecord& row = *pane.cr[7];
   row.chkCrop.click();
-  row.txtPrice.type("1.5x");  // as it stands, and not the crop's number
+  row.txtPrice.type("1.5x");  // kept as typed, not replaced by the crop's number
   row.txtMaxYield.type("70");
   inputCosts& costs = row.Crop->inputCosts;
   costs.NitrogenApplied = 50;
@@ -214,7 +214,7 @@ TEST_F(CropRows, DefaultsTurnTheSwitchesOfAnotherCustomCropOnAndKeepItsValues) {
   EXPECT_EQ(row.Crop->maxYield, 70);
 }
 
-TEST_F(CropRows, DefaultsOfFallowAreItsWeedControlAndItsTillage) {
+TEST_F(CropRows, DefaultsOfFallowAreWeedControlAndTillage) {
   MainPane& pane = start();
   CropRecord& fallow = *pane.cr[6];
   fallow.Crop->inputCosts.Planting = 9;
@@ -265,14 +265,14 @@ class CapacityWarning : public ::testing::Test {
   TextBox& water = running.control<TextBox>("txtMax");
 };
 
-TEST_F(CapacityWarning, ComesAboveTheCapacityAlone) {
+TEST_F(CapacityWarning, IsShownOnlyAboveTheCapacity) {
   water.type("29.82");
   EXPECT_EQ(told(), Strings{});
   water.type("29.84");
   EXPECT_EQ(told(), Strings{warning("1,800", "29.8")});
 }
 
-TEST_F(CapacityWarning, RepeatsAtEachChangeAndBlocksNothing) {
+TEST_F(CapacityWarning, IsShownAtEachChangeAndBlocksNothing) {
   for (const char* text : {"30", "301", "3012", "30"})
     water.type(text);
   EXPECT_EQ(told(), Strings(4, warning("1,800", "29.8")));
@@ -284,7 +284,7 @@ TEST_F(CapacityWarning, RepeatsAtEachChangeAndBlocksNothing) {
   EXPECT_EQ(told(), Strings{});
 }
 
-TEST_F(CapacityWarning, ComesAfterTheVolume) {
+TEST_F(CapacityWarning, IsShownAfterTheVolumeIsUpdated) {
   std::string volume;
   running.fakes.messageBox.onShow = [&](const Message&) {
     volume = running.control<Label>("lblVolume").caption();
@@ -293,7 +293,7 @@ TEST_F(CapacityWarning, ComesAfterTheVolume) {
   EXPECT_EQ(volume, "4,000");
 }
 
-TEST_F(CapacityWarning, NeedsHoursAndAFlow) {
+TEST_F(CapacityWarning, RequiresHoursAndAFlow) {
   plant().dblEstHours = 0;
   water.type("1000");
   plant().dblEstHours = -1;
@@ -309,7 +309,7 @@ TEST_F(CapacityWarning, NeedsHoursAndAFlow) {
   EXPECT_EQ(told(), Strings{warning("1,800", "29.8")});
 }
 
-TEST_F(CapacityWarning, WithoutAnAreaTellsNoInches) {
+TEST_F(CapacityWarning, ShowsNoInchesWithoutAnArea) {
   for (const char* text : {"0", "", "acres"}) {
     area.type(text);
     water.type("");
@@ -321,7 +321,7 @@ TEST_F(CapacityWarning, WithoutAnAreaTellsNoInches) {
   }
 }
 
-TEST_F(CapacityWarning, DoesNotComeWithAChangeOfTheArea) {
+TEST_F(CapacityWarning, IsNotShownWhenTheAreaChanges) {
   water.type("20");
   area.type("1000");
   EXPECT_EQ(told(), Strings{});
@@ -330,7 +330,7 @@ TEST_F(CapacityWarning, DoesNotComeWithAChangeOfTheArea) {
   EXPECT_EQ(told(), Strings{warning("1,800", "3.0")});
 }
 
-TEST_F(CapacityWarning, GroupsLargeFiguresAndReadsLeadingNumbers) {
+TEST_F(CapacityWarning, ShowsThousandsCommasAndReadsLeadingNumbers) {
   plant().dblEstHours = 2000.5;
   area.type("0.5 acres");
   // 750 * 60 * 2000.5 / 0.5 / 27154 = 6630.51 inches.

@@ -61,7 +61,7 @@ constexpr const char* savedBytes =
     "EFF_IRRIG=0,1,2\r\n\r\nYIELD_VALUES=10,11,12,13,14,15,16,17,18,19,20,21,20,22,24,26,28,30,32,34,36,38,"
     "40,42,30,33,36,39,42,45,48,51,54,57,60,63\r\n";
 
-TEST_F(CustomCropLife, MadeSavedEvaluatedRenamedAndDeleted) {
+TEST_F(CustomCropLife, ACropIsCreatedSavedEvaluatedRenamedAndDeleted) {
   const Strings stock = rowNames();
   running.choose("mnuCustomCrop");
   EXPECT_EQ(running.history().back(), "pneCustomCrop");
@@ -120,7 +120,7 @@ TEST_F(CustomCropLife, MadeSavedEvaluatedRenamedAndDeleted) {
   EXPECT_EQ(rowNames(), stock);
 }
 
-TEST_F(CustomCropLife, WheatsDefaultTableMakesAForageCrop) {
+TEST_F(CustomCropLife, TheDefaultTableOfWheatMakesAForageCrop) {
   running.choose("mnuCustomCrop");
   running.control<ComboBox>("cboCustomGrid(5)").pick(5);
   running.control<TextBox>("txtCustom(0)").type("My wheat");
@@ -144,13 +144,13 @@ TEST_F(CustomCropLife, TheNoteOfThePaneIsShown) {
   EXPECT_EQ(running.program->windows.help().height, 3000);
 }
 
-TEST_F(CustomCropLife, ThePaneIsHiddenAtTheStartWithItsListsFilled) {
+TEST_F(CustomCropLife, ThePaneStartsHiddenWithFilledLists) {
   EXPECT_FALSE(main.pneCustomCrop.isShown());
   EXPECT_EQ(running.control<ComboBox>("cboCustomGrid(1)").text(), "10");
   EXPECT_EQ(running.control<ComboBox>("cboCustomGrid(5)").text(), "Select crop...");
 }
 
-TEST_F(CustomCropLife, AHomeWithoutACustomFolderGetsOne) {
+TEST_F(CustomCropLife, AMissingCustomFolderIsCreated) {
   running.choose("mnuCustomCrop");
   std::filesystem::remove_all(running.home() / "crops" / "custom");
   pasteAndSave("Oats", cells);
@@ -169,7 +169,7 @@ TEST_F(CustomCropLife, TheSixtiethCropIsSavedWithoutAFurtherMessage) {
 }
 
 // The file of a custom crop under a new name: a file of its own, or the old file.
-TEST_F(CustomCropLife, YesWritesANewFileAndNoTheOldOne) {
+TEST_F(CustomCropLife, AnsweringYesWritesANewFileAndNoTheOldOne) {
   const std::string rest =
       "\r\n\r\nUNITS=lb,pounds\r\n\r\nANNUAL_RAIN=11,12\r\n\r\nEFF_IRRIG=0,1\r\n\r\n"
       "YIELD_VALUES=10,,30,\r\n";
@@ -213,7 +213,7 @@ TEST_F(CustomCropLife, YesWritesANewFileAndNoTheOldOne) {
 
 class OtherWindows : public CustomCropLife {};
 
-TEST_F(OtherWindows, OptionsSetTheFactorAndCloseByAClickOnTheMainWindow) {
+TEST_F(OtherWindows, OptionsSetTheFactorAndCloseOnAClickOnTheMainWindow) {
   running.choose("mnuOptions");
   running.control<TextBox>("frmOptions.txtFineFactor").type("5");
   running.press("frmOptions.cmdApply");

@@ -67,7 +67,7 @@ TEST_F(Navigation, TheHistoryNeverShrinks) {
   EXPECT_EQ(shown(), (Strings{"pneResults", "pneSummary", "pneResults"}));
 }
 
-TEST_F(Navigation, ASummaryOpenedTwiceHoldsItsBackButton) {
+TEST_F(Navigation, BackFromASummaryOpenedTwiceShowsTheSummary) {
   running.choose("mnuSummary");
   running.choose("mnuSummary");
   running.press("cmdCancel(2)");
@@ -75,7 +75,7 @@ TEST_F(Navigation, ASummaryOpenedTwiceHoldsItsBackButton) {
   EXPECT_EQ(shown(), (Strings{"pneSummary", "pneSummary", "pneSummary", "pneSummary"}));
 }
 
-TEST_F(Navigation, TheSummaryOpenedOverTheTrendSetupGoesBackToIt) {
+TEST_F(Navigation, BackFromASummaryLeadsToTheTrendSetup) {
   running.choose("mnuEnableBatch");
   running.typeFarm();
   running.choose("mnuFallBatch");
@@ -91,7 +91,7 @@ TEST_F(Navigation, TheSummaryOpenedOverTheTrendSetupGoesBackToIt) {
   EXPECT_EQ(main.lblMainInfo.caption(), main.strMainInfo);
 }
 
-TEST_F(Navigation, TurningTrendsOffLeadsHomeFromAnywhere) {
+TEST_F(Navigation, TurningTrendsOffShowsTheMainPane) {
   running.choose("mnuEnableBatch");
   running.typeFarm();
   running.press("Command1");
@@ -101,14 +101,14 @@ TEST_F(Navigation, TurningTrendsOffLeadsHomeFromAnywhere) {
   EXPECT_FALSE(main.pneMain.pnlBatchInstructions.visible());
 }
 
-TEST_F(Navigation, TheTrendNoticeComesOnce) {
+TEST_F(Navigation, TheTrendNoticeIsShownOnce) {
   running.choose("mnuEnableBatch");
   running.choose("mnuEnableBatch");
   running.choose("mnuEnableBatch");
   EXPECT_EQ(running.fakes.messageBox.log.size(), 1U);
 }
 
-TEST_F(Navigation, MenusStandInTheirOrderWithTheirStates) {
+TEST_F(Navigation, MenusHaveTheirOrderAndTheirStates) {
   Strings entries;
   for (const Control* control : main.controls()) {
     const auto* entry = dynamic_cast<const MenuEntry*>(control);
@@ -169,7 +169,7 @@ TEST_F(Navigation, ClosingTheMainWindowEndsTheProgram) {
   EXPECT_TRUE(running.program->ended());
 }
 
-TEST_F(Navigation, TheNoteWindowClosesWhenItLosesTheActivation) {
+TEST_F(Navigation, TheNoteWindowClosesWhenItIsDeactivated) {
   showHelpNote(running.program->windows.help(), "A text", "A title", 1725);
   frmHelp& note = running.program->windows.help();
   EXPECT_TRUE(note.isOpen());

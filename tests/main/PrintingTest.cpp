@@ -4,7 +4,7 @@
 #include "tests/main/RunningProgram.h"
 #include "text/numbers.h"
 
-// How the reports are asked for, and what they are made from.
+// Requesting the reports, and the data that they print.
 
 namespace verdalis {
 namespace {
@@ -25,7 +25,7 @@ class PrintingTest : public ::testing::Test, protected RunningProgram {
 
   void run() { press("Command1"); }
 
-  /// The lines of what a click prints.
+  /// The lines that a click prints.
   template <class Click>
   std::vector<std::string> printed(Click click) {
     fakes.printer.documents.clear();
@@ -40,7 +40,7 @@ class PrintingTest : public ::testing::Test, protected RunningProgram {
   }
 };
 
-TEST_F(PrintingTest, TheMenuEntryIsThereFromARunUntilBack) {
+TEST_F(PrintingTest, TheMenuEntryIsEnabledFromARunUntilBack) {
   EXPECT_FALSE(control<MenuEntry>("mnuPrint").enabled());
   run();
   EXPECT_TRUE(control<MenuEntry>("mnuPrint").enabled());
@@ -48,14 +48,14 @@ TEST_F(PrintingTest, TheMenuEntryIsThereFromARunUntilBack) {
   EXPECT_FALSE(control<MenuEntry>("mnuPrint").enabled());
 }
 
-TEST_F(PrintingTest, TheFieldOnShowEnablesTheMenuEntry) {
+TEST_F(PrintingTest, ShowingAFieldEnablesTheMenuEntry) {
   run();
   control<MenuEntry>("mnuPrint").setEnabled(false);
   press("theResults.rh(0).cmdDetails");
   EXPECT_TRUE(control<MenuEntry>("mnuPrint").enabled());
 }
 
-TEST_F(PrintingTest, TheResultsAreThoseOfTheRunUnderTheTextsOfNow) {
+TEST_F(PrintingTest, ThePrintedResultsAreOfTheRunAndTheHeadingIsCurrent) {
   run();
   control<TextBox>("txtEff").setText("70");
   control<CheckBox>("cr(5).chkCrop").setChecked(false);
@@ -90,7 +90,7 @@ TEST_F(PrintingTest, TheButtonsOfThePanesPrint) {
   EXPECT_THAT(printed([this] { press("theDetails.Command2"); }).at(0), StartsWith("Verdalis - Detailed"));
 }
 
-TEST_F(PrintingTest, ACancelledDialogSaysNothing) {
+TEST_F(PrintingTest, ACancelledDialogShowsNoMessage) {
   run();
   choose("mnuPrint");
   EXPECT_EQ(fakes.printer.asked, 1);
@@ -98,7 +98,7 @@ TEST_F(PrintingTest, ACancelledDialogSaysNothing) {
   EXPECT_THAT(fakes.messageBox.take(), IsEmpty());
 }
 
-TEST_F(PrintingTest, TheNextRunTakesThePlaceOfTheOptions) {
+TEST_F(PrintingTest, TheNextRunReplacesTheOptions) {
   run();
   const std::vector<std::string> before = printedByMenu();
   press("theResults.Command1");

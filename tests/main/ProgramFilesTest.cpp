@@ -5,20 +5,20 @@
 
 #include "tests/main/RunningProgram.h"
 
-// A program that is not a person's own session: another file of saved inputs, nothing written, and somebody
-// else who wants to know how far a run is.
+// A program that is not an ordinary session: it uses another file of saved inputs, writes nothing, and
+// reports the progress of runs to a listener.
 
 namespace verdalis::testing {
 namespace {
 
-TEST(ProgramFilesTest, AHomeFolderAloneSaysItAll) {
+TEST(ProgramFilesTest, AHomeFolderGivesAllDefaults) {
   const ProgramFiles files(std::filesystem::path("/farm"));
   EXPECT_EQ(files.home, "/farm");
   EXPECT_EQ(files.inputs, "/farm/inputs.txt");
   EXPECT_TRUE(files.savesInputs);
 }
 
-TEST(ProgramFilesTest, OtherSavedInputsTakeThePlaceOfTheHomes) {
+TEST(ProgramFilesTest, OtherSavedInputsReplaceThoseOfTheHome) {
   RunningProgram running;
   running.folder.write("inputs.txt", "0\r\n77\r\n");
   ProgramFiles files(running.home());
@@ -35,7 +35,7 @@ TEST(ProgramFilesTest, OtherSavedInputsTakeThePlaceOfTheHomes) {
   EXPECT_EQ(running.folder.read("inputs.txt"), "0\r\n77\r\n");
 }
 
-TEST(ProgramFilesTest, SavedInputsThatAreCutAreKnown) {
+TEST(ProgramFilesTest, CutOffSavedInputsAreReported) {
   RunningProgram running;
   EXPECT_FALSE(running.start().inputsLoaded()) << "there are none";
   running.folder.write("inputs.txt", "0\r\n77\r\n");
@@ -46,7 +46,7 @@ TEST(ProgramFilesTest, SavedInputsThatAreCutAreKnown) {
   EXPECT_TRUE(running.start().inputsLoaded());
 }
 
-/// Notes what it hears.
+/// Records the calls.
 class Listener : public RunHooks {
  public:
   std::vector<std::string> heard;
@@ -62,7 +62,7 @@ class Listener : public RunHooks {
   void closeProgress() override { heard.emplace_back("close"); }
 };
 
-TEST(RunListener, HearsWhatTheProgressWindowShows) {
+TEST(RunListener, ReceivesTheProgressOfTheProgressWindow) {
   RunningProgram running;
   frmMain& main = running.start();
   Listener listener;
@@ -79,8 +79,8 @@ TEST(RunListener, HearsWhatTheProgressWindowShows) {
   EXPECT_EQ(listener.updates, 11);
 }
 
-/// Whoever watches the bar never sees the end of the run before as the beginning of the next.
-TEST(ProgressWindow, BeginsEachRunAtZero) {
+/// The bar never shows the end of the previous run at the start of the next.
+TEST(ProgressWindow, StartsEachRunAt0) {
   RunningProgram running;
   running.start();
   running.typeFarm();

@@ -126,7 +126,8 @@ void RandomWalk::act(std::uint32_t number) {
   if (!controls.empty()) actOn(*choose(random, controls), random);
 }
 
-/// Menus and question marks are many and always there: without a second throw there would be little else.
+/// There are many menus and "?" buttons and they are always reachable. Without a second draw they would be
+/// chosen too often.
 Control* RandomWalk::choose(Engine& random, const std::vector<Control*>& controls) {
   const auto isAside = [](const Control& control) {
     return control.kind() == ControlKind::MenuEntry || control.name().starts_with("cmdHelp(");
@@ -218,7 +219,7 @@ void RandomWalk::actOnWindow(Engine& random) {
   }
 }
 
-/// A farm that can be evaluated, whatever stood there before.
+/// Types a farm that can be evaluated, replacing all previous inputs.
 void RandomWalk::typeFarm(Engine& random) {
   note("type a farm");
   if (!findsHome()) {
@@ -258,7 +259,7 @@ void RandomWalk::prepareAnswers(Engine& random) {
   fakes.help.topics.clear();
 }
 
-/// While a run is under way the windows are in use.
+/// Uses the windows during a run.
 void RandomWalk::duringARun() {
   frmUpdating& progress = running_.program->windows.updating();
   if (++pumps_ > pumpsBeforeCancel) {

@@ -10,20 +10,20 @@
 
 namespace verdalis::testing {
 
-/// A person who does anything that can be done, with any text. Each action follows from one number. What was
-/// done is noted, so that a failure can be told.
+/// A simulated user who takes any possible action with any text. Each action is determined by one number. The
+/// actions are recorded to describe a failure.
 class RandomWalk {
  public:
   RandomWalk();
 
-  /// One action on a control that can be reached, or on a window, or the typing of a whole farm.
+  /// Takes one action: on a reachable control, on a window, or typing a whole farm.
   void act(std::uint32_t number);
 
-  /// What is wrong with what is on show; empty if nothing is: that just one pane can be seen, and that each
-  /// message had a title and a text.
+  /// Checks that exactly one pane is visible and that each message had a title and a text.
+  /// \returns a description of the problem; empty if there is none.
   [[nodiscard]] std::string fault();
 
-  /// Leaves the pane on show by its own buttons for going back, else by the menus.
+  /// Leaves the visible pane with its back buttons, otherwise with the menus.
   /// \returns whether that led to the main pane.
   [[nodiscard]] bool findsHome();
 

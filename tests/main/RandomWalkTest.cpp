@@ -9,9 +9,9 @@
 
 #include "tests/main/RandomWalk.h"
 
-// A random walk of a person's actions over all controls, with odd texts: nothing crashes or hangs, just one
-// pane is on show, every pane can be left, and no message comes without a title and a reason. 5,000 actions;
-// with VERDALIS_LONG_WALK=1 in the environment another 100,000, in longer walks.
+// A random walk of user actions over all controls, with odd texts: nothing crashes or hangs, exactly one pane
+// is visible, every pane can be left, and every message has a title and a text. It takes 5,000 actions, and
+// with VERDALIS_LONG_WALK=1 in the environment another 100,000 in longer walks.
 
 namespace verdalis::testing {
 namespace {
@@ -20,11 +20,11 @@ void failIfAny(const std::string& fault, const RandomWalk& person) {
   if (!fault.empty()) RC_FAIL(fault + "\n" + person.story());
 }
 
-/// A walk after which the pane on show is left.
+/// A walk that ends by leaving the visible pane.
 void walk(std::size_t actions) {
   const auto anyNumber = rc::gen::resize(
       rc::kNominalSize, rc::gen::inRange<std::uint32_t>(0, std::numeric_limits<std::uint32_t>::max()));
-  // A shorter walk is another walk: there is nothing to shrink. The story tells what was done.
+  // A shorter walk is a different walk, so there is nothing to shrink. The recorded actions describe it.
   const auto numbers = *rc::gen::noShrink(rc::gen::container<std::vector<std::uint32_t>>(actions, anyNumber));
   RandomWalk person;
   for (const std::uint32_t number : numbers) {
@@ -42,7 +42,7 @@ TEST(RandomWalkTest, NothingBreaksAndEveryPaneCanBeLeft) {
   EXPECT_TRUE(rc::check([] { walk(actions); }));
 }
 
-/// A quarter of the long walk; they can be run side by side.
+/// A quarter of the long walk. The quarters can run in parallel.
 class LongRandomWalk : public ::testing::TestWithParam<int> {};
 
 TEST_P(LongRandomWalk, NothingBreaksAndEveryPaneCanBeLeft) {

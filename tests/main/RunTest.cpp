@@ -15,7 +15,7 @@ class Run : public ::testing::Test {
   [[nodiscard]] bool onResults() const { return main.panes.top().name() == "pneResults"; }
 };
 
-TEST_F(Run, IncompleteInputsAreToldAndNothingIsSaved) {
+TEST_F(Run, IncompleteInputsAreReportedAndNothingIsSaved) {
   running.press("Command1");
   ASSERT_EQ(running.fakes.messageBox.log.size(), 1U);
   const Message& box = running.fakes.messageBox.log[0];
@@ -35,7 +35,7 @@ TEST_F(Run, SavesTheInputsAndShowsTheOptions) {
   EXPECT_EQ(readFile(running.home() / "inputs.txt").substr(0, 21), "0\r\n100\r\n12\r\n85\r\n16\r\n7");
 }
 
-TEST_F(Run, TheTypicalRoadPricesFortyFourCandidates) {
+TEST_F(Run, TheTypicalFarmHas44Candidates) {
   running.typeFarm();
   EXPECT_EQ(main.pneMain.lblVolume.caption(), "1,200");
   running.press("Command1");
@@ -43,7 +43,7 @@ TEST_F(Run, TheTypicalRoadPricesFortyFourCandidates) {
   EXPECT_EQ(running.program->state.cropCombinations, 4U);
 }
 
-TEST_F(Run, TheTimeLabelReadsTheSecondsSinceMidnight) {
+TEST_F(Run, TheTimeLabelShowsTheSecondsSinceMidnight) {
   running.typeFarm();
   running.fakes.clock.time = {2024, 5, 6, 14, 0, 0};
   running.press("Command1");
@@ -61,7 +61,7 @@ TEST_F(Run, ACancelledRunStaysOnTheMainPaneWithTheInputsSaved) {
   EXPECT_TRUE(std::filesystem::exists(running.home() / "inputs.txt"));
 }
 
-TEST_F(Run, TheProgressWindowFollowsTheSteps) {
+TEST_F(Run, TheProgressWindowShowsTheSteps) {
   running.typeFarm();
   running.press("Command1");
   frmUpdating& progress = running.program->windows.updating();
@@ -72,7 +72,7 @@ TEST_F(Run, TheProgressWindowFollowsTheSteps) {
   EXPECT_EQ(progress.Command1.caption(), "Cancel");
 }
 
-TEST_F(Run, ARunTimeErrorIsToldInWordsAndEverythingTypedStays) {
+TEST_F(Run, ARunTimeErrorIsReportedAndTypedTextsAreKept) {
   running.typeFarm();
   running.control<ComboBox>("txtAnnRain").type("25");
   running.press("Command1");
@@ -98,7 +98,7 @@ TEST_F(Run, WithoutALandSplitTheMessageNamesIt) {
   EXPECT_NE(running.fakes.messageBox.log[0].text.find("land split"), std::string::npos);
 }
 
-TEST_F(Run, ASecondPressInsideARunEndsBothAndShowsTheOuterOneLast) {
+TEST_F(Run, ANestedRunAndTheOuterRunEndAndTheOuterOneIsShownLast) {
   running.typeFarm();
   bool pressed = false;
   running.fakes.eventPump.onPump = [&] {
@@ -114,7 +114,7 @@ TEST_F(Run, ASecondPressInsideARunEndsBothAndShowsTheOuterOneLast) {
   EXPECT_EQ(EfficiencyFraction, 0.85);
 }
 
-TEST_F(Run, ClosingTheWindowCancelsWhatRuns) {
+TEST_F(Run, ClosingTheWindowCancelsTheRun) {
   running.typeFarm();
   running.fakes.eventPump.onPump = [&] { main.closeByUser(); };
   running.press("Command1");
@@ -152,7 +152,7 @@ TEST_F(Run, DefaultValuesFillRowsPlantAndCosts) {
   EXPECT_EQ(main.pneIrrigCosts.cboFuelType.text(), "Natural Gas");
 }
 
-TEST_F(Run, TheInertBoxTogglesItsFlagAndNothingElse) {
+TEST_F(Run, TheBoxForFallowLandChangesOnlyItsFlag) {
   running.typeFarm();
   running.press("Command1");
   const std::string before = main.theResults.lblTotalProfit.caption();
@@ -165,7 +165,7 @@ TEST_F(Run, TheInertBoxTogglesItsFlagAndNothingElse) {
   EXPECT_FALSE(main.pneMain.FallowNegatives);
 }
 
-TEST_F(Run, TheSoilFollowsItsField) {
+TEST_F(Run, TheCurrentSoilIsTheTextOfItsField) {
   running.control<ComboBox>("txtSoil").pick(1);
   EXPECT_EQ(main.pneMain.currentSoil, "Fine Sand");
   running.control<ComboBox>("txtSoil").type("Valent");

@@ -11,7 +11,7 @@
 
 namespace verdalis::testing {
 
-/// The program in a home folder of its own with the stock crops.
+/// The program in a temporary home folder with the stock crops.
 struct RunningProgram {
   RunningProgram() { std::filesystem::copy(VERDALIS_SOURCE_DIR "/crops", home() / "crops", recursive); }
 
@@ -24,13 +24,13 @@ struct RunningProgram {
 
   [[nodiscard]] std::filesystem::path home() const { return folder.path(); }
 
-  /// The welcome window stands.
+  /// Starts the program at the welcome window.
   Program& begin() {
     program = std::make_unique<Program>(services, home());
     return *program;
   }
 
-  /// The main window stands.
+  /// Starts the program and opens the main window.
   frmMain& start() {
     begin().welcome.Command1.click();
     return program->main();

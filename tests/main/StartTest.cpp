@@ -10,7 +10,7 @@ namespace {
 
 using Strings = std::vector<std::string>;
 
-TEST(Start, BeginsAtTheWelcomeWindowWithItsTexts) {
+TEST(Start, ShowsTheWelcomeWindowFirst) {
   RunningProgram running;
   Program& program = running.begin();
   EXPECT_TRUE(program.welcome.isOpen());
@@ -73,7 +73,7 @@ TEST(Start, ShowsTheMainPaneWithItsStartValues) {
   EXPECT_TRUE(running.fakes.messageBox.log.empty());
 }
 
-TEST(Start, OptionButtonsBearTheLandSplits) {
+TEST(Start, OptionButtonsShowTheLandSplits) {
   RunningProgram running;
   frmMain& main = running.start();
   Strings captions;
@@ -83,7 +83,7 @@ TEST(Start, OptionButtonsBearTheLandSplits) {
             (Strings{"50 - 50", "75 - 25", "33 - 33 - 33", "50 - 25 - 25", "25 - 25 - 25 - 25", "100 "}));
 }
 
-TEST(Start, MakesARowForEachCropWithItsUnits) {
+TEST(Start, CreatesARowForEachCropWithItsUnits) {
   RunningProgram running;
   frmMain& main = running.start();
   Strings rows;
@@ -97,7 +97,7 @@ TEST(Start, MakesARowForEachCropWithItsUnits) {
   EXPECT_FALSE(main.pneMain.cr[6]->txtMaxYield.visible());
 }
 
-TEST(Start, SavedInputsStandInTheFields) {
+TEST(Start, SavedInputsAreShownInTheFields) {
   RunningProgram running;
   std::filesystem::copy_file(VERDALIS_SOURCE_DIR "/examples/high-plains/inputs.txt",
                              running.home() / "inputs.txt");
@@ -113,7 +113,7 @@ TEST(Start, SavedInputsStandInTheFields) {
   EXPECT_FALSE(main.pneMain.cr[1]->isActive());
 }
 
-TEST(Start, TrendsOfTheSavedInputsComeWithoutANotice) {
+TEST(Start, SavedInputsTurnTrendsOnWithoutANotice) {
   RunningProgram running;
   std::filesystem::copy_file(VERDALIS_SOURCE_DIR "/examples/high-plains/inputs.txt",
                              running.home() / "inputs.txt");
@@ -129,7 +129,7 @@ TEST(Start, TrendsOfTheSavedInputsComeWithoutANotice) {
   EXPECT_TRUE(running.fakes.messageBox.log.empty());
 }
 
-TEST(Start, WithTrendsTellsTheNoticeBeforeAnythingIsRead) {
+TEST(Start, StartingWithTrendsShowsTheNoticeBeforeAnythingIsRead) {
   RunningProgram running;
   running.begin();
   running.fakes.messageBox.onShow = [&](const Message&) {
@@ -152,7 +152,7 @@ TEST(Start, WithTrendsTellsTheNoticeBeforeAnythingIsRead) {
   EXPECT_EQ(running.history(), (Strings{"pneMain"}));
 }
 
-TEST(Start, AMissingLibraryIsToldAndTheStartGoesOn) {
+TEST(Start, AMissingLibraryIsReportedAndTheStartContinues) {
   RunningProgram running;
   std::filesystem::remove_all(running.home() / "crops");
   frmMain& main = running.start();
@@ -194,7 +194,7 @@ TEST_F(LibrarySize, FiftyNineCropsFit) {
   EXPECT_EQ(main.pneMain.cropScroll.maximum(), 59 * 550 - cropFrameHolderHeight);
 }
 
-TEST_F(LibrarySize, SixtyCropsAreToldWithAllRowsThere) {
+TEST_F(LibrarySize, SixtyCropsAreReportedWithAllRowsCreated) {
   fill(53);
   frmMain& main = running.start();
   EXPECT_EQ(main.pneMain.cr.size(), 60U);
@@ -220,7 +220,7 @@ TEST_F(LibrarySize, ScrollingMovesTheRowsAndTakesTheFocusOffThem) {
   EXPECT_EQ(running.program->desk.focus(), &main.pneMain.Command7);
 }
 
-TEST_F(LibrarySize, AReloadKeepsRowZeroAndEnablesTheScrollBarAgain) {
+TEST_F(LibrarySize, AReloadKeepsRow0AndEnablesTheScrollBarAgain) {
   frmMain& main = running.start();
   main.pneMain.cr[0]->chkCrop.click();
   main.pneMain.cr[0]->txtPrice.type("77");
@@ -234,7 +234,7 @@ TEST_F(LibrarySize, AReloadKeepsRowZeroAndEnablesTheScrollBarAgain) {
   EXPECT_EQ(main.pneMain.cr[1]->txtPrice.text(), "");
 }
 
-TEST(Start, DamagedSavedInputsBreakNothing) {
+TEST(Start, DamagedSavedInputsAreTolerated) {
   for (const std::string& bytes :
        {std::string(), std::string("3\r\n100\r\n"), std::string("\x00\xff\xfe\x01", 4),
         std::string(100000, ','), std::string("9\r\n1\r\n1\r\n1\r\n16\r\n")}) {
@@ -245,7 +245,7 @@ TEST(Start, DamagedSavedInputsBreakNothing) {
   }
 }
 
-TEST(Start, SavedWaterAboveTheCapacityWarnsAsTypingWould) {
+TEST(Start, SavedWaterAboveTheCapacityShowsTheWarning) {
   RunningProgram running;
   writeFile(
       running.home() / "inputs.txt",

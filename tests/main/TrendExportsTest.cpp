@@ -34,8 +34,8 @@ const std::string variableTitle =
     "<table><tr><td colspan=12 align=center><h2><strong>The output below shows the top results from each "
     "option.</strong></h2><hr></td></tr></table>\n";
 
-/// What a fixed trend over the price of corn tells of its one field, but for the efficiency, which may be
-/// trended, too.
+/// The lines about the single field in the export of a fixed trend over the price of corn, without the
+/// efficiency, which may be varied too.
 const std::string cornField =
     R"(<table><tr><td><b>Field Information for fixed trend execution</b></td></tr></table>
 <table><tr><td></td></tr></table>
@@ -102,7 +102,7 @@ class TrendExports : public TrendWindow {
   }
 };
 
-TEST_F(TrendExports, AVariableTrendOfFourOptions) {
+TEST_F(TrendExports, ExportsAVariableTrendOfFourOptions) {
   tick(2, "5", "100");  // 143.3 of 155.8: $459.88
   tick(5, "6", "60");   // 69.2 of 75.6: $329.52
   // At $3 corn earns $500.86, less than alfalfa.
@@ -148,7 +148,7 @@ TEST_F(TrendExports, FewerThanFourOptionsEndTheFileInTheMiddle) {
                            first + "</table></td>\n");
 }
 
-TEST_F(TrendExports, AFixedTrendOfOneVariable) {
+TEST_F(TrendExports, ExportsAFixedTrendOfOneVariable) {
   runVariable(1, 0, "4, 3");
   running.press(std::string(result) + ".cmdBatchThis");
   run(0, 0, "4, 6.5, 5");
@@ -183,7 +183,7 @@ TEST_F(TrendExports, AFixedTrendOfOneVariable) {
 )");
 }
 
-TEST_F(TrendExports, AFixedTrendOfTwoVariables) {
+TEST_F(TrendExports, ExportsAFixedTrendOfTwoVariables) {
   runVariable(1, 0, "4, 3");
   running.press(std::string(result) + ".cmdBatchThis");
   running.control<ComboBox>("cboCrops").pick(0);

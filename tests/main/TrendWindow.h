@@ -66,13 +66,13 @@ class TrendWindow : public ::testing::Test {
   [[nodiscard]] std::string pane() const { return running.history().back(); }
   [[nodiscard]] inputCosts& costs(int row) { return main.pneMain.cr.at(row)->Crop->inputCosts; }
 
-  /// From the results of the trend to the main pane, or to the results of the evaluation.
+  /// Goes back from the results of the trend to the main pane or to the results of the evaluation.
   void goBack() {
     running.press(std::string(result) + ".Command1");
     running.press("Command10");
   }
 
-  /// All that a variable trend can write into, as it stands now.
+  /// The current values of everything that a variable trend can change.
   [[nodiscard]] std::vector<std::string> live() {
     const IrrigationCosts& plant = *main.tempIrrigationCosts;
     return {text("cr(1).txtPrice"),

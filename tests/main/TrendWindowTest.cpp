@@ -26,7 +26,7 @@ struct OneVariable {
 
 class EachVariable : public TrendWindow, public ::testing::WithParamInterface<OneVariable> {};
 
-TEST_P(EachVariable, IsTrendedAndTakenBack) {
+TEST_P(EachVariable, IsVariedByATrendAndRestored) {
   const OneVariable& variable = GetParam();
   running.choose("mnuFallBatch");
   EXPECT_EQ(running.control<ComboBox>("cboCrops").items(), (Strings{"Alfalfa", "Corn"}));
@@ -110,7 +110,7 @@ const std::vector<OneVariable> variables{
 INSTANTIATE_TEST_SUITE_P(Variables, EachVariable, ::testing::ValuesIn(variables),
                          [](const auto& test) { return "Variable" + std::to_string(test.param.index); });
 
-TEST_F(TrendWindow, BackTakesTheFirstRowOffTrendCostsAndLeavesTheSecond) {
+TEST_F(TrendWindow, BackClearsTheTrendCostsOfTheFirstRowOnly) {
   runVariable(1, 1, "100, 200");
   goBack();
   runVariable(0, 1, "50, 70");
@@ -141,7 +141,7 @@ TEST_F(TrendWindow, BackTakesTheFirstRowOffTrendCostsAndLeavesTheSecond) {
   EXPECT_EQ(shown("lblTotalProfit"), "$1,085 /acre");
 }
 
-TEST_F(TrendWindow, TheProgressWindowCountsTheEvaluationsLeft) {
+TEST_F(TrendWindow, TheProgressWindowShowsTheRemainingEvaluations) {
   Strings lines;
   Strings titles;
   running.fakes.eventPump.onPump = [&] {
@@ -180,7 +180,7 @@ TEST_F(TrendWindow, ACancelInTheSecondRunEndsTheTrend) {
   EXPECT_EQ(text("cr(1).txtPrice"), "6.50");
 }
 
-TEST_F(TrendWindow, TheResultsLeadBackToTheSetupAndTurnPrintingOff) {
+TEST_F(TrendWindow, BackFromTheResultsShowsTheSetupAndDisablesPrinting) {
   running.press("Command1");
   runVariable(1, 0, "4, 5");
   EXPECT_TRUE(main.menus.mnuPrint.enabled());
@@ -205,7 +205,7 @@ TEST_F(TrendWindow, TheResultsLeadBackToTheSetupAndTurnPrintingOff) {
   EXPECT_EQ(shown("lblTotalProfit"), "$501 /acre");
 }
 
-TEST_F(TrendWindow, DetailsOfATrendResultLeadBackToIt) {
+TEST_F(TrendWindow, BackFromDetailsOfATrendShowsItsResults) {
   runVariable(1, 1, "100, 200");
   EXPECT_FALSE(main.menus.mnuPrint.enabled());
   running.press("theBatchResults.cmdBatchStep(0)");
@@ -232,8 +232,8 @@ TEST_F(TrendWindow, DetailsOfATrendResultLeadBackToIt) {
                                         "pneDetails", "pneBatchSetup(1)", "pneBatchSetup(0)", "pneMain"}));
 }
 
-// With other production costs in their place alfalfa needs no life of stand, until its lines are to be shown.
-TEST_F(TrendWindow, DetailsThatCannotBeWorkedOutLeaveTheOptionsOnShow) {
+// With the production costs replaced, alfalfa needs a life of stand only to show its details.
+TEST_F(TrendWindow, DetailsThatCannotBeCalculatedKeepTheOptionsShown) {
   running.control<CheckBox>("cr(1).chkCrop").click();
   runVariable(0, 1, "300, 400");
   ASSERT_EQ(shown("rh(0).lblCrop"), "Alfalfa");
@@ -251,7 +251,7 @@ TEST_F(TrendWindow, DetailsThatCannotBeWorkedOutLeaveTheOptionsOnShow) {
   EXPECT_EQ(pane(), "pneMain");
 }
 
-TEST_F(TrendWindow, IrrigationCostsOfATrendAreInTheDetails) {
+TEST_F(TrendWindow, DetailsShowTheIrrigationCostsOfATrend) {
   runVariable(1, 4, "2, 3");
   running.press(std::string(result) + ".rh(0).cmdDetails");
   EXPECT_FALSE(running.control<Frame>("theDetails.picBatch(0)").visible());
@@ -270,7 +270,7 @@ TEST_F(TrendWindow, EachRunOffersATrendWhileTrendProcessingIsOn) {
   EXPECT_FALSE(main.theResults.batchDisplay.visible());
 }
 
-TEST_F(TrendWindow, AFixedTrendOverAStepOfAVariableTrend) {
+TEST_F(TrendWindow, AFixedTrendRunsOnAStepOfAVariableTrend) {
   runVariable(1, 1, "100, 200");
   running.press("theBatchResults.cmdBatchStep(0)");
   EXPECT_FALSE(running.control<Frame>(std::string(result) + ".pnlBatchedVariables").visible());
@@ -312,7 +312,7 @@ TEST_F(TrendWindow, AFixedTrendOverAStepOfAVariableTrend) {
   EXPECT_EQ(main.lblMainInfo.caption(), main.strMainInfo);
 }
 
-TEST_F(TrendWindow, AFixedTrendOverAFixedTrendBeginsAnew) {
+TEST_F(TrendWindow, AFixedTrendOnAFixedTrendDiscardsTheFirst) {
   runVariable(1, 0, "4, 5");
   running.press(std::string(result) + ".cmdBatchThis");
   // Half the efficiency, at the price of the first step: 101.2 of 210.

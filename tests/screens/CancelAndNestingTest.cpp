@@ -9,7 +9,7 @@
 #include "tests/support/Run.h"
 #include "text/RunTimeError.h"
 
-// What happens while a run gives the window its turn: a cancel, a second run, edits of everything around it.
+// Events during a run: a cancel, a nested run, and edits of its inputs.
 
 namespace verdalis::testing {
 namespace {
@@ -21,7 +21,7 @@ class DuringARun : public ::testing::Test {
   ScopedEfficiency efficiency_{0};
 };
 
-/// What a cancelled run must leave behind.
+/// Checks the state after a cancelled run.
 void expectCancelled(FarmRun& farm, const BestMix& best) {
   EXPECT_EQ(best.getSize(), 0);
   EXPECT_THAT(optionsOf(best), SizeIs(0));
@@ -107,7 +107,7 @@ TEST_F(DuringARun, ACancelKeepsTheStateSetUpByTheRun) {
   EXPECT_THAT(optionsOf(farm->run()), SizeIs(44));
 }
 
-/// A second run with other texts on the same library, plant and state, as a second press of the button starts
+/// A nested run with other texts on the same library, plant and state, as pressing the button again starts
 /// it.
 std::vector<std::string> runInside(FarmRun& farm) {
   ScenarioInputs typed = farm.inputs;
@@ -132,7 +132,7 @@ std::vector<std::string> runInside(FarmRun& farm) {
   return describe(best);
 }
 
-/// A farm whose outer run ticks every box that a run inside it could disturb.
+/// A farm whose outer run uses everything that a nested run could disturb.
 std::unique_ptr<FarmRun> fullFarm() {
   auto farm = cornAndWheatFarm();
   farm->add(alfalfaCrop());
@@ -178,7 +178,7 @@ TEST_F(DuringARun, ANestedRunThatFailsDoesNotAffectTheOuterRun) {
     try {
       (void)RunScenario(typed, farm->library, farm->plant, farm->state, hooks, "");
     } catch (const RunTimeError&) {
-      ++failures;  // where the event entered, it is told
+      ++failures;  // reported where the event started
     }
   };
   EXPECT_EQ(describe(farm->run()), expected);

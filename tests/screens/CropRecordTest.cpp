@@ -7,7 +7,7 @@
 #include "screens/CropRecord.h"
 #include "tests/support/FakeServices.h"
 
-// A row of the crop list on a window of its own.
+// A row of the crop list in a window without other controls.
 
 namespace verdalis::testing {
 namespace {
@@ -21,13 +21,13 @@ class CropRow : public ::testing::Test {
     row.chkCrop.click();
   }
 
-  /// The row is that of a crop of this name.
+  /// Assigns a crop with this name to the row.
   void show(const std::string& name) {
     row.Crop->cropType = name;
     row.loadInfo(name, "$/bu.", "$/ac", "bushels");
   }
 
-  /// Types a text into a field and leaves it: no box comes, and the text stays.
+  /// Types a text into a field and leaves it: no message is shown, and the text is kept.
   void expectPasses(TextBox& box, const std::string& text) {
     box.type(text);
     box.leave();
@@ -36,7 +36,7 @@ class CropRow : public ::testing::Test {
     EXPECT_EQ(desk.focus(), nullptr) << text;
   }
 
-  /// Types a text into a field and leaves it: the box comes, and the text that the field had is back.
+  /// Types a text into a field and leaves it: the message is shown, and the previous text is restored.
   void expectRefused(TextBox& box, const std::string& text, const std::string& message) {
     const std::string before = box.text();
     box.type(text);
@@ -213,7 +213,7 @@ TEST_F(CropRow, RefreshRoundsThePriceOfTheCropToCents) {
   row.refresh();
   EXPECT_EQ(row.txtPrice.text(), "1,234.57");
   EXPECT_EQ(row.Crop->price, 1234.57);
-  // A text that stands there already is no change.
+  // Setting the same text is not a change.
   row.Crop->price = 1234.568;
   row.refresh();
   EXPECT_EQ(row.txtPrice.text(), "1,234.57");

@@ -20,7 +20,7 @@ inline std::string cropFileText(const std::string& name, const std::string& unit
          "\r\n\r\nEFF_IRRIG=" + irrigation + "\r\n\r\nYIELD_VALUES=" + values + "\r\n";
 }
 
-/// The editor on a window of its own, with a folder of its own.
+/// The editor in a window without other controls, with a temporary folder.
 class CustomCropEditor : public ::testing::Test {
  protected:
   CustomCropEditor() {
@@ -43,7 +43,7 @@ class CustomCropEditor : public ::testing::Test {
   ComboBox& list(std::size_t index) { return pane.cboCustomGrid.at(index); }
   Grid& grid() { return pane.dgCustom; }
 
-  /// The texts of a row, the head included.
+  /// The texts of a row, including the heading.
   std::vector<std::string> rowOf(int row) {
     std::vector<std::string> texts;
     texts.reserve(static_cast<std::size_t>(grid().columns()));
@@ -62,14 +62,14 @@ class CustomCropEditor : public ::testing::Test {
 
   void answer(MessageAnswer given) { fakes.messageBox.answers.push_back(given); }
 
-  /// The one box since the last call.
+  /// The only message since the last call.
   Message theBox() {
     const std::vector<Message> boxes = fakes.messageBox.take();
     EXPECT_EQ(boxes.size(), 1U);
     return boxes.empty() ? Message{} : boxes[0];
   }
 
-  /// The titles of the boxes since the last call.
+  /// The titles of the messages since the last call.
   std::vector<std::string> titles() {
     std::vector<std::string> found;
     for (const Message& box : fakes.messageBox.take())

@@ -131,7 +131,7 @@ class CustomCropPaste : public CustomCropEditor {
     pane.cmdCustomGrid0.click();
   }
 
-  /// The data cells after pasting, a row a text.
+  /// The data cells after pasting, one text per row.
   Strings pasted(const std::string& text) {
     fakes.clipboard.contents = text;
     pane.cmdCustomGrid4.click();
@@ -195,7 +195,7 @@ TEST_F(CustomCropPaste, NotifiesTheViewOnce) {
   EXPECT_EQ(changes, 1);
 }
 
-// Ten megabytes of each kind that could make a paste take long.
+// Ten megabytes of each kind of text that could make pasting slow.
 TEST_F(CustomCropPaste, AHugeClipboardIsCutToTheGrid) {
   constexpr std::size_t size = 10U << 20U;
   const std::string digits(size, '7');
@@ -279,7 +279,7 @@ const std::vector<DefaultRow>& defaultRows() {
        23,
        {"0 in.", "41", "176", "316", "461", "613", "770", "932", "1097", "1263", "1428", "1591"},
        {"22 in.", "3311", "3344", "3371", "3394", "3414", "3431", "3445", "3458", "3469", "3478", "3486"}},
-      // In bushels, and tons all the same.
+      // The table is in bushels, but the unit is tons.
       {"Wheat",
        "21",
        "22",

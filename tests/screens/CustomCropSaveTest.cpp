@@ -48,7 +48,7 @@ TEST_F(CustomCropSave, WritesTheFileByteForByte) {
   EXPECT_EQ(box.buttons, MessageButtons::ok);
   EXPECT_EQ(reloads, 1);
   EXPECT_FALSE(pane.customAltered);
-  // The list of crops is not made anew.
+  // The list of crops is not updated.
   EXPECT_EQ(list(0).items(), Strings{"Select..."});
   EXPECT_TRUE(pane.CustomCropList.empty());
 }

@@ -34,7 +34,7 @@ class InputCostsLimits : public ::verdalis::testing::InputCostsFixture {
       EXPECT_EQ(messageFor(name, typed), "") << name;
   }
 
-  /// `told` is the limit as the message tells it.
+  /// `told` is the limit as the message shows it.
   void expectLimit(const std::string& name, const std::string& label, const std::string& limit,
                    const std::string& told) {
     EXPECT_EQ(messageFor(name, "0"), "");

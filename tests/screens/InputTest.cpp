@@ -16,7 +16,8 @@ namespace {
 
 class InputTest : public ::testing::Test {
  protected:
-  /// Types a text into a field that held "7", leaves it, and returns the texts of the boxes that came.
+  /// Types a text into a field that contained "7" and leaves it.
+  /// \returns the texts of the messages.
   std::vector<std::string> messagesFor(const std::string& text, double limit) {
     box.setText("7");
     test = box.onLeave.connectScoped(

@@ -214,7 +214,7 @@ TEST_F(IrrigCosts, EveryFieldUpdatesTheSubtotal) {
   for (TextBox* box : {&pane.txtGPM, &pane.txtLift, &pane.txtPSI, &pane.txtCost, &pane.txtRepairsPerAcre}) {
     const std::string before = box->text();
     box->type("99");
-    // The flow takes no part in the cost of an acre-inch: it pumps faster at more power.
+    // The flow does not affect the cost of an acre-inch: a higher flow pumps faster at more power.
     const bool expectChange = box != &pane.txtGPM;
     EXPECT_EQ(captions.insert(pane.lblICosts.caption()).second, expectChange) << box->name();
     box->type(before);

@@ -7,7 +7,7 @@
 #include "tests/support/PlainFarm.h"
 #include "tests/support/Run.h"
 
-// The candidates of the undivided farm, which share the library's crops and the plant.
+// The candidates of the undivided farm, which share the crops of the library and the plant.
 
 namespace verdalis::testing {
 namespace {
@@ -73,7 +73,7 @@ TEST_F(NoSplit, ComesAfterTheSearchInTheOrderOfTheRows) {
   std::vector<std::string> order;
   for (const auto& option : optionsOf(farm->run()))
     order.push_back(cropsOf(*option));
-  // All earn the same, so the last submission stands first: B and A undivided, then the search's A and B.
+  // All earn the same, so the last submitted is first: B and A undivided, then A and B of the search.
   EXPECT_THAT(order, ElementsAre("B", "A", "A", "B"));
 }
 
@@ -167,7 +167,7 @@ TEST_F(NoSplit, ShowsThePumpingHoursOfThePreviousCropOnADryField) {
     if (option->Item(1)->theCrop->cropType == "Fallow")
       fallowHours.push_back(option->Item(1)->irrigCosts->hours);
   }
-  // Equal profits: the later one, priced after the corn, stands first.
+  // Equal profits: the later candidate, priced after the corn, is first.
   EXPECT_THAT(fallowHours, ElementsAre(::testing::DoubleNear(720, 1e-9), 77));
   EXPECT_NEAR(farm->plant->hours, 720, 1e-9);
 }
@@ -196,7 +196,7 @@ TEST_F(NoSplit, UsesTheTrendCostsOfCropAndPlant) {
   farm->plant->BatchIrrigationCosts = 4;
   const auto option = singleFieldsOf(farm->run()).front();
   EXPECT_EQ(option->getCosts(), 4 * 100 * option->Item(1)->Depth + 30000);
-  EXPECT_EQ(farm->library.Item(1)->inputCosts.SeedRate, 0);  // nothing was worked out
+  EXPECT_EQ(farm->library.Item(1)->inputCosts.SeedRate, 0);  // nothing was calculated
 }
 
 TEST_F(NoSplit, IsSkippedAfterACancel) {

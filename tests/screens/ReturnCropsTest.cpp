@@ -9,7 +9,7 @@
 #include "tests/support/Errors.h"
 #include "tests/support/Run.h"
 
-// The ticked rows as the crops of a run, and the tables of the soil.
+// The crops of a run from the ticked rows, and the tables of the soil.
 
 namespace verdalis::testing {
 namespace {
@@ -96,7 +96,7 @@ std::unique_ptr<FarmRun> farmWithSoils() {
   return farm;
 }
 
-/// The name of the soil and the table that a soil text leads to.
+/// The name of the soil and the table that a soil text selects.
 std::pair<std::string, YieldTable> soilFor(FarmRun& farm, const std::string& currentSoil) {
   farm.inputs.currentSoil = currentSoil;
   const CropScenario crops = cropsOf(farm);

@@ -8,8 +8,7 @@
 #include "tests/support/Errors.h"
 #include "tests/support/Run.h"
 
-// Runs that cannot be carried out: each ends in an error that says which value was wrong, and nothing is
-// shown.
+// Runs that fail: each ends with an error that names the wrong value, and nothing is shown.
 
 namespace verdalis::testing {
 namespace {
@@ -19,7 +18,7 @@ using ::testing::HasSubstr;
 
 class RunFailure : public ::testing::Test {
  protected:
-  /// The text of the error that a typical farm ends in after `spoil`.
+  /// The text of the error of a typical farm that `spoil` has changed.
   template <class Spoil>
   static std::string failureOf(ErrorNumber number, Spoil spoil) {
     const auto farm = cornAndWheatFarm();

@@ -24,7 +24,7 @@ struct PlainCandidate {
   double profit = 0;
 };
 
-/// The crops as a run finds them: price and yield of the row, the scale, and the table of the soil.
+/// The crops as a run uses them: price and yield of the row, the scale, and the table of the soil.
 std::vector<Crop> preparedCrops(const FarmRun& farm, double rain) {
   std::vector<Crop> crops;
   for (long i = 1; i <= farm.library.Count(); ++i) {
@@ -64,7 +64,7 @@ PlainCandidate priceOf(const std::vector<Crop>& crops, const std::vector<double>
   return candidate;
 }
 
-/// All water splits in percent, each field's share running down.
+/// All water splits in percent, with descending shares of each field.
 void addSplits(const std::vector<double>& levels, std::size_t n, std::vector<double>& split,
                std::vector<std::vector<double>>& result) {
   if (split.size() == n) {

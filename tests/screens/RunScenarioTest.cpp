@@ -80,7 +80,7 @@ TEST_F(Run, RanksByDescendingProfitAndKeepsDuplicates) {
   const auto options = optionsOf(best);
   for (std::size_t i = 0; i + 1 < options.size(); ++i)
     EXPECT_GE(options[i]->getProfit(), options[i + 1]->getProfit());
-  EXPECT_LT(best.returnCollection(true)[43]->Count(), 1);  // mirrored splits of one crop are told once
+  EXPECT_LT(best.returnCollection(true)[43]->Count(), 1);  // mirrored splits of one crop are listed once
 }
 
 TEST_F(Run, ReadsTheRoundedVolumeFromItsText) {
@@ -174,7 +174,7 @@ TEST_F(Run, RanksTheLastSubmittedFirstAmongEquals) {
     EXPECT_EQ(option->getProfit(), 500);
     order.push_back(cropsOf(*option) + (option->Item(1)->Depth > 0 ? " / first" : " / second"));
   }
-  // Water split outside, crops inside, both falling: the first submission stands last.
+  // Water splits outside, crops inside, both descending: the first submission is last.
   EXPECT_THAT(order, ElementsAre("A, A / second", "A, B / second", "B, A / second", "B, B / second",
                                  "A, A / first", "A, B / first", "B, A / first", "B, B / first"));
   farm->inputs.txtArraySize = "1";

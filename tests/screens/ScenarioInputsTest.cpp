@@ -14,7 +14,7 @@
 #include "tests/support/FakeServices.h"
 #include "tests/support/Run.h"
 
-// The texts that a run starts from: whether they are all there, and the volume that follows from them.
+// The texts that a run starts from: whether they are complete, and the resulting volume.
 
 namespace verdalis::testing {
 namespace {

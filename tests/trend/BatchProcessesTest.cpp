@@ -12,7 +12,7 @@ class BatchProcessesTest : public TrendTest {
  protected:
   BatchProcessesTest() { openFixed(); }
 
-  /// The first process goes over prices of Corn, the second over efficiencies; the second is on show.
+  /// Defines two processes: prices of Corn, then efficiencies. The second is shown.
   void defineTwo() {
     typeList("1, 2");
     setup.cmdAddBatchProcess.click();
@@ -30,7 +30,7 @@ class BatchProcessesTest : public TrendTest {
   }
 };
 
-TEST_F(BatchProcessesTest, AddingSavesTheProcessOnShowAndShowsABlankOne) {
+TEST_F(BatchProcessesTest, AddingSavesTheShownProcessAndShowsABlankOne) {
   choose(4);
   typeList("1, 2");
   setup.cmdAddBatchProcess.click();
@@ -52,7 +52,7 @@ TEST_F(BatchProcessesTest, AddingSavesTheProcessOnShowAndShowsABlankOne) {
   EXPECT_TRUE(setup.cmdDeleteBatch.enabled());
 }
 
-TEST_F(BatchProcessesTest, AddingNeedsAValidPane) {
+TEST_F(BatchProcessesTest, AddingRequiresAValidPane) {
   setup.cmdAddBatchProcess.click();
   EXPECT_EQ(theMessage().text, "Please select a maximum value greater than the minimum value!");
   EXPECT_EQ(trend.ProcessCollection.size(), 1U);
@@ -63,7 +63,7 @@ TEST_F(BatchProcessesTest, AddingNeedsAValidPane) {
   EXPECT_EQ(setup.txtBatchList.text(), "x");
 }
 
-TEST_F(BatchProcessesTest, ValuesSurviveSwitching) {
+TEST_F(BatchProcessesTest, SwitchingProcessesKeepsTheirValues) {
   defineTwo();
   setup.cboBatches.pick(0);
   EXPECT_EQ(trend.CurrentProcess, 0);
@@ -100,7 +100,7 @@ TEST_F(BatchProcessesTest, ValuesSurviveSwitching) {
   EXPECT_EQ(trend.ProcessCollection[0].GetValueArray().size(), 3U);
 }
 
-TEST_F(BatchProcessesTest, AnInvalidPaneStaysOnItsProcess) {
+TEST_F(BatchProcessesTest, AnInvalidPaneKeepsItsProcess) {
   defineTwo();
   typeRange("70", "70", "3");
   setup.cboBatches.pick(0);
@@ -113,7 +113,7 @@ TEST_F(BatchProcessesTest, AnInvalidPaneStaysOnItsProcess) {
   EXPECT_TRUE(setup.optBatchVariable[3]->checked());
 }
 
-TEST_F(BatchProcessesTest, ARunTimeErrorStaysOnItsProcess) {
+TEST_F(BatchProcessesTest, ARunTimeErrorKeepsTheProcess) {
   int errors = 0;
   desk.onRunTimeError = [&](const RunTimeError&) { ++errors; };
   defineTwo();
@@ -125,7 +125,7 @@ TEST_F(BatchProcessesTest, ARunTimeErrorStaysOnItsProcess) {
   EXPECT_EQ(setup.txtBatchMinimum[1].text(), "1e400");
 }
 
-TEST_F(BatchProcessesTest, ASecondProcessMayTakeTheSameVariable) {
+TEST_F(BatchProcessesTest, TwoProcessesMayUseTheSameVariable) {
   typeList("1, 2");
   setup.cmdAddBatchProcess.click();
   EXPECT_THAT(ticks(), ElementsAre(0));
@@ -135,7 +135,7 @@ TEST_F(BatchProcessesTest, ASecondProcessMayTakeTheSameVariable) {
   EXPECT_THAT(ticks(), ElementsAre(0));
 }
 
-TEST_F(BatchProcessesTest, DeletingAsks) {
+TEST_F(BatchProcessesTest, DeletingAsksForConfirmation) {
   defineTwo();
   fakes.messageBox.answers = {MessageAnswer::no};
   setup.cmdDeleteBatch.click();
@@ -166,7 +166,7 @@ TEST_F(BatchProcessesTest, DeletingShowsTheFirstProcess) {
   EXPECT_FALSE(setup.cmdDeleteBatch.enabled());
 }
 
-TEST_F(BatchProcessesTest, OpeningAnewForgetsTheProcesses) {
+TEST_F(BatchProcessesTest, OpeningAgainDiscardsTheProcesses) {
   defineTwo();
   openFixed();
   EXPECT_EQ(trend.ProcessCollection.size(), 1U);

@@ -18,7 +18,7 @@ class BatchResultsTest : public TrendTest {
   [[nodiscard]] std::string value() const { return results.lblFreeBatchDescription.caption(); }
 };
 
-TEST_F(BatchResultsTest, Captions) {
+TEST_F(BatchResultsTest, ControlsHaveTheirCaptions) {
   EXPECT_EQ(results.cmdBatchStep[0].caption(), "Next >");
   EXPECT_EQ(results.cmdBatchStep[1].caption(), "< Previous");
   EXPECT_EQ(results.cmdExcel.caption(), "Export to MS Excel");
@@ -50,7 +50,7 @@ TEST_F(BatchResultsTest, SteppingStopsAtBothEnds) {
   results.cmdBatchStep[0].click();
   EXPECT_EQ(step(), "Step 3 of 3");
   EXPECT_EQ(value(), "Corn Crop Price: $7.00 / bu.");
-  EXPECT_EQ(results.theResults.lblCounter.caption(), "Option 2");  // nothing was loaded anew
+  EXPECT_EQ(results.theResults.lblCounter.caption(), "Option 2");  // nothing was loaded again
   results.cmdBatchStep[1].click();
   EXPECT_EQ(step(), "Step 2 of 3");
   EXPECT_EQ(value(), "Corn Crop Price: $6.00 / bu.");
@@ -65,7 +65,7 @@ TEST_F(BatchResultsTest, EachStepShowsItsRanking) {
   EXPECT_GT(results.theResults.getTotalProfit(1), 10 * low);
 }
 
-TEST_F(BatchResultsTest, TheValueOfEachVariable) {
+TEST_F(BatchResultsTest, ShowsTheValueOfEachVariable) {
   openVariable();
   const std::vector<const char*> captions{"Corn Crop Price: $12.00 / bu.",
                                           "Corn General Production Costs: $12.00 / ac",
@@ -79,7 +79,7 @@ TEST_F(BatchResultsTest, TheValueOfEachVariable) {
   }
 }
 
-TEST_F(BatchResultsTest, ASingleStepDoesNothingOnItsButtons) {
+TEST_F(BatchResultsTest, TheButtonsOfASingleStepDoNothing) {
   openVariable();
   run(0, "5");
   EXPECT_EQ(step(), "Step 1 of 1");
@@ -104,14 +104,14 @@ TEST_F(BatchResultsTest, AFixedTrendDescribesItsOptions) {
   EXPECT_EQ(results.theResults.lblBatchDescriptions[0].caption(), "Crop Price - Corn : $5.00 / bu.");
 }
 
-TEST_F(BatchResultsTest, AValueOfZeroIsDescribedWithoutDigitsInFront) {
+TEST_F(BatchResultsTest, AValueOf0IsShownWithoutALeadingDigit) {
   openFixed();
   run(0, "0");
   EXPECT_EQ(results.theResults.lblBatchDescriptions[0].caption(), "Crop Price - Corn : $.00 / bu.");
   EXPECT_EQ(results.theResults.lblBatchDescriptions[1].caption(), "");
 }
 
-TEST_F(BatchResultsTest, KnowsWhichVariablesAreTrended) {
+TEST_F(BatchResultsTest, ReportsWhichVariablesAreTrended) {
   openFixed();
   setup.cboCrops.pick(1);
   run(0, "5");
@@ -124,7 +124,7 @@ TEST_F(BatchResultsTest, KnowsWhichVariablesAreTrended) {
   EXPECT_FALSE(results.theResults.CheckVariable(0, 2));
 }
 
-TEST_F(BatchResultsTest, KnowsTheUnsortedOptions) {
+TEST_F(BatchResultsTest, ReturnsTheUnsortedOptions) {
   openFixed();
   run(0, "5, 9, 7");
   EXPECT_EQ(results.theResults.GetSortedBatchArrayField(1, 0)->theValue.at(0), 9);
@@ -140,7 +140,7 @@ TEST_F(BatchResultsTest, EnablingShowsTheSteps) {
   EXPECT_FALSE(results.pnlBatchSteps.visible());
 }
 
-TEST_F(BatchResultsTest, OutsideTheStepsNothingHappens) {
+TEST_F(BatchResultsTest, NumbersOutsideTheStepsAreIgnored) {
   results.LoadBatchResults(0);
   results.LoadBatchResults(1);
   results.LoadBatchResults(-1);
@@ -148,7 +148,7 @@ TEST_F(BatchResultsTest, OutsideTheStepsNothingHappens) {
   EXPECT_EQ(step(), "");
 }
 
-TEST_F(BatchResultsTest, ACropThatIsGoneLeavesTheRestOnShow) {
+TEST_F(BatchResultsTest, AMissingCropLeavesTheOtherTextsShown) {
   openVariable();
   setup.cboCrops.pick(1);
   run(0, "5, 6");

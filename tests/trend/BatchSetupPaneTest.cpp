@@ -13,7 +13,7 @@ using ::testing::Optional;
 
 using BatchSetupPaneTest = TrendTest;
 
-TEST_F(BatchSetupPaneTest, StateAtStart) {
+TEST_F(BatchSetupPaneTest, StartsWithItsDefaults) {
   EXPECT_TRUE(setup.optBatchOption[0]->checked());
   EXPECT_TRUE(setup.optBatchVariable[0]->checked());
   EXPECT_EQ(setup.txtBatchMinimum[0].text(), "5");
@@ -28,7 +28,7 @@ TEST_F(BatchSetupPaneTest, StateAtStart) {
   EXPECT_EQ(trend.MaximumBatches, 2);
 }
 
-TEST_F(BatchSetupPaneTest, Captions) {
+TEST_F(BatchSetupPaneTest, ControlsHaveTheirCaptions) {
   EXPECT_EQ(setup.cmdAddBatchProcess.caption(), "Add a trend process");
   EXPECT_EQ(setup.cmdDeleteBatch.caption(), "Delete this process");
   EXPECT_EQ(setup.optBatchVariable[1]->caption(), "Total Production Costs*");
@@ -42,7 +42,7 @@ TEST_F(BatchSetupPaneTest, Captions) {
   EXPECT_EQ(setup.Command10.caption(), "Back");
 }
 
-TEST_F(BatchSetupPaneTest, ControlsAreReachedByTheirNames) {
+TEST_F(BatchSetupPaneTest, ControlsAreFoundByTheirNames) {
   for (const char* name : {"pneBatchSetup(0)",
                            "cboCrops",
                            "cboBatches",
@@ -80,7 +80,7 @@ TEST_F(BatchSetupPaneTest, ControlsAreReachedByTheirNames) {
   }
 }
 
-TEST_F(BatchSetupPaneTest, HelpIsRaisedWithItsIndex) {
+TEST_F(BatchSetupPaneTest, HelpButtonsRaiseTheirIndex) {
   std::vector<int> asked;
   setup.onHelp.connect([&](int index) { asked.push_back(index); });
   setup.cmdHelp.buttons()[0]->click();
@@ -113,7 +113,7 @@ TEST_F(BatchSetupPaneTest, OpensForAVariableTrend) {
       "on the crop type.  Variables in the right column affect all crops in the evaluations.");
 }
 
-TEST_F(BatchSetupPaneTest, AVariableTrendNeedsCompleteInputs) {
+TEST_F(BatchSetupPaneTest, AVariableTrendRequiresCompleteInputs) {
   host.isReady = false;
   screens.mnuFallBatch_Click();
   const Message message = theMessage();
@@ -124,7 +124,7 @@ TEST_F(BatchSetupPaneTest, AVariableTrendNeedsCompleteInputs) {
   EXPECT_FALSE(state.TrendMode);
 }
 
-TEST_F(BatchSetupPaneTest, AVariableTrendAfterAFixedOneHidesTicksAndStartsAtTheFirstProcess) {
+TEST_F(BatchSetupPaneTest, AVariableTrendAfterAFixedOneHidesTheTicksAndStartsAtProcess0) {
   openFixed();
   typeList("1");
   setup.cmdAddBatchProcess.click();
@@ -161,7 +161,7 @@ TEST_F(BatchSetupPaneTest, OpensForAFixedTrend) {
       "the crop type.  Variables in the right column affect all crops in the evaluations.");
 }
 
-TEST_F(BatchSetupPaneTest, AFixedTrendDoesNotAskForCompleteInputs) {
+TEST_F(BatchSetupPaneTest, AFixedTrendDoesNotRequireCompleteInputs) {
   host.isReady = false;
   openFixed();
   EXPECT_TRUE(fakes.messageBox.log.empty());
@@ -192,7 +192,7 @@ TEST_F(BatchSetupPaneTest, ABlankProcessShowsTheFirstRowsCropAndBlankFields) {
   EXPECT_EQ(setup.lblCropHint.caption(), "");
 }
 
-TEST_F(BatchSetupPaneTest, TheUnitsFollowVariableAndCrop) {
+TEST_F(BatchSetupPaneTest, TheUnitsDependOnVariableAndCrop) {
   openVariable();
   const std::vector<const char*> captions{"($ / bu.)", "($ / ac)",    "(bushels / acre)",
                                           "(%)",       "($ / ac-in)", "(inches)"};
@@ -217,7 +217,7 @@ TEST_F(BatchSetupPaneTest, ReopeningForAVariableTrendShowsTheUnitOfThePrice) {
   EXPECT_EQ(setup.lblgeneric24.caption(), "($ / bu.)");
 }
 
-TEST_F(BatchSetupPaneTest, TypingTurnsItsWayOn) {
+TEST_F(BatchSetupPaneTest, TypingSelectsItsWay) {
   openVariable();
   typeList("1");
   EXPECT_TRUE(setup.optBatchOption[2]->checked());
@@ -235,7 +235,7 @@ TEST_F(BatchSetupPaneTest, TypingTurnsItsWayOn) {
   EXPECT_EQ(setup.cboBatchSteps.text(), "6");
 }
 
-TEST_F(BatchSetupPaneTest, ChoosingAFile) {
+TEST_F(BatchSetupPaneTest, ChoosingAFileSelectsItsWay) {
   openVariable();
   const auto file = folder.write("values.txt", "1,2");
   chooseFile(file);
@@ -267,7 +267,7 @@ TEST_F(BatchSetupPaneTest, ReadsTheRange) {
   EXPECT_THAT(values(), Optional(ElementsAre(5, 7, 9, 11, 13)));
 }
 
-TEST_F(BatchSetupPaneTest, TheDefaultsAreARange) {
+TEST_F(BatchSetupPaneTest, TheDefaultsAreAValidRange) {
   openVariable();
   EXPECT_THAT(values(), Optional(ElementsAre(5, 13)));
 }
@@ -298,7 +298,7 @@ TEST_F(BatchSetupPaneTest, ReadsTheList) {
   EXPECT_THAT(values(), Optional(ElementsAre(1, 2, 3)));
 }
 
-TEST_F(BatchSetupPaneTest, RefusalsOfTheThreeWays) {
+TEST_F(BatchSetupPaneTest, EachWayRefusesInvalidValues) {
   openVariable();
   typeRange("5", "5", "3");
   EXPECT_FALSE(values());
@@ -317,7 +317,7 @@ TEST_F(BatchSetupPaneTest, RefusalsOfTheThreeWays) {
   EXPECT_EQ(message.icon, MessageIcon::exclamation);
 }
 
-TEST_F(BatchSetupPaneTest, ARefusalChangesNothingOnThePane) {
+TEST_F(BatchSetupPaneTest, ARefusalDoesNotChangeThePane) {
   openVariable();
   choose(2);
   setup.cboCrops.pick(1);
@@ -335,7 +335,7 @@ TEST_F(BatchSetupPaneTest, ARefusalChangesNothingOnThePane) {
   EXPECT_EQ(setup.cboCrops.text(), "Wheat");
 }
 
-TEST_F(BatchSetupPaneTest, WithoutAWayThereIsNoProcess) {
+TEST_F(BatchSetupPaneTest, WithoutASelectedWayThereIsNoProcess) {
   openVariable();
   setup.batchOptions.select(-1);
   EXPECT_FALSE(values());
@@ -367,7 +367,7 @@ TEST_F(BatchSetupPaneTest, RainIsTestedForEveryWay) {
   EXPECT_THAT(values(), Optional(ElementsAre(11, 10.99)));
 }
 
-TEST_F(BatchSetupPaneTest, AnEntryOfAFileThatIsNoNumberIsToldBeforeTheRain) {
+TEST_F(BatchSetupPaneTest, AnEntryThatIsNoNumberIsReportedBeforeTheRain) {
   openVariable();
   choose(5);
   chooseFile(folder.write("rain.txt", "12,wet"));
@@ -375,7 +375,7 @@ TEST_F(BatchSetupPaneTest, AnEntryOfAFileThatIsNoNumberIsToldBeforeTheRain) {
   EXPECT_THAT(theMessage().text, HasSubstr("\"wet\""));
 }
 
-TEST_F(BatchSetupPaneTest, ACropThatIsGoneIsRefusedWhereItCounts) {
+TEST_F(BatchSetupPaneTest, AMissingCropIsRefusedForVariablesOfACrop) {
   openVariable();
   setup.cboCrops.pick(1);
   host.library.Remove(3);  // a reload without Wheat
@@ -395,7 +395,7 @@ TEST_F(BatchSetupPaneTest, ACropThatIsGoneIsRefusedWhereItCounts) {
   EXPECT_THAT(values(), Optional(ElementsAre(12, 13)));
 }
 
-TEST_F(BatchSetupPaneTest, NumbersThatAreTooLargeAreToldAndChangeNothing) {
+TEST_F(BatchSetupPaneTest, TooLargeNumbersAreReportedAndChangeNothing) {
   std::vector<std::string> told;
   desk.onRunTimeError = [&](const RunTimeError& error) { told.emplace_back(error.what()); };
   openFixed();
@@ -423,7 +423,7 @@ TEST_F(BatchSetupPaneTest, ThePreviewShowsTheValuesOrWhatIsWrong) {
   EXPECT_TRUE(fakes.messageBox.log.empty());
 }
 
-TEST_F(BatchSetupPaneTest, BackFromAVariableTrendGoesHome) {
+TEST_F(BatchSetupPaneTest, BackFromAVariableTrendLeadsToTheMainPane) {
   openVariable();
   corn().inputCosts.UseBatch = true;
   corn().inputCosts.BatchGeneralCosts = 7;
@@ -443,7 +443,7 @@ TEST_F(BatchSetupPaneTest, BackFromAVariableTrendGoesHome) {
   EXPECT_EQ(host.mainInfo, "home");
 }
 
-TEST_F(BatchSetupPaneTest, BackFromAFixedTrendGoesToTheResults) {
+TEST_F(BatchSetupPaneTest, BackFromAFixedTrendLeadsToTheResults) {
   openFixed();
   setup.Command10.click();
   EXPECT_FALSE(state.TrendMode);

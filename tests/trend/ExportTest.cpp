@@ -94,7 +94,7 @@ class FixedExportTest : public ExportTest {
   }
 };
 
-TEST_F(FixedExportTest, OneProcess) {
+TEST_F(FixedExportTest, WritesATrendOfOneProcess) {
   define(0, "5, 6");
   const Lines expected{
       "<table border=1>",
@@ -142,7 +142,7 @@ TEST_F(FixedExportTest, OneProcess) {
   EXPECT_EQ(run(), head + expected + tail);
 }
 
-TEST_F(FixedExportTest, TwoProcesses) {
+TEST_F(FixedExportTest, WritesATrendOfTwoProcesses) {
   trend.SelectedOption->Remove(2);  // Corn alone: 48 or 56 bushels for 65 dollars
   trend.SelectedOption->Item(1)->acres = 37.5;
   define(0, "4, 5, 6000");
@@ -211,7 +211,7 @@ TEST_F(FixedExportTest, TheTrendedVariableHasNoRow) {
   }
 }
 
-TEST_F(FixedExportTest, HeadingsOfEachVariable) {
+TEST_F(FixedExportTest, WritesTheHeadingsOfEachVariable) {
   const std::vector<const char*> headings{"Crop Price - Corn ($/ bu.)",
                                           "General Production Costs - Corn ($/ ac)",
                                           "Maximum Yield - Corn (bushels / acre)",
@@ -243,14 +243,14 @@ TEST_F(FixedExportTest, AnEfficiencyOfZeroEndsTheFileInTheMiddle) {
   EXPECT_THAT(message.text, HasSubstr("Error #11 -> "));
 }
 
-TEST_F(FixedExportTest, BeforeAnyFixedTrendItFails) {
+TEST_F(FixedExportTest, FailsBeforeAnyFixedTrend) {
   results.theResults.ShowBatchedVariables(true);
   const Lines lines = exported(results.theResults.cmdExcel);
   EXPECT_THAT(lines.back(), StartsWith("<tr><td colspan=2"));
   EXPECT_THAT(fakes.messageBox.log.back().text, HasSubstr("Error #9 -> "));
 }
 
-TEST_F(FixedExportTest, NamesAreWrittenInWindows1252WhereTheyFit) {
+TEST_F(FixedExportTest, NamesAreWrittenInWindows1252IfPossible) {
   corn().cropType = "Maïs";
   openFixed();
   define(3, "50");
@@ -305,7 +305,7 @@ class VariableExportTest : public ExportTest {
   }
 };
 
-TEST_F(VariableExportTest, TwoSteps) {
+TEST_F(VariableExportTest, WritesATrendOfTwoSteps) {
   const std::string heads =
       "<tr bgcolor=#cccccc><td></td><th>Corn Crop Price</th><th>Crop</th><th>Acres</th><th>Net Irr</th>"
       "<th>Price</th><th>Maximum Yield</th><th>Annual Rain</th><th>Irrig Efficiency</th><th>Irr Cost</th>"
@@ -347,7 +347,7 @@ TEST_F(VariableExportTest, TwoSteps) {
   EXPECT_EQ(run(0, "5, 6"), head + expected + tail);
 }
 
-TEST_F(VariableExportTest, TheColoursGoOnFromTableToTable) {
+TEST_F(VariableExportTest, TheColoursContinueFromTableToTable) {
   std::string colours;
   for (const std::string& line : run(0, "5, 6, 7")) {
     if (line.starts_with("<tr bgcolor='#ffcc99'>")) colours += "1";
@@ -357,7 +357,7 @@ TEST_F(VariableExportTest, TheColoursGoOnFromTableToTable) {
   EXPECT_EQ(colours, "121|212|121|212|");
 }
 
-TEST_F(VariableExportTest, ValuesAndHeadingsOfEachVariable) {
+TEST_F(VariableExportTest, WritesValuesAndHeadingsOfEachVariable) {
   const std::vector<std::array<const char*, 3>> expected{
       {"Corn Crop Price", "$12.00 / bu.", "80 %"},
       {"Corn General Production Costs", "$12.00 / ac", "80 %"},
@@ -378,7 +378,7 @@ TEST_F(VariableExportTest, ValuesAndHeadingsOfEachVariable) {
   }
 }
 
-TEST_F(VariableExportTest, AnOptionThatIsMissingEndsTheFileInTheMiddle) {
+TEST_F(VariableExportTest, AMissingOptionEndsTheFileInTheMiddle) {
   host.result = [this](const std::string&) {
     BestMix best;
     best.setSize(5);
@@ -401,7 +401,7 @@ TEST_F(VariableExportTest, AnOptionThatIsMissingEndsTheFileInTheMiddle) {
   EXPECT_TRUE(fakes.openFile.opened.empty());
 }
 
-TEST_F(VariableExportTest, AListThatIsTooShortEndsTheFileInTheMiddle) {
+TEST_F(VariableExportTest, TooFewOptionsEndTheFileInTheMiddle) {
   host.result = [this](const std::string&) {
     BestMix best;
     best.setSize(1);
@@ -431,7 +431,7 @@ class SaveExportTest : public ExportTest {
   }
 };
 
-TEST_F(SaveExportTest, Success) {
+TEST_F(SaveExportTest, ReportsASuccess) {
   fakes.messageBox.answers = {MessageAnswer::no};
   folder.write("a.xls", "a file that is there already, and longer");
   save(folder / "a.xls");
@@ -448,7 +448,7 @@ TEST_F(SaveExportTest, Success) {
   EXPECT_TRUE(fakes.openFile.opened.empty());
 }
 
-TEST_F(SaveExportTest, YesOpensTheFile) {
+TEST_F(SaveExportTest, AnsweringYesOpensTheFile) {
   fakes.messageBox.answers = {MessageAnswer::yes};
   save(folder / "a");
   EXPECT_EQ(folder.read("a.xls"), "page\r\n");
@@ -456,7 +456,7 @@ TEST_F(SaveExportTest, YesOpensTheFile) {
   EXPECT_EQ(fakes.messageBox.log.size(), 1U);
 }
 
-TEST_F(SaveExportTest, AFileThatCannotBeOpenedIsTold) {
+TEST_F(SaveExportTest, AFileThatCannotBeOpenedIsReported) {
   fakes.openFile.works = false;
   openWithShell(desk, fakes.services, "/tmp/a.xls");
   const Message message = theMessage();
@@ -475,7 +475,7 @@ TEST_F(SaveExportTest, ACancelledChooserDoesNothing) {
   EXPECT_TRUE(folder.names().empty());
 }
 
-TEST_F(SaveExportTest, TheSystemsRefusalIsTold) {
+TEST_F(SaveExportTest, AnErrorOfTheSystemIsReported) {
   save(folder / "missing" / "a.xls");
   Message message = theMessage();
   EXPECT_EQ(message.title, "File Error");
@@ -491,7 +491,7 @@ TEST_F(SaveExportTest, TheSystemsRefusalIsTold) {
   EXPECT_THAT(message.text, HasSubstr("Error #" + std::to_string(EISDIR) + " -> Is a directory"));
 }
 
-TEST_F(SaveExportTest, AFullDiskIsToldAndKeepsTheOldFile) {
+TEST_F(SaveExportTest, AFullDiskIsReportedAndKeepsTheOldFile) {
   folder.write("a.xls", "old");
   save(folder / "a.xls", [](const auto&, auto) {
     errno = ENOSPC;
@@ -502,8 +502,8 @@ TEST_F(SaveExportTest, AFullDiskIsToldAndKeepsTheOldFile) {
   EXPECT_EQ(folder.read("a.xls"), "old");
 }
 
-/// What a spreadsheet program makes of the export in a folder, as comma-separated cells; nothing where there
-/// is none.
+/// The export in a folder as a spreadsheet program reads it, as comma-separated cells; nothing if no such
+/// program is installed.
 std::optional<std::string> cellsOf(const TemporaryFolder& folder) {
   if (std::system("command -v soffice >/dev/null 2>&1") != 0) return std::nullopt;
   const std::string there = folder.path().string();

@@ -14,7 +14,7 @@
 
 namespace verdalis::testing {
 
-/// The rest of the window: a farm with its live inputs, a saved copy of them, and a log of what was asked.
+/// A fake main window: a farm with its live inputs, a saved copy of them, and a log of the calls.
 class FakeTrendHost : public TrendHost {
  public:
   explicit FakeTrendHost(ProgramState& state) : state_(state) {
@@ -115,7 +115,7 @@ class FakeTrendHost : public TrendHost {
   void backToResults() override { log.emplace_back("pneResults"); }
   std::filesystem::path home() const override { return "/home/farm"; }
 
-  /// What was asked since the last call.
+  /// The calls since the last take().
   std::vector<std::string> take() { return std::exchange(log, {}); }
 
  private:

@@ -46,7 +46,7 @@ class FixedTrendTest : public TrendTest {
   }
 };
 
-TEST_F(FixedTrendTest, ThePlainOptionEarnsWhatItsFieldsSay) {
+TEST_F(FixedTrendTest, TheOptionEarnsTheProfitOfItsFields) {
   EXPECT_DOUBLE_EQ(cornAndWheat()->getProfit(), 12625);
 }
 
@@ -78,7 +78,7 @@ TEST_F(FixedTrendTest, EfficiencyKeepsTheGrossWater) {
   EXPECT_EQ(EfficiencyFraction, 0.8);
 }
 
-TEST_F(FixedTrendTest, RainAndMaximumYieldGoThroughTheTable) {
+TEST_F(FixedTrendTest, RainAndMaximumYieldAreLookedUpInTheTable) {
   define(5, "20");
   run();
   EXPECT_EQ(entry(0).Item(2)->annualRain, 20);
@@ -90,7 +90,7 @@ TEST_F(FixedTrendTest, RainAndMaximumYieldGoThroughTheTable) {
   EXPECT_EQ(entry(0).Item(2)->theCrop->maxYield, 50);
 }
 
-TEST_F(FixedTrendTest, DescriptionsOfEachVariable) {
+TEST_F(FixedTrendTest, DescribesEachVariable) {
   const std::vector<std::array<const char*, 5>> expected{
       {"Crop Price - Corn", "$", "/ bu.", "Crop Price", "Corn"},
       {"General Production Costs - Corn", "$", "/ ac", "General Product Costs", "Corn"},
@@ -137,7 +137,7 @@ TEST_F(FixedTrendTest, TwoListsMakeAGrid) {
   EXPECT_EQ(ranked.front(), netReturn(2, 3));
 }
 
-TEST_F(FixedTrendTest, TheRankingIsThatOfSubmittingOneByOne) {
+TEST_F(FixedTrendTest, TheRankingEqualsSubmittingTheOptionsOneByOne) {
   // Values that come up again make options of equal profit.
   const std::vector<std::pair<int, const char*>> lists{
       {0, "4, 6, 4, 5, 6, 6"}, {5, "16, 16.2, 20, 11, 16"}, {3, "80, 80, 60"}, {1, "60, 70, 60"}};
@@ -170,7 +170,7 @@ TEST_F(FixedTrendTest, TheRankingIsThatOfSubmittingOneByOne) {
   }
 }
 
-TEST_F(FixedTrendTest, WhicheverProcessIsOnShowTheFirstIsTheOuterOne) {
+TEST_F(FixedTrendTest, TheFirstProcessIsTheOuterOneWhicheverIsShown) {
   define(0, "4, 5");
   defineSecond(5, "16, 20, 21");
   run();
@@ -180,7 +180,7 @@ TEST_F(FixedTrendTest, WhicheverProcessIsOnShowTheFirstIsTheOuterOne) {
   EXPECT_EQ(trend.ProcessCollection[1].variables_manual, "16, 20, 21");
 }
 
-TEST_F(FixedTrendTest, OneListMakesARow) {
+TEST_F(FixedTrendTest, OneListMakesAColumnOfOptions) {
   define(0, "6, 4, 5");
   run();
   EXPECT_EQ(trend.TrendOptionArray.dimensions(), 1);
@@ -196,12 +196,12 @@ TEST_F(FixedTrendTest, TheSameVariableTwiceIsAppliedTwice) {
   define(3, "40");
   defineSecond(3, "40");
   run();
-  EXPECT_EQ(entry(0, 0).Item(1)->Depth, 2);  // both times against the efficiency in force
+  EXPECT_EQ(entry(0, 0).Item(1)->Depth, 2);  // both times relative to the current efficiency
   EXPECT_THAT(entry(0, 0).theVariable,
               ElementsAre("Irrigation System Efficiency", "Irrigation System Efficiency"));
 }
 
-TEST_F(FixedTrendTest, ACropThatTheOptionDoesNotHoldChangesOnlyTheDescription) {
+TEST_F(FixedTrendTest, ACropMissingFromTheOptionChangesOnlyTheDescription) {
   setup.cboCrops.type("Oats");
   define(0, "1, 2");
   run();
@@ -215,7 +215,7 @@ TEST_F(FixedTrendTest, ACropThatTheOptionDoesNotHoldChangesOnlyTheDescription) {
   EXPECT_EQ(results.theResults.lblCounter.caption(), "Option 1");
 }
 
-TEST_F(FixedTrendTest, TheSelectedOptionKeepsNoTraceOfATrend) {
+TEST_F(FixedTrendTest, ATrendDoesNotChangeTheSelectedOption) {
   define(1, "50");
   defineSecond(4, "2");
   run();
@@ -228,7 +228,7 @@ TEST_F(FixedTrendTest, TheSelectedOptionKeepsNoTraceOfATrend) {
   EXPECT_EQ(entry(0, 0).theVariable.size(), 2U);
 }
 
-TEST_F(FixedTrendTest, ATrendOnTheResultOfATrendForgetsTheFirst) {
+TEST_F(FixedTrendTest, ATrendOnTheResultOfATrendDiscardsTheFirst) {
   define(1, "50");
   run();
   results.theResults.onBatchThis.connect([this](const auto& option) { screens.cmdBatchThis_Click(option); });
@@ -241,7 +241,7 @@ TEST_F(FixedTrendTest, ATrendOnTheResultOfATrendForgetsTheFirst) {
   EXPECT_THAT(entry(0).theVariable, ElementsAre("Crop Price - Corn"));
 }
 
-TEST_F(FixedTrendTest, ASharedObjectIsNeverChanged) {
+TEST_F(FixedTrendTest, ATrendDoesNotChangeSharedObjects) {
   const double cornPrice = corn().price;
   define(0, "9");
   run();
@@ -250,7 +250,7 @@ TEST_F(FixedTrendTest, ASharedObjectIsNeverChanged) {
   EXPECT_EQ(host.inputs.cr[0].txtPrice, "5");
 }
 
-TEST_F(FixedTrendTest, PricingTheSelectedOptionMeanwhileDoesNoHarm) {
+TEST_F(FixedTrendTest, PricingTheSelectedOptionDuringATrendChangesNothing) {
   define(4, "1, 2");
   host.recorder.onPump = [this](int) {
     (void)trend.SelectedOption->getProfit();
@@ -260,9 +260,9 @@ TEST_F(FixedTrendTest, PricingTheSelectedOptionMeanwhileDoesNoHarm) {
   EXPECT_THAT(netReturns(trend.BatchCollection.at(0)), ElementsAre(124, 118));
 }
 
-TEST_F(FixedTrendTest, ACancelWithOneProcessLeavesWindowAndFlag) {
+TEST_F(FixedTrendTest, ACancelWithOneProcessKeepsWindowAndFlag) {
   define(0, "4, 5, 6");
-  cancelAtPump(2);  // behind the first value
+  cancelAtPump(2);  // after the first value
   run();
   EXPECT_TRUE(state.CancelRequested);
   EXPECT_EQ(host.recorder.closed, 0);
@@ -281,7 +281,7 @@ TEST_F(FixedTrendTest, ACancelWithOneProcessLeavesWindowAndFlag) {
   EXPECT_THAT(host.take(), ElementsAre("load"));
 }
 
-TEST_F(FixedTrendTest, ACancelBehindTheLastValueOfOneProcessComesTooLate) {
+TEST_F(FixedTrendTest, ACancelAfterTheLastValueOfOneProcessIsIgnored) {
   define(0, "4, 5");
   cancelAtPump(4);
   run();
@@ -293,7 +293,7 @@ TEST_F(FixedTrendTest, ACancelBehindTheLastValueOfOneProcessComesTooLate) {
 TEST_F(FixedTrendTest, ACancelWithTwoProcessesClosesTheWindowAndClearsTheFlag) {
   define(0, "4, 5");
   defineSecond(5, "16, 20");
-  // In order: before each outer value, and before and behind each inner one.
+  // In order: before each outer value, and before and after each inner one.
   for (const int pump : {2, 3, 4, 5, 7, 8, 9, 10}) {
     host.recorder.closed = 0;
     host.recorder.updates = 0;
@@ -313,7 +313,7 @@ TEST_F(FixedTrendTest, ACancelWithTwoProcessesClosesTheWindowAndClearsTheFlag) {
   EXPECT_EQ(host.recorder.closed, 1);  // that of the last turn above
 }
 
-TEST_F(FixedTrendTest, ACancelledTrendKeepsTheGridOfTheLast) {
+TEST_F(FixedTrendTest, ACancelledTrendKeepsTheOptionsOfTheLastOne) {
   define(0, "4, 5");
   run();
   cancelAtPump(1);
@@ -339,7 +339,7 @@ TEST_F(FixedTrendTest, TooManyCombinationsAreRefusedAtThePress) {
   EXPECT_TRUE(fakes.messageBox.log.empty());
 }
 
-TEST_F(FixedTrendTest, TheLargestTrendIsRun) {
+TEST_F(FixedTrendTest, TheLargestAllowedTrendRuns) {
   setup.txtBatchMinimum[0].type("1");
   setup.txtBatchMinimum[1].type("2");
   setup.cboBatchSteps.type("32767");
@@ -349,7 +349,7 @@ TEST_F(FixedTrendTest, TheLargestTrendIsRun) {
   EXPECT_EQ(trend.TrendOptionArray.rows(), 32767U);
 }
 
-TEST_F(FixedTrendTest, ATableThatEndsBelowTheRainIsARunTimeError) {
+TEST_F(FixedTrendTest, RainOutsideTheTableIsARunTimeError) {
   std::vector<std::string> told;
   desk.onRunTimeError = [&](const RunTimeError& error) { told.emplace_back(error.what()); };
   trend.SelectedOption->Item(1)->theCrop->setYieldTable(tableOf(11, {{0.1, 0.2}, {0.3, 0.4}}));

@@ -5,7 +5,7 @@
 namespace verdalis {
 namespace {
 
-TEST(TrendMessageKind, ValuesThatCannotBeReadAreRefused) {
+TEST(TrendMessageKind, ValuesThatCannotBeReadGiveARefusal) {
   const TrendReading reading = readValuesList("none", true);
   ASSERT_TRUE(reading.refusal);
   EXPECT_EQ(reading.refusal->kind, MessageKind::refusal);
@@ -13,7 +13,7 @@ TEST(TrendMessageKind, ValuesThatCannotBeReadAreRefused) {
   EXPECT_EQ(refuseFixedTrend(32768, 1)->kind, MessageKind::refusal);
 }
 
-TEST(TrendMessageKind, RainOutsideIsANotice) {
+TEST(TrendMessageKind, RainOutsideTheRangeIsANotice) {
   ASSERT_TRUE(refuseRain({10.0}));
   EXPECT_EQ(refuseRain({10.0})->kind, MessageKind::notice);
 }

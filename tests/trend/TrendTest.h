@@ -76,7 +76,7 @@ class TrendTest : public ::testing::Test {
     return option;
   }
 
-  /// Opens the setup for a variable trend, or for a fixed one on an option, and forgets what that logged.
+  /// Opens the setup for a variable trend, or for a fixed one on an option, and clears the log.
   void openVariable() {
     screens.mnuFallBatch_Click();
     host.take();
@@ -99,7 +99,7 @@ class TrendTest : public ::testing::Test {
     setup.cmdOpenBatch.click();
   }
 
-  /// The values that the pane would give; nothing when they are refused.
+  /// The values of the pane; nothing if they are refused.
   std::optional<std::vector<double>> values() {
     const auto process = setup.GetBatchProcess(setup.cboCrops.text(), true);
     if (!process) return std::nullopt;
@@ -109,14 +109,14 @@ class TrendTest : public ::testing::Test {
     return numbers;
   }
 
-  /// The one box that came up since the last look.
+  /// The only message since the last call.
   Message theMessage() {
     const std::vector<Message> messages = fakes.messageBox.take();
     EXPECT_EQ(messages.size(), 1U);
     return messages.empty() ? Message{} : messages.front();
   }
 
-  /// Net returns for an acre of a ranking, best first.
+  /// Net returns per acre of a ranking, best first.
   static std::vector<double> netReturns(const BestMix& best) {
     std::vector<double> found;
     for (const auto& option : optionsOf(best))

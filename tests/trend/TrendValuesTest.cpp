@@ -44,12 +44,12 @@ TEST(TrendRangeTest, SpreadsTheValuesEvenly) {
   EXPECT_THAT(numbersOf(readRange({"-4", "4", "3"})), ElementsAre(-4, 0, 4));
 }
 
-TEST(TrendRangeTest, TheValuesAreNumbers) {
+TEST(TrendRangeTest, ReturnsNumbers) {
   for (const TrendValue& value : readRange({"5", "13", "5"}).values)
     EXPECT_TRUE(std::holds_alternative<double>(value));
 }
 
-TEST(TrendRangeTest, EachValueComesOfTheMinimum) {
+TEST(TrendRangeTest, CalculatesEachValueFromTheMinimum) {
   // 0.1 + 3 x 0.1 is not what adding 0.1 four times gives.
   const double increment = (0.5 - 0.1) / 4;
   EXPECT_THAT(
@@ -63,16 +63,16 @@ TEST(TrendRangeTest, ReadsLeadingNumbers) {
   EXPECT_THAT(numbersOf(readRange({"1,500", "2", "2"})), ElementsAre(1, 2));
 }
 
-TEST(TrendRangeTest, RefusesAMaximumThatIsNotAbove) {
+TEST(TrendRangeTest, RefusesAMaximumNotAboveTheMinimum) {
   EXPECT_EQ(refusalOf(readRange({"5", "5", "2"})), badRange);
   EXPECT_EQ(refusalOf(readRange({"6", "5", "2"})), badRange);
   EXPECT_EQ(refusalOf(readRange({"", "", ""})), badRange);
-  EXPECT_EQ(refusalOf(readRange({"-5", "0", "2"})), badRange);  // above, and refused all the same
+  EXPECT_EQ(refusalOf(readRange({"-5", "0", "2"})), badRange);  // above the minimum, but refused
   EXPECT_EQ(refusalOf(readRange({"-5", "-0", "2"})), badRange);
   EXPECT_THAT(numbersOf(readRange({"-5", "-1", "2"})), ElementsAre(-5, -1));
 }
 
-TEST(TrendRangeTest, WithoutValidationTheRangeMayFall) {
+TEST(TrendRangeTest, WithoutValidationTheRangeMayDescend) {
   EXPECT_THAT(numbersOf(readRange({"6", "0", "3"}, false)), ElementsAre(6, 3, 0));
 }
 
@@ -85,7 +85,7 @@ TEST(TrendRangeTest, RefusesFewerThanTwoValues) {
   EXPECT_THAT(refusalOf(readRange({"1", "2", "1"}, false)), HasSubstr("2 or more"));
 }
 
-TEST(TrendRangeTest, ABrokenNumberOfStepsGivesTheWholeStepsBelow) {
+TEST(TrendRangeTest, RoundsTheNumberOfStepsDown) {
   EXPECT_THAT(numbersOf(readRange({"0", "3", "2.5"})), ElementsAre(0, 2));
 }
 
@@ -95,7 +95,7 @@ TEST(TrendRangeTest, RefusesMoreThanAMillionValues) {
   EXPECT_THAT(refusalOf(readRange({"1", "2", "1e300"})), HasSubstr("\"1e300\""));
 }
 
-TEST(TrendRangeTest, NumbersThatAreTooLargeAreRunTimeErrors) {
+TEST(TrendRangeTest, TooLargeNumbersAreRunTimeErrors) {
   errorText(ErrorNumber::overflow, [] { (void)readRange({"-1e308", "1e308", "3"}); });
   errorText(ErrorNumber::overflow, [] { (void)readRange({"1", "1e400", "3"}); });
   EXPECT_THAT(numbersOf(readRange({"1", "1e308", "2"})), ElementsAre(1, 1e308));
@@ -111,7 +111,7 @@ TEST(TrendListTest, KeepsTheNumbersInOrder) {
   EXPECT_THAT(numbersOf(readValuesList("1;2, 3\t, 4")), ElementsAre(4));
 }
 
-TEST(TrendListTest, TheValuesStayTexts) {
+TEST(TrendListTest, KeepsTheValuesAsTexts) {
   const TrendReading reading = readValuesList("1.50, 2");
   ASSERT_EQ(reading.values.size(), 2U);
   EXPECT_EQ(std::get<std::string>(reading.values[0]), "1.50");
@@ -154,18 +154,18 @@ TEST_F(TrendFileTest, ReadsOneLine) {
               ElementsAre(4, 5));
 }
 
-TEST_F(TrendFileTest, TheEndOfALinePartsNoValues) {
+TEST_F(TrendFileTest, ALineEndDoesNotSeparateValues) {
   EXPECT_THAT(numbersOf(read("1,2\r\n3,4\r\n")), ElementsAre(1, 23, 4));
   EXPECT_THAT(numbersOf(read("1,2\n3,4")), ElementsAre(1, 23, 4));
   EXPECT_THAT(numbersOf(read("1,2\r3,4")), ElementsAre(1, 23, 4));
   EXPECT_THAT(numbersOf(read("1,2,\n3,4")), ElementsAre(1, 2, 3, 4));
 }
 
-TEST_F(TrendFileTest, TheValuesStayTexts) {
+TEST_F(TrendFileTest, KeepsTheValuesAsTexts) {
   EXPECT_EQ(std::get<std::string>(read("1.50,2").values.at(0)), "1.50");
 }
 
-TEST_F(TrendFileTest, WhatHoldsNothingOrCannotBeReadIsNoFile) {
+TEST_F(TrendFileTest, RefusesEmptyAndUnreadableFiles) {
   EXPECT_EQ(refusalOf(read("")), "Please select a file!");
   EXPECT_EQ(refusalOf(read("\r\n\r\n")), "Please select a file!");
   EXPECT_EQ(refusalOf(readValuesFile(folder / "missing.txt")), "Please select a file!");
@@ -174,7 +174,7 @@ TEST_F(TrendFileTest, WhatHoldsNothingOrCannotBeReadIsNoFile) {
   EXPECT_EQ(refusalOf(readValuesFile("/dev/zero")), "Please select a file!");
 }
 
-TEST_F(TrendFileTest, NamesTheEntryThatIsNoNumber) {
+TEST_F(TrendFileTest, NamesAnEntryThatIsNoNumber) {
   EXPECT_THAT(refusalOf(read("1,abc,3")),
               HasSubstr("Entry 2 of the file " + (folder / "values.txt").string()));
   EXPECT_THAT(refusalOf(read("1,abc,3")), HasSubstr("\"abc\", is not a number"));
@@ -185,7 +185,7 @@ TEST_F(TrendFileTest, NamesTheEntryThatIsNoNumber) {
   EXPECT_THAT(refusalOf(read("1,1e400")), HasSubstr("\"1e400\""));
 }
 
-TEST_F(TrendFileTest, BinaryFilesAreRefused) {
+TEST_F(TrendFileTest, RefusesBinaryFiles) {
   std::string bytes;
   for (int i = 0; i < 100'000; ++i)
     bytes += static_cast<char>(i * 7919 % 256);
@@ -193,7 +193,7 @@ TEST_F(TrendFileTest, BinaryFilesAreRefused) {
   EXPECT_THAT(refusalOf(read(std::string(1000, '\0'))), HasSubstr("is not a number"));
 }
 
-TEST_F(TrendFileTest, AMillionValuesAreReadAndNoMore) {
+TEST_F(TrendFileTest, ReadsAtMostAMillionValues) {
   std::string bytes = "7";
   for (int i = 1; i < 1'000'000; ++i)
     bytes += ",7";
@@ -201,20 +201,20 @@ TEST_F(TrendFileTest, AMillionValuesAreReadAndNoMore) {
   EXPECT_THAT(refusalOf(read(bytes + ",7")), HasSubstr("1,000,000"));
 }
 
-TEST_F(TrendFileTest, AHugeFileIsRefusedUnread) {
+TEST_F(TrendFileTest, RefusesAHugeFileWithoutReadingIt) {
   const auto file = folder.write("huge.txt", "1,2");
   std::filesystem::resize_file(file, 100'000'000);
   const std::string text = refusalOf(readValuesFile(file));
   EXPECT_THAT(text, HasSubstr("huge.txt has more than 32 MB"));
 }
 
-TEST(TrendRainTest, FromElevenToTwentyOneInches) {
+TEST(TrendRainTest, AcceptsElevenToTwentyOneInches) {
   EXPECT_FALSE(refuseRain({11.0, 21.0}));
   EXPECT_FALSE(refuseRain({std::string("11"), std::string("21.00")}));
   EXPECT_FALSE(refuseRain({}));
 }
 
-TEST(TrendRainTest, RefusesTheFirstValueOutside) {
+TEST(TrendRainTest, NamesTheFirstValueOutsideTheRange) {
   for (const TrendValue& low : {TrendValue(10.99), TrendValue(std::string("10.99"))}) {
     const auto refusal = refuseRain({12.0, low, 22.0});
     ASSERT_TRUE(refusal);

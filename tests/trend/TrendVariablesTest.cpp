@@ -15,7 +15,7 @@ class TrendVariablesTest : public TrendTest {
   std::string caption(int variable) { return trendVariable(variable).unitCaption(&corn()); }
 };
 
-TEST_F(TrendVariablesTest, Table) {
+TEST_F(TrendVariablesTest, DescribesEachVariable) {
   const std::vector<const char*> captions{"Price per Unit",   "Total Production Costs*",
                                           "Maximum Yield",    "Irrigation System Efficiency",
                                           "Irrigation Costs", "Effective Annual Rainfall"};
@@ -31,7 +31,7 @@ TEST_F(TrendVariablesTest, Table) {
   }
 }
 
-TEST_F(TrendVariablesTest, UnitCaptions) {
+TEST_F(TrendVariablesTest, HasAUnitCaptionForEachVariable) {
   EXPECT_EQ(caption(0), "($ / bu.)");
   EXPECT_EQ(caption(1), "($ / ac)");
   EXPECT_EQ(caption(2), "(bushels / acre)");
@@ -40,7 +40,7 @@ TEST_F(TrendVariablesTest, UnitCaptions) {
   EXPECT_EQ(caption(5), "(inches)");
 }
 
-TEST_F(TrendVariablesTest, Units) {
+TEST_F(TrendVariablesTest, HasUnitsForEachVariable) {
   EXPECT_THAT(GetVariableUnits(host, 0, 0), ElementsAre("$", "/ bu."));
   EXPECT_THAT(GetVariableUnits(host, 0, 1), ElementsAre("$", "/ sack"));
   EXPECT_THAT(GetVariableUnits(host, 1, 0), ElementsAre("$", "/ ac"));
@@ -50,14 +50,14 @@ TEST_F(TrendVariablesTest, Units) {
   EXPECT_THAT(GetVariableUnits(host, 5, 99), ElementsAre("", "inches"));
 }
 
-TEST_F(TrendVariablesTest, WhatIsNotThereIsARunTimeError) {
+TEST_F(TrendVariablesTest, AMissingVariableOrCropIsARunTimeError) {
   errorText(ErrorNumber::subscript, [&] { (void)GetVariableUnits(host, 0, 3); });
   errorText(ErrorNumber::subscript, [&] { (void)GetVariableUnits(host, 0, -1); });
   errorText(ErrorNumber::subscript, [] { (void)trendVariable(6); });
   errorText(ErrorNumber::subscript, [] { (void)trendVariable(-1); });
 }
 
-TEST_F(TrendVariablesTest, TheRowOfACropIsThatOfTheFirstOfExactlyItsName) {
+TEST_F(TrendVariablesTest, FindsTheRowOfTheFirstCropWithExactlyTheName) {
   host.add(roundCrop("Corn", "x,y", 1, 1, 1));
   EXPECT_TRUE(GetCropIndex(host, "Corn").found);
   EXPECT_EQ(GetCropIndex(host, "Corn").row, 0U);
@@ -78,7 +78,7 @@ TEST(BatchProcessTest, StartsBlank) {
   EXPECT_TRUE(process.GetValueArray().empty());
 }
 
-TEST(BatchProcessTest, CopyAndChangeCarryAllButContentString) {
+TEST(BatchProcessTest, CopyAndChangeCopyAllExceptContentString) {
   BatchProcess process;
   process.cropIndex = 2;
   process.VariableIndex = 5;
@@ -110,7 +110,7 @@ TEST(BatchProcessTest, CopyAndChangeCarryAllButContentString) {
   }
 }
 
-TEST(BatchProcessTest, ValuesBecomeNumbersWhereTheyAreUsed) {
+TEST(BatchProcessTest, ValuesAreConvertedToNumbersWhenUsed) {
   EXPECT_EQ(numberOf(2.5), 2.5);
   EXPECT_EQ(numberOf(std::string("1e3")), 1000);
   errorText(ErrorNumber::typeMismatch, [] { (void)numberOf(std::string("x")); });

@@ -71,7 +71,7 @@ TEST_F(VariableTrendTest, RunsOnceForEachValue) {
   EXPECT_EQ(screens.pneBatchSetup1.batchTitle.caption(), "Variable Trend Results");
 }
 
-TEST_F(VariableTrendTest, EachRankingIsThatOfARunWithTheValue) {
+TEST_F(VariableTrendTest, EachRankingEqualsARunWithTheValue) {
   const std::vector<std::pair<int, std::string>> cases{{0, "2, 9"},   {1, "10, 300"}, {2, "20, 200"},
                                                        {3, "50, 90"}, {4, "0.5, 9"},  {5, "12, 20"}};
   for (const auto& [variable, list] : cases) {
@@ -96,7 +96,7 @@ TEST_F(VariableTrendTest, EachRankingIsThatOfARunWithTheValue) {
   }
 }
 
-TEST_F(VariableTrendTest, LiveInputsBeforeDuringAndAfter) {
+TEST_F(VariableTrendTest, TheLiveInputsKeepTheLastValueUntilBack) {
   const std::vector<std::pair<int, Live>> cases{
       {0, {"4.5", "100", "80", "16", false, 0, false, 0}}, {1, {"5", "100", "80", "16", true, 4.5, false, 0}},
       {2, {"5", "4.5", "80", "16", false, 0, false, 0}},   {3, {"5", "100", "4.5", "16", false, 0, false, 0}},
@@ -145,7 +145,7 @@ TEST_F(VariableTrendTest, BackTakesOnlyTheFirstRowOffTrendCosts) {
   EXPECT_TRUE(wheat().inputCosts.UseBatch);
 }
 
-TEST_F(VariableTrendTest, ASecondPressReusesTheProcess) {
+TEST_F(VariableTrendTest, PressingTheButtonAgainReusesTheProcess) {
   run(0, "2, 3");
   run(2, "90");
   ASSERT_EQ(trend.ProcessCollection.size(), 1U);
@@ -188,7 +188,7 @@ TEST_F(VariableTrendTest, ACancelInAnyRunEndsTheTrend) {
   EXPECT_EQ(live(), baseline);
 }
 
-TEST_F(VariableTrendTest, AfterACancelTheSameTrendRunsWhole) {
+TEST_F(VariableTrendTest, ACancelledTrendCanRunAgainCompletely) {
   cancelRun(1);
   run(0, "7, 8");
   host.onRun = [] {};
@@ -198,7 +198,7 @@ TEST_F(VariableTrendTest, AfterACancelTheSameTrendRunsWhole) {
   EXPECT_EQ(results.currentStep(), 1);
 }
 
-TEST_F(VariableTrendTest, ACancelledTrendLeavesTheResultsOnShow) {
+TEST_F(VariableTrendTest, ACancelledTrendKeepsTheShownResults) {
   run(0, "7, 8");
   EXPECT_EQ(results.lblFreeBatchDescription.caption(), "Corn Crop Price: $7.00 / bu.");
   host.statuses.clear();
@@ -209,7 +209,7 @@ TEST_F(VariableTrendTest, ACancelledTrendLeavesTheResultsOnShow) {
   EXPECT_EQ(results.lblBatchDescription1.caption(), "Step 2 of 2");
 }
 
-TEST_F(VariableTrendTest, ATrendInsideATrendEndsProperlyAndTheOuterOneStaysOnShow) {
+TEST_F(VariableTrendTest, ANestedTrendEndsProperlyAndTheOuterOneIsShown) {
   bool inner = false;
   host.onRun = [&] {
     if (std::exchange(inner, true)) return;
@@ -223,7 +223,7 @@ TEST_F(VariableTrendTest, ATrendInsideATrendEndsProperlyAndTheOuterOneStaysOnSho
   EXPECT_EQ(results.lblFreeBatchDescription.caption(), "Corn Crop Price: $7.00 / bu.");
 }
 
-TEST_F(VariableTrendTest, ARunTimeErrorEndsTheTrendAndKeepsWhatWasTyped) {
+TEST_F(VariableTrendTest, ARunTimeErrorEndsTheTrendAndKeepsTypedTexts) {
   std::vector<std::string> told;
   desk.onRunTimeError = [&](const RunTimeError& error) { told.emplace_back(error.what()); };
   run(0, "1e308, -0");
