@@ -130,7 +130,7 @@ void BatchRun::evaluateFarm(const CsvRow& row, std::uint64_t number, Outcome& ou
   if (found.result.options.empty() && !scenario.wishes.empty()) {
     found.result.relax = relaxWishes(scenario, state, hooks);
     if (!found.result.relax) return;
-    outcome.messages.push_back(noPlanText(*found.result.relax));
+    outcome.messages.push_back(noPlanText(NoPlan(*found.result.relax)));
     allDone_ = false;
   }
   format_.add(outcome.text, found);
