@@ -44,7 +44,7 @@ std::vector<std::string> readHead(CsvReader& table) {
   return head.cells;
 }
 
-/// The request without what the rows may replace as a whole.
+/// The request without the options that a row can replace as a whole.
 FarmRequest commonFarm(const BatchRequest& request) {
   FarmRequest farm = request.farm;
   farm.crops.clear();
@@ -63,7 +63,7 @@ std::vector<std::size_t> cropRows(const std::vector<std::string>& names, const C
   return rows;
 }
 
-/// Refuses a wish that no row can have, whatever its crops and its land split are.
+/// Refuses a wish that cannot be valid for any row, whatever its crops and land split are.
 void requireReadable(const std::vector<std::string>& wishes, const CropNames& library) {
   WishContext widest{library, library, 0};
   for (const LandDivision& division : landDivisions())

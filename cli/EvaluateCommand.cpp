@@ -16,7 +16,8 @@
 namespace verdalis {
 namespace {
 
-/// The field to explain. \throws Refusal for a text that is none, and for a format that has no place for it
+/// The field to explain.
+/// \throws Refusal for a text that names no field, and for a format that cannot contain explanations
 std::optional<FieldPlace> placeToExplain(const EvaluateRequest& request) {
   if (!request.explain) return std::nullopt;
   if (request.format == "csv")
@@ -24,7 +25,8 @@ std::optional<FieldPlace> placeToExplain(const EvaluateRequest& request) {
   return readFieldPlace(*request.explain);
 }
 
-/// \throws Cancelled after a Ctrl+C, whenever it came.
+/// Evaluates the farm of the request.
+/// \throws Cancelled after a Ctrl+C at any time
 EvaluationResult runFarm(const EvaluateRequest& request, Reports& reports, Messages& messages) {
   const std::optional<FieldPlace> place = placeToExplain(request);
   const Interrupt interrupt;
@@ -72,10 +74,9 @@ void evaluate(const EvaluateRequest& request, std::ostream& out, Messages& messa
   Reports reports(request.reports);
   const EvaluationResult result = runFarm(request, reports, messages);
   if (result.relax && request.format != "json") throw NoPlan(*result.relax);
-  // All of the text is there before the first byte goes out, so that a failure leaves no part of a result
-  // behind.
+  // The text is complete before its first byte is written, so a failure leaves no partial result.
   std::ostringstream text;
-  text.exceptions(std::ios::badbit);  // no memory left
+  text.exceptions(std::ios::badbit);  // out of memory
   optionsWriter(request.format)(text, result);
   if (!result.relax) reports.deliver();
   deliver(std::move(text).str(), request.output, out);

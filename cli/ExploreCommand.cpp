@@ -23,7 +23,7 @@ bool isTerminal(const std::ostream& out) {
   return &out == &std::cout && isatty(STDOUT_FILENO) == 1;
 }
 
-/// A line for each wish, and a blank one behind them.
+/// Writes a line for each wish, then an empty line.
 void writeWishes(std::ostream& out, const Farm& farm) {
   for (const std::string& wish : wishTexts(farm.wishes))
     out << "Wish: " << printable(wish) << '\n';
@@ -56,9 +56,9 @@ void ExploreCommand::run(std::ostream& out, Messages& messages) {
 }
 
 void ExploreCommand::answer(ExploreQuestion& question, std::ostream& out, Messages& messages) {
-  // All of the text is there before the first byte goes out.
+  // The text is complete before its first byte is written.
   std::ostringstream text;
-  text.exceptions(std::ios::badbit);  // no memory left
+  text.exceptions(std::ios::badbit);  // out of memory
   {
     const Interrupt interrupt;
     const Farm farm = exploredFarm(request_.farm, messages);

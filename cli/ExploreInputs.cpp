@@ -44,7 +44,7 @@ void writeCsv(std::ostream& out, const InputsResult& result) {
   }
 }
 
-/// A change of dollars with its sign.
+/// A change in dollars, with its sign.
 std::string changeText(double dollars) {
   const std::string text = dollarsText(dollars);
   return dollars > 0 && text != dollarsText(0) ? "+" + text : text;

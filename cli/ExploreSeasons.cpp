@@ -81,7 +81,7 @@ void writeJson(std::ostream& out, const Farm& farm, const SeasonsResult& result)
   json.end();
 }
 
-/// A row an option, and one for the safest plan.
+/// Writes a row for each option and one for the safest plan.
 void writeCsv(std::ostream& out, const SeasonsResult& result) {
   out << "option,average,worst,regret";
   for (std::size_t season = 1; season <= result.seasons.size(); ++season)

@@ -15,7 +15,7 @@
 namespace verdalis {
 namespace {
 
-/// Runs one step of an option; a refusal then begins with the option as it was typed.
+/// Applies an option. A refusal then begins with the option as typed.
 template <class Step>
 void applyOption(const std::string& option, const std::string& value, Step step) {
   try {
@@ -35,7 +35,7 @@ std::pair<std::string, std::string> splitAssignment(const std::string& text, std
   return {text.substr(0, sign), text.substr(sign + 1)};
 }
 
-/// The row and the text of "CROP=TEXT". A crop's name may have a "=" in it, so each is tried.
+/// The row and the text of "CROP=TEXT". The name of a crop may contain "=", so every position is tried.
 std::pair<std::size_t, std::string> rowAssignment(TypedFarm& farm, const std::string& text) {
   for (std::size_t sign = text.find('='); sign != std::string::npos; sign = text.find('=', sign + 1)) {
     if (const auto row = farm.findRow(std::string_view(text).substr(0, sign)))
@@ -87,7 +87,7 @@ void applyToRows(const FarmRequest& request, TypedFarm& farm) {
 void applyWishes(const FarmRequest& request, TypedFarm& farm) {
   if (request.mixes) farm.keepMixes();
   if (request.wishes.empty()) return;
-  requireReady(farm.inputs());  // a wish is about a land split and crops
+  requireReady(farm.inputs());  // wishes refer to fields and crops
   const WishContext context = farm.wishContext();
   for (const std::string& wish : request.wishes) {
     try {

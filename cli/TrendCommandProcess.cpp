@@ -37,7 +37,7 @@ std::int16_t variableIndex(const TrendProcessRequest& request, const std::string
                 ".");
 }
 
-/// The first row of exactly that name, else of the row that the name means ignoring case.
+/// The crop of the first row with this exact name, else the crop found ignoring case.
 std::optional<std::string> cropName(const std::string& name, TypedFarm& typed, const TrendInputs& inputs) {
   if (GetCropIndex(inputs, name).found) return name;
   const std::optional<std::size_t> row = typed.findRow(name);
@@ -53,13 +53,14 @@ std::string cropOf(const TrendProcessRequest& request, const std::string& option
   throw Refusal(option + ": " + unknownCrop(typed, *request.crop));
 }
 
-/// The pane itself reads a leading number; on the command line a text that is no plain number is a slip.
+/// Requires a plain number. The pane accepts a leading number; on the command line this would hide a typing
+/// error.
 void requireNumber(const std::string& option, const std::string& text) {
   if (isNumeric(text) && text.find(',') == std::string::npos) return;
   throw Refusal(option + " " + quoteForMessage(text) + ": Please enter a valid number");
 }
 
-/// The reading would only ask for a file, not knowing that one was named.
+/// Checks the file first. The reader would only ask for a file, without the name of this one.
 void requireReadable(const std::string& option, const std::string& file) {
   std::error_code error;
   const bool readable = std::filesystem::is_regular_file(file, error) && ::access(file.c_str(), R_OK) == 0;
@@ -99,7 +100,7 @@ ValuesOption readValues(const TrendProcessRequest& request, const std::string& s
   return {option, readValuesFile(*request.valuesFile), TrendValuesKind::import};
 }
 
-/// Reads the values; those that no run could use, such as 1e999, are refused before the first run.
+/// Reads the values. Values that no run can use, such as 1e999, are refused before the first run.
 ValuesOption checkValues(const TrendProcessRequest& request, const std::string& suffix, bool rain) {
   try {
     ValuesOption values = readValues(request, suffix);

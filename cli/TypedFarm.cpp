@@ -44,7 +44,7 @@ ProgramFiles withoutSaving(ProgramFiles files) {
   return files;
 }
 
-/// While it lives, a listener hears of the runs of a window.
+/// Registers a listener for the runs of a window, during its lifetime.
 class Listening {
  public:
   Listening(frmMain& window, RunHooks& listener) : window_(window) { window_.runListener = &listener; }
@@ -71,7 +71,7 @@ TypedFarm::TypedFarm(ProgramFiles files, Messages& messages)
       services_(platform_.services()),
       program_(services_, withoutSaving(std::move(files))) {
   program_.start();
-  // From here on a run-time error ends the command.
+  // From here on, a run-time error ends the command.
   program_.desk.onRunTimeError = nullptr;
 }
 
@@ -116,7 +116,7 @@ void TypedFarm::refuseIfTold() {
 }
 
 std::optional<std::size_t> TypedFarm::findRow(std::string_view name) {
-  return findCrop(cropNames(), name);  // only the one row of an empty library has no crop
+  return findCrop(cropNames(), name);  // only the single row of an empty library has no crop
 }
 
 std::vector<std::string> TypedFarm::cropNames() {

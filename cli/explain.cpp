@@ -10,7 +10,7 @@
 namespace verdalis {
 namespace {
 
-/// A whole text that is a number from 1.
+/// Reads a text that consists of a number from 1.
 std::optional<std::size_t> placeOf(std::string_view text) {
   std::size_t number = 0;
   const char* const end = text.data() + text.size();

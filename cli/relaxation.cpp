@@ -12,7 +12,7 @@
 namespace verdalis {
 namespace {
 
-/// Each evaluation is a step of the search for what to give up.
+/// Counts each evaluation as a step of the search for wishes to give up.
 class EvaluationSteps final : public RunHooks {
  public:
   explicit EvaluationSteps(RunHooks& hooks) : hooks_(hooks) {}

@@ -12,7 +12,7 @@
 namespace verdalis {
 namespace {
 
-/// Takes a number, and the character that must follow it, off the front of a text.
+/// Removes a number and the character that must follow it from the front of a text.
 bool takeNumber(std::string_view& text, char behind, std::size_t& number) {
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
   const auto length = static_cast<std::size_t>(end - text.data());
