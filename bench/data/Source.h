@@ -4,7 +4,7 @@
 
 namespace verdalis::bench {
 
-/// The root of the source tree, which the build knows; a tool that reads a file on its own starts there.
+/// The root of the source tree, defined by the build. A tool that parses a file alone starts in it.
 #ifdef VERDALIS_SOURCE_DIR
 inline const std::filesystem::path source = VERDALIS_SOURCE_DIR;
 #else
