@@ -111,7 +111,7 @@ std::vector<BatchColumn> batchColumns(const std::vector<std::string>& head, Type
       const BatchColumn column{title, found.kind, found.index, columns.size()};
       for (const BatchColumn& before : columns) {
         if (column.repeats(before))
-          throw Refusal("It sets the same as column " + std::to_string(before.position + 1) + ", " +
+          throw Refusal("It sets the same value as column " + std::to_string(before.position + 1) + ", " +
                         quoteForMessage(before.title) + ".");
       }
       columns.push_back(column);

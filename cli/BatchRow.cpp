@@ -169,7 +169,7 @@ class RowTyping {
     if (onOrOff(text)) {
       chooseSplit(index);
     } else if (inputs_.Option1.at(index)) {
-      throw Refusal("It is turned off by turning another one on.");
+      throw Refusal("An option button is turned off by turning on another one.");
     }
   }
 

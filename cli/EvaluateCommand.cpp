@@ -20,8 +20,7 @@ namespace {
 /// \throws Refusal for a text that names no field, and for a format that cannot contain explanations
 std::optional<FieldPlace> placeToExplain(const EvaluateRequest& request) {
   if (!request.explain) return std::nullopt;
-  if (request.format == "csv")
-    throw Refusal("--explain is told as a table or as JSON: --format table or --format json.");
+  if (request.format == "csv") throw Refusal("--explain requires --format table or --format json.");
   return readFieldPlace(*request.explain);
 }
 
@@ -54,19 +53,17 @@ EvaluationResult runFarm(const EvaluateRequest& request, Reports& reports, Messa
 }  // namespace
 
 const CLI::App& addEvaluateCommand(CLI::App& app, EvaluateRequest& request) {
-  CLI::App& command =
-      *app.add_subcommand("evaluate", "One evaluation: the ranked options on standard output");
+  CLI::App& command = *app.add_subcommand("evaluate", "Runs one evaluation and lists the ranked options");
   addFarmOptions(command, request.farm);
   addMixesOption(command, request.farm);
-  command.add_option("--format", request.format, "table, csv or json; table without it")
+  command.add_option("--format", request.format, "table, csv or json (default: table)")
       ->type_name("FORMAT")
       ->check(CLI::IsMember(optionsFormats()));
-  addTextOption(command, "--output", "FILE", request.output, "Write there in place of standard output");
+  addTextOption(command, "--output", "FILE", request.output, "Write to this file instead of standard output");
   addReportOptions(command, request.reports);
-  addTextOption(
-      command, "--explain", "K.F", request.explain,
-      "Also tell step by step how field F of option K comes to its net return,\nboth counted from 1; as "
-      "table or json");
+  addTextOption(command, "--explain", "K.F", request.explain,
+                "Also show the steps from the gross irrigation to the net return of field F\nof option K, "
+                "both counted from 1; as table or json");
   return command;
 }
 

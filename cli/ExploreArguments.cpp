@@ -75,7 +75,7 @@ std::string cropOf(std::string_view name, const Farm& farm) {
     throw Refusal("The crop " + quoteForMessage(name) + " is not chosen. The chosen crops are " +
                   listOf(names) + ".");
   }
-  throw Refusal("Several chosen crops are called so: " + listOf(alike) + ".");
+  throw Refusal("Several chosen crops have this name: " + listOf(alike) + ".");
 }
 
 /// Reads an input.
@@ -149,7 +149,7 @@ ValueRange readRange(const std::string& fromOption, const std::string& from, con
   if (values < 2 || values > static_cast<double>(mostPoints) ||
       values != static_cast<double>(static_cast<std::size_t>(values))) {
     refuse(countOption, count,
-           "The number of values is a whole number from 2 to " +
+           "The number of values must be a whole number from 2 to " +
                formatNumber(static_cast<double>(mostPoints), "###,###") + ".");
   }
   range.count = static_cast<std::size_t>(values);
@@ -199,13 +199,13 @@ void requireAccepted(const std::string& option, const FarmInput& input, double v
   const InputBounds bounds = inputBounds(input, farm);
   const std::string name = inputName(input);
   if (bounds.least && value < *bounds.least)
-    refuse(option, generalText(value), "The " + name + " is " + generalText(*bounds.least) + " or more.");
+    refuse(option, generalText(value),
+           "The " + name + " must be at least " + generalText(*bounds.least) + ".");
   if (bounds.most && value > *bounds.most)
-    refuse(option, generalText(value), "The " + name + " is at most " + generalText(*bounds.most) + ".");
+    refuse(option, generalText(value), "The " + name + " must be at most " + generalText(*bounds.most) + ".");
   if (input.kind != Kind::water) return;
   if (!isWater(farm, value)) {
-    refuse(option, generalText(value),
-           "The water must be so many inches that acres times inches are at least 1 ac-in.");
+    refuse(option, generalText(value), "Acres times inches must be at least 1 ac-in.");
   }
 }
 

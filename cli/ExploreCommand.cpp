@@ -33,7 +33,7 @@ void writeWishes(std::ostream& out, const Farm& farm) {
 }  // namespace
 
 ExploreCommand::ExploreCommand(CLI::App& app)
-    : command_(app.add_subcommand("explore", "What the ranking leaves open, a question at a time")) {
+    : command_(app.add_subcommand("explore", "Answers questions beyond the ranking")) {
   command_->require_subcommand(1);
   for (const auto& make : exploreQuestions) {
     std::unique_ptr<ExploreQuestion> question = make();
@@ -41,10 +41,11 @@ ExploreCommand::ExploreCommand(CLI::App& app)
         *command_->add_subcommand(std::string(question->name()), std::string(question->description()));
     question->addOptions(command);
     addFarmOptions(command, request_.farm);
-    command.add_option("--format", request_.format, "table, csv or json; table without it")
+    command.add_option("--format", request_.format, "table, csv or json (default: table)")
         ->type_name("FORMAT")
         ->check(CLI::IsMember(optionsFormats()));
-    addTextOption(command, "--output", "FILE", request_.output, "Write there in place of standard output");
+    addTextOption(command, "--output", "FILE", request_.output,
+                  "Write to this file instead of standard output");
     questions_.push_back({std::move(question), &command});
   }
 }

@@ -128,11 +128,10 @@ class ExploreMap : public ExploreQuestion {
   }
 
   void addOptions(CLI::App& command) override {
-    addTextOption(
-        command, "--x", "INPUT=FROM:TO:N", x_,
-        "An input with N values evenly between two, such as \"price Corn=4:8:9\".\nThe inputs are water, "
-        "rain, efficiency, fuel, price CROP and max-yield CROP");
-    addTextOption(command, "--y", "INPUT=FROM:TO:M", y_, "Another one");
+    addTextOption(command, "--x", "INPUT=FROM:TO:N", x_,
+                  "An input and N evenly spaced values, such as \"price Corn=4:8:9\".\nThe inputs are water, "
+                  "rain, efficiency, fuel, price CROP and max-yield CROP");
+    addTextOption(command, "--y", "INPUT=FROM:TO:M", y_, "Another input");
   }
 
   void answer(const ExploreCall& call, std::ostream& out) override {

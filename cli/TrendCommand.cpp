@@ -63,15 +63,15 @@ std::size_t optionNumber(const std::optional<std::string>& text) {
   const char* const end = text->data() + text->size();
   const auto [stop, error] = std::from_chars(text->data(), end, number);
   if (error == std::errc() && stop == end && number > 0) return number;
-  throw Refusal("--option " + quoteForMessage(*text) + ": Options are counted 1, 2, 3 and so on.");
+  throw Refusal("--option " + quoteForMessage(*text) + ": Options are counted from 1.");
 }
 
 void requireKind(const TrendArguments& request) {
   if (request.option) return;
   if (request.processes[1].given())
-    throw Refusal("A second process is for a fixed trend alone, which needs --option K.");
+    throw Refusal("Only a fixed trend can have a second process. It requires --option K.");
   if (request.reports.results || !request.reports.details.empty())
-    throw Refusal("Reports are of the evaluation of a fixed trend, which needs --option K.");
+    throw Refusal("Only a fixed trend can print reports. It requires --option K.");
 }
 
 std::vector<TrendedVariable> variablesOf(const std::vector<TrendProcess>& processes) {
@@ -206,11 +206,11 @@ class TrendRun {
       const TrendVariable& variable = trendVariable(process.process.VariableIndex);
       const std::string option = i == 0 ? "--trend-crop: " : "--trend-crop2: ";
       if (!variable.ofCrop && request_.processes[i].crop) {
-        messages_.tell(option + "\"" + variable.label + "\" belongs to no crop, so the name takes no part.");
+        messages_.tell(option + "\"" + variable.label + "\" belongs to no crop, so the name has no effect.");
       }
       if (variable.ofCrop && isIdle(process)) {
         messages_.tell(option + quoteForMessage(process.crop) + " " + why +
-                       ", so its values change nothing.");
+                       ", so its values have no effect.");
       }
     }
   }
@@ -233,8 +233,8 @@ class TrendRun {
     while (count < options.size() && options[count]->Count() > 0)
       ++count;
     if (number > count) {
-      throw Refusal("--option " + std::to_string(number) + ": The evaluation has found " +
-                    std::to_string(count) + (count == 1 ? " option." : " options."));
+      throw Refusal("--option " + std::to_string(number) + ": The evaluation found " + std::to_string(count) +
+                    (count == 1 ? " option." : " options."));
     }
     trend_.option = options[number - 1];
   }
@@ -338,14 +338,15 @@ const CLI::App& addTrendCommand(CLI::App& app, TrendArguments& request) {
       "trend", "What if: evaluations over a range of one input, or one option at other values");
   addFarmOptions(command, request.farm);
   addTrendProcessOptions(command, "", request.processes[0]);
-  addTextOption(command, "--option", "K", request.option,
-                "A fixed trend on option K of the evaluation, counted from 1;\na variable trend without it");
+  addTextOption(
+      command, "--option", "K", request.option,
+      "Run a fixed trend on option K of the evaluation, counted from 1\n(default: a variable trend)");
   addTrendProcessOptions(command, "2", request.processes[1]);
   addTextOption(command, "--export", "FILE", request.exportFile, "Also write the spreadsheet export");
-  command.add_option("--format", request.format, "table, csv or json; table without it")
+  command.add_option("--format", request.format, "table, csv or json (default: table)")
       ->type_name("FORMAT")
       ->check(CLI::IsMember(optionsFormats()));
-  addTextOption(command, "--output", "FILE", request.output, "Write there in place of standard output");
+  addTextOption(command, "--output", "FILE", request.output, "Write to this file instead of standard output");
   addReportOptions(command, request.reports);
   return command;
 }

@@ -77,7 +77,7 @@ struct ValuesOption {
 
 ValuesOption readRangeOptions(const TrendProcessRequest& request, const std::string& suffix) {
   if (!request.from || !request.to || !request.steps) {
-    throw Refusal("A range of values needs all of --from" + suffix + " A, --to" + suffix + " B and --steps" +
+    throw Refusal("A range of values requires --from" + suffix + " A, --to" + suffix + " B and --steps" +
                   suffix + " N.");
   }
   requireNumber("--from" + suffix, *request.from);
@@ -131,16 +131,17 @@ void addTrendProcessOptions(CLI::App& command, const std::string& suffix, TrendP
   const std::string of = first ? "" : " of the second process";
   addTextOption(
       command, "--variable" + suffix, "N", request.variable,
-      first ? "The variable that is varied:\n" + variableNames("\n") : "A fixed trend's second variable");
+      first ? "The variable to vary:\n" + variableNames("\n") : "The second variable of a fixed trend");
   addTextOption(command, "--trend-crop" + suffix, "NAME", request.crop,
-                "The crop" + of + ", for the variables 0 to 2");
+                "The crop" + of + ", for variables 0 to 2");
   addTextOption(command, "--values" + suffix, "LIST", request.values,
-                "The values" + of + ", with commas between them");
-  addTextOption(command, "--from" + suffix, "A", request.from, "Or values" + of + " evenly from A ...");
+                "The values" + of + ", separated by commas");
+  addTextOption(command, "--from" + suffix, "A", request.from,
+                "Or evenly spaced values" + of + " from A ...");
   addTextOption(command, "--to" + suffix, "B", request.to, "... to B ...");
-  addTextOption(command, "--steps" + suffix, "N", request.steps, "... N of them");
+  addTextOption(command, "--steps" + suffix, "N", request.steps, "... with this number of values");
   addTextOption(command, "--values-file" + suffix, "FILE", request.valuesFile,
-                "Or the values" + of + " from a file, with commas between them");
+                "Or a file with the values" + of + ", separated by commas");
 }
 
 TrendProcess makeTrendProcess(const TrendProcessRequest& request, const std::string& suffix, TypedFarm& typed,

@@ -19,7 +19,7 @@ void set(OptionButton& button, const std::string& text) {
   if (onOrOff(text)) {
     button.click();
   } else if (button.checked()) {
-    throw Refusal("It is turned off by turning another one on.");
+    throw Refusal("An option button is turned off by turning on another one.");
   }
 }
 
@@ -93,7 +93,7 @@ void TypedFarm::type(const std::string& name, const std::string& text) {
 
 std::optional<std::string> TypedFarm::noticeOf(const Control& control, const std::string& name) {
   if (stands(control, mainPane())) return std::nullopt;
-  return name + " takes part in a run only after it is applied on its pane, which is not done here.";
+  return name + " has no effect on a run until it is applied on its pane, which this command does not do.";
 }
 
 void TypedFarm::typeInto(Control& control, const std::string& name, const std::string& text) {

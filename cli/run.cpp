@@ -34,15 +34,13 @@ void setCommon(CLI::App& app, const std::string& footer) {
 /// Parses the arguments and runs their command. Only the named command is parsed; the others keep their
 /// defaults.
 int dispatch(const std::vector<std::string>& args, std::istream& in, std::ostream& out, Messages& messages) {
-  CLI::App app("Finds the allocation of irrigation water, land and crops that leaves the most money.",
-               "verdalis-cli");
+  CLI::App app("Finds the most profitable allocation of irrigation water, land and crops.", "verdalis-cli");
   app.set_version_flag("--version", versionText(), "Print the version and exit");
   app.require_subcommand(1);
   const std::string exitCodes =
-      "Exit code: 0 done, 1 a run-time error, a cancel or no plan that meets the wishes, 2 wrong arguments "
-      "or "
-      "incomplete inputs.";
-  app.footer("\"verdalis-cli COMMAND --help\" tells the options of a command.\n" + exitCodes);
+      "Exit codes: 0 success; 1 run-time error, cancel, or no plan that meets the wishes; 2 wrong arguments "
+      "or incomplete inputs.";
+  app.footer("Run \"verdalis-cli COMMAND --help\" for the options of a command.\n" + exitCodes);
 
   EvaluateRequest evaluateRequest;
   const CLI::App& evaluateCommand = addEvaluateCommand(app, evaluateRequest);

@@ -78,7 +78,7 @@ bool CsvReader::readLine(CsvRow& row) {
         break;
     }
   }
-  if (state_ == State::quoted) setFault(row, "The quote in front of it has no end");
+  if (state_ == State::quoted) setFault(row, "The closing quote is missing");
   endLine(row);
   return true;
 }
@@ -108,7 +108,7 @@ bool CsvReader::takePlain(CsvRow& row) {
   if (buffer_[stop] == ',') {
     endCell(row);
   } else {
-    setFault(row, "A quote stands inside a text that is not in quotes");
+    setFault(row, "A text that is not in quotes contains a quote");
   }
   return false;
 }
@@ -135,7 +135,7 @@ bool CsvReader::takeBehindQuote(CsvRow& row) {
     endCell(row);
     return c == '\n';
   } else if (c != '\r' || (peek(behind) && behind != '\n')) {
-    setFault(row, "A text stands behind the quote that ends it");
+    setFault(row, "There is text after the closing quote");
     state_ = State::plain;
   }
   return false;
@@ -145,7 +145,7 @@ void CsvReader::endCell(CsvRow& row) {
   if (bytes_ > mostBytes) {
     setFault(row, "The row is longer than " + std::to_string(mostBytes) + " bytes");
   } else if (row.count < keptCells_) {
-    if (!isUtf8(cell_)) setFault(row, "The text is no UTF-8");
+    if (!isUtf8(cell_)) setFault(row, "The text is not UTF-8");
     row.cells.push_back(cell_);
   }
   ++row.count;

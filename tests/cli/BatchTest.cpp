@@ -178,7 +178,7 @@ TEST(Batch, ARefusedRowDoesNotStopTheOthers) {
   EXPECT_EQ(told[1], "verdalis-cli: Row 3, \"C\": The row has 2 cells, and the table has 4 columns.");
   EXPECT_EQ(told[2].substr(0, 64), "verdalis-cli: Row 4, \"D\": crops \"Rice\": There is no crop \"Rice\".");
   EXPECT_NE(told[3].find("Row 5, \"E\": Please enter all of the necessary information"), std::string::npos);
-  EXPECT_EQ(told[4], "verdalis-cli: Row 6, \"F\": Cell 4: A text stands behind the quote that ends it.");
+  EXPECT_EQ(told[4], "verdalis-cli: Row 6, \"F\": Cell 4: There is text after the closing quote.");
   EXPECT_NE(told[5].find("Row 7, \"G\": Please enter all of"), std::string::npos) << told[5];
   EXPECT_EQ(told[6], "verdalis-cli: Row 8, \"H\": The row has 5 cells, and the table has 4 columns.");
   EXPECT_NE(told[7].find("Row 9, \"I\": "), std::string::npos);
@@ -219,14 +219,15 @@ TEST(Batch, ATableWithAnInvalidHeaderIsRefused) {
            {"name,txtarea\n", "Column 2, \"txtarea\": There is no control \"txtarea\" in the main window."},
            {"name,\n", "Column 2, \"\": There is no control"},
            {"Name\n", "There is no control \"Name\""},
-           {"name,split,name\n", "Column 3, \"name\": It sets the same as column 1, \"name\"."},
-           {"price Plain,price plain\n", "It sets the same as column 1, \"price Plain\"."},
+           {"name,split,name\n", "Column 3, \"name\": It sets the same value as column 1, \"name\"."},
+           {"price Plain,price plain\n", "It sets the same value as column 1, \"price Plain\"."},
            {"price Rice\n", "There is no crop \"Rice\"."},
            {"price\n", "There is no control \"price\""},
            {"lblVolume\n", "Nothing can be typed into \"lblVolume\", a Label."},
            {"Command1\n", "Nothing can be typed into"},
-           {"txtGPM\n", "takes part in a run only after it is applied on its pane"},
-           {"a\"b\n", "The first line of the table: Cell 1: A quote stands inside"}}) {
+           {"txtGPM\n", "has no effect on a run until it is applied on its pane"},
+           {"a\"b\n",
+            "The first line of the table: Cell 1: A text that is not in quotes contains a quote"}}) {
     const CliResult result = small(home, {"--crop", "Plain", "--split", "0"}, table);
     EXPECT_EQ(result.exitCode, 2) << table;
     EXPECT_EQ(result.out, "") << table;
@@ -268,18 +269,19 @@ TEST(Batch, CellsAreCheckedLikeTheOptions) {
       "1e9,,,,,,,,,\n,x,,,,,,,,\n,,6,,,,,,,\n,,,yes,,,,,,\n,,,true,,,,,,\n,,,,\"1,000\",,,,,\n,,,,,100,,,,\n"
       ",,,,,,-1,,,\n,,,,,,.,,,\n,,,,,,,2,,\n,,,,,,,,False,\n,,,,,,,,,maybe\n,,,,,,,,True,False\n");
   const auto told = linesOf(result.err);
-  const std::vector<std::string> reasons{"price Corn \"1e9\": Crop Price - Corn:  Please enter a value",
-                                         "max-yield Corn \"x\": Maximum Yield - Corn:  Please enter a num",
-                                         "split \"6\": There is no such land split:",
-                                         "no-split \"yes\": Please enter True or False",
-                                         "no-split \"true\": Please enter True or False",
-                                         "keep \"1,000\": Please enter a valid number",
-                                         "factor \"100\": Please enter a number between 1 and 100",
-                                         "fuel \"-1\": Fuel Cost:  Please enter a value that's greater",
-                                         "fuel \".\": Please enter a valid number",
-                                         "chkNoSplit \"2\": Please enter True or False",
-                                         "Option1(3) \"False\": It is turned off by turning another one on.",
-                                         "cr(1).chkCrop \"maybe\": Please enter True or False"};
+  const std::vector<std::string> reasons{
+      "price Corn \"1e9\": Crop Price - Corn:  Please enter a value",
+      "max-yield Corn \"x\": Maximum Yield - Corn:  Please enter a num",
+      "split \"6\": There is no such land split:",
+      "no-split \"yes\": Please enter True or False",
+      "no-split \"true\": Please enter True or False",
+      "keep \"1,000\": Please enter a valid number",
+      "factor \"100\": Please enter a number between 1 and 100",
+      "fuel \"-1\": Fuel Cost:  Please enter a value that's greater",
+      "fuel \".\": Please enter a valid number",
+      "chkNoSplit \"2\": Please enter True or False",
+      "Option1(3) \"False\": An option button is turned off by turning on another one.",
+      "cr(1).chkCrop \"maybe\": Please enter True or False"};
   ASSERT_EQ(told.size(), reasons.size()) << result.err;
   for (std::size_t i = 0; i < told.size(); ++i) {
     const std::string start = "verdalis-cli: Row " + std::to_string(i + 1) + ": " + reasons[i];

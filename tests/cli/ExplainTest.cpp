@@ -81,7 +81,7 @@ TEST(Explain, RefusesAnInvalidOrMissingField) {
        {"", "1", "1.", ".1", "0.1", "1.0", "a.b", "1.1.1", "-1.1", "1. 1", "+1.1", "99999999999999999999.1"})
     expectRefusal(place, "The form is K.F");
   expectRefusal("1.3", "Option 1 has 2 fields.");
-  expectRefusal("4.1", "The evaluation has found ");
+  expectRefusal("4.1", "The evaluation found ");
 }
 
 TEST(Explain, CannotBeCombinedWithCsv) {

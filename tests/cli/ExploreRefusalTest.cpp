@@ -130,7 +130,7 @@ TEST(ExploreRefusal, SeasonsRequireNamesRainAndPositiveWeights) {
   EXPECT_TRUE(has(seasons({"1:12:1", "2:12:1", "3:12:1", "4:12:1", "5:12:1", "6:12:1", "7:12:1", "8:12:1",
                            "9:12:1", "10:12:1"}),
                   "2 to 9 seasons"));
-  EXPECT_TRUE(has(seasons({"dry:12:1", "dry:13:1"}), "of that name"));
+  EXPECT_TRUE(has(seasons({"dry:12:1", "dry:13:1"}), "with this name"));
   EXPECT_TRUE(has(seasons({"dry:12:0", "wet:13:1"}), "above 0"));
   EXPECT_TRUE(has(seasons({"dry:12:-1", "wet:13:1"}), "above 0"));
   EXPECT_TRUE(has(seasons({"dry:x:1", "wet:13:1"}), "valid number"));

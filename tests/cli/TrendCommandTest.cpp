@@ -304,7 +304,7 @@ TEST_F(TrendCommandTest, RefusesInvalidValues) {
   };
   expectRefused(efficiency, "A trend needs its values in one way");
   expectRefused(efficiency + Args{"--values", "1", "--values-file", "x"}, "in one way");
-  expectRefused(efficiency + Args{"--from", "1"}, "A range of values needs all of");
+  expectRefused(efficiency + Args{"--from", "1"}, "A range of values requires");
   expectRefused(efficiency + range("1", "x", "2"), "--to \"x\": Please enter a valid number");
   expectRefused(efficiency + range("2", "1", "2"),
                 "Please select a maximum value greater than the minimum value!");
@@ -322,11 +322,11 @@ TEST_F(TrendCommandTest, RefusesInvalidValues) {
 
 TEST_F(TrendCommandTest, RefusesAnInvalidFixedTrend) {
   const Args one = priceOfPlain + Args{"--values", "1,2"};
-  expectRefused(one + Args{"--option", "0"}, "Options are counted 1, 2, 3");
-  expectRefused(one + Args{"--option", "x"}, "Options are counted 1, 2, 3");
-  expectRefused(one + Args{"--option", "2"}, "The evaluation has found 1 option.");
-  expectRefused(one + Args{"--variable2", "3", "--values2", "70"}, "which needs --option K");
-  expectRefused(one + Args{"--report", file("r.txt")}, "which needs --option K");
+  expectRefused(one + Args{"--option", "0"}, "Options are counted from 1");
+  expectRefused(one + Args{"--option", "x"}, "Options are counted from 1");
+  expectRefused(one + Args{"--option", "2"}, "The evaluation found 1 option.");
+  expectRefused(one + Args{"--variable2", "3", "--values2", "70"}, "It requires --option K");
+  expectRefused(one + Args{"--report", file("r.txt")}, "It requires --option K");
   expectRefused(one + Args{"--option", "1", "--variable2", "5", "--values2", "30"},
                 "--values2: Values for Annual Rainfall cannot exceed 21 inches.");
   expectRefused(
