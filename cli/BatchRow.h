@@ -21,8 +21,8 @@ struct BatchBase {
   CropScenario library;
   CropNames names;  ///< Of the library
   IrrigationCosts plant;
-  std::vector<std::size_t> crops;   ///< Rows to tick if a row of the table names no crops
-  std::vector<std::string> wishes;  ///< Wishes of rows that have none
+  std::vector<std::size_t> crops;   ///< Rows to tick, for rows of the table without crops
+  std::vector<std::string> wishes;  ///< For rows of the table without wishes
 };
 
 /// The farm of one row of the table.

@@ -30,7 +30,7 @@ struct FieldResult {
   double returns = 0;     ///< Dollars for the field
   double production = 0;  ///< Dollars for the field, without irrigation
   double irrigation = 0;  ///< Dollars for the field
-  double hours = 0;       ///< Pumping hours; a dry field shows the hours left in its plant
+  double hours = 0;       ///< Pumping hours; a dry field shows the previous hours of its plant
 
   [[nodiscard]] double profit() const { return returns - costs; }
 };

@@ -17,7 +17,7 @@ inline constexpr std::size_t mostPoints = 100000;
 
 /// The farm of the request as numbers.
 /// \throws Refusal if `evaluate` would refuse it
-/// \throws RunTimeError for numbers that make no valid farm
+/// \throws RunTimeError for numbers that give no valid farm
 [[nodiscard]] Farm exploredFarm(const FarmRequest& request, Messages& messages);
 
 /// The name of an input with its unit, for a table.

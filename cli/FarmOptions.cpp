@@ -15,7 +15,7 @@
 namespace verdalis {
 namespace {
 
-/// Applies an option. A refusal then begins with the option as typed.
+/// Applies an option. A refusal begins with the option as typed.
 template <class Step>
 void applyOption(const std::string& option, const std::string& value, Step step) {
   try {

@@ -25,8 +25,8 @@ struct SwitchSegment {
 ///
 /// The best profit is the upper envelope of the lines of the plans. Its corners are found by intersection: if
 /// the best plan where two neighbours cross is above both, it lies between them. Two lines count as one if
-/// they differ nowhere by more than 1e-12 of the best profit at the ends (at least $1), or by more than the
-/// rounding error.
+/// they differ nowhere by more than the larger of the rounding error and 1e-12 of the best profit at the ends
+/// (at least $1).
 /// \returns nothing after a cancel.
 /// \throws NoPlan, RunTimeError as bestPlan()
 [[nodiscard]] std::optional<std::vector<SwitchSegment>> switchPrices(const Farm& farm, const FarmInput& input,
