@@ -28,7 +28,7 @@ constexpr std::array<NamedKind, 8> plainColumns{{{"name", Kind::name},
                                                  {"fuel", Kind::fuel},
                                                  {"wish", Kind::wish}}};
 
-/// Columns of one crop: their name, a blank, and the name of the crop.
+/// Columns for one crop: the column name, a blank, and the name of the crop.
 constexpr std::array<NamedKind, 2> cropColumnKinds{{{"price", Kind::price}, {"max-yield", Kind::maxYield}}};
 
 struct Found {
@@ -58,7 +58,7 @@ std::optional<Found> cropColumn(const std::string& title, TypedFarm& farm) {
   return std::nullopt;
 }
 
-/// What the control at a place of the main pane sets; nothing for one that nothing can be typed into.
+/// What a control of the main pane sets; nothing if it takes no input.
 std::optional<Found> paneControl(const Control& control, const MainPane& pane) {
   const std::array<std::pair<const Control*, Kind>, 9> single{{{&pane.txtArea, Kind::area},
                                                                {&pane.txtMax, Kind::inches},
@@ -111,7 +111,7 @@ std::vector<BatchColumn> batchColumns(const std::vector<std::string>& head, Type
       const BatchColumn column{title, found.kind, found.index, columns.size()};
       for (const BatchColumn& before : columns) {
         if (column.repeats(before))
-          throw Refusal("It sets the same as column " + std::to_string(before.position + 1) + ", " +
+          throw Refusal("It sets the same value as column " + std::to_string(before.position + 1) + ", " +
                         quoteForMessage(before.title) + ".");
       }
       columns.push_back(column);
@@ -119,7 +119,7 @@ std::vector<BatchColumn> batchColumns(const std::vector<std::string>& head, Type
       refuse(refusal.what());
     }
   }
-  // The controls of the main pane keep the order of the table, as the texts of --set do.
+  // Controls of the main pane keep their order in the table, like the texts of --set.
   const auto step = [](const BatchColumn& column) { return std::max(column.kind, Kind::tick); };
   std::stable_sort(columns.begin(), columns.end(),
                    [&](const BatchColumn& a, const BatchColumn& b) { return step(a) < step(b); });

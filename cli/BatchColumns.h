@@ -8,24 +8,24 @@
 
 namespace verdalis {
 
-/// What a column of a table of farms sets, in the order in which the cells of a row are typed.
+/// What a column of the table of farms sets, in the order in which the cells of a row are applied.
 enum class BatchColumnKind {
-  name,  ///< Told again, sets nothing
+  name,  ///< Repeated in the output; sets nothing
   // Controls of the main pane
   area,
   inches,
   rain,
   efficiency,
   soil,
-  landSplitButton,  ///< `index` is that of the button
+  landSplitButton,  ///< `index` is the number of the button
   noSplitBox,
   optionsToKeep,
   switchWithoutEffect,
   textWithoutEffect,
-  tick,  ///< `index` is that of the row
-  // What has an option of the command line
-  price,     ///< `index` is that of the row
-  maxYield,  ///< `index` is that of the row
+  tick,  ///< `index` is the number of the row
+  // Options of the command line
+  price,     ///< `index` is the number of the row
+  maxYield,  ///< `index` is the number of the row
   split,
   crops,
   noSplit,
@@ -39,17 +39,17 @@ enum class BatchColumnKind {
 struct BatchColumn {
   std::string title;
   BatchColumnKind kind = BatchColumnKind::name;
-  std::size_t index = 0;     ///< Of a control of which there are several
-  std::size_t position = 0;  ///< Of its cells in their rows
+  std::size_t index = 0;     ///< Number of the control, for controls of which there are several
+  std::size_t position = 0;  ///< Position of its cells in their rows
 
-  /// Whether it sets the same as another.
+  /// Whether both columns set the same value.
   [[nodiscard]] bool repeats(const BatchColumn& other) const {
     return kind == other.kind && index == other.index;
   }
 };
 
-/// The columns of a head row, in the order in which their cells are typed.
-/// \throws Refusal for one that is unknown or repeated, or whose cells would take no part in a run
+/// The columns of a header row, in the order in which their cells are applied.
+/// \throws Refusal for a column that is unknown or repeated, or whose cells would have no effect on a run
 [[nodiscard]] std::vector<BatchColumn> batchColumns(const std::vector<std::string>& head, TypedFarm& farm);
 
 }  // namespace verdalis

@@ -37,14 +37,14 @@ std::vector<std::string> readHead(CsvReader& table) {
   CsvRow head;
   if (!table.next(head)) {
     if (Interrupt::requested()) throw Cancelled();
-    throw Refusal("The table is empty. Its first line tells what each column sets.");
+    throw Refusal("The table is empty. Its first line must name what each column sets.");
   }
   if (!head.fault.empty()) throw Refusal("The first line of the table: " + head.fault);
   table.keepCells(head.count);
   return head.cells;
 }
 
-/// The request without what the rows may replace as a whole.
+/// The request without the options that a row can replace as a whole.
 FarmRequest commonFarm(const BatchRequest& request) {
   FarmRequest farm = request.farm;
   farm.crops.clear();
@@ -63,7 +63,7 @@ std::vector<std::size_t> cropRows(const std::vector<std::string>& names, const C
   return rows;
 }
 
-/// Refuses a wish that no row can have, whatever its crops and its land split are.
+/// Refuses a wish that cannot be valid for any row, whatever its crops and land split are.
 void requireReadable(const std::vector<std::string>& wishes, const CropNames& library) {
   WishContext widest{library, library, 0};
   for (const LandDivision& division : landDivisions())
@@ -100,18 +100,18 @@ std::size_t jobsOf(const BatchRequest& request) {
 
 const CLI::App& addBatchCommand(CLI::App& app, BatchRequest& request) {
   constexpr std::size_t mostJobs = 1024;
-  CLI::App& command = *app.add_subcommand("batch", "One evaluation for each row of a table of farms");
+  CLI::App& command = *app.add_subcommand("batch", "Evaluates each row of a table of farms");
   addTextOption(command, "FARMS", "", request.table,
-                "The table as CSV, below a row that tells what each column sets;\n- reads standard input");
+                "CSV table whose header row names what each column sets;\n- reads standard input");
   addFarmOptions(command, request.farm);
-  command.get_option("--keep")->description("How many options to keep of each farm; 1 without it");
+  command.get_option("--keep")->description("Number of options to keep per farm (default: 1)");
   addMixesOption(command, request.farm);
-  command.add_option("--format", request.format, "csv or json; csv without it")
+  command.add_option("--format", request.format, "csv or json (default: csv)")
       ->type_name("FORMAT")
       ->check(CLI::IsMember({"csv", "json"}));
-  addTextOption(command, "--output", "FILE", request.output, "Write there in place of standard output");
+  addTextOption(command, "--output", "FILE", request.output, "Write to this file instead of standard output");
   command
-      .add_option("--jobs", request.jobs, "How many rows to work on at the same time;\nall cores without it")
+      .add_option("--jobs", request.jobs, "Number of rows to evaluate in parallel\n(default: one per core)")
       ->type_name("N")
       ->check(CLI::Range(std::size_t{1}, mostJobs));
   return command;

@@ -11,21 +11,21 @@
 
 namespace verdalis {
 
-/// What `batch` was asked for.
+/// The arguments of `batch`.
 struct BatchRequest {
-  std::optional<std::string> table;  ///< File, or "-" for standard input
+  std::optional<std::string> table;  ///< A file, or "-" for standard input
   FarmRequest farm;
   std::string format = "csv";
-  std::optional<std::string> output;  ///< File in place of standard output
-  std::optional<std::size_t> jobs;  ///< Rows that are worked on at the same time; as many as there are cores
+  std::optional<std::string> output;  ///< File to write instead of standard output
+  std::optional<std::size_t> jobs;    ///< Rows to evaluate in parallel; one per core by default
 };
 
-/// Adds the command `batch` to the program. Parsing fills the request, which must live as long as the
-/// program.
+/// Adds the command `batch` to the program. Parsing fills the request, which must outlive `app`.
 const CLI::App& addBatchCommand(CLI::App& app, BatchRequest& request);
 
-/// One evaluation for each row of a table, in the order of the rows. It saves no inputs. \returns whether
-/// every row could be evaluated and has a plan. \throws Refusal, Cancelled, RunTimeError
+/// Evaluates each row of a table and writes the results in row order. The inputs are not saved.
+/// \returns whether every row was evaluated and has a plan.
+/// \throws Refusal, Cancelled, RunTimeError
 [[nodiscard]] bool batch(const BatchRequest& request, std::istream& in, std::ostream& out,
                          Messages& messages);
 

@@ -11,7 +11,7 @@
 namespace verdalis {
 namespace {
 
-/// The rows of each option, with the farm in front.
+/// The rows of each option, with number and name of the farm in front.
 class CsvBatch final : public BatchFormat {
  public:
   [[nodiscard]] std::string head() const override {
@@ -22,7 +22,7 @@ class CsvBatch final : public BatchFormat {
 
   void add(std::string& text, const BatchResult& result) const override {
     std::ostringstream rows;
-    rows.exceptions(std::ios::badbit);  // no memory left
+    rows.exceptions(std::ios::badbit);  // out of memory
     const std::string front = std::to_string(result.farm) + "," + csvQuoted(result.name) + ",";
     std::size_t number = 0;
     for (const OptionResult& option : result.result.options)
@@ -31,7 +31,7 @@ class CsvBatch final : public BatchFormat {
   }
 };
 
-/// An object a line.
+/// One object per line.
 class JsonBatch final : public BatchFormat {
  public:
   [[nodiscard]] std::string head() const override { return {}; }

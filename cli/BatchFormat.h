@@ -8,14 +8,14 @@
 
 namespace verdalis {
 
-/// What became of a row of a table of farms.
+/// The result of one row of a table of farms.
 struct BatchResult {
-  std::uint64_t farm = 0;  ///< The number of the row, from 1
+  std::uint64_t farm = 0;  ///< Number of the row, from 1
   std::string name;
   EvaluationResult result;
 };
 
-/// How the results of a table of farms are written.
+/// A format for the results of a table of farms.
 class BatchFormat {
  public:
   BatchFormat() = default;
@@ -23,14 +23,14 @@ class BatchFormat {
   BatchFormat& operator=(const BatchFormat&) = delete;
   virtual ~BatchFormat() = default;
 
-  /// What stands before the first result.
+  /// The text before the first result.
   [[nodiscard]] virtual std::string head() const = 0;
 
-  /// Adds a result to a text. Several threads may do so at the same time.
+  /// Appends a result to a text. Safe to call from several threads.
   virtual void add(std::string& text, const BatchResult& result) const = 0;
 };
 
-/// The format of a name, "csv" or "json".
+/// The format with the name "csv" or "json".
 [[nodiscard]] const BatchFormat& batchFormat(std::string_view name);
 
 }  // namespace verdalis

@@ -24,7 +24,7 @@ void refuseIf(const std::optional<std::string>& fault) {
   if (fault) throw Refusal(*fault);
 }
 
-/// The texts of a cell with ";" between them, without blanks around them.
+/// The texts of a cell, separated by ";", without the blanks around them.
 std::vector<std::string> listOf(std::string_view cell) {
   std::vector<std::string> texts;
   while (!cell.empty()) {
@@ -38,7 +38,7 @@ std::vector<std::string> listOf(std::string_view cell) {
   return texts;
 }
 
-/// Types the cells of a row.
+/// Applies the cells of a row.
 class RowTyping {
  public:
   explicit RowTyping(const BatchBase& base)
@@ -108,7 +108,7 @@ class RowTyping {
     }
   }
 
-  /// What has an option of the command line.
+  /// Sets a column that corresponds to an option of the command line.
   void setOption(const BatchColumn& column, const std::string& text) {
     switch (column.kind) {
       case Kind::price:
@@ -169,7 +169,7 @@ class RowTyping {
     if (onOrOff(text)) {
       chooseSplit(index);
     } else if (inputs_.Option1.at(index)) {
-      throw Refusal("It is turned off by turning another one on.");
+      throw Refusal("An option button is turned off by turning on another one.");
     }
   }
 
@@ -187,7 +187,7 @@ class RowTyping {
     }
   }
 
-  /// What a wish can be about depends on the crops and the land split of the row.
+  /// Reads the wishes of the row. They depend on its crops and land split.
   void readWishes() {
     inputs_.wishes.clear();
     if (wishes_.empty()) return;

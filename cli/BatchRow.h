@@ -13,27 +13,28 @@
 
 namespace verdalis {
 
-/// The farm that each row of a table starts from, as the options of the command line have made it. Many rows
-/// may be made of it at the same time: nothing in it changes.
+/// The farm before a row of the table is applied, as set by the options of the command line. It is not
+/// changed, so several rows can be applied to it in parallel.
 struct BatchBase {
-  ScenarioInputs inputs;  ///< Without the crops and the wishes of the options
+  ScenarioInputs inputs;  ///< Without the crops and wishes from the options
   std::int16_t factor = 0;
   CropScenario library;
   CropNames names;  ///< Of the library
   IrrigationCosts plant;
-  std::vector<std::size_t> crops;   ///< The rows to tick where a row of the table names no crops
-  std::vector<std::string> wishes;  ///< The wishes where a row of the table has none
+  std::vector<std::size_t> crops;   ///< Rows to tick, for rows of the table without crops
+  std::vector<std::string> wishes;  ///< For rows of the table without wishes
 };
 
-/// A row of the table as a farm.
+/// The farm of one row of the table.
 struct BatchFarm {
   Farm farm;
-  std::vector<std::string> warnings;  ///< What typing it would have told
+  std::vector<std::string> warnings;  ///< Warnings about the entered values
 };
 
-/// The farm of a row: its cells take the place of what the base has. Each text meets the tests that typing it
-/// on the command line meets; an empty one is passed over.
-/// \throws Refusal for a value that is not accepted and for a farm that is not complete, RunTimeError
+/// The farm of a row: its cells replace the values of the base. Each text is checked as on the command line;
+/// an empty cell is ignored.
+/// \throws Refusal for a value that is not accepted or a farm that is not complete
+/// \throws RunTimeError
 [[nodiscard]] BatchFarm makeBatchFarm(const BatchBase& base, const std::vector<BatchColumn>& columns,
                                       const std::vector<std::string>& cells);
 

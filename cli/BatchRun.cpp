@@ -15,15 +15,15 @@
 namespace verdalis {
 namespace {
 
-/// Rows under way for each worker. A row may take much longer than those behind it.
+/// Rows in progress per worker. One row may take much longer than the next ones.
 constexpr std::size_t rowsPerWorker = 32;
 
-/// Finished text of a row that may wait for its turn; with more its worker waits itself.
+/// Maximum size in bytes of a finished text that is queued. With a longer text, its worker waits.
 constexpr std::size_t mostWaiting = 1U << 16U;
 
 }  // namespace
 
-/// Lets a run see that it is to end.
+/// Tells a run that it must stop.
 class BatchRun::Hooks final : public RunHooks {
  public:
   Hooks(const BatchRun& run, ProgramState& state) : run_(run), state_(state) {}
@@ -77,7 +77,7 @@ void BatchRun::work(ResultStream& result, Messages& messages) {
     stop(std::current_exception());
   }
   const std::lock_guard lock(handing_);
-  turn_.notify_all();  // after a Ctrl+C nobody is to wait any more
+  turn_.notify_all();  // after a Ctrl+C, no worker may go on waiting
 }
 
 bool BatchRun::take(CsvRow& row, std::uint64_t& number) {
@@ -95,7 +95,7 @@ BatchRun::Outcome BatchRun::evaluate(const CsvRow& row, std::uint64_t number) {
   Outcome outcome;
   try {
     evaluateFarm(row, number, outcome);
-  } catch (const std::exception& fault) {  // also where one farm takes more memory than there is
+  } catch (const std::exception& fault) {  // also if one farm needs more memory than there is
     outcome.text.clear();
     outcome.messages.push_back(fault.what());
     allDone_ = false;
@@ -136,8 +136,8 @@ void BatchRun::evaluateFarm(const CsvRow& row, std::uint64_t number, Outcome& ou
   format_.add(outcome.text, found);
 }
 
-/// Hands over what a worker has made of a row, and what others have made of the rows behind it. What comes
-/// too early waits, unless it is much: then the worker waits.
+/// Writes the text of a row, and those of the following rows that are finished. A row that is not next is
+/// queued; if its text is long, the worker waits instead.
 void BatchRun::hand(std::uint64_t number, Outcome outcome, ResultStream& result, Messages& messages) {
   std::unique_lock lock(handing_);
   if (outcome.text.size() > mostWaiting) {

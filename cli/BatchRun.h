@@ -20,24 +20,24 @@
 
 namespace verdalis {
 
-/// The evaluations of a table of farms. Workers take its rows one by one, and what they have made of them is
-/// handed over in the order of the rows. So many rows are under way at most, and so much finished text waits
-/// for its turn, that the memory does not grow with the table.
+/// Evaluates a table of farms in parallel. Workers take the rows one by one; the results are written in row
+/// order. The rows in progress and the finished texts that wait are limited, so memory use does not grow with
+/// the table.
 class BatchRun {
  public:
   /// The base, the columns, the format and the table must outlive the run.
   BatchRun(const BatchBase& base, const std::vector<BatchColumn>& columns, const BatchFormat& format,
            CsvReader& table);
 
-  /// Works through the table with a number of threads, this one among them. A Ctrl+C ends it early.
-  /// \throws RunTimeError when the table cannot be read any further, or a result not be written
+  /// Evaluates the table with `jobs` threads, including this one. Ctrl+C ends it early.
+  /// \throws RunTimeError if the table cannot be read or a result cannot be written
   void go(std::size_t jobs, ResultStream& result, Messages& messages);
 
-  /// Whether every row could be evaluated and has a plan.
+  /// Whether every row was evaluated and has a plan.
   [[nodiscard]] bool allDone() const { return allDone_; }
 
  private:
-  /// What is to be handed over of a row.
+  /// The output of one row.
   struct Outcome {
     std::string text;
     std::vector<std::string> messages;
@@ -58,14 +58,14 @@ class BatchRun {
   const BatchFormat& format_;
   CsvReader& table_;
   std::size_t columnCount_ = 0;
-  std::size_t namePosition_;  ///< Of the cell with the name; behind all cells without one
-  std::size_t window_ = 0;    ///< Rows under way at most
+  std::size_t namePosition_;  ///< Position of the cell with the name; after all cells if there is none
+  std::size_t window_ = 0;    ///< Maximum number of rows in progress
 
   std::mutex reading_;            ///< Held by the worker that reads a row
   std::uint64_t taken_ = 0;       ///< Rows read
-  std::mutex handing_;            ///< Guards what follows
-  std::condition_variable turn_;  ///< A row has been handed over, or the run is to stop
-  std::uint64_t handed_ = 0;      ///< Rows handed over
+  std::mutex handing_;            ///< Guards the members below
+  std::condition_variable turn_;  ///< A row has been written, or the run must stop
+  std::uint64_t handed_ = 0;      ///< Rows written
   std::map<std::uint64_t, Outcome> waiting_;
   std::exception_ptr error_;
   std::atomic<bool> stopped_ = false;

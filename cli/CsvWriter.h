@@ -8,18 +8,18 @@
 
 namespace verdalis {
 
-// The parts of a CSV of options, for those that put columns of their own in front.
+// The parts of the CSV output, for writers that add columns in front.
 
 /// The text of a number; it reads back as the same 64-bit float.
 [[nodiscard]] std::string csvNumber(double value);
 
-/// A text as RFC 4180 asks for it: in quotation marks where that is needed.
+/// A text quoted as in RFC 4180, only if necessary.
 [[nodiscard]] std::string csvQuoted(const std::string& text);
 
-/// The head row. `front` stands before its first column, each column of it with its comma.
+/// Writes the header row. `front` contains additional columns, each followed by a comma.
 void writeCsvHead(std::ostream& out, std::string_view front = {});
 
-/// The rows of an option, a row a field, each behind `front`. `number` is the option's, counted from 1.
+/// Writes one row per field of an option, each after `front`. `number` is the number of the option, from 1.
 void writeCsvRows(std::ostream& out, std::size_t number, const OptionResult& option,
                   std::string_view front = {});
 

@@ -16,15 +16,16 @@
 namespace verdalis {
 namespace {
 
-/// The field to explain. \throws Refusal for a text that is none, and for a format that has no place for it
+/// The field to explain.
+/// \throws Refusal for a text that names no field, and for a format that cannot contain explanations
 std::optional<FieldPlace> placeToExplain(const EvaluateRequest& request) {
   if (!request.explain) return std::nullopt;
-  if (request.format == "csv")
-    throw Refusal("--explain is told as a table or as JSON: --format table or --format json.");
+  if (request.format == "csv") throw Refusal("--explain requires --format table or --format json.");
   return readFieldPlace(*request.explain);
 }
 
-/// \throws Cancelled after a Ctrl+C, whenever it came.
+/// Evaluates the farm of the request.
+/// \throws Cancelled after a Ctrl+C at any time
 EvaluationResult runFarm(const EvaluateRequest& request, Reports& reports, Messages& messages) {
   const std::optional<FieldPlace> place = placeToExplain(request);
   const Interrupt interrupt;
@@ -52,19 +53,17 @@ EvaluationResult runFarm(const EvaluateRequest& request, Reports& reports, Messa
 }  // namespace
 
 const CLI::App& addEvaluateCommand(CLI::App& app, EvaluateRequest& request) {
-  CLI::App& command =
-      *app.add_subcommand("evaluate", "One evaluation: the ranked options on standard output");
+  CLI::App& command = *app.add_subcommand("evaluate", "Runs one evaluation and lists the ranked options");
   addFarmOptions(command, request.farm);
   addMixesOption(command, request.farm);
-  command.add_option("--format", request.format, "table, csv or json; table without it")
+  command.add_option("--format", request.format, "table, csv or json (default: table)")
       ->type_name("FORMAT")
       ->check(CLI::IsMember(optionsFormats()));
-  addTextOption(command, "--output", "FILE", request.output, "Write there in place of standard output");
+  addTextOption(command, "--output", "FILE", request.output, "Write to this file instead of standard output");
   addReportOptions(command, request.reports);
-  addTextOption(
-      command, "--explain", "K.F", request.explain,
-      "Also tell step by step how field F of option K comes to its net return,\nboth counted from 1; as "
-      "table or json");
+  addTextOption(command, "--explain", "K.F", request.explain,
+                "Also show the steps from the gross irrigation to the net return of field F\nof option K, "
+                "both counted from 1; as table or json");
   return command;
 }
 
@@ -72,10 +71,9 @@ void evaluate(const EvaluateRequest& request, std::ostream& out, Messages& messa
   Reports reports(request.reports);
   const EvaluationResult result = runFarm(request, reports, messages);
   if (result.relax && request.format != "json") throw NoPlan(*result.relax);
-  // All of the text is there before the first byte goes out, so that a failure leaves no part of a result
-  // behind.
+  // The text is complete before its first byte is written, so a failure leaves no partial result.
   std::ostringstream text;
-  text.exceptions(std::ios::badbit);  // no memory left
+  text.exceptions(std::ios::badbit);  // out of memory
   optionsWriter(request.format)(text, result);
   if (!result.relax) reports.deliver();
   deliver(std::move(text).str(), request.output, out);

@@ -11,22 +11,22 @@
 
 namespace verdalis {
 
-/// What `evaluate` was asked for.
+/// The arguments of `evaluate`.
 struct EvaluateRequest {
   FarmRequest farm;
   std::string format = "table";
-  std::optional<std::string> output;  ///< File in place of standard output
+  std::optional<std::string> output;  ///< File to write instead of standard output
   ReportRequest reports;
-  std::optional<std::string> explain;  ///< "K.F": how field F of option K comes to its net return
+  std::optional<std::string> explain;  ///< "K.F": explains the net return of field F of option K
 };
 
-/// Adds the command `evaluate` to the program. Parsing fills the request, which must live as long as the
-/// program.
+/// Adds the command `evaluate` to the program. Parsing fills the request, which must outlive `app`.
 const CLI::App& addEvaluateCommand(CLI::App& app, EvaluateRequest& request);
 
-/// One evaluation; its reports are printed, and its options go to `out` or to the file asked for, all of them
-/// or nothing. It saves no inputs. Where no plan meets the wishes, JSON alone is written, and then the call
-/// fails. \throws Refusal, Cancelled, NoPlan, RunTimeError
+/// Runs one evaluation, prints its reports, and writes its options to `out` or to the requested file,
+/// completely or not at all. The inputs are not saved. If no plan meets the wishes, only JSON is written
+/// before NoPlan is thrown.
+/// \throws Refusal, Cancelled, NoPlan, RunTimeError
 void evaluate(const EvaluateRequest& request, std::ostream& out, Messages& messages);
 
 }  // namespace verdalis

@@ -8,7 +8,7 @@ namespace verdalis {
 namespace {
 
 FieldResult describeField(const Field& kept, double efficiency) {
-  Field field = kept.Copy();  // pricing leaves its traces in the field, and the option may be used further
+  Field field = kept.Copy();  // pricing changes the field, and the option may be used again
   const Crop& crop = *field.theCrop;
   FieldResult result;
   result.acres = field.acres;

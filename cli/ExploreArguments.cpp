@@ -18,7 +18,7 @@ namespace {
 
 using Kind = FarmInput::Kind;
 
-/// The unit of an input for the head of a table; nothing where it depends on the crop or the fuel.
+/// The unit of an input in a table head; empty if it depends on the crop or the fuel.
 constexpr std::string_view unitOf(Kind kind) {
   switch (kind) {
     case Kind::water:
@@ -48,7 +48,7 @@ std::string_view trimmed(std::string_view text) {
   return text.substr(first, text.find_last_not_of(blanks) - first + 1);
 }
 
-/// The names of the chosen crops, each once.
+/// The names of the chosen crops, without duplicates.
 std::vector<std::string> chosenCrops(const Farm& farm) {
   std::vector<std::string> names;
   for (const auto& crop : farm.crops) {
@@ -75,10 +75,11 @@ std::string cropOf(std::string_view name, const Farm& farm) {
     throw Refusal("The crop " + quoteForMessage(name) + " is not chosen. The chosen crops are " +
                   listOf(names) + ".");
   }
-  throw Refusal("Several chosen crops are called so: " + listOf(alike) + ".");
+  throw Refusal("Several chosen crops have this name: " + listOf(alike) + ".");
 }
 
-/// \throws Refusal without the option in front
+/// Reads an input.
+/// \throws Refusal without the name of the option
 FarmInput inputOf(std::string_view text, const Farm& farm) {
   const std::size_t end = std::min(text.find_first_of(blanks), text.size());
   const std::string word = lowerCase(text.substr(0, end));
@@ -114,7 +115,7 @@ Farm exploredFarm(const FarmRequest& request, Messages& messages) {
   const std::unique_ptr<TypedFarm> typed = makeFarm(request, messages);
   requireReady(typed->inputs());
   Farm farm = typed->farm();
-  BestMix().setSize(farm.size);  // an evaluation without a place to keep an option fails, so each point does
+  BestMix().setSize(farm.size);  // fails for a size of 0, as an evaluation does
   return farm;
 }
 
@@ -148,7 +149,7 @@ ValueRange readRange(const std::string& fromOption, const std::string& from, con
   if (values < 2 || values > static_cast<double>(mostPoints) ||
       values != static_cast<double>(static_cast<std::size_t>(values))) {
     refuse(countOption, count,
-           "The number of values is a whole number from 2 to " +
+           "The number of values must be a whole number from 2 to " +
                formatNumber(static_cast<double>(mostPoints), "###,###") + ".");
   }
   range.count = static_cast<std::size_t>(values);
@@ -157,7 +158,7 @@ ValueRange readRange(const std::string& fromOption, const std::string& from, con
 
 InputRange readInputRange(const std::string& option, const std::string& text, const Farm& farm) {
   constexpr std::string_view form = "The form is INPUT=FROM:TO:N.";
-  // The name of a crop may have any of the signs in it, a range has not.
+  // The name of a crop may contain "=", a range cannot.
   const std::size_t sign = text.rfind('=');
   if (sign == std::string::npos) refuse(option, text, std::string(form));
   const std::string range = text.substr(sign + 1);
@@ -175,7 +176,7 @@ InputRange readInputRange(const std::string& option, const std::string& text, co
 }
 
 InputBounds inputBounds(const FarmInput& input, const Farm& farm) {
-  const StockCrop* const stock = stockCrop(cropKind(input.crop));  // another crop is not tested
+  const StockCrop* const stock = stockCrop(cropKind(input.crop));  // other crops have no range test
   switch (input.kind) {
     case Kind::water:
     case Kind::rain:
@@ -198,13 +199,13 @@ void requireAccepted(const std::string& option, const FarmInput& input, double v
   const InputBounds bounds = inputBounds(input, farm);
   const std::string name = inputName(input);
   if (bounds.least && value < *bounds.least)
-    refuse(option, generalText(value), "The " + name + " is " + generalText(*bounds.least) + " or more.");
+    refuse(option, generalText(value),
+           "The " + name + " must be at least " + generalText(*bounds.least) + ".");
   if (bounds.most && value > *bounds.most)
-    refuse(option, generalText(value), "The " + name + " is at most " + generalText(*bounds.most) + ".");
+    refuse(option, generalText(value), "The " + name + " must be at most " + generalText(*bounds.most) + ".");
   if (input.kind != Kind::water) return;
   if (!isWater(farm, value)) {
-    refuse(option, generalText(value),
-           "The water must be so many inches that acres times inches are at least 1 ac-in.");
+    refuse(option, generalText(value), "Acres times inches must be at least 1 ac-in.");
   }
 }
 

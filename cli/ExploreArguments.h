@@ -12,25 +12,27 @@
 
 namespace verdalis {
 
-/// The most points of one result.
+/// Maximum number of points of one result.
 inline constexpr std::size_t mostPoints = 100000;
 
 /// The farm of the request as numbers.
-/// \throws Refusal for what an evaluation of it would refuse, RunTimeError for numbers that make no farm
+/// \throws Refusal if `evaluate` would refuse it
+/// \throws RunTimeError for numbers that give no valid farm
 [[nodiscard]] Farm exploredFarm(const FarmRequest& request, Messages& messages);
 
 /// The name of an input with its unit, for a table.
 [[nodiscard]] std::string inputTitle(const FarmInput& input);
 
-/// Reads the name of an input, in any case, and of a crop as elsewhere: exactly, else ignoring case where
-/// only one chosen crop fits. `option` begins the message, such as "--input".
-/// \throws Refusal for any other name, and for a crop that is not chosen or has no such figure
+/// Reads the name of an input, ignoring case. A crop is matched exactly, or ignoring case if only one chosen
+/// crop fits. `option`, such as "--input", begins the message.
+/// \throws Refusal for any other name, and for a crop that is not chosen or does not have the input
 [[nodiscard]] FarmInput readInput(const std::string& option, const std::string& text, const Farm& farm);
 
-/// A plain number. \throws Refusal for any other text
+/// Reads a plain number.
+/// \throws Refusal for any other text
 [[nodiscard]] double readNumber(const std::string& option, const std::string& text);
 
-/// Values evenly from `from` to `to`.
+/// Evenly spaced values between two bounds.
 struct ValueRange {
   double from = 0;
   double to = 0;
@@ -39,29 +41,29 @@ struct ValueRange {
   [[nodiscard]] std::vector<double> values() const;
 };
 
-/// Reads the texts of a range with a number of values: the first value below the last, two values or more
-/// and not more than there may be points. The options name them in messages.
+/// Reads the texts of a range and of its number of values. The first value must be below the last, and the
+/// number from 2 to the maximum number of points. Messages name the options.
 /// \throws Refusal for any other texts
 [[nodiscard]] ValueRange readRange(const std::string& fromOption, const std::string& from,
                                    const std::string& toOption, const std::string& to,
                                    const std::string& countOption, const std::string& count);
 
-/// An input with the values that it is to take.
+/// An input and the range of its values.
 struct InputRange {
   FarmInput input;
   ValueRange range;
 };
 
-/// Reads INPUT=FROM:TO:N. The values are accepted ones.
+/// Reads INPUT=FROM:TO:N. The main window must accept the values for the input.
 /// \throws Refusal for any other text
 [[nodiscard]] InputRange readInputRange(const std::string& option, const std::string& text, const Farm& farm);
 
-/// What the main window takes for an input.
+/// The bounds that the main window sets for an input.
 [[nodiscard]] InputBounds inputBounds(const FarmInput& input, const Farm& farm);
 
-/// \throws Refusal for a value that the main window would refuse for the input, and for water whose volume
-/// rounds to nothing. `option` begins the message.
-/// \throws RunTimeError (overflow) for water that is too much to count
+/// Checks a value of an input. `option` begins the message.
+/// \throws Refusal for a value that the main window would refuse, and for water whose volume rounds to 0
+/// \throws RunTimeError (overflow) if the volume of water is too large
 void requireAccepted(const std::string& option, const FarmInput& input, double value, const Farm& farm);
 
 }  // namespace verdalis

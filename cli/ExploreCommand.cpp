@@ -23,7 +23,7 @@ bool isTerminal(const std::ostream& out) {
   return &out == &std::cout && isatty(STDOUT_FILENO) == 1;
 }
 
-/// A line for each wish, and a blank one behind them.
+/// Writes a line for each wish, then an empty line.
 void writeWishes(std::ostream& out, const Farm& farm) {
   for (const std::string& wish : wishTexts(farm.wishes))
     out << "Wish: " << printable(wish) << '\n';
@@ -33,7 +33,7 @@ void writeWishes(std::ostream& out, const Farm& farm) {
 }  // namespace
 
 ExploreCommand::ExploreCommand(CLI::App& app)
-    : command_(app.add_subcommand("explore", "What the ranking leaves open, a question at a time")) {
+    : command_(app.add_subcommand("explore", "Answers questions beyond the ranking")) {
   command_->require_subcommand(1);
   for (const auto& make : exploreQuestions) {
     std::unique_ptr<ExploreQuestion> question = make();
@@ -41,10 +41,11 @@ ExploreCommand::ExploreCommand(CLI::App& app)
         *command_->add_subcommand(std::string(question->name()), std::string(question->description()));
     question->addOptions(command);
     addFarmOptions(command, request_.farm);
-    command.add_option("--format", request_.format, "table, csv or json; table without it")
+    command.add_option("--format", request_.format, "table, csv or json (default: table)")
         ->type_name("FORMAT")
         ->check(CLI::IsMember(optionsFormats()));
-    addTextOption(command, "--output", "FILE", request_.output, "Write there in place of standard output");
+    addTextOption(command, "--output", "FILE", request_.output,
+                  "Write to this file instead of standard output");
     questions_.push_back({std::move(question), &command});
   }
 }
@@ -56,9 +57,9 @@ void ExploreCommand::run(std::ostream& out, Messages& messages) {
 }
 
 void ExploreCommand::answer(ExploreQuestion& question, std::ostream& out, Messages& messages) {
-  // All of the text is there before the first byte goes out.
+  // The text is complete before its first byte is written.
   std::ostringstream text;
-  text.exceptions(std::ios::badbit);  // no memory left
+  text.exceptions(std::ios::badbit);  // out of memory
   {
     const Interrupt interrupt;
     const Farm farm = exploredFarm(request_.farm, messages);

@@ -13,23 +13,24 @@
 
 namespace verdalis {
 
-/// What every question of `explore` is asked with.
+/// The arguments that all questions of `explore` share.
 struct ExploreRequest {
   FarmRequest farm;
   std::string format = "table";
-  std::optional<std::string> output;  ///< File in place of standard output
+  std::optional<std::string> output;  ///< File to write instead of standard output
 };
 
-/// The command `explore`, with a command in it for each question.
+/// The command `explore`, with a subcommand for each question.
 class ExploreCommand {
  public:
-  /// Adds the command to the program. Parsing fills this object, which must live as long as the program.
+  /// Adds the command to the program. Parsing fills this object, which must outlive `app`.
   explicit ExploreCommand(CLI::App& app);
 
   [[nodiscard]] const CLI::App& command() const { return *command_; }
 
-  /// Answers the question that was parsed: the answer goes to `out` or to the file asked for, all of it or
-  /// nothing. It saves no inputs. \throws Refusal, Cancelled, NoPlan, RunTimeError
+  /// Answers the parsed question. The answer is written to `out` or to the requested file, completely or not
+  /// at all. The inputs are not saved.
+  /// \throws Refusal, Cancelled, NoPlan, RunTimeError
   void run(std::ostream& out, Messages& messages);
 
  private:

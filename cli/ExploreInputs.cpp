@@ -44,7 +44,7 @@ void writeCsv(std::ostream& out, const InputsResult& result) {
   }
 }
 
-/// A change of dollars with its sign.
+/// A change in dollars, with its sign.
 std::string changeText(double dollars) {
   const std::string text = dollarsText(dollars);
   return dollars > 0 && text != dollarsText(0) ? "+" + text : text;
@@ -85,13 +85,13 @@ class ExploreInputs : public ExploreQuestion {
   }
 
   void addOptions(CLI::App& command) override {
-    addTextOption(command, "--by", "PERCENT", by_, "By how much lower and higher; 10 without it");
+    addTextOption(command, "--by", "PERCENT", by_, "Change of each input in percent (default: 10)");
   }
 
   void answer(const ExploreCall& call, std::ostream& out) override {
     const double percent = by_ ? readNumber("--by", *by_) : usualPercent;
     if (!(percent > 0 && percent < 100))
-      throw Refusal("--by " + generalText(percent) + ": The percentage is above 0 and below 100.");
+      throw Refusal("--by " + generalText(percent) + ": The percentage must be above 0 and below 100.");
     const double leastWater = call.farm.grossDepth * (1 - percent / 100);
     requireAccepted("--by", {FarmInput::Kind::water, {}}, leastWater, call.farm);
     const auto boundsOf = [&](const FarmInput& input) { return inputBounds(input, call.farm); };

@@ -23,7 +23,7 @@ Json axisJson(const MapAxis& axis) {
   return {{"input", inputName(axis.input)}, {"values", std::move(values)}};
 }
 
-/// The rows of a map, each with a number for each value of x.
+/// Writes the rows of a map, each with one number per value of x.
 template <class NumberAt>
 void putRows(JsonStream& json, std::string_view key, const InputMap& map, NumberAt numberAt) {
   json.beginList(key);
@@ -62,7 +62,7 @@ void writeCsv(std::ostream& out, const InputMap& map) {
   }
 }
 
-/// The letters of a mix: A to Z, then AA, AB and so on.
+/// The letters for a mix: A to Z, then AA, AB and so on.
 std::string lettersOf(std::size_t mix) {
   constexpr std::size_t letters = 26;
   std::string text;
@@ -75,7 +75,7 @@ std::string cellText(const InputMap& map, std::size_t point) {
   return lettersOf(map.mix[point]) + " " + dollarsText(map.profit[point]);
 }
 
-/// The columns of the table that fit beside each other, at the widest cell.
+/// The number of table columns that fit side by side, each as wide as the widest cell.
 std::size_t columnsABlock(const InputMap& map) {
   std::size_t cell = 0;
   for (std::size_t point = 0; point < map.profit.size(); ++point)
@@ -128,11 +128,10 @@ class ExploreMap : public ExploreQuestion {
   }
 
   void addOptions(CLI::App& command) override {
-    addTextOption(
-        command, "--x", "INPUT=FROM:TO:N", x_,
-        "An input with N values evenly between two, such as \"price Corn=4:8:9\".\nThe inputs are water, "
-        "rain, efficiency, fuel, price CROP and max-yield CROP");
-    addTextOption(command, "--y", "INPUT=FROM:TO:M", y_, "Another one");
+    addTextOption(command, "--x", "INPUT=FROM:TO:N", x_,
+                  "An input and N evenly spaced values, such as \"price Corn=4:8:9\".\nThe inputs are water, "
+                  "rain, efficiency, fuel, price CROP and max-yield CROP");
+    addTextOption(command, "--y", "INPUT=FROM:TO:M", y_, "Another input");
   }
 
   void answer(const ExploreCall& call, std::ostream& out) override {

@@ -10,7 +10,7 @@
 namespace verdalis {
 namespace {
 
-/// A number without the zeros at its end.
+/// A number without trailing zeros.
 std::string trimmedNumber(double value, std::string_view pattern) {
   std::string text = formatNumber(value, pattern);
   text.erase(text.find_last_not_of('0') + 1);

@@ -17,16 +17,16 @@
 
 namespace verdalis {
 
-/// What a question is asked about, and how it is to be answered.
+/// The farm of a question and the way to answer it.
 struct ExploreCall {
   const Farm& farm;
   std::string_view format;  ///< "table", "csv" or "json"
-  bool onTerminal = false;  ///< The answer goes to a terminal, so a table may draw
-  ProgramState& state;      ///< Asks for a cancel
-  RunHooks& hooks;          ///< Hears how far it is
+  bool onTerminal = false;  ///< The output is a terminal, so the answer may include a drawing
+  ProgramState& state;      ///< Requests a cancel
+  RunHooks& hooks;          ///< Receives the progress
 };
 
-/// A question of `explore`, such as "water": its own options, and its answer.
+/// A question of `explore`, such as "water", with its own options.
 class ExploreQuestion {
  public:
   ExploreQuestion() = default;
@@ -37,18 +37,20 @@ class ExploreQuestion {
   [[nodiscard]] virtual std::string_view name() const = 0;
   [[nodiscard]] virtual std::string_view description() const = 0;
 
-  /// Adds the options that only this question has.
+  /// Adds the options of this question.
   virtual void addOptions(CLI::App& /*command*/) {}
 
-  /// Writes the whole answer.
-  /// \throws Refusal for its options, before anything is worked out; Cancelled, NoPlan, RunTimeError
+  /// Writes the complete answer.
+  /// \throws Refusal for an invalid option, before any calculation
+  /// \throws Cancelled, NoPlan, RunTimeError
   virtual void answer(const ExploreCall& call, std::ostream& out) = 0;
 };
 
-/// Begins the JSON object of an answer, with the wishes where there are any.
+/// Begins the JSON object of an answer, with the wishes if there are any.
 void beginAnswer(JsonStream& json, const Farm& farm);
 
-/// What a question has found. \throws Cancelled where that is nothing, and after a Ctrl+C
+/// The result of a question.
+/// \throws Cancelled if there is no result or after a Ctrl+C
 template <class Found>
 [[nodiscard]] Found answered(std::optional<Found> found) {
   if (!found || Interrupt::requested()) throw Cancelled();

@@ -7,7 +7,7 @@
 
 namespace verdalis {
 
-// One file a question.
+// Each question has its own source file.
 
 [[nodiscard]] std::unique_ptr<ExploreQuestion> makeExploreWater();
 [[nodiscard]] std::unique_ptr<ExploreQuestion> makeExploreSwitch();
@@ -15,7 +15,7 @@ namespace verdalis {
 [[nodiscard]] std::unique_ptr<ExploreQuestion> makeExploreInputs();
 [[nodiscard]] std::unique_ptr<ExploreQuestion> makeExploreMap();
 
-/// The questions, in the order in which the help tells them.
+/// The questions, in the order of the help.
 inline constexpr std::array exploreQuestions{makeExploreWater, makeExploreSwitch, makeExploreSeasons,
                                              makeExploreInputs, makeExploreMap};
 

@@ -30,7 +30,7 @@ Season readSeason(const std::string& text) {
   season.name = text.substr(0, first);
   season.rain = readNumber("--season", text.substr(first + 1, last - first - 1));
   season.weight = readNumber("--season", text.substr(last + 1));
-  if (!(season.weight > 0)) refuse("The weight is above 0.");
+  if (!(season.weight > 0)) refuse("The weight must be above 0.");
   return season;
 }
 
@@ -41,7 +41,7 @@ std::vector<Season> readSeasons(const std::vector<std::string>& texts) {
     const auto same = std::find_if(seasons.begin(), seasons.end(),
                                    [&](const Season& season) { return season.name == seasons.back().name; });
     if (same != seasons.end() - 1)
-      throw Refusal("--season " + quoteForMessage(text) + ": There is a season of that name already.");
+      throw Refusal("--season " + quoteForMessage(text) + ": There is already a season with this name.");
   }
   if (seasons.size() < leastSeasons || seasons.size() > mostSeasons) {
     throw Refusal("There are " + std::to_string(leastSeasons) + " to " + std::to_string(mostSeasons) +
@@ -81,7 +81,7 @@ void writeJson(std::ostream& out, const Farm& farm, const SeasonsResult& result)
   json.end();
 }
 
-/// A row an option, and one for the safest plan.
+/// Writes a row for each option and one for the safest plan.
 void writeCsv(std::ostream& out, const SeasonsResult& result) {
   out << "option,average,worst,regret";
   for (std::size_t season = 1; season <= result.seasons.size(); ++season)
@@ -145,10 +145,9 @@ class ExploreSeasons : public ExploreQuestion {
   }
 
   void addOptions(CLI::App& command) override {
-    addTextOption(
-        command, "--season", "NAME:RAIN:WEIGHT", texts_,
-        "A season with its rain in inches and its weight; without any\ndry, normal and wet, 3 inches "
-        "apart, weighing 1, 2 and 1");
+    addTextOption(command, "--season", "NAME:RAIN:WEIGHT", texts_,
+                  "A season with its rain in inches and its weight\n(default: dry, normal and wet, 3 inches "
+                  "apart, with weights 1, 2 and 1)");
   }
 
   void answer(const ExploreCall& call, std::ostream& out) override {

@@ -82,12 +82,11 @@ class ExploreSwitch : public ExploreQuestion {
   };
 
   [[nodiscard]] Range range(const Farm& farm) const {
-    if (!input_ || !from_ || !to_)
-      throw Refusal("The question needs all of --input INPUT, --from A and --to B.");
+    if (!input_ || !from_ || !to_) throw Refusal("--input INPUT, --from A and --to B are required.");
     Range asked{readInput("--input", *input_, farm), readNumber("--from", *from_), readNumber("--to", *to_)};
     if (!isLinear(asked.input)) {
       throw Refusal("--input " + quoteForMessage(*input_) +
-                    ": A switch is found for fuel, price CROP and max-yield CROP.");
+                    ": The input must be fuel, price CROP or max-yield CROP.");
     }
     if (!(asked.from < asked.to)) {
       throw Refusal("--to " + quoteForMessage(*to_) + ": The last value must be above the first.");

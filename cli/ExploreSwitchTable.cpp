@@ -14,7 +14,7 @@ namespace {
 
 using Kind = FarmInput::Kind;
 
-/// Texts of the values of an input, with as many decimals as tell them apart.
+/// Formats the values of an input, with enough decimals to distinguish them.
 class ValueTexts {
  public:
   explicit ValueTexts(const SwitchAnswer& answer) : dollars_(answer.input.kind != Kind::maxYield) {
@@ -47,7 +47,7 @@ std::string joined(const std::vector<std::string>& texts) {
   return text;
 }
 
-/// The fields, counted from 1, of one crop: "fields 2 and 3 (11.2 in.)".
+/// The fields of one crop, counted from 1: "fields 2 and 3 (11.2 in.)".
 std::string placesText(const std::vector<PlannedField>& fields, const std::string& crop, bool everywhere) {
   std::vector<std::string> numbers;
   std::vector<std::string> depths;
@@ -64,7 +64,7 @@ std::string placesText(const std::vector<PlannedField>& fields, const std::strin
          joined(depths) + " in.)";
 }
 
-/// A plan crop by crop, in the order of the fields.
+/// The fields of a plan by crop, in field order.
 std::string cropsText(const std::vector<PlannedField>& fields, bool undivided) {
   if (undivided)
     return printable(fields[0].crop) + " on the undivided farm (" + inchesText(fields[0].grossDepth) +
@@ -88,7 +88,7 @@ std::string whatVaries(const SwitchAnswer& answer) {
          printable(answer.unit);
 }
 
-/// "Below $4.87", "From $4.87 to $5.20", "From $5.20", or both ends where there is no switch.
+/// "Below $4.87", "From $4.87 to $5.20" or "From $5.20"; both ends if there is only one segment.
 std::string rangeText(const SwitchAnswer& answer, std::size_t number, const ValueTexts& text) {
   const SwitchSegment& segment = answer.segments[number];
   const bool first = number == 0;
@@ -102,7 +102,7 @@ bool holds(const SwitchSegment& segment, double value, bool last) {
   return value >= segment.from && (value < segment.to || (last && value == segment.to));
 }
 
-/// The plan with most fields: not that of the undivided farm where there is another.
+/// A plan with the most fields, so a plan of the divided farm if there is one.
 const std::vector<PlannedField>& dividedOf(const SwitchAnswer& answer) {
   return std::max_element(
              answer.segments.begin(), answer.segments.end(),

@@ -11,12 +11,12 @@ namespace verdalis {
 /// The answer of `explore switch`.
 struct SwitchAnswer {
   FarmInput input;
-  std::string unit;  ///< What a price is for, or a yield is counted in, such as "bu."; empty for fuel
-  double now = 0;    ///< The value as it stands
+  std::string unit;  ///< Unit of the crop, such as "bu."; empty for fuel
+  double now = 0;    ///< Current value
   std::vector<SwitchSegment> segments;
 };
 
-/// Tells in words below which value which plan is the best.
+/// Writes the best plan for each range of values.
 /// \throws RunTimeError (overflow) for a number that no table can show
 void writeSwitchTable(std::ostream& out, const SwitchAnswer& answer);
 

@@ -56,8 +56,8 @@ void writeSummary(std::ostream& out, const WaterResult& result) {
       << dollarsText(result.now.best.profit) << ".\n"
       << "One more inch is worth " << centsText(result.nextInch) << " an acre-inch";
   if (result.lastInch) out << ", the last inch " << centsText(*result.lastInch);
-  out << ".\nMost of the amounts below: " << dollarsText(most.best.profit) << " at " << inchesText(most.gross)
-      << " inches.\n\n";
+  out << ".\nHighest net return of these amounts: " << dollarsText(most.best.profit) << " at "
+      << inchesText(most.gross) << " inches.\n\n";
 }
 
 std::vector<std::string> rowOf(const WaterPoint& point, std::size_t fields) {
@@ -113,11 +113,10 @@ class ExploreWater : public ExploreQuestion {
   }
 
   void addOptions(CLI::App& command) override {
-    addTextOption(
-        command, "--from", "A", from_,
-        "Gross inches evenly from A ...; without these three\n20 amounts up to twice the present one");
+    addTextOption(command, "--from", "A", from_,
+                  "Evenly spaced gross inches from A ...\n(default: 20 amounts up to twice the present one)");
     addTextOption(command, "--to", "B", to_, "... to B ...");
-    addTextOption(command, "--steps", "N", steps_, "... N of them");
+    addTextOption(command, "--steps", "N", steps_, "... with this number of values");
   }
 
   void answer(const ExploreCall& call, std::ostream& out) override {
@@ -136,7 +135,7 @@ class ExploreWater : public ExploreQuestion {
   [[nodiscard]] std::vector<double> amounts(const Farm& farm) const {
     if (!from_ && !to_ && !steps_) return usualAmounts(farm);
     if (!from_ || !to_ || !steps_)
-      throw Refusal("A range of amounts needs all of --from A, --to B and --steps N.");
+      throw Refusal("A range of amounts requires --from A, --to B and --steps N.");
     const ValueRange range = readRange("--from", *from_, "--to", *to_, "--steps", *steps_);
     const FarmInput water{FarmInput::Kind::water, {}};
     requireAccepted("--from", water, range.from, farm);

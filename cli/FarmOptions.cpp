@@ -15,7 +15,7 @@
 namespace verdalis {
 namespace {
 
-/// Runs one step of an option; a refusal then begins with the option as it was typed.
+/// Applies an option. A refusal begins with the option as typed.
 template <class Step>
 void applyOption(const std::string& option, const std::string& value, Step step) {
   try {
@@ -35,7 +35,7 @@ std::pair<std::string, std::string> splitAssignment(const std::string& text, std
   return {text.substr(0, sign), text.substr(sign + 1)};
 }
 
-/// The row and the text of "CROP=TEXT". A crop's name may have a "=" in it, so each is tried.
+/// The row and the text of "CROP=TEXT". The name of a crop may contain "=", so every position is tried.
 std::pair<std::size_t, std::string> rowAssignment(TypedFarm& farm, const std::string& text) {
   for (std::size_t sign = text.find('='); sign != std::string::npos; sign = text.find('=', sign + 1)) {
     if (const auto row = farm.findRow(std::string_view(text).substr(0, sign)))
@@ -87,7 +87,7 @@ void applyToRows(const FarmRequest& request, TypedFarm& farm) {
 void applyWishes(const FarmRequest& request, TypedFarm& farm) {
   if (request.mixes) farm.keepMixes();
   if (request.wishes.empty()) return;
-  requireReady(farm.inputs());  // a wish is about a land split and crops
+  requireReady(farm.inputs());  // wishes refer to fields and crops
   const WishContext context = farm.wishContext();
   for (const std::string& wish : request.wishes) {
     try {
@@ -102,36 +102,38 @@ void applyWishes(const FarmRequest& request, TypedFarm& farm) {
 
 void addFarmOptions(CLI::App& command, FarmRequest& request) {
   addTextOption(command, "--home", "DIR", request.home,
-                "The folder with crops/ and inputs.txt;\nwithout it the program's own home folder");
+                "Folder with crops/ and inputs.txt\n(default: the program's own home folder)");
   addTextOption(command, "--inputs", "FILE", request.inputs,
-                "Read this saved inputs file in place of the home's inputs.txt");
+                "Saved inputs file to read instead of inputs.txt in the home folder");
   command.add_flag("--defaults", request.defaults, "Then load the default prices, yields, costs and plant");
   addTextOption(
       command, "--set", "CONTROL=TEXT", request.sets,
-      "Then type TEXT into a control of the main window,\nsuch as txtArea=100 or \"txtSoil=Loamy Sand\"");
-  addTextOption(command, "--price", "CROP=TEXT", request.prices, "Then type the price of a crop, $ per unit");
+      "Then enter TEXT in a control of the main window,\nsuch as txtArea=100 or \"txtSoil=Loamy Sand\"");
+  addTextOption(command, "--price", "CROP=TEXT", request.prices,
+                "Then enter the price of a crop, $ per unit");
   addTextOption(command, "--max-yield", "CROP=TEXT", request.maxYields,
-                "Then type the maximum yield of a crop, units per acre");
+                "Then enter the maximum yield of a crop, units per acre");
   addTextOption(command, "--split", "N", request.split, "The land split:\n" + landSplitNames("\n"));
-  addTextOption(command, "--crop", "NAME", request.crops, "A crop that takes part");
+  addTextOption(command, "--crop", "NAME", request.crops, "A crop to include");
   command.add_flag("--no-split", request.noSplit, "Also evaluate each crop on the undivided farm");
-  addTextOption(command, "--keep", "N", request.keep, "How many options to keep; 100 without it");
+  addTextOption(command, "--keep", "N", request.keep, "Number of options to keep (default: 100)");
   addTextOption(command, "--factor", "N", request.factor,
-                "The irrigation iteration factor: steps of water\nbetween 0 and 100 %; 10 without it");
-  addTextOption(command, "--wish", "TEXT", request.wishes,
-                "What every plan must meet, such as\n\"Corn at least 40 acres\", \"field 1 is not Corn\",\n"
-                "\"field 2 at most 6 inches\" or \"at least 2 crops\"");
+                "Irrigation iteration factor: number of water steps\nbetween 0 and 100 % (default: 10)");
+  addTextOption(
+      command, "--wish", "TEXT", request.wishes,
+      "A wish that every plan must meet, such as\n\"Corn at least 40 acres\", \"field 1 is not Corn\",\n"
+      "\"field 2 at most 6 inches\" or \"at least 2 crops\"");
 }
 
 void addMixesOption(CLI::App& command, FarmRequest& request) {
-  command.add_flag("--mixes", request.mixes, "Keep the best option of each mix of acres and crops alone");
+  command.add_flag("--mixes", request.mixes, "Keep only the best option of each mix of acres and crops");
 }
 
 std::unique_ptr<TypedFarm> makeFarm(const FarmRequest& request, Messages& messages) {
   auto farm = std::make_unique<TypedFarm>(filesOf(request), messages);
   if (request.inputs && !farm->inputsLoaded()) {
     messages.tell("The file " + *request.inputs +
-                  " ends too early or holds a value that cannot be used. What was read before is in force.");
+                  " ends too early or contains an invalid value. The values before it are used.");
   }
   if (request.defaults) farm->loadDefaultValues();
   for (const std::string& set : request.sets) {

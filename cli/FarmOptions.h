@@ -12,11 +12,10 @@
 
 namespace verdalis {
 
-/// Which farm a run is for, as the command line tells it: texts as they were typed, in the order in which
-/// they are applied.
+/// The options that describe a farm: texts as typed, in the order in which they are applied.
 struct FarmRequest {
   std::optional<std::string> home;    ///< Folder with `crops` and `inputs.txt`
-  std::optional<std::string> inputs;  ///< Saved inputs file in place of the home's
+  std::optional<std::string> inputs;  ///< Saved inputs file instead of the one in the home folder
   bool defaults = false;
   std::vector<std::string> sets;       ///< "CONTROL=TEXT"
   std::vector<std::string> prices;     ///< "CROP=TEXT"
@@ -26,23 +25,25 @@ struct FarmRequest {
   bool noSplit = false;
   std::optional<std::string> keep;    ///< Options to keep
   std::optional<std::string> factor;  ///< Iteration factor
-  std::vector<std::string> wishes;    ///< What every plan must meet
-  bool mixes = false;                 ///< Keep the best option of each mix alone
+  std::vector<std::string> wishes;    ///< Wishes that every plan must meet
+  bool mixes = false;                 ///< Keep only the best option of each mix
 };
 
 void addFarmOptions(CLI::App& command, FarmRequest& request);
 
-/// The option of the commands that rank options and can keep the best of each mix alone.
+/// Adds the option of the commands that can keep only the best option of each mix.
 void addMixesOption(CLI::App& command, FarmRequest& request);
 
-/// The farm of the request, with everything put into its controls.
-/// \throws Refusal for a value that is not accepted, RunTimeError where the event of a control fails.
+/// Creates the farm of the request, with all options applied to its controls.
+/// \throws Refusal for a value that is not accepted
+/// \throws RunTimeError if the event of a control fails
 [[nodiscard]] std::unique_ptr<TypedFarm> makeFarm(const FarmRequest& request, Messages& messages);
 
-/// What to tell of a name that no crop of the farm has, with the names that there are.
+/// The message for an unknown crop name. It lists the crops.
 [[nodiscard]] std::string unknownCrop(TypedFarm& farm, std::string_view name);
 
-/// \throws Refusal that names all that a run of the farm still needs.
+/// Checks that a farm is complete.
+/// \throws Refusal that names everything that is missing
 void requireReady(const ScenarioInputs& inputs);
 
 }  // namespace verdalis

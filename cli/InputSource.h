@@ -18,14 +18,15 @@ class StreamSource final : public ByteSource {
   std::istream& in_;
 };
 
-/// The bytes of a file, a pipe or standard input. While none come, a Ctrl+C that an Interrupt has noted ends
-/// them.
+/// The bytes of a file, a pipe or standard input. While it waits for bytes, a Ctrl+C noted by an Interrupt
+/// ends the input.
 class FileSource final : public ByteSource {
  public:
   /// Standard input.
   FileSource();
 
-  /// \throws Refusal when there is no such file, or none that can be read
+  /// Opens a file.
+  /// \throws Refusal if the file does not exist or cannot be read
   explicit FileSource(const std::string& path);
   ~FileSource() override;
   [[nodiscard]] std::size_t read(char* to, std::size_t size) override;

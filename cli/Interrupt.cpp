@@ -5,7 +5,7 @@
 namespace verdalis {
 namespace {
 
-std::atomic<bool> noted = false;  // any thread may look at it, and a signal handler may write it
+std::atomic<bool> noted = false;  // read by any thread, written by a signal handler
 static_assert(std::atomic<bool>::is_always_lock_free);
 
 extern "C" void noteInterrupt(int /*signal*/) {

@@ -4,8 +4,8 @@
 
 namespace verdalis {
 
-/// While one of these lives, Ctrl+C (SIGINT) ends nothing: it is only noted, for a run to see, also where
-/// whoever started the program has blocked it. There must be at most one at a time.
+/// While an Interrupt exists, Ctrl+C (SIGINT) does not end the program but is noted for the run. This also
+/// works if the parent process has blocked the signal. At most one Interrupt may exist at a time.
 class Interrupt {
  public:
   Interrupt();
@@ -13,7 +13,7 @@ class Interrupt {
   Interrupt& operator=(const Interrupt&) = delete;
   ~Interrupt();
 
-  /// Whether Ctrl+C has been pressed since the last Interrupt was made.
+  /// Whether Ctrl+C was pressed since the last Interrupt was created.
   [[nodiscard]] static bool requested();
 
  private:

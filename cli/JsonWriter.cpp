@@ -14,7 +14,7 @@ namespace {
 
 constexpr int indent = 2;
 
-/// A piece of the text; bytes that are no UTF-8 are replaced.
+/// The text of a piece; invalid UTF-8 is replaced.
 std::string dump(const Json& value) {
   return value.dump(indent, ' ', false, Json::error_handler_t::replace);
 }
@@ -96,7 +96,7 @@ void JsonStream::put(std::string_view key, const Json& value) {
   startEntry(key);
   const std::string text = dump(value);
   std::size_t from = 0;
-  // Inside a text no line ends: there it is an escape.
+  // Line ends within strings are escaped, so each one here ends a line of the text.
   for (std::size_t end = text.find('\n'); end != std::string::npos; end = text.find('\n', from)) {
     out_ << std::string_view(text).substr(from, end - from);
     startLine();

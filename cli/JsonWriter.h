@@ -9,25 +9,23 @@
 
 namespace verdalis {
 
-/// JSON whose keys stay in the order in which they are put in.
+/// JSON that keeps its keys in insertion order.
 using Json = nlohmann::ordered_json;
 
-/// A number that reads back as the same 64-bit float. A whole number has no decimal point, as a person would
-/// write it.
+/// A number that reads back as the same 64-bit float. A whole number is written without a decimal point.
 [[nodiscard]] Json jsonNumber(double value);
 
 /// The object of an option.
 [[nodiscard]] Json toJson(const OptionResult& option);
 
-/// What stands before the options of a result, but for the time that the run took.
+/// The entries before the options of a result, without the duration of the run.
 [[nodiscard]] Json headOf(const EvaluationResult& result);
 
-/// The text of a value on one line; bytes that are no UTF-8 are replaced.
+/// The text of a value on one line; invalid UTF-8 is replaced.
 [[nodiscard]] std::string jsonLine(const Json& value);
 
-/// Writes JSON for reading, piece by piece, so that only one piece at a time is held in memory. The text is
-/// what a dump of the whole would give. Inside an object everything that is put in has its key, in a list
-/// nothing has.
+/// Writes formatted JSON piece by piece, so only one piece at a time is in memory. The text is the same as a
+/// dump of the whole object. Every entry of an object has a key, no entry of a list has one.
 class JsonStream {
  public:
   explicit JsonStream(std::ostream& out) : out_(out) {}
@@ -35,7 +33,7 @@ class JsonStream {
   void beginObject(std::string_view key = {}) { begin(key, '{', '}'); }
   void beginList(std::string_view key = {}) { begin(key, '[', ']'); }
 
-  /// Ends the object or the list that was begun last; behind the outermost the line ends.
+  /// Ends the innermost object or list. The outermost one is followed by a line end.
   void end();
 
   void put(std::string_view key, const Json& value);

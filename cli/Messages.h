@@ -7,7 +7,7 @@
 
 namespace verdalis {
 
-/// Wrong arguments, or inputs that are not complete. The text says what to change, and where.
+/// Wrong arguments or incomplete inputs. The text says what to change and where.
 class Refusal : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
@@ -19,14 +19,14 @@ class Cancelled : public std::runtime_error {
   Cancelled() : std::runtime_error("cancelled") {}
 };
 
-/// Words to whoever sits at the terminal. Standard output is for the result alone.
+/// Messages for the user, on standard error. Standard output contains only results.
 class Messages {
  public:
   explicit Messages(std::ostream& err) : err_(err) {}
 
   void tell(std::string_view text) { err_ << "verdalis-cli: " << text << '\n' << std::flush; }
 
-  /// A message box of the program, by its title and its text.
+  /// Writes a message box of the program by its title and text.
   void tell(std::string_view title, std::string_view text) {
     tell(std::string(title) + ": " + std::string(text));
   }

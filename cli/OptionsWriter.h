@@ -9,24 +9,24 @@
 
 namespace verdalis {
 
-// Each writes the whole of a result to a stream. Numbers in CSV and JSON read back as the same 64-bit float.
+// Each writer writes a complete result. Numbers in CSV and JSON read back as the same 64-bit float.
 
-/// For reading: the options as aligned rows, a row a field and one for the farm, dollars and inches rounded.
+/// Writes the options as aligned rows, one per field and one for the farm, with rounded dollars and inches.
 /// \throws RunTimeError (overflow) for a number that no table can show
 void writeTable(std::ostream& out, const EvaluationResult& result);
 
-/// A row a field below a head row, quoted where RFC 4180 asks for it, lines ended by CR LF, in UTF-8.
+/// Writes a header row and one row per field, in UTF-8 with CR LF, quoted as in RFC 4180.
 void writeCsv(std::ostream& out, const EvaluationResult& result);
 
-/// One JSON object.
+/// Writes one JSON object.
 void writeJson(std::ostream& out, const EvaluationResult& result);
 
 using OptionsWriter = void (*)(std::ostream& out, const EvaluationResult& result);
 
-/// The writer of a format, "table", "csv" or "json"; nullptr for any other name.
+/// The writer for the format "table", "csv" or "json"; nullptr for any other name.
 [[nodiscard]] OptionsWriter optionsWriter(std::string_view format);
 
-/// The names that optionsWriter() knows.
+/// The names that optionsWriter() accepts.
 [[nodiscard]] const std::vector<std::string>& optionsFormats();
 
 }  // namespace verdalis

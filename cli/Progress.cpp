@@ -14,7 +14,7 @@
 namespace verdalis {
 namespace {
 
-constexpr double quietSeconds = 0.3;  // shorter runs show nothing
+constexpr double quietSeconds = 0.3;  // no progress for shorter runs
 constexpr double secondsBetweenDraws = 0.1;
 constexpr std::size_t mostDescription = 20;
 

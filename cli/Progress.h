@@ -9,13 +9,13 @@
 
 namespace verdalis {
 
-/// Shows on one line of a terminal how far a run is, once it has lasted a moment, and takes the line away at
-/// its end. A Ctrl+C noted by an Interrupt becomes a cancel of the run.
+/// Shows the progress of a run on one line of a terminal, after a short delay, and erases the line at the
+/// end. A Ctrl+C noted by an Interrupt cancels the run.
 class Progress final : public RunHooks {
  public:
-  using Clock = std::function<double()>;  ///< Seconds since some fixed moment
+  using Clock = std::function<double()>;  ///< Seconds since a fixed time
 
-  /// `terminal` is where the line goes; nullptr shows nothing.
+  /// `terminal` receives the line; nullptr shows nothing.
   Progress(std::ostream* terminal, ProgramState& state, Clock clock = secondsNow);
   ~Progress() override { erase(); }
 
@@ -43,7 +43,7 @@ class Progress final : public RunHooks {
   bool drawn_ = false;
 };
 
-/// The stream, if it is standard error and that is a terminal; else nullptr.
+/// The stream if it is standard error and a terminal; else nullptr.
 [[nodiscard]] std::ostream* asTerminal(std::ostream& err);
 
 }  // namespace verdalis

@@ -26,9 +26,9 @@ bool replay(const ScriptRequest& request, std::istream& script, std::ostream& ou
 
 const CLI::App& addScriptCommand(CLI::App& app, ScriptRequest& request) {
   CLI::App& command =
-      *app.add_subcommand("script", "Replays a session: one command a line, one answer a line as JSON");
+      *app.add_subcommand("script", "Replays a session: one command per line, one JSON answer per line");
   addTextOption(command, "--home", "DIR", request.home,
-                "The folder with crops/ and inputs.txt;\nwithout it the program's own home folder");
+                "Folder with crops/ and inputs.txt\n(default: the program's own home folder)");
   addTextOption(command, "FILE", "", request.file, "The script; - reads standard input");
   return command;
 }

@@ -16,7 +16,7 @@ enum Column : std::size_t { acres, crop, net, gross, yield, unit, costs, returns
 using Row = std::array<std::string, columnCount>;
 using Widths = std::array<std::size_t, columnCount>;
 
-/// Blanks in front of each column; the unit stands right behind its yield.
+/// Blanks before each column. The unit directly follows its yield.
 constexpr Widths gaps{2, 2, 2, 2, 2, 1, 2, 2, 2};
 
 const Row head{"Acres", "Crop", "Net", "Gross", "Yield", "", "Costs", "Returns", "Net return"};
@@ -59,7 +59,7 @@ std::string optionTitle(std::size_t number, const OptionResult& option) {
          ", " + formatNumber(option.profit / option.acres(), "$###,##0") + " /acre";
 }
 
-/// A title with the rows below it.
+/// A title and the rows below it.
 struct Block {
   std::string title;
   std::vector<Row> rows;
@@ -77,7 +77,7 @@ std::vector<Block> makeBlocks(const EvaluationResult& result) {
   return blocks;
 }
 
-/// Widths that hold every row. Only the crops' names give way where the table would be too wide.
+/// Widths that fit every row. If the table is too wide, only crop names are shortened.
 Widths measure(const std::vector<Block>& blocks) {
   Widths widths{};
   const auto widen = [&](const Row& row) {
@@ -110,7 +110,7 @@ void writeRow(std::ostream& out, const Row& row, const Widths& widths) {
   out << line << '\n';
 }
 
-/// The line above the head, whose two texts end where the columns that they stand for end.
+/// Writes the line above the head. Each of its two texts ends with the columns that it describes.
 void writeGroups(std::ostream& out, const Widths& widths) {
   std::string line;
   std::size_t end = 0;

@@ -9,8 +9,8 @@
 
 namespace verdalis {
 
-/// The platform of a command that nobody answers: what the program tells goes to standard error, and whatever
-/// it asks for is cancelled.
+/// The platform services of a command without a user: messages of the program are written to standard error,
+/// and every request is cancelled.
 class TerminalServices : public MessageBoxService,
                          public FileChooserService,
                          public ClipboardService,
@@ -24,8 +24,8 @@ class TerminalServices : public MessageBoxService,
 
   [[nodiscard]] Services services() { return {*this, *this, *this, *this, *this, *this, *this, *this}; }
 
-  /// The first text since the last call that says that an input is not accepted. Such texts are not told: the
-  /// command ends with them.
+  /// The first message since the last call that refuses an input. These messages are not shown; they end the
+  /// command.
   [[nodiscard]] std::optional<std::string> takeRefusal() { return std::exchange(refusal_, std::nullopt); }
 
   MessageAnswer show(const Message& message) override;

@@ -76,7 +76,7 @@ std::vector<std::size_t> TextTable::widths() const {
     widths.push_back(width);
     if (columns_[i].shrinks) ++shrinking;
   }
-  // The widest of those that may shrink gives way first.
+  // The widest column that may shrink is shortened first.
   const std::size_t gaps = gap.size() * (columns_.empty() ? 0 : columns_.size() - 1);
   while (shrinking > 0 &&
          gaps + std::accumulate(widths.begin(), widths.end(), std::size_t{0}) > mostTableColumns) {

@@ -8,21 +8,21 @@
 
 namespace verdalis {
 
-// Tables for reading on a terminal, of at most 100 columns where the numbers allow it.
+// Tables for a terminal, at most 100 columns wide if the numbers allow it.
 
 inline constexpr std::size_t mostTableColumns = 100;
 
-/// Columns that a UTF-8 text takes, one a character.
+/// The width of a UTF-8 text, one column per character.
 [[nodiscard]] std::size_t textWidth(std::string_view text);
 
-/// The text for a terminal: what would move the cursor is shown as a blank.
+/// The text for a terminal: control characters that would move the cursor become blanks.
 [[nodiscard]] std::string printable(std::string text);
 
-/// The text, cut to a number of characters, 3 or more, with dots at its end.
+/// The text, shortened to a number of characters (3 or more) with dots at the end.
 [[nodiscard]] std::string cutTo(std::size_t characters, std::string text);
 
-/// Lines of at most 100 columns, broken at blanks. The first begins at a column of its line, the others are
-/// indented.
+/// Breaks a text at blanks into lines of at most 100 columns. The first line starts at `column`, the others
+/// are indented.
 [[nodiscard]] std::string wrapped(std::string_view text, std::size_t indent = 0, std::size_t column = 0);
 
 /// Aligned rows below a head.
@@ -33,12 +33,12 @@ class TextTable {
   struct Column {
     std::string head;
     Align align = Align::right;
-    bool shrinks = false;  ///< Its texts are cut where the table would be too wide
+    bool shrinks = false;  ///< Texts are shortened if the table is too wide
   };
 
   explicit TextTable(std::vector<Column> columns) : columns_(std::move(columns)) {}
 
-  /// A row with a text for each column.
+  /// Adds a row with a text for each column.
   void add(std::vector<std::string> row);
 
   void write(std::ostream& out) const;

@@ -28,23 +28,23 @@ namespace {
 
 /// The spreadsheet export of a trend.
 struct Page {
-  std::string text;                   ///< As far as it came
-  std::optional<RunTimeError> error;  ///< What ended it
+  std::string text;                   ///< Up to the error
+  std::optional<RunTimeError> error;  ///< The error that ended it
 };
 
-/// What a trend has found.
+/// The results of a trend.
 struct Findings {
   TrendResult result;
   Page page;
 };
 
-/// The outcome of a trend, ready to be handed over.
+/// The finished output of a trend.
 struct Outcome {
   TextPieces text;
   Page page;
 };
 
-/// No option of a trend meets all of these wishes.
+/// No option of a trend meets all wishes.
 class NoTrend : public NoPlan {
  public:
   NoTrend(std::vector<Wish> wishes, std::vector<Relaxation> relaxations)
@@ -56,22 +56,22 @@ class NoTrend : public NoPlan {
   std::vector<Wish> wishes_;
 };
 
-/// The option of the request, from 1; 0 without one.
+/// The number of the requested option, from 1; 0 without one.
 std::size_t optionNumber(const std::optional<std::string>& text) {
   if (!text) return 0;
   std::size_t number = 0;
   const char* const end = text->data() + text->size();
   const auto [stop, error] = std::from_chars(text->data(), end, number);
   if (error == std::errc() && stop == end && number > 0) return number;
-  throw Refusal("--option " + quoteForMessage(*text) + ": Options are counted 1, 2, 3 and so on.");
+  throw Refusal("--option " + quoteForMessage(*text) + ": Options are counted from 1.");
 }
 
 void requireKind(const TrendArguments& request) {
   if (request.option) return;
   if (request.processes[1].given())
-    throw Refusal("A second process is for a fixed trend alone, which needs --option K.");
+    throw Refusal("Only a fixed trend can have a second process. It requires --option K.");
   if (request.reports.results || !request.reports.details.empty())
-    throw Refusal("Reports are of the evaluation of a fixed trend, which needs --option K.");
+    throw Refusal("Only a fixed trend can print reports. It requires --option K.");
 }
 
 std::vector<TrendedVariable> variablesOf(const std::vector<TrendProcess>& processes) {
@@ -91,7 +91,7 @@ TrendedOption describeTrended(FieldCollection& option) {
   return result;
 }
 
-/// The page that `write` fills; a failure leaves the lines before it.
+/// The page that `write` fills. After an error it keeps the lines written before.
 template <class Write>
 Page makePage(Write write) {
   Page page;
@@ -103,7 +103,8 @@ Page makePage(Write write) {
   return page;
 }
 
-/// \throws Cancelled after a Ctrl+C.
+/// Checks for a cancel.
+/// \throws Cancelled after a Ctrl+C
 void stopIfAsked() {
   if (Interrupt::requested()) throw Cancelled();
 }
@@ -176,13 +177,14 @@ class TrendRun {
   }
 
  private:
-  /// \throws NoTrend for a trend that has `nothing` because of its wishes
+  /// Fails if a trend has no result because of its wishes.
+  /// \throws NoTrend
   void requirePlan(bool nothing) {
     if (!nothing || farm_.inputs().wishes.empty()) return;
     throw NoTrend(farm_.inputs().wishes, findRelaxations(farm_.farm(), farm_.state(), progress_));
   }
 
-  /// The first ticked row's crop; an empty name where none is ticked.
+  /// The crop of the first ticked row; empty if no row is ticked.
   [[nodiscard]] std::string firstTickedCrop() const {
     for (std::size_t row = 0; row < inputs_.rowCount(); ++row) {
       if (!inputs_.isActive(row)) continue;
@@ -196,7 +198,7 @@ class TrendRun {
     return GetVariableUnits(inputs_, processes_[0].process.VariableIndex, processes_[0].process.cropIndex);
   }
 
-  /// Tells of crops that were named for nothing: those of no variable, and those that are idle.
+  /// Reports crop names that have no effect: those of variables without a crop, and idle crops.
   template <class IsIdle>
   void tellOfIdleCrops(const char* why, IsIdle isIdle) {
     for (std::size_t i = 0; i < processes_.size(); ++i) {
@@ -204,21 +206,22 @@ class TrendRun {
       const TrendVariable& variable = trendVariable(process.process.VariableIndex);
       const std::string option = i == 0 ? "--trend-crop: " : "--trend-crop2: ";
       if (!variable.ofCrop && request_.processes[i].crop) {
-        messages_.tell(option + "\"" + variable.label + "\" belongs to no crop, so the name takes no part.");
+        messages_.tell(option + "\"" + variable.label + "\" belongs to no crop, so the name has no effect.");
       }
       if (variable.ofCrop && isIdle(process)) {
         messages_.tell(option + quoteForMessage(process.crop) + " " + why +
-                       ", so its values change nothing.");
+                       ", so its values have no effect.");
       }
     }
   }
 
-  /// \throws Refusal for a trend that keeps too many options.
+  /// Checks the number of options to keep.
+  /// \throws Refusal if a trend cannot keep so many
   void refuseTooLarge() const {
     if (const std::optional<Message> refusal = refuseTrend(trend_, inputs_)) throw Refusal(refusal->text);
   }
 
-  /// Before the evaluation, which may take long.
+  /// Checks the number of combinations before the evaluation, which may take long.
   void refuseCombinations() const {
     const std::size_t second = processes_.size() > 1 ? processes_[1].process.GetValueArray().size() : 1;
     if (const auto refusal = refuseFixedTrend(processes_[0].process.GetValueArray().size(), second))
@@ -230,12 +233,13 @@ class TrendRun {
     while (count < options.size() && options[count]->Count() > 0)
       ++count;
     if (number > count) {
-      throw Refusal("--option " + std::to_string(number) + ": The evaluation has found " +
-                    std::to_string(count) + (count == 1 ? " option." : " options."));
+      throw Refusal("--option " + std::to_string(number) + ": The evaluation found " + std::to_string(count) +
+                    (count == 1 ? " option." : " options."));
     }
     trend_.option = options[number - 1];
   }
 
+  /// Runs the trend.
   /// \throws Cancelled
   TrendOutcome run() {
     std::optional<TrendOutcome> outcome = farm_.runTrend(trend_, progress_);
@@ -243,7 +247,7 @@ class TrendRun {
     return std::move(*outcome);
   }
 
-  /// Each step is described with the efficiency of its own run.
+  /// Describes each step with the efficiency of its own run.
   void describeSteps(const TrendOutcome& outcome, TrendResult& result) const {
     result.wishes = wishTexts(farm_.inputs().wishes);
     result.variables = variablesOf(processes_);
@@ -305,18 +309,19 @@ Findings findTrend(const TrendArguments& request, std::size_t number, Reports& r
   return number == 0 ? run.runVariable() : run.runFixed(number, reports);
 }
 
-/// Fills the outcome. \throws Cancelled after a Ctrl+C, whenever it came.
+/// Creates the output of a trend.
+/// \throws Cancelled after a Ctrl+C at any time
 void makeOutcome(const TrendArguments& request, Reports& reports, Messages& messages, Outcome& outcome) {
   const Interrupt interrupt;
   Findings findings = findTrend(request, optionNumber(request.option), reports, messages);
   std::ostream text(&outcome.text);
-  text.exceptions(std::ios::badbit);  // no memory left
+  text.exceptions(std::ios::badbit);  // out of memory
   writeTrend(text, findings.result, request.format);
   outcome.page = std::move(findings.page);
   stopIfAsked();
 }
 
-/// Hands a text over as deliver() does, which for standard output needs no more than a piece at a time.
+/// Writes a text like deliver(), but to standard output one piece at a time.
 void deliverPieces(TextPieces& text, const std::optional<std::string>& file, std::ostream& out) {
   if (file) {
     deliver(text.join(), file, out);
@@ -333,14 +338,15 @@ const CLI::App& addTrendCommand(CLI::App& app, TrendArguments& request) {
       "trend", "What if: evaluations over a range of one input, or one option at other values");
   addFarmOptions(command, request.farm);
   addTrendProcessOptions(command, "", request.processes[0]);
-  addTextOption(command, "--option", "K", request.option,
-                "A fixed trend on option K of the evaluation, counted from 1;\na variable trend without it");
+  addTextOption(
+      command, "--option", "K", request.option,
+      "Run a fixed trend on option K of the evaluation, counted from 1\n(default: a variable trend)");
   addTrendProcessOptions(command, "2", request.processes[1]);
   addTextOption(command, "--export", "FILE", request.exportFile, "Also write the spreadsheet export");
-  command.add_option("--format", request.format, "table, csv or json; table without it")
+  command.add_option("--format", request.format, "table, csv or json (default: table)")
       ->type_name("FORMAT")
       ->check(CLI::IsMember(optionsFormats()));
-  addTextOption(command, "--output", "FILE", request.output, "Write there in place of standard output");
+  addTextOption(command, "--output", "FILE", request.output, "Write to this file instead of standard output");
   addReportOptions(command, request.reports);
   return command;
 }
@@ -348,7 +354,7 @@ const CLI::App& addTrendCommand(CLI::App& app, TrendArguments& request) {
 void trend(const TrendArguments& request, std::ostream& out, Messages& messages) {
   requireKind(request);
   Reports reports(request.reports);
-  // All of the text is there before the first byte goes out.
+  // The text is complete before its first byte is written.
   Outcome outcome;
   try {
     makeOutcome(request, reports, messages, outcome);

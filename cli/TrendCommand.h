@@ -13,24 +13,24 @@
 
 namespace verdalis {
 
-/// What `trend` was asked for.
+/// The arguments of `trend`.
 struct TrendArguments {
   FarmRequest farm;
   std::string format = "table";
-  std::optional<std::string> output;  ///< File in place of standard output
+  std::optional<std::string> output;  ///< File to write instead of standard output
   ReportRequest reports;
-  std::optional<std::string> option;             ///< Counted from 1; a variable trend without it
-  std::array<TrendProcessRequest, 2> processes;  ///< The second for a fixed trend alone
+  std::optional<std::string> option;             ///< Counted from 1; without it the trend is variable
+  std::array<TrendProcessRequest, 2> processes;  ///< The second is only for a fixed trend
   std::optional<std::string> exportFile;         ///< File of the spreadsheet export
 };
 
-/// Adds the command `trend` to the program. Parsing fills the request, which must live as long as the
-/// program.
+/// Adds the command `trend` to the program. Parsing fills the request, which must outlive `app`.
 const CLI::App& addTrendCommand(CLI::App& app, TrendArguments& request);
 
-/// One trend: its outcome goes to `out` or to the file asked for, and into the spreadsheet export. An export
-/// that cannot be worked out to its end is written as far as it came and fails the command after everything
-/// else is delivered. It saves no inputs. \throws Refusal, Cancelled, NoPlan, RunTimeError
+/// Runs one trend and writes the result to `out` or to the requested file, and to the spreadsheet export. If
+/// the export fails partway, its first part is written, and the command fails after all other output. The
+/// inputs are not saved.
+/// \throws Refusal, Cancelled, NoPlan, RunTimeError
 void trend(const TrendArguments& request, std::ostream& out, Messages& messages);
 
 }  // namespace verdalis

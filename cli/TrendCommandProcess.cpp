@@ -37,7 +37,7 @@ std::int16_t variableIndex(const TrendProcessRequest& request, const std::string
                 ".");
 }
 
-/// The first row of exactly that name, else of the row that the name means ignoring case.
+/// The crop of the first row with this exact name, else the crop found ignoring case.
 std::optional<std::string> cropName(const std::string& name, TypedFarm& typed, const TrendInputs& inputs) {
   if (GetCropIndex(inputs, name).found) return name;
   const std::optional<std::size_t> row = typed.findRow(name);
@@ -53,13 +53,14 @@ std::string cropOf(const TrendProcessRequest& request, const std::string& option
   throw Refusal(option + ": " + unknownCrop(typed, *request.crop));
 }
 
-/// The pane itself reads a leading number; on the command line a text that is no plain number is a slip.
+/// Requires a plain number. The pane accepts a leading number; on the command line this would hide a typing
+/// error.
 void requireNumber(const std::string& option, const std::string& text) {
   if (isNumeric(text) && text.find(',') == std::string::npos) return;
   throw Refusal(option + " " + quoteForMessage(text) + ": Please enter a valid number");
 }
 
-/// The reading would only ask for a file, not knowing that one was named.
+/// Checks the file first. The reader would only ask for a file, without the name of this one.
 void requireReadable(const std::string& option, const std::string& file) {
   std::error_code error;
   const bool readable = std::filesystem::is_regular_file(file, error) && ::access(file.c_str(), R_OK) == 0;
@@ -76,7 +77,7 @@ struct ValuesOption {
 
 ValuesOption readRangeOptions(const TrendProcessRequest& request, const std::string& suffix) {
   if (!request.from || !request.to || !request.steps) {
-    throw Refusal("A range of values needs all of --from" + suffix + " A, --to" + suffix + " B and --steps" +
+    throw Refusal("A range of values requires --from" + suffix + " A, --to" + suffix + " B and --steps" +
                   suffix + " N.");
   }
   requireNumber("--from" + suffix, *request.from);
@@ -99,7 +100,7 @@ ValuesOption readValues(const TrendProcessRequest& request, const std::string& s
   return {option, readValuesFile(*request.valuesFile), TrendValuesKind::import};
 }
 
-/// Reads the values; those that no run could use, such as 1e999, are refused before the first run.
+/// Reads the values. Values that no run can use, such as 1e999, are refused before the first run.
 ValuesOption checkValues(const TrendProcessRequest& request, const std::string& suffix, bool rain) {
   try {
     ValuesOption values = readValues(request, suffix);
@@ -130,16 +131,17 @@ void addTrendProcessOptions(CLI::App& command, const std::string& suffix, TrendP
   const std::string of = first ? "" : " of the second process";
   addTextOption(
       command, "--variable" + suffix, "N", request.variable,
-      first ? "The variable that is varied:\n" + variableNames("\n") : "A fixed trend's second variable");
+      first ? "The variable to vary:\n" + variableNames("\n") : "The second variable of a fixed trend");
   addTextOption(command, "--trend-crop" + suffix, "NAME", request.crop,
-                "The crop" + of + ", for the variables 0 to 2");
+                "The crop" + of + ", for variables 0 to 2");
   addTextOption(command, "--values" + suffix, "LIST", request.values,
-                "The values" + of + ", with commas between them");
-  addTextOption(command, "--from" + suffix, "A", request.from, "Or values" + of + " evenly from A ...");
+                "The values" + of + ", separated by commas");
+  addTextOption(command, "--from" + suffix, "A", request.from,
+                "Or evenly spaced values" + of + " from A ...");
   addTextOption(command, "--to" + suffix, "B", request.to, "... to B ...");
-  addTextOption(command, "--steps" + suffix, "N", request.steps, "... N of them");
+  addTextOption(command, "--steps" + suffix, "N", request.steps, "... with this number of values");
   addTextOption(command, "--values-file" + suffix, "FILE", request.valuesFile,
-                "Or the values" + of + " from a file, with commas between them");
+                "Or a file with the values" + of + ", separated by commas");
 }
 
 TrendProcess makeTrendProcess(const TrendProcessRequest& request, const std::string& suffix, TypedFarm& typed,

@@ -10,31 +10,32 @@
 
 namespace verdalis {
 
-/// A trend process as the command line tells it: texts as they were typed.
+/// The options of a trend process: texts as typed.
 struct TrendProcessRequest {
   std::optional<std::string> variable;  ///< Index, 0 to 5
-  std::optional<std::string> crop;      ///< Where the variable belongs to one
+  std::optional<std::string> crop;      ///< For variables that belong to a crop
   std::optional<std::string> values;    ///< A list
   std::optional<std::string> from;      ///< Or a range ...
   std::optional<std::string> to;
   std::optional<std::string> steps;       ///< ... with its number of values
   std::optional<std::string> valuesFile;  ///< Or a file
 
-  /// Whether any of it was given.
+  /// Whether any of the options was given.
   [[nodiscard]] bool given() const { return variable || crop || values || from || to || steps || valuesFile; }
 };
 
-/// The options of the first process with the suffix "", of the second with "2".
+/// Adds the options of a process. `suffix` is "" for the first process and "2" for the second.
 void addTrendProcessOptions(CLI::App& command, const std::string& suffix, TrendProcessRequest& request);
 
-/// A process that can be run.
+/// A process that is ready to run.
 struct TrendProcess {
   BatchProcess process;
-  std::string crop;  ///< Empty where the variable belongs to none
+  std::string crop;  ///< Empty if the variable belongs to no crop
 };
 
-/// The process of the request. `fallbackCrop` names the crop that a variable of no crop is kept with.
-/// \throws Refusal for values, a variable or a crop that cannot be run
+/// Creates the process of the request. `fallbackCrop` is the crop stored with a variable that belongs to no
+/// crop.
+/// \throws Refusal for values, a variable or a crop that cannot be used
 [[nodiscard]] TrendProcess makeTrendProcess(const TrendProcessRequest& request, const std::string& suffix,
                                             TypedFarm& typed, const TrendInputs& inputs,
                                             const std::string& fallbackCrop);

@@ -6,14 +6,14 @@
 
 namespace verdalis {
 
-/// Collects a long text in pieces, so that it can grow without being copied.
+/// Collects a long text in pieces, so it can grow without being copied.
 class TextPieces final : public std::streambuf {
  public:
-  static constexpr std::size_t pieceSize = std::size_t{1} << 20U;  ///< Most bytes of a piece
+  static constexpr std::size_t pieceSize = std::size_t{1} << 20U;  ///< Maximum size of a piece, bytes
 
   [[nodiscard]] const std::deque<std::string>& pieces() const { return pieces_; }
 
-  /// The whole text. No piece is left behind.
+  /// The whole text. The pieces are removed.
   [[nodiscard]] std::string join();
 
  protected:

@@ -11,12 +11,12 @@
 
 namespace verdalis {
 
-/// A value that a trend has put into an option.
+/// A value that a trend has set in an option.
 struct TrendedValue {
   std::string variable;  ///< With its crop, such as "Crop Price - Corn"
   double value = 0;
-  std::string prefix;  ///< What stands before the value, such as "$"
-  std::string suffix;  ///< And behind it, such as "/ bu."
+  std::string prefix;  ///< Text before the value, such as "$"
+  std::string suffix;  ///< Text after it, such as "/ bu."
 };
 
 /// An option of a fixed trend.
@@ -25,13 +25,13 @@ struct TrendedOption {
   std::vector<TrendedValue> trend;
 };
 
-/// A variable that a trend goes through.
+/// A variable of a trend.
 struct TrendedVariable {
   std::string variable;
-  std::string crop;  ///< Empty where the variable belongs to no crop
+  std::string crop;  ///< Empty if the variable belongs to no crop
 };
 
-/// One value of a variable trend, with the evaluation that it led to.
+/// One value of a variable trend and its evaluation.
 struct TrendStep {
   double value = 0;
   EvaluationResult result;
@@ -43,21 +43,21 @@ struct TrendGridEntry {
   TrendedOption option;
 };
 
-/// What a trend has found: plain values that writers show. A variable trend has steps, a fixed trend the grid
-/// and the ranking.
+/// The results of a trend, as plain values for the writers. A variable trend has steps; a fixed trend has a
+/// grid and a ranking.
 struct TrendResult {
   bool fixed = false;
-  std::vector<std::string> wishes;         ///< What every option that was evaluated meets
-  std::vector<TrendedVariable> variables;  ///< One, or two of a fixed trend
-  std::string prefix;                      ///< Of a variable trend, before its values
-  std::string suffix;                      ///< And behind them
+  std::vector<std::string> wishes;         ///< Wishes that every evaluated option meets
+  std::vector<TrendedVariable> variables;  ///< One; a fixed trend may have two
+  std::string prefix;                      ///< Of a variable trend: text before its values
+  std::string suffix;                      ///< And after them
   std::vector<TrendStep> steps;
   EvaluationResult evaluation;         ///< Of a fixed trend: the evaluation of its option, without options
   std::vector<TrendGridEntry> grid;    ///< By the values of the first list, then of the second
   std::vector<TrendedOption> options;  ///< Best first
 };
 
-/// The trend as "table", "csv" or "json". Options are as an evaluation writes them.
+/// Writes the trend as "table", "csv" or "json", its options as in an evaluation.
 /// \throws RunTimeError (overflow) for a number that no table can show
 void writeTrend(std::ostream& out, const TrendResult& result, std::string_view format);
 

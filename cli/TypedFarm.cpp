@@ -19,7 +19,7 @@ void set(OptionButton& button, const std::string& text) {
   if (onOrOff(text)) {
     button.click();
   } else if (button.checked()) {
-    throw Refusal("It is turned off by turning another one on.");
+    throw Refusal("An option button is turned off by turning on another one.");
   }
 }
 
@@ -44,7 +44,7 @@ ProgramFiles withoutSaving(ProgramFiles files) {
   return files;
 }
 
-/// While it lives, a listener hears of the runs of a window.
+/// Registers a listener for the runs of a window, during its lifetime.
 class Listening {
  public:
   Listening(frmMain& window, RunHooks& listener) : window_(window) { window_.runListener = &listener; }
@@ -71,7 +71,7 @@ TypedFarm::TypedFarm(ProgramFiles files, Messages& messages)
       services_(platform_.services()),
       program_(services_, withoutSaving(std::move(files))) {
   program_.start();
-  // From here on a run-time error ends the command.
+  // From here on, a run-time error ends the command.
   program_.desk.onRunTimeError = nullptr;
 }
 
@@ -93,7 +93,7 @@ void TypedFarm::type(const std::string& name, const std::string& text) {
 
 std::optional<std::string> TypedFarm::noticeOf(const Control& control, const std::string& name) {
   if (stands(control, mainPane())) return std::nullopt;
-  return name + " takes part in a run only after it is applied on its pane, which is not done here.";
+  return name + " has no effect on a run until it is applied on its pane, which this command does not do.";
 }
 
 void TypedFarm::typeInto(Control& control, const std::string& name, const std::string& text) {
@@ -116,7 +116,7 @@ void TypedFarm::refuseIfTold() {
 }
 
 std::optional<std::size_t> TypedFarm::findRow(std::string_view name) {
-  return findCrop(cropNames(), name);  // only the one row of an empty library has no crop
+  return findCrop(cropNames(), name);  // only the single row of an empty library has no crop
 }
 
 std::vector<std::string> TypedFarm::cropNames() {

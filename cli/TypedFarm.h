@@ -17,38 +17,39 @@
 
 namespace verdalis {
 
-/// The running program without a window, into whose controls a farm is typed. What the program warns of goes
-/// to standard error; a range test that fails becomes a Refusal; a run-time error goes on to the caller. It
-/// writes no saved inputs.
+/// The running program without a window. The farm is entered in its controls. Warnings of the program are
+/// written to standard error, a failed range test becomes a Refusal, and run-time errors are passed on. The
+/// inputs are not saved.
 class TypedFarm {
  public:
-  /// Starts the program past the welcome window. A crop library that cannot be read is told, and there are
-  /// no crops then.
+  /// Starts the program after the welcome window. If the crop library cannot be read, this is reported, and
+  /// there are no crops.
   TypedFarm(ProgramFiles files, Messages& messages);
 
-  /// The button "Load Default Values".
+  /// Clicks "Load Default Values".
   void loadDefaultValues() { mainPane().Command7.click(); }
 
-  /// Types a text into a control of the main window, on whatever pane, and leaves it. A check box and an
-  /// option button take True, False, 1 and 0. A field whose text takes no part in a run until it is applied
-  /// is told.
-  /// \throws Refusal for a control that is not there, cannot be typed into or does not accept the text.
+  /// Types a text into a control on any pane of the main window and leaves the control. Check boxes and
+  /// option buttons accept True, False, 1 and 0. Reports a field whose text has no effect on a run until it
+  /// is applied.
+  /// \throws Refusal for a control that does not exist, takes no input or does not accept the text
   void type(const std::string& name, const std::string& text);
 
-  /// The control that type() would type into. \throws Refusal when it is not there or hidden
+  /// The control that type() uses.
+  /// \throws Refusal if it does not exist or is hidden
   [[nodiscard]] Control& control(const std::string& name);
 
-  /// What is to be told of a control whose text takes no part in a run until it is applied.
+  /// The notice for a control whose text has no effect on a run until it is applied.
   [[nodiscard]] std::optional<std::string> noticeOf(const Control& control, const std::string& name);
 
-  /// The row of a crop: by its exact name, else ignoring case; with several the last.
+  /// The row of a crop: its exact name, else ignoring case; the last of several.
   [[nodiscard]] std::optional<std::size_t> findRow(std::string_view name);
 
-  /// The names of the rows' crops.
+  /// The crop names of the rows.
   [[nodiscard]] std::vector<std::string> cropNames();
 
-  /// Types into a crop row, ticked or not, and leaves the field.
-  /// \throws Refusal for a text that fails the test of its field, and for a row without such a field.
+  /// Types into the field of a crop row, ticked or not, and leaves the field.
+  /// \throws Refusal for a text that fails the range test, and for a row without the field
   void typePrice(std::size_t row, const std::string& text);
   void typeMaxYield(std::size_t row, const std::string& text);
 
@@ -56,10 +57,12 @@ class TypedFarm {
   void chooseLandSplit(std::size_t index) { mainPane().Option1[index]->click(); }
   void tickNoSplit();
 
-  /// What a wish can be about. \throws RunTimeError (invalidCall) when no land split is chosen
+  /// The crops and fields for wishes.
+  /// \throws RunTimeError (invalidCall) if no land split is chosen
   [[nodiscard]] WishContext wishContext();
 
-  /// \throws std::invalid_argument for one wish too many
+  /// Adds a wish.
+  /// \throws std::invalid_argument if there are too many
   void makeWish(const Wish& wish) { addWish(mainPane().wishes, wish); }
 
   void keepMixes() { mainPane().mixes = true; }
@@ -69,26 +72,29 @@ class TypedFarm {
   [[nodiscard]] const IrrigationCosts& plant() { return *main().tempIrrigationCosts; }
   [[nodiscard]] ScenarioInputs inputs() { return mainPane().scenarioInputs(); }
 
-  /// The farm as numbers; nothing of it is shared with the program.
-  /// \throws RunTimeError for a text that is no number
+  /// A copy of the farm as numbers. It shares nothing with the program.
+  /// \throws RunTimeError for a text that is not a number
   [[nodiscard]] Farm farm();
 
-  /// Holds what was found last.
+  /// Holds the results of the last run.
   [[nodiscard]] const ResultPrinter& printer() { return main().thePrinter; }
   [[nodiscard]] ProgramState& state() { return program_.state; }
 
-  /// Whether the saved inputs were read to their end.
+  /// Whether the saved inputs were read completely.
   [[nodiscard]] bool inputsLoaded() { return main().inputsLoaded(); }
 
-  /// Presses the button that starts the evaluation. `progress` hears how far it is. \returns the options of
-  /// the results screen, placeholders included; nothing after a cancel.
-  /// \throws Refusal when something is missing, RunTimeError
+  /// Clicks the button that starts the evaluation. `progress` receives the progress.
+  /// \returns the options of the results screen, including placeholders; nothing after a cancel.
+  /// \throws Refusal if an input is missing
+  /// \throws RunTimeError
   [[nodiscard]] std::optional<std::vector<Results::Option>> evaluate(RunHooks& progress);
 
-  /// The inputs as a trend writes its values into them. They keep what is written last.
+  /// The inputs that a trend changes. They keep the last values of the trend.
   [[nodiscard]] TrendHost& trendHost() { return main().trendHost; }
 
-  /// Runs a trend. `progress` hears how far it is. \returns nothing after a cancel. \throws RunTimeError
+  /// Runs a trend. `progress` receives the progress.
+  /// \returns nothing after a cancel.
+  /// \throws RunTimeError
   [[nodiscard]] std::optional<TrendOutcome> runTrend(const TrendRequest& request, RunHooks& progress);
 
  private:

@@ -13,16 +13,16 @@ namespace verdalis {
 namespace {
 
 constexpr std::size_t lines = 8;
-constexpr std::size_t least = 20;  ///< Columns of blocks, whatever the labels need
+constexpr std::size_t least = 20;  ///< Minimum columns of blocks, however wide the labels are
 constexpr std::size_t most = 80;
-constexpr int eighths = 8;  ///< Of a block's height
+constexpr int eighths = 8;  ///< Steps within the height of a block
 constexpr std::array<const char*, eighths + 1> blocks{" ", "▁", "▂", "▃", "▄", "▅", "▆", "▇", "█"};
 
-/// The height of a point in eighths of a line, 1 or more so that each is seen.
+/// The height of a point in eighths of a line; at least 1, so that every point is visible.
 int heightOf(double y, double lowest, double highest) {
   constexpr int full = static_cast<int>(lines) * eighths;
   if (!(highest > lowest)) return full / 2;
-  // Both halves, so that no difference is too large for a number.
+  // Halves the values first, so that the difference cannot overflow.
   const double share = (y / 2 - lowest / 2) / (highest / 2 - lowest / 2);
   return std::max(1, static_cast<int>(std::lround(share * full)));
 }

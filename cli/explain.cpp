@@ -10,7 +10,7 @@
 namespace verdalis {
 namespace {
 
-/// A whole text that is a number from 1.
+/// Reads a text that consists of a number from 1.
 std::optional<std::size_t> placeOf(std::string_view text) {
   std::size_t number = 0;
   const char* const end = text.data() + text.size();
@@ -37,7 +37,7 @@ FieldPlace readFieldPlace(const std::string& text) {
     const std::optional<std::size_t> field = placeOf(asked.substr(point + 1));
     if (option && field) return {text, *option, *field};
   }
-  refuse(text, "The form is K.F, such as 1.2 for field 2 of option 1. Both are counted 1, 2, 3 and so on.");
+  refuse(text, "The form is K.F, such as 1.2 for field 2 of option 1. Both are counted from 1.");
 }
 
 Explanation explain(const FieldPlace& place, const std::vector<Results::Option>& options, double efficiency) {
@@ -46,7 +46,7 @@ Explanation explain(const FieldPlace& place, const std::vector<Results::Option>&
     if (option->Count() > 0) found.push_back(option);
   }
   if (place.option > found.size())
-    refuse(place.asked, "The evaluation has found " + counted(found.size(), "option"));
+    refuse(place.asked, "The evaluation found " + counted(found.size(), "option"));
   const FieldCollection& option = *found[place.option - 1];
   const auto fields = static_cast<std::size_t>(option.Count());
   if (place.field > fields)

@@ -10,18 +10,20 @@
 
 namespace verdalis {
 
-/// A field of a ranking, both counted from 1.
+/// A field of an option in a ranking, both counted from 1.
 struct FieldPlace {
-  std::string asked;  ///< As it was typed
+  std::string asked;  ///< As typed
   std::size_t option = 0;
   std::size_t field = 0;
 };
 
-/// Reads "K.F". \throws Refusal for any other text
+/// Reads "K.F".
+/// \throws Refusal for any other text
 [[nodiscard]] FieldPlace readFieldPlace(const std::string& text);
 
-/// How that field of the options of a run comes to its net return.
-/// \throws Refusal where there is no such option or field, RunTimeError as pricing does
+/// Explains the net return of a field in the options of a run.
+/// \throws Refusal if there is no such option or field
+/// \throws RunTimeError if pricing fails
 [[nodiscard]] Explanation explain(const FieldPlace& place, const std::vector<Results::Option>& options,
                                   double efficiency);
 

@@ -41,7 +41,7 @@ std::size_t landSplitIndex(const std::string& text) {
   throw Refusal("There is no such land split: " + landSplitNames(", ") + ".");
 }
 
-/// The control itself reads a leading number; on the command line a text that is no plain number is a slip.
+/// The control accepts a leading number; on the command line this would hide a typing error.
 void requireNumber(const std::string& text) {
   if (!isNumeric(text) || text.find(',') != std::string::npos) throw Refusal("Please enter a valid number");
 }

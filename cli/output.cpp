@@ -16,7 +16,7 @@ void writeTo(std::ostream& stream, std::string_view text, const std::string& nam
   if (!stream) throw RunTimeError(ErrorNumber::fileNotFound, "The result cannot be written to " + name + ".");
 }
 
-/// Whether the path is a device or a pipe, which takes bytes but cannot be replaced.
+/// Whether the path is a device or a pipe, which can be written but not replaced.
 bool isDevice(const std::filesystem::path& path) {
   std::error_code error;
   const std::filesystem::file_status status = std::filesystem::status(path, error);
@@ -46,7 +46,7 @@ void deliverToFile(const std::string& bytes, const std::string& file) {
     std::ofstream device(file, std::ios::binary);
     writeTo(device, bytes, file);
   } else {
-    const Interrupt untilWritten;  // a Ctrl+C now would leave the unfinished file beside the old one
+    const Interrupt untilWritten;  // a Ctrl+C now would leave an unfinished file next to the old one
     writeFile(file, bytes);
   }
 }

@@ -12,7 +12,7 @@
 namespace verdalis {
 namespace {
 
-/// Each evaluation is a step of the search for what to give up.
+/// Counts each evaluation as a step of the search for wishes to give up.
 class EvaluationSteps final : public RunHooks {
  public:
   explicit EvaluationSteps(RunHooks& hooks) : hooks_(hooks) {}
@@ -66,8 +66,8 @@ std::string noPlanJson(const std::vector<Wish>& wishes, const std::vector<Relaxa
 
 std::string noPlanText(const NoPlan& noPlan) {
   std::string text = noPlan.what();
-  if (!noPlan.where().empty()) text += " That is for " + noPlan.where() + ".";
-  if (noPlan.relaxations().empty()) return text + " There is no candidate at all, whatever the wishes are.";
+  if (!noPlan.where().empty()) text += " This applies to " + noPlan.where() + ".";
+  if (noPlan.relaxations().empty()) return text + " There are no candidates, even without wishes.";
   for (const Relaxation& relaxation : noPlan.relaxations()) {
     text += "\nWithout " + quotedList(relaxation.without) + " the best net return is " +
             dollarsText(relaxation.profit) + ".";

@@ -13,20 +13,20 @@
 
 namespace verdalis {
 
-// What is told where no plan meets all wishes.
+// The answer if no plan meets all wishes.
 
-/// What to give up of the wishes of a farm. `state` is asked for a cancel.
+/// The wishes of a farm to give up. A cancel is requested in `state`.
 /// \throws Cancelled, RunTimeError
 [[nodiscard]] std::vector<Relaxation> findRelaxations(const Farm& farm, ProgramState& state, RunHooks& hooks);
 
 /// The value of "relax".
 [[nodiscard]] Json relaxJson(const std::vector<Relaxation>& relaxations);
 
-/// The JSON object of an answer that has no options for the wishes.
+/// The JSON object of an answer without a plan for the wishes.
 [[nodiscard]] std::string noPlanJson(const std::vector<Wish>& wishes,
                                      const std::vector<Relaxation>& relaxations);
 
-/// For a person: that no plan meets all wishes, and what to give up.
+/// A message that no plan meets all wishes, with the wishes to give up.
 [[nodiscard]] std::string noPlanText(const NoPlan& noPlan);
 
 }  // namespace verdalis

@@ -22,7 +22,7 @@ constexpr int done = 0;
 constexpr int failed = 1;
 constexpr int refused = 2;
 
-/// Gives all commands below `app` what they have in common.
+/// Adds the version option and the footer to all commands below `app`.
 void setCommon(CLI::App& app, const std::string& footer) {
   for (CLI::App* command : app.get_subcommands({})) {
     command->set_version_flag("--version", versionText(), "Print the version and exit");
@@ -31,17 +31,16 @@ void setCommon(CLI::App& app, const std::string& footer) {
   }
 }
 
-/// What the arguments ask for; the command that was named has been parsed, the others keep their defaults.
+/// Parses the arguments and runs their command. Only the named command is parsed; the others keep their
+/// defaults.
 int dispatch(const std::vector<std::string>& args, std::istream& in, std::ostream& out, Messages& messages) {
-  CLI::App app("Finds the allocation of irrigation water, land and crops that leaves the most money.",
-               "verdalis-cli");
+  CLI::App app("Finds the most profitable allocation of irrigation water, land and crops.", "verdalis-cli");
   app.set_version_flag("--version", versionText(), "Print the version and exit");
   app.require_subcommand(1);
   const std::string exitCodes =
-      "Exit code: 0 done, 1 a run-time error, a cancel or no plan that meets the wishes, 2 wrong arguments "
-      "or "
-      "incomplete inputs.";
-  app.footer("\"verdalis-cli COMMAND --help\" tells the options of a command.\n" + exitCodes);
+      "Exit codes: 0 success; 1 run-time error, cancel, or no plan that meets the wishes; 2 wrong arguments "
+      "or incomplete inputs.";
+  app.footer("Run \"verdalis-cli COMMAND --help\" for the options of a command.\n" + exitCodes);
 
   EvaluateRequest evaluateRequest;
   const CLI::App& evaluateCommand = addEvaluateCommand(app, evaluateRequest);
@@ -81,7 +80,7 @@ int run(const std::vector<std::string>& args, std::istream& in, std::ostream& ou
   } catch (const NoPlan& noPlan) {
     messages.tell(noPlanText(noPlan));
     return failed;
-  } catch (const std::exception& error) {  // a run-time error, a cancel, or no memory left
+  } catch (const std::exception& error) {  // a run-time error, a cancel, or out of memory
     messages.tell(error.what());
     return failed;
   }

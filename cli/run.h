@@ -6,10 +6,10 @@
 
 namespace verdalis {
 
-/// The command line program: carries out the command that the arguments (without the program's name) ask for.
-/// The result goes to `out`, and nothing else does; errors, warnings and progress go to `err`. \returns the
-/// exit code: 0 done, 1 a run-time error or a cancel, 2 wrong arguments or inputs that are not complete.
-/// Never throws.
+/// The command line program: runs the command in the arguments, which exclude the program's name. Only the
+/// result is written to `out`; errors, warnings and progress are written to `err`. It never throws.
+/// \returns the exit code: 0 success; 1 run-time error, cancel, or no plan that meets the wishes; 2 wrong
+/// arguments or incomplete inputs.
 int run(const std::vector<std::string>& args, std::istream& in, std::ostream& out, std::ostream& err);
 
 }  // namespace verdalis

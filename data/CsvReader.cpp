@@ -14,7 +14,8 @@ constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
 CsvReader::CsvReader(ByteSource& source) : source_(source), buffer_(bufferSize) {}
 
-/// Reads on behind what is still in the buffer. \returns false at the end.
+/// Reads more bytes after those left in the buffer.
+/// \returns false at the end.
 bool CsvReader::fill() {
   std::copy(buffer_.begin() + static_cast<std::ptrdiff_t>(at_),
             buffer_.begin() + static_cast<std::ptrdiff_t>(end_), buffer_.begin());
@@ -77,7 +78,7 @@ bool CsvReader::readLine(CsvRow& row) {
         break;
     }
   }
-  if (state_ == State::quoted) setFault(row, "The quote in front of it has no end");
+  if (state_ == State::quoted) setFault(row, "The closing quote is missing");
   endLine(row);
   return true;
 }
@@ -87,7 +88,8 @@ void CsvReader::take(const CsvRow& row, std::string_view bytes) {
   if (bytes_ <= mostBytes && row.count < keptCells_) cell_ += bytes;
 }
 
-/// Takes what stands up to the next sign of a meaning, and that sign. \returns whether the row ends there.
+/// Takes the text up to the next comma, line end or quote, and that character.
+/// \returns whether the row ends there.
 bool CsvReader::takePlain(CsvRow& row) {
   std::size_t stop = at_;
   while (stop < end_ && buffer_[stop] != ',' && buffer_[stop] != '\n' && buffer_[stop] != '"')
@@ -106,7 +108,7 @@ bool CsvReader::takePlain(CsvRow& row) {
   if (buffer_[stop] == ',') {
     endCell(row);
   } else {
-    setFault(row, "A quote stands inside a text that is not in quotes");
+    setFault(row, "A text that is not in quotes contains a quote");
   }
   return false;
 }
@@ -121,8 +123,8 @@ void CsvReader::takeQuoted(CsvRow& row) {
   state_ = State::quoteInQuoted;
 }
 
-/// Takes what stands behind a quote that ends its cell or is the first of two. \returns whether the row ends
-/// there.
+/// Takes the character after a quote that either ends its cell or is the first of two.
+/// \returns whether the row ends there.
 bool CsvReader::takeBehindQuote(CsvRow& row) {
   const char c = buffer_[at_++];
   char behind = 0;
@@ -133,7 +135,7 @@ bool CsvReader::takeBehindQuote(CsvRow& row) {
     endCell(row);
     return c == '\n';
   } else if (c != '\r' || (peek(behind) && behind != '\n')) {
-    setFault(row, "A text stands behind the quote that ends it");
+    setFault(row, "There is text after the closing quote");
     state_ = State::plain;
   }
   return false;
@@ -143,7 +145,7 @@ void CsvReader::endCell(CsvRow& row) {
   if (bytes_ > mostBytes) {
     setFault(row, "The row is longer than " + std::to_string(mostBytes) + " bytes");
   } else if (row.count < keptCells_) {
-    if (!isUtf8(cell_)) setFault(row, "The text is no UTF-8");
+    if (!isUtf8(cell_)) setFault(row, "The text is not UTF-8");
     row.cells.push_back(cell_);
   }
   ++row.count;
@@ -151,7 +153,7 @@ void CsvReader::endCell(CsvRow& row) {
   state_ = State::cellStart;
 }
 
-/// Ends the last cell of a row, without the CR of the line end; behind a quote that has not come into it.
+/// Ends the last cell of a row, without the CR of the line end. After a quote, the CR has not been added.
 void CsvReader::endLine(CsvRow& row) {
   if (state_ == State::plain && cell_.ends_with('\r')) cell_.pop_back();
   endCell(row);

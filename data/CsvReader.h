@@ -9,30 +9,32 @@
 
 namespace verdalis {
 
-/// A row of a table as it was read.
+/// A row of a table as read.
 struct CsvRow {
-  std::vector<std::string> cells;  ///< Without the quotes, at most as many as the reader keeps
-  std::size_t count = 0;           ///< Cells that the row has
-  std::string fault;  ///< What is wrong with the row, and where; its cells are of no use then. Empty if none
+  std::vector<std::string> cells;  ///< Without quotes; at most as many as the reader keeps
+  std::size_t count = 0;           ///< Number of cells in the row
+  std::string fault;  ///< What is wrong with the row, and where; the cells are then invalid. Empty if nothing
+                      ///< is wrong
 };
 
-/// Reads a table row by row as RFC 4180 has it: cells between commas, those in quotes with commas, line ends
-/// and doubled quotes in them. Lines end with CR LF or LF; a CR elsewhere belongs to its cell. A byte order
-/// mark in front and blank lines are passed over. Text must be UTF-8. Whatever the rows hold, no more than
-/// one of the longest is in memory; a longer one has a fault, and so has one with a quote where none may
-/// stand. The row behind a faulty one begins where its line ends.
+/// Reads a table row by row according to RFC 4180: cells are separated by commas; a cell in quotes may
+/// contain commas, line ends and doubled quotes. Lines end with CR LF or LF; a CR elsewhere is part of its
+/// cell. A byte order mark at the start and blank lines are skipped. The text must be UTF-8. At most one row
+/// of the maximum size is in memory. A longer row, and a row with a misplaced quote, has a fault; reading
+/// continues after the end of its line.
 class CsvReader {
  public:
-  static constexpr std::size_t mostBytes = 1U << 20U;  ///< In the cells of a row
+  static constexpr std::size_t mostBytes = 1U << 20U;  ///< Of the cells of a row
   static constexpr std::size_t mostCells = 4096;
 
   explicit CsvReader(ByteSource& source);
 
-  /// From now on the cells behind the first `count` of a row are only counted.
+  /// Keeps only the first `count` cells of each further row; the others are only counted.
   void keepCells(std::size_t count) { keptCells_ = count; }
 
-  /// Reads the next row. \returns false at the end of the table.
-  /// \throws RunTimeError when the bytes cannot be read
+  /// Reads the next row.
+  /// \returns false at the end of the table.
+  /// \throws RunTimeError if the bytes cannot be read
   [[nodiscard]] bool next(CsvRow& row);
 
  private:
@@ -57,8 +59,8 @@ class CsvReader {
   bool isFirst_ = true;
   std::size_t keptCells_ = mostCells;
   std::string cell_;
-  std::size_t bytes_ = 0;  ///< Of the cells of the row
-  bool isBlank_ = true;    ///< Nothing but blanks in the row so far
+  std::size_t bytes_ = 0;  ///< In the cells of the row
+  bool isBlank_ = true;    ///< The row contains only blanks so far
   State state_ = State::cellStart;
 };
 

@@ -10,7 +10,7 @@
 
 namespace verdalis {
 
-/// An input of a farm that a question varies alone, all others as they stand.
+/// An input of a farm that a question varies. All other inputs keep their values.
 struct FarmInput {
   enum class Kind {
     water,       ///< Gross inches over the farm
@@ -22,44 +22,43 @@ struct FarmInput {
   };
 
   Kind kind = Kind::water;
-  std::string
-      crop;  ///< Name of the crop of a price or a yield, as the library spells it; each row of it counts
+  std::string crop;  ///< Crop name of a price or yield, as in the library; applies to every row of this crop
 
   friend bool operator==(const FarmInput&, const FarmInput&) = default;
 };
 
-/// The word of a kind, such as "max-yield", in the order of the kinds.
+/// The names of the kinds, such as "max-yield", in the order of the kinds.
 inline constexpr std::array<std::string_view, 6> inputWords{"water", "rain",  "efficiency",
                                                             "fuel",  "price", "max-yield"};
 
-/// Whether inputs of a kind belong to a crop.
+/// Whether inputs of this kind belong to a crop.
 [[nodiscard]] constexpr bool isOfCrop(FarmInput::Kind kind) {
   return kind == FarmInput::Kind::price || kind == FarmInput::Kind::maxYield;
 }
 
-/// How an input is named, such as "water" or "price Corn".
+/// The name of an input, such as "water" or "price Corn".
 [[nodiscard]] std::string inputName(const FarmInput& input);
 
-/// An input with a value, such as "price Corn 6.52".
+/// An input and a value, such as "price Corn 6.52".
 [[nodiscard]] std::string inputText(const FarmInput& input, double value);
 
-/// Whether the farm has the input: a price or a yield needs a chosen crop of that name.
+/// Whether the farm has the input: a price or a yield requires a chosen crop of that name.
 [[nodiscard]] bool hasInput(const Farm& farm, const FarmInput& input);
 
-/// The value of an input as it stands; of several rows of one crop, that of the first. The farm must have it.
+/// The current value of an input, which the farm must have. If a crop has several rows, that of the first
+/// row.
 [[nodiscard]] double valueOf(const Farm& farm, const FarmInput& input);
 
-/// Sets an input to that very number. The crops of the farm are changed in place, so the farm should be a
-/// Copy().
-/// \throws RunTimeError (overflow) for water that is too much to count
+/// Sets an input to exactly this number. This changes the crops of the farm, so pass a Copy().
+/// \throws RunTimeError (overflow) if the volume of water is too large
 void setInput(Farm& farm, const FarmInput& input, double value);
 
-/// A copy of the farm with one input set.
-/// \throws RunTimeError as setInput()
+/// A copy of the farm with one input changed.
+/// \throws RunTimeError like setInput()
 [[nodiscard]] Farm withInput(const Farm& farm, const FarmInput& input, double value);
 
-/// `count` values from `from` to `to`, evenly: from + (to - from) * i / (count - 1), the last exactly `to`.
-/// `count` must be 2 or more.
+/// `count` evenly spaced values: from + (to - from) * i / (count - 1); the last is exactly `to`. `count` must
+/// be at least 2.
 [[nodiscard]] std::vector<double> evenValues(double from, double to, std::size_t count);
 
 }  // namespace verdalis

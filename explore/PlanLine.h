@@ -8,19 +8,19 @@
 
 namespace verdalis {
 
-/// What one plan earns as one input of the farm varies: its crops, acres and depths stay.
+/// The profit of one plan as a function of one input of the farm. Its crops, acres and depths are fixed.
 class PlanLine {
  public:
   struct Point {
     Plan plan;
-    double magnitude = 0;  ///< Returns and costs of the fields, all added as amounts without sign, dollars
+    double magnitude = 0;  ///< Sum of the absolute returns and costs of the fields, dollars
   };
 
-  /// `option` is a plan of the farm that holds the crops that it was priced with.
+  /// `option` is a plan of the farm, with the crops used to price it.
   PlanLine(const Farm& farm, const FarmInput& input, const FieldCollection& option);
 
-  /// The plan with the input at a value, priced to the last bit as an evaluation prices it.
-  /// \throws RunTimeError as that does
+  /// The plan at a value of the input, priced exactly as by an evaluation.
+  /// \throws RunTimeError if the evaluation would
   [[nodiscard]] Point at(double value) const;
 
  private:
@@ -29,7 +29,7 @@ class PlanLine {
     double depth;  ///< Net inches
   };
 
-  Farm farm_;  ///< Its crops are those of the fields, in order
+  Farm farm_;  ///< With the crops of the fields, in order
   FarmInput input_;
   std::vector<PlannedDepth> fields_;
 };

@@ -8,7 +8,7 @@
 namespace verdalis {
 namespace {
 
-/// The hooks of one search of several. The search forgets a cancel from before its start; this reminds it.
+/// Hooks for one of several searches. A search resets a cancel at its start; these hooks set it again.
 class StandingCancel : public RunHooks {
  public:
   StandingCancel(const ProgramState& caller, RunHooks& hooks, ProgramState& own)
@@ -32,7 +32,7 @@ BestMix::Option bestOption(const Farm& farm, ProgramState& state, RunHooks& hook
   StandingCancel standing(state, hooks, own);
   Scenario scenario = scenarioOf(farm);
   scenario.size = 1;
-  scenario.mixes = false;  // the best plan is the best of its mix
+  scenario.mixes = false;  // the best plan is also the best of its mix
   std::optional<BestMix> best = evaluateScenario(scenario, own, standing);
   if (!best || state.CancelRequested) return nullptr;
   BestMix::Option option = best->returnCollection(false).front();

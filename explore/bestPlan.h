@@ -25,7 +25,7 @@ struct PlannedField {
 
 /// The best option of a farm.
 struct Plan {
-  double profit = 0;  ///< Dollars for the farm, to the last bit that of an evaluation
+  double profit = 0;  ///< Dollars for the farm, exactly as in an evaluation
   std::vector<PlannedField> fields;
 };
 
@@ -37,10 +37,10 @@ class NoPlan : public std::runtime_error {
         relaxations_(std::move(relaxations)),
         where_(std::move(where)) {}
 
-  /// What to give up; best profit first.
+  /// The wishes to give up; best profit first.
   [[nodiscard]] const std::vector<Relaxation>& relaxations() const { return relaxations_; }
 
-  /// The inputs of the point, of several, that has none, such as "water 1.5".
+  /// The inputs of the failed point, such as "water 1.5", if there are several points.
   [[nodiscard]] const std::string& where() const { return where_; }
 
  private:
@@ -48,14 +48,15 @@ class NoPlan : public std::runtime_error {
   std::string where_;
 };
 
-/// The first option that an evaluation of the farm ranks, priced. Cancel is asked for by `state`, which may
-/// serve several searches, one after the other; a cancel stands until the caller takes it back. \returns
-/// nothing after a cancel. \throws NoPlan where the wishes leave none, or where the farm has no crop \throws
-/// RunTimeError as an evaluation does
+/// The first option in an evaluation of the farm, priced. A cancel is requested in `state`, which several
+/// searches may use one after the other; it stays set until the caller resets it.
+/// \returns nothing after a cancel.
+/// \throws NoPlan if no plan meets the wishes or the farm has no crop
+/// \throws RunTimeError as an evaluation does
 [[nodiscard]] BestMix::Option bestOption(const Farm& farm, ProgramState& state, RunHooks& hooks);
 
-/// An option as a plan; `efficiency` is a fraction.
-/// \throws RunTimeError as its pricing does
+/// Converts an option to a plan. `efficiency` is a fraction.
+/// \throws RunTimeError if pricing fails
 [[nodiscard]] Plan planOf(FieldCollection& option, double efficiency);
 
 /// bestOption() as a plan.

@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::chrono::milliseconds betweenTurns{10};
 
-/// What the threads share.
+/// State shared by the threads.
 class Points {
  public:
   Points(std::size_t count, const FarmOfPoint& farmOf, const NameOfPoint& nameOf)
@@ -24,7 +24,7 @@ class Points {
   std::vector<Plan> plans;
   std::atomic<bool> stopped = false;
 
-  /// Works points out until none is left. `base` is of this thread alone.
+  /// Solves points until none is left. Only this thread uses `base`.
   void work(const Farm& base);
 
   void beginThread() {
@@ -39,10 +39,10 @@ class Points {
 
   struct Stand {
     std::size_t done;
-    bool ended;  ///< No thread is at work any more
+    bool ended;  ///< All threads have finished
   };
 
-  /// Waits a moment, or until more than `told` points are done or all threads have ended.
+  /// Waits for a short time, or until more than `told` points are done or all threads have finished.
   [[nodiscard]] Stand wait(std::size_t told) {
     std::unique_lock lock(mutex_);
     changed_.wait_for(lock, betweenTurns, [&] { return done_ > told || working_ == 0; });
@@ -62,11 +62,11 @@ class Points {
   std::condition_variable changed_;
   unsigned working_ = 0;
   std::size_t done_ = 0;
-  std::size_t firstFailed_;     ///< Points from there on need no working out
-  std::exception_ptr failure_;  ///< Of that point
+  std::size_t firstFailed_;     ///< This point and later ones need not be solved
+  std::exception_ptr failure_;  ///< Of the first failed point
 };
 
-/// The hooks of a thread: they pass a cancel on.
+/// Hooks of a thread. They pass a cancel on.
 class ThreadHooks : public RunHooks {
  public:
   ThreadHooks(const std::atomic<bool>& stopped, ProgramState& state) : stopped_(stopped), state_(state) {}
@@ -84,7 +84,7 @@ void Points::work(const Farm& base) {
       const std::lock_guard lock(mutex_);
       if (point >= firstFailed_) return;
     }
-    // Points are handed out in their order, so none before the first that fails is left out.
+    // Points are taken in order, so all points before the first failed one are solved.
     try {
       solve(base, point);
     } catch (const NoPlan& noPlan) {
@@ -113,7 +113,7 @@ void Points::solve(const Farm& base, std::size_t point) {
   changed_.notify_one();
 }
 
-/// Stops the threads when the caller is done with them, however that comes.
+/// Stops the threads at the end of the scope, also after an exception.
 class StopAtEnd {
  public:
   explicit StopAtEnd(Points& points) : points_(points) {}
@@ -125,7 +125,7 @@ class StopAtEnd {
   Points& points_;
 };
 
-/// A thread for each farm, or as many as the machine lets start.
+/// Starts a thread for each farm, or as many as the system allows.
 std::vector<std::jthread> startThreads(Points& points, const std::vector<Farm>& bases) {
   std::vector<std::jthread> threads;
   for (const Farm& own : bases) {
@@ -154,7 +154,8 @@ std::optional<std::vector<Plan>> bestPlans(const Farm& base, std::size_t count, 
                                            const NameOfPoint& nameOf, ProgramState& state, RunHooks& hooks,
                                            unsigned jobs) {
   const auto threads = static_cast<unsigned>(std::min<std::size_t>(std::max(jobs, 1U), count));
-  // A farm of its own for each thread: what a crop makes at its first use is not made for several of them.
+  // Each thread has its own farm: a crop creates some of its data at first use, which must not happen in two
+  // threads.
   std::vector<Farm> bases;
   for (unsigned i = 0; i < threads; ++i)
     bases.push_back(base.Copy());

@@ -10,20 +10,20 @@
 
 namespace verdalis {
 
-/// The farm of a point, made from a copy of the base farm that no other thread uses.
+/// Makes the farm of a point from a base farm that no other thread uses.
 using FarmOfPoint = std::function<Farm(const Farm& base, std::size_t point)>;
 
-/// Names a point for a message, such as "water 1.5".
+/// Names a point for messages, such as "water 1.5".
 using NameOfPoint = std::function<std::string(std::size_t point)>;
 
-/// How many searches this machine carries out side by side.
+/// The number of searches that this machine can run in parallel.
 [[nodiscard]] unsigned allCores();
 
-/// The best plan of each of `count` points, in their order, worked out on `jobs` threads: the same plans
-/// whatever their number. `hooks` is called by this thread alone and hears of a step for each point that is
-/// done; showing the progress is left to the caller.
+/// Finds the best plan of each of `count` points with `jobs` threads and returns them in point order. The
+/// result does not depend on `jobs`. Only the calling thread calls `hooks`, with one step for each finished
+/// point; the caller shows the progress.
 /// \returns nothing after a cancel.
-/// \throws what bestPlan() throws for the first point that fails; a NoPlan names it
+/// \throws the exceptions of bestPlan() for the first point that fails; a NoPlan names the point
 [[nodiscard]] std::optional<std::vector<Plan>> bestPlans(const Farm& base, std::size_t count,
                                                          const FarmOfPoint& farmOf, const NameOfPoint& nameOf,
                                                          ProgramState& state, RunHooks& hooks,

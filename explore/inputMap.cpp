@@ -19,8 +19,8 @@ std::optional<InputMap> exploreMap(const Farm& farm, const MapAxis& x, const Map
                                    RunHooks& hooks, unsigned jobs) {
   const std::size_t columns = x.values.size();
   const std::size_t count = columns * y.values.size();
-  // The second input finds the first in place, so that the scale of a crop follows from its yield and the
-  // rain in either order.
+  // The second input is set on the copy with the first, so the scale of a crop is correct for its yield and
+  // the rain in either order.
   const FarmOfPoint farmOf = [&](const Farm& base, std::size_t point) {
     Farm changed = withInput(base, x.input, x.values[point % columns]);
     setInput(changed, y.input, y.values[point / columns]);

@@ -10,26 +10,26 @@
 
 namespace verdalis {
 
-/// An input with the values that it takes.
+/// An input and its values.
 struct MapAxis {
   FarmInput input;
   std::vector<double> values;
 };
 
-/// The best plans over the values of two inputs.
+/// The best plans for the values of two inputs.
 struct InputMap {
   MapAxis x;
   MapAxis y;
-  std::vector<Mix> mixes;        ///< Each once, in the order in which the points come to them
+  std::vector<Mix> mixes;        ///< Without duplicates, in the order of their first points
   std::vector<double> profit;    ///< By y, then by x, dollars
-  std::vector<std::size_t> mix;  ///< The same: a place in `mixes`
+  std::vector<std::size_t> mix;  ///< Index in `mixes`, in the same order
 
   [[nodiscard]] std::size_t at(std::size_t row, std::size_t column) const {
     return row * x.values.size() + column;
   }
 };
 
-/// The best plan at each pair of values; the inputs of x and y differ.
+/// Finds the best plan for each pair of values. The inputs of x and y must differ.
 /// \returns nothing after a cancel.
 /// \throws NoPlan, RunTimeError for the first point that fails, by y and then by x
 [[nodiscard]] std::optional<InputMap> exploreMap(const Farm& farm, const MapAxis& x, const MapAxis& y,

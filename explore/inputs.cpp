@@ -12,11 +12,11 @@ namespace {
 
 using Kind = FarmInput::Kind;
 
-/// The rain of the yield tables, inches.
+/// The range of rain in the yield tables, inches.
 constexpr double leastRain = 11;
 constexpr double mostRain = 21;
 
-/// A value with its neighbours, without profits.
+/// An input with its value, its lower and its higher value; the profits are not set.
 InputEffect around(const Farm& farm, const FarmInput& input, double percent, const InputBounds& bounds) {
   InputEffect effect;
   effect.input = input;
@@ -59,7 +59,7 @@ std::optional<InputsResult> exploreInputs(const Farm& farm, double percent,
   for (const FarmInput& input : inputsOf(farm))
     result.inputs.push_back(around(farm, input, percent, boundsOf(input)));
 
-  // Now, then low and high of each input in turn.
+  // The present farm, then low and high for each input.
   const std::size_t count = 1 + 2 * result.inputs.size();
   const FarmOfPoint farmOf = [&](const Farm& base, std::size_t point) {
     if (point == 0) return base.Copy();

@@ -9,7 +9,7 @@
 
 namespace verdalis {
 
-/// What a farm can be handed for an input, both ends included; nothing where there is no bound.
+/// The accepted range of an input, inclusive; nothing if there is no bound.
 struct InputBounds {
   std::optional<double> least;
   std::optional<double> most;
@@ -17,31 +17,32 @@ struct InputBounds {
   [[nodiscard]] double held(double value) const;
 };
 
-/// How much an input matters.
+/// The effect of an input on the profit.
 struct InputEffect {
   FarmInput input;
-  double now = 0;  ///< In the unit of the input, as `low` and `high`
+  double now = 0;  ///< In the unit of the input, like `low` and `high`
   double low = 0;
   double high = 0;
   double profitLow = 0;      ///< Best profit at `low`, dollars
   double profitHigh = 0;     ///< Best profit at `high`, dollars
-  bool changesPlan = false;  ///< The mix of the best plan at `low` or `high` is not that of now
+  bool changesPlan = false;  ///< The mix of the best plan at `low` or `high` differs from the present one
 };
 
-/// What matters most to a farm.
+/// The inputs of a farm by their effect.
 struct InputsResult {
   Plan now;
-  std::vector<InputEffect> inputs;  ///< By the larger of the two changes of the profit, largest first
+  std::vector<InputEffect> inputs;  ///< By the larger of the two profit changes, largest first
 };
 
-/// The inputs that a farm has: water, rain, efficiency, fuel, and by crop the price and the maximum yield of
-/// each chosen crop that has one.
+/// The inputs of a farm: water, rain, efficiency, fuel, and the price and maximum yield of each chosen crop
+/// that has them.
 [[nodiscard]] std::vector<FarmInput> inputsOf(const Farm& farm);
 
-/// The best profit with each input lower and higher by `percent`, above 0 and below 100, and held within its
-/// bounds; rain within 11 to 21 inches too.
+/// Finds the best profit with each input `percent` lower and higher (above 0 and below 100). The values are
+/// limited to their bounds, rain also to 11 to 21 inches.
 /// \returns nothing after a cancel.
-/// \throws NoPlan, RunTimeError for the first point that fails: now, then each input low and high
+/// \throws NoPlan, RunTimeError for the first point that fails: the present farm, then each input low and
+/// high
 [[nodiscard]] std::optional<InputsResult> exploreInputs(
     const Farm& farm, double percent, const std::function<InputBounds(const FarmInput&)>& boundsOf,
     ProgramState& state, RunHooks& hooks, unsigned jobs = allCores());

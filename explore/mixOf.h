@@ -15,11 +15,11 @@ struct MixPart {
   friend bool operator==(const MixPart&, const MixPart&) = default;
 };
 
-/// The acres and crops of a plan without regard to the order of its fields.
+/// The acres and crops of a plan; the order of the fields does not matter.
 using Mix = std::vector<MixPart>;
 
-/// The mix of a plan: most acres first, equal ones by the name of the crop. So two plans have one mix where
-/// these lists are equal.
+/// The mix of a plan, by acres, most first, then by crop name. Two plans have the same mix if these lists are
+/// equal.
 [[nodiscard]] Mix mixOf(const Plan& plan);
 
 }  // namespace verdalis

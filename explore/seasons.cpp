@@ -14,17 +14,17 @@
 namespace verdalis {
 namespace {
 
-constexpr double rainStep = 3;    ///< Inches between the usual seasons
-constexpr double leastRain = 11;  ///< Inches; the yield tables begin here
-constexpr double mostRain = 21;   ///< Inches; and end here
+constexpr double rainStep = 3;    ///< Inches between the default seasons
+constexpr double leastRain = 11;  ///< Inches; lowest rain of the yield tables
+constexpr double mostRain = 21;   ///< Inches; highest rain of the yield tables
 
-/// A plan with what the comparison of two plans needs.
+/// A plan with the data for comparing it.
 struct RankedPlan {
   SeasonPlan plan;
   std::vector<std::size_t> crops;  ///< Position of each field's crop
 };
 
-/// The farm in each season. The scenarios stay where they are: the search refers to them.
+/// The farm in each season. The scenarios are not moved because the search refers to them.
 class SeasonFarms {
  public:
   SeasonFarms(const Farm& farm, const std::vector<Season>& seasons) {
@@ -60,7 +60,8 @@ class SeasonSearch {
   SeasonSearch(const SeasonFarms& farms, const std::vector<Season>& seasons, RunPulse& pulse)
       : farms_(farms), question_(makeQuestion(farms, seasons)), search_(question_, pulse) {}
 
-  /// \returns nothing after a cancel.
+  /// Runs the search.
+  /// \returns false after a cancel.
   [[nodiscard]] bool run(const std::vector<double>& bestProfits, SeasonsResult& result) {
     if (!search_.price()) return false;
     const auto kept = search_.best();
@@ -122,8 +123,8 @@ class SeasonSearch {
     return ranked;
   }
 
-  /// A crop on the undivided farm. It is submitted after all others, so it stands above plans of equal
-  /// average and below a plan of equal regret.
+  /// Adds a crop on the undivided farm. It is submitted last, so it ranks above plans of equal average, but
+  /// is not the safest among plans of equal regret.
   void submitUndivided(std::size_t position, const std::vector<double>& bestProfits,
                        std::vector<RankedPlan>& ranking, std::optional<SeasonPlan>& least) const {
     RankedPlan ranked;
@@ -159,8 +160,8 @@ class SeasonSearch {
     return true;
   }
 
-  /// Whether two neighbours of the ranking count as duplicates, by the rule of BestMix::sameScenario(): once
-  /// the first field of the lower one has found a partner, the others are not asked any more.
+  /// Whether two neighbours in the ranking are duplicates, by the rule of BestMix::sameScenario(): if the
+  /// first field of the lower plan has a match, the other fields are not compared.
   [[nodiscard]] bool areDuplicates(const RankedPlan& lower, const RankedPlan& above) const {
     if (lower.plan.average != above.plan.average) return false;
     if (lower.plan.fields.size() != above.plan.fields.size()) return true;

@@ -12,16 +12,16 @@ namespace verdalis {
 struct Season {
   std::string name;
   double rain = 0;    ///< Annual rainfall, inches
-  double weight = 0;  ///< How often it comes, against the others; above 0
+  double weight = 0;  ///< Relative frequency; above 0
 };
 
-/// A season with its own best plan.
+/// A season and its best plan.
 struct SeasonBest {
   Season season;
   Plan best;
 };
 
-/// A plan that is chosen before the season is known. The yields of `fields` are not told: they differ by
+/// A plan chosen before the season is known. The yields of `fields` are not set because they differ by
 /// season.
 struct SeasonPlan {
   double average = 0;           ///< Weighted average of the profits, dollars
@@ -31,18 +31,19 @@ struct SeasonPlan {
   std::vector<PlannedField> fields;
 };
 
-/// How plans do over several seasons.
+/// The results of plans over several seasons.
 struct SeasonsResult {
   std::vector<SeasonBest> seasons;
-  std::vector<SeasonPlan> options;  ///< The farm's `size` best by average
-  SeasonPlan safest;                ///< The least regret of all candidates, the first submitted of equal ones
+  std::vector<SeasonPlan> options;  ///< The best by average, up to the farm's `size`
+  SeasonPlan safest;  ///< Least regret of all candidates; the first submitted if several are equal
 };
 
-/// Dry, normal and wet: 3 inches below, at and 3 inches above the rain, held within 11 to 21 inches,
-/// weighing 1, 2 and 1.
+/// Dry, normal and wet: 3 inches below the rain, at it and 3 inches above it, limited to 11 to 21 inches,
+/// with weights 1, 2 and 1.
 [[nodiscard]] std::vector<Season> usualSeasons(double rain);
 
-/// The plans with the best average over the seasons, and the safest one, exact among all candidates.
+/// Finds the plans with the best average over the seasons, and the safest plan, exactly, among all
+/// candidates.
 /// \returns nothing after a cancel.
 /// \throws NoPlan, RunTimeError as the evaluation of a season does
 [[nodiscard]] std::optional<SeasonsResult> exploreSeasons(const Farm& farm,

@@ -13,7 +13,7 @@
 namespace verdalis {
 namespace {
 
-/// A plan that is the best at one value at least, and what it earns at both ends of the range.
+/// A plan that is the best for at least one value, with its profit at both ends of the range.
 struct Line {
   PlanLine plan;
   double atFrom;
@@ -29,7 +29,7 @@ struct Best {
   SharedLine line;
 };
 
-/// A line that was found to be the best from a value on.
+/// A line that is the best from a value on.
 struct Piece {
   SharedLine line;
   double from;
@@ -69,32 +69,34 @@ class UpperEdge {
                 std::make_shared<const Line>(Line{std::move(plan), start.plan.profit, end.plan.profit})};
   }
 
-  /// Notes a line. \returns whether it is new.
+  /// Records a line.
+  /// \returns whether it is new.
   bool take(const Line& line) { return known_.emplace(line.atFrom, line.atTo).second; }
 
   [[nodiscard]] double noise() const { return magnitude_ * roundings; }
 
-  /// Lines are straight, so they are nowhere further apart than at the ends.
+  /// Whether two lines count as one. Lines are straight, so their distance is largest at an end.
   [[nodiscard]] bool isOne(const Line& a, const Line& b) const {
     const double limit = std::max(apart_, noise());
     return std::fabs(a.atFrom - b.atFrom) <= limit && std::fabs(a.atTo - b.atTo) <= limit;
   }
 
-  /// Where two lines cross, held within the two values. Lines that meet at an end but for rounding cross
-  /// there.
+  /// The value where two lines cross, limited to the two given values. Lines that meet at an end except for
+  /// rounding cross there.
   [[nodiscard]] double crossing(const Best& left, const Best& right) const {
     const double leadFrom = left.line->atFrom - right.line->atFrom;
     const double leadTo = right.line->atTo - left.line->atTo;
     double value = from_ + (to_ - from_) * (leadFrom / (leadFrom + leadTo));
     if (leadFrom <= noise()) value = from_;
     if (leadTo <= noise()) value = to_;
-    return value > left.value ? std::min(value, right.value) : left.value;  // where it is no number too
+    return value > left.value ? std::min(value, right.value) : left.value;  // also if `value` is not a number
   }
 
-  /// Fills pieces_. \returns false after a cancel.
+  /// Fills pieces_.
+  /// \returns false after a cancel.
   bool trace(Best left, const Best& last) {
     pieces_.push_back({left.line, from_});
-    std::vector<Best> ahead{last};  // the nearest at the back
+    std::vector<Best> ahead{last};  // the nearest is last
     while (!ahead.empty()) {
       const Best& right = ahead.back();
       if (!isOne(*left.line, *right.line)) {
@@ -116,8 +118,8 @@ class UpperEdge {
     return true;
   }
 
-  /// Whether a plan stands between two others. Each that does is new, so the search comes to an end whatever
-  /// rounding does.
+  /// Whether a plan lies between two others. Each such plan is new, so the search ends whatever the rounding
+  /// errors are.
   bool isBetween(const Best& left, const Best& middle, const Best& right) {
     const double below =
         std::max(left.line->plan.at(middle.value).plan.profit, right.line->plan.at(middle.value).plan.profit);
@@ -134,13 +136,13 @@ class UpperEdge {
       result.push_back({pieces_[i].from, end, start.plan.profit, pieces_[i].line->plan.at(end).plan.profit,
                         std::move(start.plan.fields)});
     }
-    // Of lines that count as one another may be the best at an end, by the last bits.
+    // Of two lines that count as one, the other may be better at an end in its last bits.
     result.front().profitFrom = profitFrom;
     result.back().profitTo = profitTo;
     return result;
   }
 
-  /// Leaves out what holds at one value alone, and joins what then meets itself.
+  /// Removes segments that hold at a single value, and joins neighbours that are then the same line.
   void dropEmpty() {
     std::vector<Piece> kept;
     for (std::size_t i = 0; i < pieces_.size(); ++i) {
@@ -159,10 +161,10 @@ class UpperEdge {
   double to_;
   ProgramState& state_;
   RunHooks& hooks_;
-  std::set<std::pair<double, double>> known_;  ///< Lines, by their profits at the ends
+  std::set<std::pair<double, double>> known_;  ///< Known lines, by their profits at the ends
   std::vector<Piece> pieces_;
-  double magnitude_ = 0;  ///< The largest sum of amounts that was met
-  double apart_ = 0;      ///< What lines may differ by and count as one, dollars
+  double magnitude_ = 0;  ///< Largest sum of amounts so far
+  double apart_ = 0;      ///< Maximum difference of lines that count as one, dollars
 };
 
 }  // namespace

@@ -8,25 +8,25 @@
 
 namespace verdalis {
 
-/// A range of an input over which one plan stays the best.
+/// A range of an input in which one plan is the best.
 struct SwitchSegment {
   double from = 0;
   double to = 0;
   double profitFrom = 0;  ///< Profit of the plan at `from`, dollars
   double profitTo = 0;
-  std::vector<PlannedField> fields;  ///< The yields are those at `from`
+  std::vector<PlannedField> fields;  ///< With the yields at `from`
 };
 
-/// Whether the profit of a plan is linear in the input: a price, a maximum yield, the fuel.
+/// Whether the profit of a plan is linear in the input. True for a price, a maximum yield and fuel.
 [[nodiscard]] bool isLinear(const FarmInput& input);
 
-/// The best plan for every value of a linear input from `from` to `to`, which must be larger: segments
-/// without gaps, in order.
+/// Finds the best plan for every value of a linear input from `from` to `to`, which must be larger: segments
+/// in order, without gaps.
 ///
-/// The best profit is the upper edge of the lines of the plans. Its corners are found by intersection: where
-/// the best plan at the crossing of two neighbours is above both, it stands between them. Lines that are
-/// nowhere apart by more than 1e-12 of the best profit at the ends (at least $1), or by more than rounding
-/// can tell, count as one.
+/// The best profit is the upper envelope of the lines of the plans. Its corners are found by intersection: if
+/// the best plan where two neighbours cross is above both, it lies between them. Two lines count as one if
+/// they differ nowhere by more than the larger of the rounding error and 1e-12 of the best profit at the ends
+/// (at least $1).
 /// \returns nothing after a cancel.
 /// \throws NoPlan, RunTimeError as bestPlan()
 [[nodiscard]] std::optional<std::vector<SwitchSegment>> switchPrices(const Farm& farm, const FarmInput& input,

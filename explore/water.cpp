@@ -16,7 +16,7 @@ double perAcreInch(double dollars, const Farm& farm) {
   return checked(dollars / farm.acres, "The worth of an inch of water");
 }
 
-/// Nothing where the farm cannot go without its last inch, and after a cancel.
+/// The value of the last inch; nothing if there is no plan without it, and after a cancel.
 std::optional<double> lastInch(const Farm& farm, const Plan& now, ProgramState& state, RunHooks& hooks) {
   const double rest = farm.grossDepth - 1;
   if (rest < 0 || !isWater(farm, rest)) return std::nullopt;
@@ -25,7 +25,7 @@ std::optional<double> lastInch(const Farm& farm, const Plan& now, ProgramState& 
     if (!plan) return std::nullopt;
     return perAcreInch(now.profit - plan->profit, farm);
   } catch (const NoPlan&) {
-    return std::nullopt;  // the wishes need that inch
+    return std::nullopt;  // the wishes require the last inch
   }
 }
 
@@ -46,7 +46,7 @@ std::vector<double> usualAmounts(const Farm& farm) {
 
 std::optional<WaterResult> exploreWater(const Farm& farm, const std::vector<double>& amounts,
                                         ProgramState& state, RunHooks& hooks, unsigned jobs) {
-  // The present amount, an inch more, and then the amounts asked for.
+  // The present amount, one inch more, and then the requested amounts.
   std::vector<double> all{farm.grossDepth, farm.grossDepth + 1};
   const std::size_t first = all.size();
   all.insert(all.end(), amounts.begin(), amounts.end());

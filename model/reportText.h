@@ -7,19 +7,21 @@
 
 namespace verdalis {
 
-// Numbers as the text reports of the ranking and of the splits print them.
+// Lines of the text reports of the ranking and of the splits.
 
-/// "Profit = $" and the dollars with cents, then CR LF. \throws RunTimeError (overflow)
+/// "Profit = $" with dollars and cents, then CR LF.
+/// \throws RunTimeError (overflow)
 [[nodiscard]] std::string profitLine(double dollars);
 
-/// "Return = $" and the whole dollars, then CR LF. \throws RunTimeError (overflow)
+/// "Return = $" with whole dollars, then CR LF.
+/// \throws RunTimeError (overflow)
 [[nodiscard]] std::string returnLine(double dollars);
 
-/// The gross irrigated volume of an option in acre-inches, with two decimals or whole, then an empty line.
-/// \throws RunTimeError (divisionByZero) while the irrigation efficiency is 0, (overflow)
+/// The gross irrigation volume of an option in acre-inches, with two decimals or none, then an empty line.
+/// \throws RunTimeError (divisionByZero) if the irrigation efficiency is 0, (overflow)
 [[nodiscard]] std::string grossVolumeLine(const FieldCollection& option, bool twoDecimals);
 
-/// Each volume as general number text with its unit, acre-inches.
+/// Each volume as a general number with its unit, acre-inches.
 [[nodiscard]] std::string volumesText(const std::vector<double>& acreInches);
 
 }  // namespace verdalis

@@ -2,8 +2,8 @@
 
 namespace verdalis {
 
-/// A volume of water, acre-inches, rounded to a whole number as the main pane shows it, halves away from
-/// zero. The run reads that number, so the rounding is part of every result. 0 where the pane shows nothing.
+/// A volume of water in acre-inches, rounded to a whole number as on the main pane, halves away from zero; 0
+/// if the pane shows nothing. The run uses this number, so the rounding affects every result.
 /// \throws RunTimeError (overflow)
 [[nodiscard]] double wholeVolume(double acreInches);
 

@@ -7,28 +7,29 @@
 
 namespace verdalis {
 
-/// A step on the way to the net return of a field.
+/// A step in the calculation of the net return of a field.
 struct ExplainedStep {
   std::string what;     ///< Such as "Nitrogen cost"
-  std::string formula;  ///< In words and numbers, which have the digits of the details screen
-  double value = 0;     ///< Unrounded. Money is for the whole field
-  std::string unit;     ///< Of the value: "inches", "bu./ac", "$"; empty for a plain number
-  std::string shown;    ///< The value with its unit, for reading
+  std::string formula;  ///< In words and numbers, with as many digits as on the details screen
+  double value = 0;     ///< Unrounded; money is for the whole field
+  std::string unit;     ///< Unit of the value: "inches", "bu./ac", "$"; empty for a plain number
+  std::string shown;    ///< The value with its unit, for display
 };
 
-/// The steps of one field, in their order.
+/// The steps of one field, in order.
 class ExplainedSteps {
  public:
   explicit ExplainedSteps(double acres) : acres_(acres) {}
 
-  /// A value that is no money; `digits` is its text without the unit.
+  /// Adds a value other than money. `digits` is its text without the unit.
   void add(std::string what, std::string formula, double value, std::string digits, std::string unit);
 
-  /// An amount of dollars.
+  /// Adds an amount of dollars.
   /// \throws RunTimeError (overflow)
   void addMoney(std::string what, std::string formula, double amount);
 
-  /// An amount of the field, or of a farm of other acres. The formula gets the amount per acre behind it.
+  /// Adds an amount of the field, or of a farm with other acres. The amount per acre is appended to the
+  /// formula.
   /// \throws RunTimeError (overflow)
   void addPerAcre(std::string what, std::string formula, double amount,
                   std::string_view acrePattern = "###,##0.00");
@@ -37,7 +38,7 @@ class ExplainedSteps {
 
   [[nodiscard]] std::vector<ExplainedStep> take() { return std::move(steps_); }
 
-  /// "62.5 acres"
+  /// The acres of the field, such as "62.5 acres".
   [[nodiscard]] std::string acresText() const;
 
  private:
@@ -45,13 +46,14 @@ class ExplainedSteps {
   std::vector<ExplainedStep> steps_;
 };
 
-/// "$" and a rate as it was typed.
+/// "$" and a rate as typed.
 [[nodiscard]] std::string rateText(double rate);
 
-/// Dollars and cents, such as "$1,234.50". \throws RunTimeError (overflow)
+/// Dollars and cents, such as "$1,234.50".
+/// \throws RunTimeError (overflow)
 [[nodiscard]] std::string moneyText(double amount);
 
-/// "s" behind all numbers but 1.
+/// The unit, with "s" for every number except 1.
 [[nodiscard]] std::string counted(double number, const std::string& unit);
 
 }  // namespace verdalis

@@ -48,7 +48,7 @@ void explainOption(ExplainedSteps& steps, FieldCollection& option, double effici
 
 std::vector<ExplainedStep> explainField(const FieldCollection& option, std::size_t number,
                                         double efficiency) {
-  FieldCollection own = option.Copy();  // pricing leaves its traces
+  FieldCollection own = option.Copy();  // pricing changes the fields
   const Field& asked = *own.Item(static_cast<long>(number));
   const FieldPlan plan{asked.acres, asked.Depth, asked.annualRain};
   const ExplainedField field{plan, *asked.theCrop, *asked.irrigCosts, efficiency,

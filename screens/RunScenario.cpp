@@ -38,7 +38,7 @@ BestMix RunScenario(const ScenarioInputs& inputs, const CropScenario& library,
   };
   const Scenario scenario =
       readScenario(inputs, library, *tempIrrigationCosts, efficiency, state, beginProgress);
-  const CropScenario crops = state.cs;  // a run inside this one has crops of its own
+  const CropScenario crops = state.cs;  // a nested run has its own crops
 
   // The only place where pricing changes the library and the plant: the screens show these values.
   const auto leaveBehind = [&](std::size_t crop, const Field& priced) {

@@ -35,8 +35,8 @@ struct ScenarioInputs {
   std::vector<CropRowInput> cr;           ///< Crop rows
   bool chkNoSplit = false;                ///< Also evaluate each crop on the undivided farm
   std::string txtArraySize = "100";       ///< Options to keep
-  std::vector<Wish> wishes;               ///< What every plan must meet
-  bool mixes = false;                     ///< Keep the best plan of each mix of crops alone
+  std::vector<Wish> wishes;               ///< Wishes that every plan must meet
+  bool mixes = false;                     ///< Keep only the best plan of each mix
 };
 
 /// Whether all inputs that a run needs are entered: the acres, the inches, the resulting volume, a numeric

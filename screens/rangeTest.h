@@ -5,11 +5,10 @@
 
 namespace verdalis {
 
-// The tests of what a person enters, on the text alone. Each returns the message that refuses the text, or
-// nothing for one that passes.
+// Range tests of user input. Each returns the message for a refused text, or nothing if the text is accepted.
 
-/// The range test of a text field: a text that is no number, a negative number and one above `limit` are
-/// refused, with a message that begins with `label`. An empty text, "-" and "." pass.
+/// The range test of a text field: refuses a text that is not a number, a negative number, and a number above
+/// `limit`. The message begins with `label`. An empty text, "-" and "." are accepted.
 [[nodiscard]] std::optional<std::string> rangeFault(const std::string& text, double limit,
                                                     const std::string& label);
 

@@ -31,9 +31,9 @@ CropScenario returnCrops(const ScenarioInputs& inputs, const CropScenario& libra
                                     const IrrigationCosts& plant, double efficiency, ProgramState& state,
                                     const std::function<void(std::size_t)>& onWaterSplits = nullptr);
 
-/// The farm of the texts, with crops of its own; nothing is left in the library. Its scenario is that of
-/// readScenario().
-/// \throws RunTimeError for a text that is no number
+/// The farm described by the texts, with its own crops; the library is not changed. Its scenario equals that
+/// of readScenario().
+/// \throws RunTimeError for a text that is not a number
 [[nodiscard]] Farm readFarm(const ScenarioInputs& inputs, const CropScenario& library,
                             const IrrigationCosts& plant, std::int16_t factor);
 

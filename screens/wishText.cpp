@@ -43,7 +43,7 @@ class Words {
     return index < count() && lowerCase(words_[index]) == word;
   }
 
-  /// The text of some words as it stands, blanks between them included.
+  /// The text from one word up to another, including the blanks between the words.
   [[nodiscard]] std::string_view between(std::size_t first, std::size_t end) const {
     const auto begin = static_cast<std::size_t>(words_.at(first).data() - text_.data());
     const std::string_view& last = words_.at(end - 1);
@@ -55,7 +55,7 @@ class Words {
   std::vector<std::string_view> words_;
 };
 
-/// The name with one blank between its words.
+/// The name with single blanks between its words.
 std::string squeezed(std::string_view name) {
   const Words words(name);
   std::string text;
@@ -75,8 +75,8 @@ bool contains(const std::vector<std::string>& names, std::string_view name) {
   return std::find(names.begin(), names.end(), name) != names.end();
 }
 
-/// The crop of the library that a name means: exactly, then ignoring case, then ignoring how many blanks
-/// stand between its words.
+/// The crop of the library with a name: matched exactly, then ignoring case, then ignoring the number of
+/// blanks between words.
 std::string cropNamed(std::string_view name, const WishContext& context) {
   if (contains(context.library, name)) return std::string(name);
   const auto alike = [&](auto form) {
@@ -99,7 +99,7 @@ std::string cropNamed(std::string_view name, const WishContext& context) {
                                   : " The crops are " + listOf(context.library) + "."));
 }
 
-/// The same, of the crops that take part.
+/// Like cropNamed(), for crops that take part in the run.
 std::string chosenCrop(std::string_view name, const WishContext& context) {
   std::string crop = cropNamed(name, context);
   if (!contains(context.chosen, crop))
@@ -112,7 +112,7 @@ double amountOf(std::string_view word) {
     refuse(quoteForMessage(word) + " is not a number.");
   const double amount = toDouble(word);
   if (amount < 0) refuse("The number " + std::string(word) + " is negative.");
-  return amount == 0 ? 0 : amount;  // without the sign of a negative zero
+  return amount == 0 ? 0 : amount;  // replaces a negative zero
 }
 
 std::size_t fieldOf(std::string_view word, const WishContext& context) {
@@ -127,7 +127,7 @@ std::size_t fieldOf(std::string_view word, const WishContext& context) {
          (context.fields == 1 ? "field 1 only." : "the fields 1 to " + std::to_string(context.fields) + "."));
 }
 
-/// The bound that "at least" or "at most" stands for, where these words are.
+/// Whether the words from `index` are "at least" (true) or "at most" (false); nothing for other words.
 std::optional<bool> isLeast(const Words& words, std::size_t index) {
   if (!words.is(index, "at")) return std::nullopt;
   if (words.is(index + 1, "least")) return true;
@@ -135,7 +135,7 @@ std::optional<bool> isLeast(const Words& words, std::size_t index) {
   return std::nullopt;
 }
 
-/// Whether a word is one of one thing or of several.
+/// Whether a word is the singular or plural of a unit.
 bool isUnit(const Words& words, std::size_t index, std::string_view one, std::string_view several) {
   return words.is(index, one) || words.is(index, several);
 }
@@ -173,7 +173,7 @@ Reading readDepth(const Words& words, const WishContext& context) {
   return Wish{*least ? Kind::depthAtLeast : Kind::depthAtMost, "", field, amountOf(words.at(4))};
 }
 
-/// CROP at least N acres; the name may have words of any kind in it, so the end decides.
+/// CROP at least N acres. The name may contain any words, so this form is read from its end.
 Reading readAcres(const Words& words, const WishContext& context) {
   if (words.count() < 5) return std::nullopt;
   const std::size_t name = words.count() - 4;
@@ -185,7 +185,8 @@ Reading readAcres(const Words& words, const WishContext& context) {
   return Wish{Kind::acresAtMost, cropNamed(crop, context), 0, amount};
 }
 
-/// A name can make a text fit several forms; the first that knows its crop counts.
+/// A text may fit several forms because a crop name can contain any words. The first form whose crop exists
+/// is used.
 constexpr std::array forms{readCount, readIsNot, readIs, readDepth, readAcres};
 
 std::string counted(double amount, const char* one, const char* several) {

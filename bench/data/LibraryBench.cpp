@@ -6,7 +6,7 @@
 #include "data/FileReader.h"
 #include "tests/support/TemporaryFolder.h"
 
-// The start of the program: the six crops that come with it.
+// Program start: reads the six stock crops.
 
 namespace {
 

@@ -8,7 +8,7 @@
 #include "tests/data/PlainTarget.h"
 #include "tests/support/TemporaryFolder.h"
 
-// The saved inputs of the example farm. They are saved before every run, and a trend loads them at its end.
+// The saved inputs of the example farm. Each run saves them first; a trend loads them at its end.
 
 namespace {
 
@@ -18,7 +18,7 @@ using verdalis::testing::PlainTarget;
 
 const fs::path example = source / "examples/high-plains/inputs.txt";
 
-/// A home folder with the stock crops, and a target that has a row for each.
+/// A home folder with the stock crops, and a target with a row for each of them.
 class ExampleFarm {
  public:
   ExampleFarm() {
@@ -43,7 +43,7 @@ void loadInputs(benchmark::State& state) {
 }
 BENCHMARK(loadInputs)->Unit(benchmark::kMicrosecond);
 
-// Nearly all of this is the disk: the file is flushed before it takes the place of the old one.
+// Most of this is disk time: the file is flushed before it replaces the old one.
 void saveInputs(benchmark::State& state) {
   ExampleFarm farm;
   if (!verdalis::loadInputs(example, farm.target)) state.SkipWithError("the example was not read");

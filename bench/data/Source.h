@@ -4,7 +4,8 @@
 
 namespace verdalis::bench {
 
-/// The root of the source tree, which the build knows; a tool that reads a file on its own starts there.
+/// The root of the source tree, as defined by the build. Without the definition, as in a tool that parses a
+/// single file, it is the current folder.
 #ifdef VERDALIS_SOURCE_DIR
 inline const std::filesystem::path source = VERDALIS_SOURCE_DIR;
 #else

@@ -10,14 +10,14 @@
 #include "desktop/Desktop.h"
 #include "desktop/Theme.h"
 
-// What a person sees: the start up to the painted main pane, a key press up to the field painted with it, and
-// one option after the other. Without a screen: what the display adds comes on top.
+// What a user waits for: the start until the main pane is painted, a key press until the field is painted,
+// and each next option. Without a screen, so the time of the display comes in addition.
 
 namespace {
 
 using namespace verdalis;
 
-/// The program on the example's saved farm, past the welcome window.
+/// The program with the saved farm of the example, after the welcome window.
 class Shown {
  public:
   Shown() {
@@ -45,7 +45,7 @@ class Shown {
   std::unique_ptr<desktop::Desktop> desktop_;
 };
 
-/// Of the windows alone: the process and the toolkit have been started.
+/// The windows only: the process and the toolkit are running.
 void mainPanePainted(benchmark::State& state) {
   for (auto _ : state) {
     Shown shown;
@@ -54,7 +54,7 @@ void mainPanePainted(benchmark::State& state) {
 }
 BENCHMARK(mainPanePainted)->Unit(benchmark::kMillisecond);
 
-/// A whole process up to the painted main pane, and its end.
+/// A whole process: its start until the main pane is painted, and its end.
 void processToMainPane(benchmark::State& state) {
   for (auto _ : state) {
     if (QProcess::execute(QCoreApplication::applicationFilePath(), {QStringLiteral("--start-only")}) != 0) {
@@ -104,7 +104,7 @@ void nextOptionToRepaint(benchmark::State& state) {
 }
 BENCHMARK(nextOptionToRepaint)->Unit(benchmark::kMicrosecond);
 
-/// The custom crop editor with its largest grid: 33 rows of 24 yields.
+/// Opens the custom crop editor with its largest grid: 33 rows of 24 yields.
 CustomCropPane& openLargestGrid(Shown& shown) {
   shown.start();
   frmMain& main = shown.program().main();

@@ -16,16 +16,16 @@
 
 namespace verdalis::bench {
 
-/// The six stock crops with their default costs, or so many more that are made of them.
+/// The six stock crops with their default costs, or larger lists made from copies of them.
 enum class CropList {
-  ordinary,          ///< Prices and yields of the copies a few percent apart
-  cents,             ///< All alike, prices 0.01 apart
-  billionths,        ///< All alike, prices 1e-9 apart
-  lastPlace,         ///< All alike, prices one unit in the last place apart
-  equalGainsPumped,  ///< Equal gains, but for rounding, by different costs; only pumping answers to water,
-                     ///< and it costs the farm the same however the water is shared
-  equalGains,        ///< Equal gains, but for rounding, by different costs, and no response to water
-  twins              ///< All alike
+  ordinary,          ///< Prices and yields of the copies differ by a few percent
+  cents,             ///< Identical, prices 0.01 apart
+  billionths,        ///< Identical, prices 1e-9 apart
+  lastPlace,         ///< Identical, prices one unit in the last place apart
+  equalGainsPumped,  ///< Equal gains except for rounding, from different costs; only the pumping cost depends
+                     ///< on water, and its total is the same for every split of the water
+  equalGains,        ///< Equal gains except for rounding, from different costs, and nothing depends on water
+  twins              ///< Identical
 };
 
 inline std::vector<Crop> stockCrops() {
@@ -113,7 +113,7 @@ class BenchFarm {
     combinations_ = std::make_unique<CropCombinations>(crops_, landSplit_.Count());
     makeSplits();
     if (list == CropList::equalGainsPumped) plant_.LaborPerHour = 0;
-    // The seeding bands of Corn would be a response to water, and so would the plant.
+    // Corn's seeding bands and the plant would make the gains depend on water.
     if (list == CropList::equalGains || list == CropList::equalGainsPumped) {
       plant_.active = list == CropList::equalGainsPumped;
       for (const auto& crop : combinations_->crops())
@@ -121,7 +121,7 @@ class BenchFarm {
     }
   }
 
-  /// The enumeration of the water splits, as a run does it.
+  /// Enumerates the water splits as a run does.
   void makeSplits() {
     ProgramState state;
     state.FineFactor = factor_;

@@ -10,7 +10,7 @@
 namespace verdalis::bench {
 namespace {
 
-/// Four fields of Corn whose costs are set by hand, so that the profit is known.
+/// Four fields of Corn with costs that give a known profit.
 FieldCollection candidateOf(double profit) {
   FieldCollection candidate;
   for (int i = 0; i < 4; ++i) {
@@ -24,8 +24,7 @@ FieldCollection candidateOf(double profit) {
   return candidate;
 }
 
-/// A ranking of 100 places, all taken; a kept copy works its return out of a crop without yield, so it earns
-/// -4.
+/// A full ranking of 100 places. Each kept copy calculates its return from a crop without yield and earns -4.
 BestMix fullMix() {
   BestMix best;
   best.setSize(100);
@@ -43,7 +42,7 @@ void submitRejected(benchmark::State& state) {
 }
 BENCHMARK(submitRejected);
 
-/// Every candidate climbs from the last place to the first.
+/// Every candidate moves from the last place to the first.
 void submitToTheTop(benchmark::State& state) {
   BestMix best = fullMix();
   FieldCollection candidate = candidateOf(0);

@@ -11,7 +11,7 @@ namespace {
 
 constexpr std::size_t fourFields = 4;
 
-/// A farm with crops of different names, in one season or in several.
+/// A farm of crops with different names, in one or several seasons.
 class PlanFarm {
  public:
   PlanFarm(std::int16_t factor, std::size_t crops, std::vector<double> rains, std::int16_t size = 100)

@@ -8,7 +8,8 @@
 #include "engine/evaluateScenario.h"
 #include "model/PricedField.h"
 
-// What a question asks thousands of times: one field, and the best plan after one price has changed.
+// Steps that a question repeats thousands of times: pricing one field, and finding the best plan after a
+// price change.
 
 namespace verdalis::bench {
 namespace {

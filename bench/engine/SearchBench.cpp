@@ -13,7 +13,7 @@ namespace {
 constexpr std::size_t twoFields = 0;
 constexpr std::size_t fourFields = 4;
 
-/// The highest memory use of the program so far, MB. Run a case alone (--benchmark_filter) to see its own.
+/// Peak memory use of the program so far, MB. To measure one case, run it alone (--benchmark_filter).
 double peakMegabytes() {
   rusage usage{};
   getrusage(RUSAGE_SELF, &usage);
@@ -27,7 +27,7 @@ void report(benchmark::State& state, const BenchFarm& farm) {
       benchmark::Counter(farm.candidates(), benchmark::Counter::kIsIterationInvariantRate);
 }
 
-/// The enumeration of the splits and the search, as a run does them.
+/// Enumerates the splits and searches, as a run does.
 void search(benchmark::State& state, std::int16_t factor, std::size_t crops, std::int16_t size,
             CropList list) {
   BenchFarm farm(fourFields, factor, crops, size, list);
@@ -69,7 +69,7 @@ SEARCH(59_crops_factor_99_prices_1_ulp_apart, 99, 59, 100, CropList::lastPlace);
 SEARCH(59_crops_factor_99_twins, 99, 59, 100, CropList::twins);
 SEARCH(59_crops_factor_99_500_places, 99, 59, 500, CropList::ordinary);
 
-// Where no bound helps: against pricing everything by tables.
+// Cases without effective bounds, compared with pricing everything from tables.
 SEARCH(10_crops_factor_20_equal_gains, 20, 10, 100, CropList::equalGains);
 SEARCH(24_crops_factor_20_equal_gains, 20, 24, 100, CropList::equalGains);
 SEARCH(59_crops_factor_5_equal_gains, 5, 59, 100, CropList::equalGains);

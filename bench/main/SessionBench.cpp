@@ -5,8 +5,8 @@
 
 #include "tests/main/RunningProgram.h"
 
-// What a person waits for at the screens: a key press with all that follows from it, and the start, with the
-// stock crops and the saved farm of the example.
+// What a user waits for on the screens: a key press with all its effects, and the start, with the stock crops
+// and the saved farm of the example.
 
 namespace {
 
@@ -18,7 +18,7 @@ void addExample(const RunningProgram& running) {
                         running.home() / "inputs.txt");
 }
 
-/// Corn's row is active, and its cost pane has been opened.
+/// Corn's row is active and its cost pane is open.
 void openExample(RunningProgram& running) {
   addExample(running);
   running.start();
@@ -40,7 +40,7 @@ void keyPress(benchmark::State& state, const char* name, const std::string& text
 }
 
 BENCHMARK_CAPTURE(keyPress, txtArea, "txtArea", "12")->Unit(benchmark::kMicrosecond);
-// With the test against the capacity of the plant.
+// Includes the test against the capacity of the plant.
 BENCHMARK_CAPTURE(keyPress, txtMax, "txtMax", "1")->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(keyPress, txtPrice, "cr(1).txtPrice", "4.2")->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(keyPress, txtMaxYield, "cr(1).txtMaxYield", "20")->Unit(benchmark::kMicrosecond);
@@ -48,7 +48,7 @@ BENCHMARK_CAPTURE(keyPress, txtTillage, "txtTillage", "31.2")->Unit(benchmark::k
 BENCHMARK_CAPTURE(keyPress, txtNitrogenApplied, "txtNitrogenApplied", "15")->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(keyPress, txtGPM, "txtGPM", "65")->Unit(benchmark::kMicrosecond);
 
-/// From nothing to a main pane that can be typed into.
+/// From program start to a main pane that accepts input.
 void start(benchmark::State& state) {
   RunningProgram running;
   addExample(running);
@@ -58,7 +58,7 @@ void start(benchmark::State& state) {
 }
 BENCHMARK(start)->Unit(benchmark::kMillisecond);
 
-/// The run button on the example's three crops, from the saving to the first option on show.
+/// The run button with the example's three crops, from saving to the first displayed option.
 void generateOutput(benchmark::State& state) {
   RunningProgram running;
   addExample(running);

@@ -13,7 +13,7 @@ namespace {
 
 constexpr double rain = 16;
 
-/// Depths (net inches) as water splits make them, above the top of the table too.
+/// Depths (net inches) as in water splits, including some above the top of the table.
 std::vector<double> someDepths() {
   std::vector<double> depths;
   depths.reserve(64);
@@ -62,7 +62,7 @@ void irrigationCosts(benchmark::State& state) {
 }
 BENCHMARK(irrigationCosts);
 
-/// Both, without the cache of the field.
+/// Production and irrigation costs, without the cache of the field.
 void fieldCosts(benchmark::State& state) {
   EfficiencyFraction = 0.85;
   Field field;

@@ -12,7 +12,7 @@
 namespace verdalis {
 namespace {
 
-/// Takes a number, and the character that must follow it, off the front of a text.
+/// Removes a number and the character that must follow it from the front of a text.
 bool takeNumber(std::string_view& text, char behind, std::size_t& number) {
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
   const auto length = static_cast<std::size_t>(end - text.data());
@@ -25,7 +25,7 @@ bool takeNumber(std::string_view& text, char behind, std::size_t& number) {
 
 void addReportOptions(CLI::App& command, ReportRequest& request) {
   addTextOption(command, "--report", "FILE.pdf", request.results,
-                "Also print the results report to a PDF file, or as text to a name that ends in .txt");
+                "Also print the results report to a PDF file, or as text if the name ends in .txt");
   addTextOption(command, "--details-report", "K.F=FILE", request.details,
                 "Also print the details of field F of option K, both counted from 1");
 }

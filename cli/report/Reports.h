@@ -10,25 +10,29 @@
 
 namespace verdalis {
 
-/// The reports that an evaluation is to print, as they were typed.
+/// The requested reports of an evaluation, as typed.
 struct ReportRequest {
   std::optional<std::string> results;  ///< File of the results report
-  std::vector<std::string> details;    ///< "K.F=FILE": the details of field F of option K, both from 1
+  std::vector<std::string> details;    ///< "K.F=FILE": details of field F of option K, both from 1
 };
 
 void addReportOptions(CLI::App& command, ReportRequest& request);
 
-/// The reports of one evaluation: all of them are written before the first becomes a file.
+/// The reports of one evaluation. All are written before the first file is created.
 class Reports {
  public:
-  /// \throws Refusal for a text that is not K.F=FILE.
+  /// Reads the requests.
+  /// \throws Refusal for a text that is not K.F=FILE
   explicit Reports(const ReportRequest& request);
 
-  /// Writes them. `printer` holds what its results report lists, `options` are those of the results screen.
-  /// \throws Refusal when there is no such option or field; RunTimeError
+  /// Writes the reports. `printer` holds the options of the results report; `options` are those of the
+  /// results screen.
+  /// \throws Refusal if there is no such option or field
+  /// \throws RunTimeError
   void write(ResultPrinter printer, const std::vector<ResultPrinter::Option>& options);
 
-  /// Each becomes a file whole or not at all. \throws RunTimeError (fileNotFound) when one cannot be written
+  /// Writes the files, each completely or not at all.
+  /// \throws RunTimeError (fileNotFound) if one cannot be written
   void deliver() const;
 
  private:

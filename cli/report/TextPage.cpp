@@ -3,7 +3,7 @@
 namespace verdalis {
 
 void TextPage::setCurrentX(double position) {
-  // At the start of a line the left edge is where the text stands anyway.
+  // At the start of a line, the text is at the left edge already.
   placed_ = !(atLineStart_ && position == 0);
 }
 

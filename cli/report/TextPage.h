@@ -7,11 +7,11 @@
 
 namespace verdalis {
 
-/// A document as plain text: a line for each printed line, its pieces in order, a tab in front of each piece
-/// that was placed at a new position, no marks for fonts.
+/// A document as plain text: one line per printed line, with its pieces in order and a tab before each piece
+/// at a new position. Fonts are not marked.
 class TextPage : public PageSurface {
  public:
-  /// `onEnd` takes the whole text at the end of the document.
+  /// `onEnd` receives the whole text at the end of the document.
   explicit TextPage(std::function<void(const std::string&)> onEnd) : onEnd_(std::move(onEnd)) {}
 
   void setFontSize(double /*points*/) override {}
@@ -26,8 +26,8 @@ class TextPage : public PageSurface {
  private:
   std::function<void(const std::string&)> onEnd_;
   std::string text_;
-  bool atLineStart_ = true;  ///< Nothing stands on the line, and nothing has been placed on it
-  bool placed_ = false;      ///< The next piece stands at a position of its own
+  bool atLineStart_ = true;  ///< Nothing has been written or placed on the line
+  bool placed_ = false;      ///< The next piece has its own position
 };
 
 }  // namespace verdalis

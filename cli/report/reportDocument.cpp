@@ -9,7 +9,7 @@
 namespace verdalis {
 namespace {
 
-/// The measures come first among the bases: the layout refers to them.
+/// PdfFont is the first base because the layout refers to it.
 class PdfDocument : private PdfFont, public PageLayout {
  public:
   PdfDocument() : PageLayout(static_cast<const PdfFont&>(*this)) {}

@@ -9,13 +9,13 @@
 
 namespace verdalis {
 
-/// The surface of a document that is to become the file `path`: a PDF file, or plain text when the name ends
-/// in ".txt". At the end of the document `onEnd` takes the bytes of the whole file; a document that never
-/// ends makes none.
+/// The surface of a document for the file `path`: a PDF file, or plain text if the name ends in ".txt". At
+/// the end of the document, `onEnd` receives the bytes of the file. A document without an end creates no
+/// file.
 [[nodiscard]] std::unique_ptr<PageSurface> reportDocument(const std::filesystem::path& path,
                                                           std::function<void(const std::string&)> onEnd);
 
-/// Where the n-th copy of a document goes that is printed to `path`: the first there, the others with "-2",
+/// The path of the n-th copy of a document printed to `path`: the same path for the first, then with "-2",
 /// "-3" and so on before the extension.
 [[nodiscard]] std::filesystem::path copyPath(const std::filesystem::path& path, int n);
 

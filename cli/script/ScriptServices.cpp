@@ -87,7 +87,7 @@ MessageAnswer ScriptServices::show(const Message& message) {
   const std::vector<MessageAnswer> offered = answersOf(message.buttons);
   MessageAnswer answer = offered.front();
   if (!answers.empty()) {
-    // An answer that the box does not offer cannot be pressed; it is spent, and the first button taken.
+    // An answer that the box does not offer is used up, and the first button is pressed.
     const MessageAnswer wanted = takeFirst(answers);
     for (const MessageAnswer possible : offered) {
       if (possible == wanted) answer = wanted;

@@ -9,7 +9,7 @@
 
 namespace verdalis {
 
-/// The platform of a session that is replayed: answers that were queued, and a record of what came up.
+/// The platform services of a replayed session: queued answers, and a record of what was shown.
 class ScriptServices : public MessageBoxService,
                        public FileChooserService,
                        public ClipboardService,
@@ -21,18 +21,19 @@ class ScriptServices : public MessageBoxService,
  public:
   [[nodiscard]] Services services() { return {*this, *this, *this, *this, *this, *this, *this, *this}; }
 
-  std::deque<MessageAnswer> answers;               ///< To the next message boxes
-  std::deque<std::string> choices;                 ///< Of the next file choosers; an empty one cancels
-  std::deque<std::pair<std::string, int>> prints;  ///< Paths and copies, for the next print dialogs
+  std::deque<MessageAnswer> answers;  ///< For the next message boxes
+  std::deque<std::string> choices;    ///< Of the next file choosers; an empty one cancels
+  std::deque<std::pair<std::string, int>>
+      prints;  ///< Paths and numbers of copies, for the next print dialogs
   std::optional<ClockTime> fixedTime;
 
-  /// The message boxes that came up since the last call, as the script tells them.
+  /// The message boxes since the last call, as the script reports them.
   [[nodiscard]] nlohmann::ordered_json takeMessages();
 
-  /// What was asked to be shown since the last call.
+  /// What the program opened since the last call.
   [[nodiscard]] nlohmann::ordered_json takeOpened();
 
-  /// A note window has been shown.
+  /// Records a note window that was shown.
   void noteShown(const std::string& title, const std::string& text, int height);
 
   MessageAnswer show(const Message& message) override;
@@ -53,10 +54,10 @@ class ScriptServices : public MessageBoxService,
   nlohmann::ordered_json opened_ = nlohmann::ordered_json::array();
   std::string clipboard_;
   std::filesystem::path printPath_;  ///< The answer to the last print dialog
-  int printed_ = 0;                  ///< Its documents so far
+  int printed_ = 0;                  ///< Number of its documents so far
 };
 
-/// The answer of that name: ok, yes, no or cancel.
+/// The answer with the name ok, yes, no or cancel.
 [[nodiscard]] std::optional<MessageAnswer> answerNamed(const std::string& name);
 
 }  // namespace verdalis

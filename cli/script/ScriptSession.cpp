@@ -15,13 +15,13 @@
 namespace verdalis {
 namespace {
 
-/// A command that cannot be carried out, with the reason.
+/// A command that cannot be executed, with the reason.
 class ScriptError : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
 };
 
-/// Takes the first word, and the one blank behind it, off the front of a text.
+/// Removes the first word and one blank after it from the front of a text.
 std::string takeWord(std::string_view& rest) {
   const std::size_t blank = rest.find(' ');
   std::string word(rest.substr(0, blank));
@@ -29,7 +29,7 @@ std::string takeWord(std::string_view& rest) {
   return word;
 }
 
-/// The text behind \n, \t, \r and \\; any other backslash stands for itself.
+/// Replaces \n, \t, \r and \\ in a text; any other backslash stays.
 std::string unescape(std::string_view text) {
   static const std::map<char, char> escapes{{'n', '\n'}, {'t', '\t'}, {'r', '\r'}, {'\\', '\\'}};
   std::string result;
@@ -59,7 +59,8 @@ int wholeNumber(const std::string& text, const char* what) {
 
 constexpr std::size_t longestLine = 16U << 20U;  // bytes; larger than any table that a grid has room for
 
-/// Reads a line; of one that is too long the first longestLine bytes. \returns whether there was one.
+/// Reads a line; of a line that is too long only the first longestLine bytes.
+/// \returns whether there was a line.
 bool readLine(std::istream& in, std::string& line, bool& tooLong) {
   line.clear();
   tooLong = false;
@@ -76,7 +77,7 @@ bool readLine(std::istream& in, std::string& line, bool& tooLong) {
 
 constexpr int mostCopies = 999;
 
-/// A path, which may hold blanks, and the number of copies where one stands behind it.
+/// A path, which may contain blanks, and the number of copies if one follows it.
 std::pair<std::string, int> printAnswer(std::string_view text) {
   while (!text.empty() && text.back() == ' ')
     text.remove_suffix(1);
@@ -253,7 +254,7 @@ void ScriptSession::click(const std::string& name) {
 void ScriptSession::leave(const std::string& name) {
   Control& control = find(name);
   if (program_.desk.focus() != &control) {
-    // Whoever is to leave it must have come there.
+    // A control can only be left if it can be entered.
     if (!control.isReachable()) throw ScriptError(name + " cannot be left: it is hidden or disabled");
     control.enter();
   }
@@ -317,7 +318,7 @@ void ScriptSession::setClock(const std::string& text) {
 
 void ScriptSession::watchProgress(frmUpdating& window) {
   window.ProgressBar.onStateChange.connect([this, &window] {
-    // Cancel is pressed once, also when further steps follow before the run sees it.
+    // Presses Cancel only once, even if further steps follow before the run notices.
     if (cancelAfter_ > 0 && window.isOpen() && window.ProgressBar.value() >= cancelAfter_) {
       cancelAfter_ = 0;
       window.Command1.click();

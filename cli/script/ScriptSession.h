@@ -11,24 +11,26 @@
 
 namespace verdalis {
 
-/// A running program that is driven line by line, as a person would drive it. The commands and their answers
-/// are told in docs/script.md.
+/// A running program that is controlled line by line, as by a user. docs/script.md describes the commands and
+/// their answers.
 class ScriptSession {
  public:
   explicit ScriptSession(std::filesystem::path home);
 
-  /// Carries one command out. \returns its answer, `ok` false with an `error` when it could not be carried
-  /// out.
+  /// Executes one command.
+  /// \returns its answer; on failure `ok` is false and `error` gives the reason
   [[nodiscard]] nlohmann::ordered_json execute(std::string_view line);
 
-  /// Replays a session: one answer on `out` for each command. \returns whether all of them could be carried
-  /// out.
+  /// Replays a session and writes one answer per command to `out`.
+  /// \returns whether all commands succeeded.
   bool replay(std::istream& in, std::ostream& out);
 
  private:
   using Json = nlohmann::ordered_json;
 
-  /// Adds what the command answers; throws ScriptError when it cannot be carried out.
+  /// Executes a command.
+  /// \returns the entries to add to its answer.
+  /// \throws ScriptError if it cannot be executed
   Json carryOut(const std::string& command, std::string_view rest);
   Json get(const std::string& what);
 
@@ -47,7 +49,7 @@ class ScriptSession {
   ScriptServices platform_;
   Services services_;
   Program program_;
-  int cancelAfter_ = 0;  ///< Steps of the next progress window until Cancel is pressed on it; 0: never
+  int cancelAfter_ = 0;  ///< Steps of the next progress window before Cancel is pressed; 0: never
 };
 
 }  // namespace verdalis

@@ -13,9 +13,9 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-/// A whole number is written without a point.
+/// Whole numbers are written without a decimal point.
 Json numberJson(double value) {
-  constexpr double exactWhole = 9007199254740992;  // beyond it not every whole number has a float of its own
+  constexpr double exactWhole = 9007199254740992;  // above this, some whole numbers have no exact float
   if (std::trunc(value) == value && std::abs(value) < exactWhole) return static_cast<long long>(value);
   return value;
 }
@@ -43,7 +43,7 @@ Json gridJson(const Grid& grid) {
           {"colors", std::move(colors)}, {"row", grid.row()},         {"column", grid.column()}};
 }
 
-/// What a control shows beside its name, kind and visibility.
+/// The properties of a control apart from name, kind and visibility.
 Json particulars(Control& control) {
   if (const auto* box = dynamic_cast<TextBox*>(&control)) return {{"text", box->text()}};
   if (const auto* combo = dynamic_cast<ComboBox*>(&control)) {

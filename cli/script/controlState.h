@@ -6,10 +6,10 @@
 
 namespace verdalis {
 
-/// The state of a control, as `get` tells it.
+/// The state of a control, as reported by `get`.
 [[nodiscard]] nlohmann::ordered_json controlState(Control& control, const std::string& name);
 
-/// Every control that is there, with its name and kind.
+/// All existing controls with name and kind.
 [[nodiscard]] nlohmann::ordered_json listControls(const Desk& desk);
 
 }  // namespace verdalis

@@ -9,21 +9,21 @@
 
 #include "tests/cli/BatchFarms.h"
 
-// The command `batch`: an evaluation for each row of a table of farms.
+// The command `batch`: evaluates each row of a table of farms.
 
 namespace verdalis::testing {
 namespace {
 
 using nlohmann::json;
 
-/// `batch` on the small home's farm of 100 acres, 10 gross inches and 11 inches of rain.
+/// Runs `batch` on the small home's farm: 100 acres, 10 gross inches and 11 inches of rain.
 CliResult small(const SmallHome& home, const Args& more, const std::string& table) {
   Args args{"--home", home.path(), "--set", "txtArea=100", "--set", "txtMax=10", "--set", "txtAnnRain=11"};
   args.insert(args.end(), more.begin(), more.end());
   return runBatch(args, table);
 }
 
-/// The JSON of the rows of a call that must have gone well without a word.
+/// The JSON of the rows of a call that must succeed without messages.
 std::vector<json> rowsOf(const CliResult& result) {
   EXPECT_EQ(result.exitCode, 0);
   EXPECT_EQ(result.err, "");
@@ -37,7 +37,7 @@ double profitOf(const json& row) {
   return row.at("options").at(0).at("profit").get<double>();
 }
 
-TEST(Batch, ARowIsAFarm) {
+TEST(Batch, EachRowIsEvaluatedAsAFarm) {
   const SmallHome home;
   const CliResult result =
       small(home, {"--crop", "Plain", "--split", "5", "--factor", "1"},
@@ -50,7 +50,7 @@ TEST(Batch, ARowIsAFarm) {
   EXPECT_EQ(lines[2].substr(0, 28), "2,\"South, \"\"40\"\"\",1,1,Plain,");
 }
 
-TEST(Batch, JsonIsAnObjectALine) {
+TEST(Batch, JsonHasOneObjectPerLine) {
   const SmallHome home;
   const auto rows =
       rowsOf(small(home, {"--crop", "Plain", "--split", "5", "--factor", "1", "--format", "json"},
@@ -65,7 +65,7 @@ TEST(Batch, JsonIsAnObjectALine) {
   EXPECT_EQ(profitOf(rows[1]), 100 * 5 * 3);
 }
 
-TEST(Batch, KeepsOneOptionUnlessAskedForMore) {
+TEST(Batch, KeepsOneOptionByDefault) {
   const SmallHome home;
   const std::string table = "keep,txtArraySize\n,\n3,\n,2\n";
   const Args farm{"--crop",    "Thirsty",     "--split",      "0",        "--price",
@@ -79,7 +79,7 @@ TEST(Batch, KeepsOneOptionUnlessAskedForMore) {
   EXPECT_EQ(rowsOf(small(home, keeping, "name\nx\n")).at(0).at("options").size(), 4U);
 }
 
-TEST(Batch, EachRowStartsAfreshFromTheOptions) {
+TEST(Batch, EachRowStartsWithTheValuesOfTheOptions) {
   const SmallHome home;
   const auto rows =
       rowsOf(small(home,
@@ -93,7 +93,7 @@ TEST(Batch, EachRowStartsAfreshFromTheOptions) {
   EXPECT_EQ(rows[2].at("options"), rows[3].at("options"));
 }
 
-TEST(Batch, NoSplitCanBeTakenBack) {
+TEST(Batch, ARowCanTurnNoSplitOff) {
   const SmallHome home;
   const Args farm{"--crop",       "Thirsty", "--price",    "Thirsty=1", "--max-yield",
                   "Thirsty=1000", "--split", "0",          "--factor",  "1",
@@ -104,7 +104,7 @@ TEST(Batch, NoSplitCanBeTakenBack) {
   EXPECT_EQ(rows[1].at("options"), rows[2].at("options"));
 }
 
-TEST(Batch, TheFuelOfARow) {
+TEST(Batch, ARowCanSetTheFuelPrice) {
   const ExampleHome home;
   const auto rows = rowsOf(
       runBatch({"--home", home.path(), "--crop", "Corn", "--format", "json"}, "fuel\n5.1\n0\n10.2\n\"\"\n"));
@@ -116,7 +116,7 @@ TEST(Batch, TheFuelOfARow) {
   EXPECT_LT(irrigation(1), irrigation(0));
 }
 
-TEST(Batch, WishesOfARow) {
+TEST(Batch, WishesOfARowReplaceThoseOfTheOptions) {
   const SmallHome home;
   const Args farm{"--crop",   "Plain",   "--crop", "Half",   "--price",        "Plain=9",  "--max-yield",
                   "Plain=10", "--split", "0",      "--wish", "at most 1 crop", "--format", "json"};
@@ -127,7 +127,7 @@ TEST(Batch, WishesOfARow) {
   EXPECT_EQ(profitOf(rows[1]) * 2, profitOf(rows[0]));
 }
 
-TEST(Batch, ARowThatNoPlanFitsIsTold) {
+TEST(Batch, ARowWithoutAPlanForItsWishesIsReported) {
   const SmallHome home;
   const Args farm{"--crop", "Plain", "--split", "0", "--format", "json"};
   const CliResult result =
@@ -143,14 +143,14 @@ TEST(Batch, ARowThatNoPlanFitsIsTold) {
   EXPECT_EQ(row.at("relax").at(0).at("without"), json::array({"Plain at most 10 acres"}));
 }
 
-TEST(Batch, MixesLeaveOneOptionEach) {
+TEST(Batch, MixesKeepsOneOptionPerMix) {
   const SmallHome home;
   const Args farm{"--crop",  "Plain", "--crop", "Half", "--price", "Plain=9",  "--max-yield", "Plain=10",
                   "--split", "0",     "--keep", "50",   "--mixes", "--format", "json"};
   EXPECT_EQ(rowsOf(small(home, farm, "name\nx\n")).at(0).at("options").size(), 3U);
 }
 
-TEST(Batch, TheOthersGoOnWhenARowIsRefused) {
+TEST(Batch, ARefusedRowDoesNotStopTheOthers) {
   const SmallHome home;
   const std::string output = (home.folder() / "result.csv").string();
   const std::string table =
@@ -178,7 +178,7 @@ TEST(Batch, TheOthersGoOnWhenARowIsRefused) {
   EXPECT_EQ(told[1], "verdalis-cli: Row 3, \"C\": The row has 2 cells, and the table has 4 columns.");
   EXPECT_EQ(told[2].substr(0, 64), "verdalis-cli: Row 4, \"D\": crops \"Rice\": There is no crop \"Rice\".");
   EXPECT_NE(told[3].find("Row 5, \"E\": Please enter all of the necessary information"), std::string::npos);
-  EXPECT_EQ(told[4], "verdalis-cli: Row 6, \"F\": Cell 4: A text stands behind the quote that ends it.");
+  EXPECT_EQ(told[4], "verdalis-cli: Row 6, \"F\": Cell 4: There is text after the closing quote.");
   EXPECT_NE(told[5].find("Row 7, \"G\": Please enter all of"), std::string::npos) << told[5];
   EXPECT_EQ(told[6], "verdalis-cli: Row 8, \"H\": The row has 5 cells, and the table has 4 columns.");
   EXPECT_NE(told[7].find("Row 9, \"I\": "), std::string::npos);
@@ -188,7 +188,7 @@ TEST(Batch, TheOthersGoOnWhenARowIsRefused) {
   EXPECT_EQ(lines[3].substr(0, 10), "10,K,1,1,P");
 }
 
-TEST(Batch, WarningsAreToldWithTheirRow) {
+TEST(Batch, WarningsNameTheirRow) {
   const SmallHome home;
   const CliResult result = small(home, {"--crop", "Plain", "--split", "5"}, "factor\n10\n11\n");
   EXPECT_EQ(result.exitCode, 0);
@@ -211,7 +211,7 @@ struct RefusedTable {
   std::string why;
 };
 
-TEST(Batch, ATableWithAWrongHeadIsRefused) {
+TEST(Batch, ATableWithAnInvalidHeaderIsRefused) {
   const SmallHome home;
   for (const auto& [table, why] : std::vector<RefusedTable>{
            {"", "The table is empty."},
@@ -219,14 +219,15 @@ TEST(Batch, ATableWithAWrongHeadIsRefused) {
            {"name,txtarea\n", "Column 2, \"txtarea\": There is no control \"txtarea\" in the main window."},
            {"name,\n", "Column 2, \"\": There is no control"},
            {"Name\n", "There is no control \"Name\""},
-           {"name,split,name\n", "Column 3, \"name\": It sets the same as column 1, \"name\"."},
-           {"price Plain,price plain\n", "It sets the same as column 1, \"price Plain\"."},
+           {"name,split,name\n", "Column 3, \"name\": It sets the same value as column 1, \"name\"."},
+           {"price Plain,price plain\n", "It sets the same value as column 1, \"price Plain\"."},
            {"price Rice\n", "There is no crop \"Rice\"."},
            {"price\n", "There is no control \"price\""},
            {"lblVolume\n", "Nothing can be typed into \"lblVolume\", a Label."},
            {"Command1\n", "Nothing can be typed into"},
-           {"txtGPM\n", "takes part in a run only after it is applied on its pane"},
-           {"a\"b\n", "The first line of the table: Cell 1: A quote stands inside"}}) {
+           {"txtGPM\n", "has no effect on a run until it is applied on its pane"},
+           {"a\"b\n",
+            "The first line of the table: Cell 1: A text that is not in quotes contains a quote"}}) {
     const CliResult result = small(home, {"--crop", "Plain", "--split", "0"}, table);
     EXPECT_EQ(result.exitCode, 2) << table;
     EXPECT_EQ(result.out, "") << table;
@@ -234,7 +235,7 @@ TEST(Batch, ATableWithAWrongHeadIsRefused) {
   }
 }
 
-TEST(Batch, WrongOptionsAreRefused) {
+TEST(Batch, InvalidOptionsAreRefused) {
   const SmallHome home;
   for (const Args& wrong : std::vector<Args>{{"--crop", "Rice"},
                                              {"--wish", "Rice at least 1 acre"},
@@ -253,14 +254,14 @@ TEST(Batch, WrongOptionsAreRefused) {
   EXPECT_EQ(runCli({"batch", home.path(), "--home", home.path()}).exitCode, 2) << "a folder";
 }
 
-TEST(Batch, AnOutputThatCannotBeWrittenIsTold) {
+TEST(Batch, AnOutputThatCannotBeWrittenIsReported) {
   const SmallHome home;
   const CliResult result = small(home, {"--output", home.path() + "/none/x.csv"}, "name\nA\n");
   EXPECT_EQ(result.exitCode, 1);
   EXPECT_NE(result.err.find("cannot be written"), std::string::npos);
 }
 
-TEST(Batch, TheCellsMeetTheTestsOfTheOptions) {
+TEST(Batch, CellsAreCheckedLikeTheOptions) {
   const ExampleHome home;
   const CliResult result = runBatch(
       {"--home", home.path(), "--crop", "Corn"},
@@ -268,18 +269,19 @@ TEST(Batch, TheCellsMeetTheTestsOfTheOptions) {
       "1e9,,,,,,,,,\n,x,,,,,,,,\n,,6,,,,,,,\n,,,yes,,,,,,\n,,,true,,,,,,\n,,,,\"1,000\",,,,,\n,,,,,100,,,,\n"
       ",,,,,,-1,,,\n,,,,,,.,,,\n,,,,,,,2,,\n,,,,,,,,False,\n,,,,,,,,,maybe\n,,,,,,,,True,False\n");
   const auto told = linesOf(result.err);
-  const std::vector<std::string> reasons{"price Corn \"1e9\": Crop Price - Corn:  Please enter a value",
-                                         "max-yield Corn \"x\": Maximum Yield - Corn:  Please enter a num",
-                                         "split \"6\": There is no such land split:",
-                                         "no-split \"yes\": Please enter True or False",
-                                         "no-split \"true\": Please enter True or False",
-                                         "keep \"1,000\": Please enter a valid number",
-                                         "factor \"100\": Please enter a number between 1 and 100",
-                                         "fuel \"-1\": Fuel Cost:  Please enter a value that's greater",
-                                         "fuel \".\": Please enter a valid number",
-                                         "chkNoSplit \"2\": Please enter True or False",
-                                         "Option1(3) \"False\": It is turned off by turning another one on.",
-                                         "cr(1).chkCrop \"maybe\": Please enter True or False"};
+  const std::vector<std::string> reasons{
+      "price Corn \"1e9\": Crop Price - Corn:  Please enter a value",
+      "max-yield Corn \"x\": Maximum Yield - Corn:  Please enter a num",
+      "split \"6\": There is no such land split:",
+      "no-split \"yes\": Please enter True or False",
+      "no-split \"true\": Please enter True or False",
+      "keep \"1,000\": Please enter a valid number",
+      "factor \"100\": Please enter a number between 1 and 100",
+      "fuel \"-1\": Fuel Cost:  Please enter a value that's greater",
+      "fuel \".\": Please enter a valid number",
+      "chkNoSplit \"2\": Please enter True or False",
+      "Option1(3) \"False\": An option button is turned off by turning on another one.",
+      "cr(1).chkCrop \"maybe\": Please enter True or False"};
   ASSERT_EQ(told.size(), reasons.size()) << result.err;
   for (std::size_t i = 0; i < told.size(); ++i) {
     const std::string start = "verdalis-cli: Row " + std::to_string(i + 1) + ": " + reasons[i];
@@ -289,7 +291,7 @@ TEST(Batch, TheCellsMeetTheTestsOfTheOptions) {
   EXPECT_EQ(linesOf(result.out).size(), 4U) << "the last row";
 }
 
-/// A row of the table, and the options that ask `evaluate` for the same farm.
+/// A row of the table, and the options for `evaluate` on the same farm.
 struct RandomRow {
   std::map<std::string, std::string> cells;
   Args options;
@@ -337,7 +339,7 @@ RandomRow randomRow() {
   return row;
 }
 
-RC_GTEST_PROP(BatchRows, AreTheEvaluationsOfTheSameFarms, ()) {
+RC_GTEST_PROP(BatchRows, EqualEvaluationsOfTheSameFarms, ()) {
   static const ExampleHome home;
   const std::vector<std::string> columns{"txtArea", "txtMax",     "txtEff",          "txtAnnRain",
                                          "txtSoil", "price Corn", "max-yield Wheat", "split",
@@ -362,7 +364,7 @@ RC_GTEST_PROP(BatchRows, AreTheEvaluationsOfTheSameFarms, ()) {
     const CliResult one = runCli(args);
     if (one.exitCode != 0) {
       isOneRefused = true;
-      // The reason is the same, behind the option or the column.
+      // Both report the same reason, after the option or the column.
       const auto told = linesOf(one.err);
       const std::string reason = told.back().substr(told.back().rfind(": ") + 2);
       RC_ASSERT(all.err.find("Row " + std::to_string(i + 1) + ", \"x\": ") != std::string::npos);
@@ -377,7 +379,7 @@ RC_GTEST_PROP(BatchRows, AreTheEvaluationsOfTheSameFarms, ()) {
   RC_ASSERT(all.out.substr(all.out.find('\n') + 1) == expected);
 }
 
-RC_GTEST_PROP(BatchRows, AreTheSameInPiecesAndForAnyNumberOfJobs, ()) {
+RC_GTEST_PROP(BatchRows, DoNotDependOnPiecesOrTheNumberOfJobs, ()) {
   static const SmallHome home;
   const std::string head = "name,txtArea,txtMax,price Thirsty,wish\n";
   const auto count = *rc::gen::inRange<std::size_t>(0, 60);
@@ -414,7 +416,7 @@ RC_GTEST_PROP(BatchRows, AreTheSameInPiecesAndForAnyNumberOfJobs, ()) {
   RC_ASSERT(pieces == expected);
 }
 
-TEST(Batch, PiecesRunUnderAToolThatSpreadsThem) {
+TEST(Batch, GnuParallelGivesTheSameRows) {
   if (std::system("parallel --version >/dev/null 2>&1") != 0) GTEST_SKIP() << "GNU parallel is not installed";
   const ExampleHome home;
   std::string table = "name,txtArea,price Corn\n";

@@ -17,7 +17,7 @@ CliResult explained(const SmallHome& home, const std::string& place, const std::
                         "--keep", "3", "--format", format, "--explain", place});
 }
 
-TEST(Explain, TellsTheStepsBesideTheOptions) {
+TEST(Explain, AddsTheStepsToTheJsonResult) {
   const SmallHome home;
   const json result = jsonOf(explained(home, "1.2", "json"));
   ASSERT_FALSE(result["steps"].empty());
@@ -47,7 +47,7 @@ TEST(Explain, TellsTheStepsBesideTheOptions) {
   EXPECT_EQ(valueOf("Net return of the option"), option["profit"]);
 }
 
-TEST(Explain, LeavesTheResultAsItIsWithoutIt) {
+TEST(Explain, DoesNotChangeTheRestOfTheResult) {
   const SmallHome home;
   json with = jsonOf(explained(home, "1.1", "json"));
   json without = jsonOf(home.evaluate({"--split", "0", "--crop", "Plain", "--price", "Plain=2", "--max-yield",
@@ -58,7 +58,7 @@ TEST(Explain, LeavesTheResultAsItIsWithoutIt) {
   EXPECT_EQ(with, without);
 }
 
-TEST(Explain, NumbersTheStepsBelowTheTable) {
+TEST(Explain, ListsNumberedStepsBelowTheTable) {
   const SmallHome home;
   const CliResult result = explained(home, "1.2", "table");
   EXPECT_EQ(result.exitCode, 0);
@@ -69,7 +69,7 @@ TEST(Explain, NumbersTheStepsBelowTheTable) {
                                     "($100.00 /acre)\n"));
 }
 
-TEST(Explain, RefusesWhatIsNoField) {
+TEST(Explain, RefusesAnInvalidOrMissingField) {
   const SmallHome home;
   const auto expectRefusal = [&](const std::string& place, const std::string& why) {
     const CliResult result = explained(home, place, "json");
@@ -81,10 +81,10 @@ TEST(Explain, RefusesWhatIsNoField) {
        {"", "1", "1.", ".1", "0.1", "1.0", "a.b", "1.1.1", "-1.1", "1. 1", "+1.1", "99999999999999999999.1"})
     expectRefusal(place, "The form is K.F");
   expectRefusal("1.3", "Option 1 has 2 fields.");
-  expectRefusal("4.1", "The evaluation has found ");
+  expectRefusal("4.1", "The evaluation found ");
 }
 
-TEST(Explain, HasNoPlaceInATableOfFields) {
+TEST(Explain, CannotBeCombinedWithCsv) {
   const SmallHome home;
   const CliResult result = explained(home, "1.1", "csv");
   EXPECT_EQ(result.exitCode, 2);

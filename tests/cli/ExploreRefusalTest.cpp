@@ -2,14 +2,14 @@
 
 #include "tests/cli/StockHome.h"
 
-// What `explore` does not take, and what it says then.
+// Calls of `explore` that are refused, with their messages.
 
 namespace verdalis::testing {
 namespace {
 
 using Args = std::vector<std::string>;
 
-/// A call that must be refused without a result; gives what is told.
+/// Runs a call that must be refused without a result, and returns its message.
 std::string refused(const StockHome& home, const Args& command, const Args& more = {}) {
   const CliResult result = home.run(command, more);
   EXPECT_EQ(result.exitCode, 2) << result.err;
@@ -21,7 +21,7 @@ bool has(const std::string& text, const std::string& part) {
   return text.find(part) != std::string::npos;
 }
 
-TEST(ExploreRefusal, AQuestionIsNeeded) {
+TEST(ExploreRefusal, AQuestionIsRequired) {
   EXPECT_EQ(runCli({"explore"}).exitCode, 2);
   EXPECT_EQ(runCli({"explore", "weather"}).exitCode, 2);
   EXPECT_EQ(runCli({"explore", "--help"}).exitCode, 0);
@@ -36,7 +36,7 @@ TEST(ExploreRefusal, TheFarmMustBeComplete) {
   EXPECT_TRUE(has(result.err, "a crop (--crop NAME)")) << result.err;
 }
 
-TEST(ExploreRefusal, ARangeOfWaterIsWhole) {
+TEST(ExploreRefusal, AWaterRangeMustBeCompleteAndValid) {
   const StockHome home;
   const Args water{"explore", "water"};
   EXPECT_TRUE(has(refused(home, water, {"--from", "3"}), "--to B"));
@@ -56,16 +56,16 @@ TEST(ExploreRefusal, ARangeOfWaterIsWhole) {
   EXPECT_TRUE(has(range("0.003", "4", "2"), "1 ac-in"));
 }
 
-TEST(ExploreRefusal, APercentageLiesBetween) {
+TEST(ExploreRefusal, APercentageMustBeAbove0AndBelow100) {
   const StockHome home;
   for (const char* percent : {"0", "100", "-1", "1000", "ten"})
     EXPECT_TRUE(has(refused(home, {"explore", "inputs"}, {"--by", percent}), "--by"));
-  // 1 acre-inch, and half of it less than rounds up.
+  // The volume is 1 acre-inch, and half of it rounds to 0.
   const Args little{"--set", "txtArea=1", "--set", "txtMax=0.9", "--by", "50"};
   EXPECT_TRUE(has(refused(home, {"explore", "inputs"}, little), "1 ac-in"));
 }
 
-TEST(ExploreRefusal, AMapNeedsTwoInputs) {
+TEST(ExploreRefusal, AMapRequiresTwoDifferentValidInputs) {
   const StockHome home;
   const Args map{"explore", "map"};
   const std::string water = "water=3:4:2";
@@ -89,7 +89,7 @@ TEST(ExploreRefusal, AMapNeedsTwoInputs) {
                   "Fallow has no maximum yield"));
 }
 
-TEST(ExploreRefusal, ValuesAreThoseThatTheFieldsTake) {
+TEST(ExploreRefusal, ValuesMustBeInTheRangesOfTheWindow) {
   const StockHome home;
   const auto x = [&](const std::string& text) {
     return home.run({"explore", "map"}, {"--x", text, "--y", "water=3:4:2"}).exitCode;
@@ -104,7 +104,7 @@ TEST(ExploreRefusal, ValuesAreThoseThatTheFieldsTake) {
     EXPECT_EQ(x(text), 0) << text;
 }
 
-TEST(ExploreRefusal, APointThatFailsEndsTheCommand) {
+TEST(ExploreRefusal, AFailedPointEndsTheCommand) {
   const StockHome home;
   const CliResult rain = home.run({"explore", "map"}, {"--x", "rain=20:23:4", "--y", "water=3:4:2"});
   EXPECT_EQ(rain.exitCode, 1);
@@ -118,7 +118,7 @@ TEST(ExploreRefusal, APointThatFailsEndsTheCommand) {
             home.run({"evaluate"}, {"--set", "txtMax=-4"}).exitCode);
 }
 
-TEST(ExploreRefusal, SeasonsHaveNamesRainAndWeights) {
+TEST(ExploreRefusal, SeasonsRequireNamesRainAndPositiveWeights) {
   const StockHome home;
   const auto seasons = [&](const Args& texts) {
     Args more;
@@ -130,7 +130,7 @@ TEST(ExploreRefusal, SeasonsHaveNamesRainAndWeights) {
   EXPECT_TRUE(has(seasons({"1:12:1", "2:12:1", "3:12:1", "4:12:1", "5:12:1", "6:12:1", "7:12:1", "8:12:1",
                            "9:12:1", "10:12:1"}),
                   "2 to 9 seasons"));
-  EXPECT_TRUE(has(seasons({"dry:12:1", "dry:13:1"}), "of that name"));
+  EXPECT_TRUE(has(seasons({"dry:12:1", "dry:13:1"}), "with this name"));
   EXPECT_TRUE(has(seasons({"dry:12:0", "wet:13:1"}), "above 0"));
   EXPECT_TRUE(has(seasons({"dry:12:-1", "wet:13:1"}), "above 0"));
   EXPECT_TRUE(has(seasons({"dry:x:1", "wet:13:1"}), "valid number"));

@@ -26,7 +26,7 @@ Args asked(const std::string& input, const std::string& from, const std::string&
   return {"--input", input, "--from", from, "--to", to, "--format", format};
 }
 
-TEST(ExploreSwitch, TellsBelowWhichPriceWhichPlan) {
+TEST(ExploreSwitch, FindsThePriceWhereThePlanChanges) {
   const SmallHome home;
   const json result = jsonOf(switchOf(home, asked("price Plain", "1", "9", "json")));
   EXPECT_EQ(result["input"], "price Plain");
@@ -53,7 +53,7 @@ TEST(ExploreSwitch, TellsBelowWhichPriceWhichPlan) {
   EXPECT_EQ(above["fields"][1]["crop"], "Plain");
 }
 
-TEST(ExploreSwitch, TellsTheYieldAtTheBeginningOfASegment) {
+TEST(ExploreSwitch, ReportsTheYieldAtTheStartOfASegment) {
   const SmallHome home;
   const json result = jsonOf(switchOf(home, asked("MAX-YIELD plain", "0", "400", "json")));
   EXPECT_EQ(result["input"], "max-yield Plain");
@@ -64,7 +64,7 @@ TEST(ExploreSwitch, TellsTheYieldAtTheBeginningOfASegment) {
   EXPECT_DOUBLE_EQ(above["fields"][0]["yield"].get<double>(), above["from"].get<double>() / 2);
 }
 
-TEST(ExploreSwitch, IsOneSegmentForFuelThatIsNotBurnt) {
+TEST(ExploreSwitch, UnusedFuelGivesOneSegment) {
   const SmallHome home;
   const json result = jsonOf(switchOf(home, asked("fuel", "0", "5", "json")));
   ASSERT_EQ(result["segments"].size(), 1U);
@@ -72,7 +72,7 @@ TEST(ExploreSwitch, IsOneSegmentForFuelThatIsNotBurnt) {
   EXPECT_EQ(result["segments"][0]["profitTo"], 20000);
 }
 
-TEST(ExploreSwitch, WritesARowForEachSegment) {
+TEST(ExploreSwitch, CsvHasOneRowPerSegment) {
   const SmallHome home;
   const CliResult result = switchOf(home, asked("price Plain", "1", "9", "csv"));
   EXPECT_EQ(result.exitCode, 0);
@@ -83,7 +83,7 @@ TEST(ExploreSwitch, WritesARowForEachSegment) {
   EXPECT_THAT(result.out, HasSubstr(",,,,,,,,,,\r\n4,9,20000,45000,50,Plain,"));
 }
 
-TEST(ExploreSwitch, SaysItInWords) {
+TEST(ExploreSwitch, TheTableDescribesTheSegmentsInWords) {
   const SmallHome home;
   const CliResult result = switchOf(home, asked("price Plain", "1", "9", "table"));
   EXPECT_EQ(result.exitCode, 0);
@@ -96,13 +96,13 @@ TEST(ExploreSwitch, SaysItInWords) {
   EXPECT_THAT(result.out, HasSubstr("net return $20,000 to $45,000."));
 }
 
-TEST(ExploreSwitch, ShowsAsManyDecimalsAsTellTheValuesApart) {
+TEST(ExploreSwitch, ShowsEnoughDecimalsToDistinguishTheValues) {
   const SmallHome home;
   const CliResult result = switchOf(home, asked("price Plain", "3.999", "4.001", "table"));
   EXPECT_THAT(result.out, HasSubstr("Below $4.000:"));
 }
 
-TEST(ExploreSwitch, TellsTheWishesThatItObeys) {
+TEST(ExploreSwitch, MeetsTheWishesAndListsThem) {
   const SmallHome home;
   Args wished = asked("price Plain", "1", "9", "json");
   EXPECT_FALSE(jsonOf(switchOf(home, wished)).contains("wishes"));
@@ -113,7 +113,7 @@ TEST(ExploreSwitch, TellsTheWishesThatItObeys) {
     EXPECT_EQ(segment["fields"][0]["crop"], "Plain");
 }
 
-TEST(ExploreSwitch, RefusesWhatItCannotAnswer) {
+TEST(ExploreSwitch, RefusesInvalidArguments) {
   const SmallHome home;
   const auto expectRefusal = [&](const Args& more, const std::string& why) {
     const CliResult result = switchOf(home, more);

@@ -5,7 +5,7 @@
 
 #include "tests/cli/StockHome.h"
 
-// What `explore` tells is what `evaluate` tells for the same inputs, to the last bit.
+// The results of `explore` equal those of `evaluate` for the same inputs, to the last bit.
 
 namespace verdalis::testing {
 namespace {
@@ -13,13 +13,13 @@ namespace {
 using nlohmann::json;
 using Args = std::vector<std::string>;
 
-/// The best option that `evaluate` tells.
+/// The best option of `evaluate`.
 json best(const StockHome& home, Args more) {
   more.insert(more.end(), {"--keep", "1"});
   return home.json({"evaluate"}, more).at("options").at(0);
 }
 
-/// How `evaluate` is told a value of an input.
+/// The arguments that set an input for `evaluate`.
 Args typed(const StockHome& home, const std::string& input, double value) {
   const std::string text = generalText(value);
   if (input == "water") return {"--set", "txtMax=" + text};
@@ -50,7 +50,7 @@ std::vector<std::pair<double, std::string>> mixOf(const json& fields) {
 const Args inputNames{"water",      "rain",           "efficiency",  "fuel",
                       "price Corn", "max-yield Corn", "price Wheat", "max-yield Grain Sorghum"};
 
-TEST(ExploreWater, EachPointIsAnEvaluation) {
+TEST(ExploreWater, EachPointEqualsAnEvaluation) {
   const StockHome home;
   const json result = home.json({"explore", "water"}, {"--no-split", "--factor", "7"});
   ASSERT_EQ(result.at("points").size(), 20);
@@ -63,7 +63,7 @@ TEST(ExploreWater, EachPointIsAnEvaluation) {
   }
 }
 
-TEST(ExploreWater, TheUsualAmountsGoFromATenthToTwice) {
+TEST(ExploreWater, DefaultAmountsGoFromATenthToTwiceThePresentOne) {
   const StockHome home;
   const json result = home.json({"explore", "water"});
   EXPECT_EQ(result["now"]["gross"], 14);
@@ -71,17 +71,17 @@ TEST(ExploreWater, TheUsualAmountsGoFromATenthToTwice) {
   EXPECT_EQ(result["points"][19]["gross"], 28);
 }
 
-TEST(ExploreWater, AmountsThatRoundToNothingAreLeftOut) {
+TEST(ExploreWater, AmountsThatRoundToZeroAreOmitted) {
   const StockHome home;
   const Args small{"--set", "txtArea=2", "--set", "txtMax=1"};
   const json result = home.json({"explore", "water"}, small);
-  // A volume of 2 times the gross inches must be half an acre-inch or more.
+  // The volume, 2 times the gross inches, must be at least half an acre-inch.
   EXPECT_EQ(result["points"].size(), 18);
   EXPECT_GE(result["points"][0]["gross"].get<double>() * 2, 0.5);
   EXPECT_EQ(result["lastInch"], nullptr) << "without its last inch there is no water";
 }
 
-TEST(ExploreWater, AnInchIsWorthTheDifferenceOfTwoEvaluations) {
+TEST(ExploreWater, TheValueOfAnInchIsTheDifferenceOfTwoEvaluations) {
   const StockHome home;
   const json result = home.json({"explore", "water"}, {"--from", "3", "--to", "4", "--steps", "2"});
   const auto profit = [&](double gross) {
@@ -96,13 +96,13 @@ TEST(ExploreWater, AnInchIsWorthTheDifferenceOfTwoEvaluations) {
   EXPECT_EQ(result["most"]["profit"], result["points"][1]["profit"]);
 }
 
-TEST(ExploreWater, LessThanAnInchHasNoLastInch) {
+TEST(ExploreWater, LastInchIsNullBelowOneInch) {
   const StockHome home;
   EXPECT_EQ(home.json({"explore", "water"}, {"--set", "txtMax=0.9"})["lastInch"], nullptr);
   EXPECT_NE(home.json({"explore", "water"}, {"--set", "txtMax=1.1"})["lastInch"], nullptr);
 }
 
-TEST(ExploreWater, CsvTellsThePointsOfTheJson) {
+TEST(ExploreWater, CsvAndJsonHaveTheSamePoints) {
   const StockHome home;
   const Args range{"--from", "3", "--to", "9", "--steps", "3"};
   const json result = home.json({"explore", "water"}, range);
@@ -128,7 +128,7 @@ TEST(ExploreWater, CsvTellsThePointsOfTheJson) {
   EXPECT_FALSE(std::getline(lines, line));
 }
 
-TEST(ExploreWater, TheTableSaysWhyThereAreSteps) {
+TEST(ExploreWater, TheTableExplainsRoundedWaterAndRain) {
   const StockHome home;
   const CliResult result = home.run({"explore", "water"});
   EXPECT_EQ(result.exitCode, 0);
@@ -138,7 +138,7 @@ TEST(ExploreWater, TheTableSaysWhyThereAreSteps) {
   EXPECT_EQ(result.out.find("█"), std::string::npos) << "a curve is for a terminal";
 }
 
-TEST(ExploreInputs, EachEndIsAnEvaluation) {
+TEST(ExploreInputs, EachChangedValueGivesTheResultOfAnEvaluation) {
   const StockHome home;
   const json result = home.json({"explore", "inputs"}, {"--by", "20"});
   EXPECT_EQ(result.at("inputs").size(), 10);
@@ -154,7 +154,7 @@ TEST(ExploreInputs, EachEndIsAnEvaluation) {
   }
 }
 
-TEST(ExploreInputs, WhatChangesMostStandsFirst) {
+TEST(ExploreInputs, TheLargestChangeIsFirst) {
   const StockHome home;
   const json result = home.json({"explore", "inputs"});
   const double now = result.at("profit");
@@ -167,7 +167,7 @@ TEST(ExploreInputs, WhatChangesMostStandsFirst) {
   }
 }
 
-TEST(ExploreInputs, ValuesAreHeldWithinWhatTheFieldsTake) {
+TEST(ExploreInputs, ValuesAreLimitedToTheRangesOfTheWindow) {
   const StockHome home;
   const json result =
       home.json({"explore", "inputs"}, {"--by", "90", "--crop", "Fallow", "--price", "Corn=6"});
@@ -184,14 +184,14 @@ TEST(ExploreInputs, ValuesAreHeldWithinWhatTheFieldsTake) {
   EXPECT_EQ(ends("max-yield Wheat").first, 7.5);
 }
 
-TEST(ExploreInputs, CsvHasARowAnInput) {
+TEST(ExploreInputs, CsvHasOneRowPerInput) {
   const StockHome home;
   const std::string csv = home.run({"explore", "inputs"}, {"--format", "csv"}).out;
   EXPECT_EQ(csv.substr(0, csv.find('\r')), "input,now,low,high,profit_low,profit_high,changes_plan");
   EXPECT_EQ(std::count(csv.begin(), csv.end(), '\n'), 11);
 }
 
-TEST(ExploreMap, EachPointIsAnEvaluation) {
+TEST(ExploreMap, EachPointEqualsAnEvaluation) {
   const StockHome home;
   for (std::size_t i = 0; i < inputNames.size(); ++i) {
     const std::string& x = inputNames[i];
@@ -216,7 +216,7 @@ TEST(ExploreMap, EachPointIsAnEvaluation) {
   }
 }
 
-TEST(ExploreMap, EachMixStandsOnceAndCsvTellsTheSame) {
+TEST(ExploreMap, MixesAreListedOnceAndCsvMatchesJson) {
   const StockHome home;
   const Args axes{"--x", "PRICE corn=3:9:7", "--y", "water=2:20:4"};
   const json map = home.json({"explore", "map"}, axes);
@@ -247,7 +247,7 @@ TEST(ExploreMap, EachMixStandsOnceAndCsvTellsTheSame) {
   }
 }
 
-TEST(ExploreSeasons, EachSeasonIsAnEvaluation) {
+TEST(ExploreSeasons, EachSeasonEqualsAnEvaluation) {
   const StockHome home;
   const json result = home.json({"explore", "seasons"}, {"--keep", "3"});
   ASSERT_EQ(result.at("seasons").size(), 3);
@@ -300,7 +300,7 @@ TEST(Explore, TablesFitATerminal) {
   }
 }
 
-TEST(Explore, TheAnswerGoesToAFile) {
+TEST(Explore, TheAnswerCanBeWrittenToAFile) {
   const StockHome home;
   const std::string file = (home.folder() / "answer.csv").string();
   const Args csv{"--format", "csv"};

@@ -21,7 +21,7 @@ using Args = std::vector<std::string>;
 
 const std::string program = VERDALIS_BINARY_DIR "/cli/verdalis-cli";
 
-/// Replaces this process by the program, with these descriptors; never returns.
+/// Replaces this process with the program, using these descriptors; never returns.
 [[noreturn]] void become(const Args& args,
                          const std::vector<std::pair<std::string, std::string>>& environment, int out,
                          int err) {
@@ -75,7 +75,7 @@ Args plainFarm(const SmallHome& home, const Args& more = {}) {
   return args;
 }
 
-/// The same farm in `explore`.
+/// The arguments for a question of `explore` about the same farm.
 Args plainQuestion(const SmallHome& home, const std::string& question, const Args& more = {}) {
   Args args = plainFarm(home, more);
   args.front() = "explore";
@@ -250,7 +250,7 @@ TEST(Process, CtrlCAtAnyTimeLeavesNoPartialResult) {
   }
 }
 
-/// The program with its standard error on a pseudo terminal, and with `outToo` its standard output.
+/// The program with its standard error on a pseudo terminal, and if `outToo` also its standard output.
 class OnTerminal {
  public:
   explicit OnTerminal(const Args& args, bool outToo = false) {
@@ -311,7 +311,7 @@ TEST(Process, AShortRunShowsNoProgressOnATerminal) {
   EXPECT_EQ(result.out, plainCsv);
 }
 
-TEST(Process, TheWorthOfWaterIsDrawnOnATerminalAlone) {
+TEST(Process, TheWaterCurveIsDrawnOnlyOnATerminal) {
   const SmallHome home;
   const Args args = plainQuestion(home, "water");
   const std::string block = "█";

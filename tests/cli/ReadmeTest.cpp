@@ -9,13 +9,13 @@
 
 namespace {
 
-/// A command of the README, and the lines of its output that the README shows.
+/// A command in the README and the output lines shown with it.
 struct Example {
   std::string command;
   std::vector<std::string> lines;
 };
 
-/// Commands start with "$cli"; the indented lines in the next block, without a text between, are output.
+/// Commands start with "$cli". If an indented block follows without text in between, it is the output.
 std::vector<Example> examplesOfReadme(std::string& setup) {
   std::ifstream file(VERDALIS_SOURCE_DIR "/README.md");
   std::vector<Example> examples;
@@ -48,7 +48,7 @@ std::string outputOf(const std::string& command, int& exitCode) {
   return output;
 }
 
-TEST(Readme, ItsQuestionsHaveTheAnswersThatItShows) {
+TEST(Readme, CommandsGiveTheOutputShown) {
   std::string setup;
   const std::vector<Example> examples = examplesOfReadme(setup);
   ASSERT_GE(examples.size(), 8U);

@@ -85,9 +85,8 @@ TEST(SavedFarm, AnIncompleteFileIsReported) {
   const CliResult result = evaluate(home, {"--inputs", cut, "--crop", "Plain", "--set", "txtArea=5", "--set",
                                            "txtMax=10", "--set", "txtAnnRain=11", "--split", "5"});
   EXPECT_EQ(result.exitCode, 0);
-  EXPECT_EQ(result.err,
-            "verdalis-cli: The file " + cut +
-                " ends too early or holds a value that cannot be used. What was read before is in force.\n");
+  EXPECT_EQ(result.err, "verdalis-cli: The file " + cut +
+                            " ends too early or contains an invalid value. The values before it are used.\n");
 }
 
 TEST(SavedFarm, WaterAboveTheCapacityGivesAWarningAndTheRunContinues) {

@@ -76,7 +76,7 @@ TEST(Set, SelectsALandSplit) {
 TEST(Set, AnOptionButtonCannotBeTurnedOff) {
   const SmallHome home;
   expectRefusal(withPlain(home, {"--set", "Option1(0)=1", "--set", "Option1(0)=0"}),
-                "--set \"Option1(0)=0\": It is turned off by turning another one on.");
+                "--set \"Option1(0)=0\": An option button is turned off by turning on another one.");
 }
 
 TEST(Set, ACheckBoxAcceptsOnlyTrueAndFalse) {
@@ -119,8 +119,8 @@ TEST(Set, WarnsThatAFieldOfAnotherPaneHasNoEffect) {
   EXPECT_EQ(result.exitCode, 0);
   EXPECT_EQ(
       result.err,
-      "verdalis-cli: txtGPM takes part in a run only after it is applied on its pane, which is not done "
-      "here.\n");
+      "verdalis-cli: txtGPM has no effect on a run until it is applied on its pane, which this command does "
+      "not do.\n");
   json without = jsonOf(withPlain(home, {}));
   json with = json::parse(result.out);
   without.erase("seconds");

@@ -23,7 +23,8 @@ class StockHome {
   [[nodiscard]] const TemporaryFolder& folder() const { return folder_; }
   [[nodiscard]] std::string path() const { return folder_.path().string(); }
 
-  /// A call on the saved farm with Corn, Wheat and Grain Sorghum on three fields; `more` may overrule it.
+  /// Runs a command on the saved farm with Corn, Wheat and Grain Sorghum on three fields; `more` may override
+  /// these.
   [[nodiscard]] CliResult run(const Args& command, const Args& more = {}) const {
     Args args = command;
     const Args farm{"--home", path(), "--crop", "Corn", "--crop", "Wheat", "--crop", "Grain Sorghum"};
@@ -32,14 +33,14 @@ class StockHome {
     return runCli(args);
   }
 
-  /// The JSON of a call that must have gone well; warnings may have been told.
+  /// The JSON of a call that must succeed; warnings are allowed.
   [[nodiscard]] nlohmann::json json(const Args& command, Args more = {}) const {
     more.insert(more.end(), {"--format", "json"});
     const CliResult result = run(command, more);
     return nlohmann::json::parse(result.exitCode == 0 ? result.out : "null");
   }
 
-  /// The saved inputs with another price of fuel, as a file.
+  /// Writes a copy of the saved inputs with another fuel price and returns its path.
   [[nodiscard]] std::string withFuel(double price) const {
     std::string text = bytesOf(folder_ / "inputs.txt");
     const std::string before = "61.7\r\n5.1\r\n";

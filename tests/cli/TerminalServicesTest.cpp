@@ -11,7 +11,7 @@ namespace {
 
 class Terminal : public ::testing::Test {
  protected:
-  /// What the terminal says since the last call.
+  /// The messages since the last call.
   std::string told() {
     std::string text = err.str();
     err.str({});
@@ -23,7 +23,7 @@ class Terminal : public ::testing::Test {
   TerminalServices terminal{messages};
 };
 
-TEST_F(Terminal, KeepsTheFirstRefusalAndTellsNone) {
+TEST_F(Terminal, KeepsTheFirstRefusalAndShowsNone) {
   terminal.show({"Input error", "first", MessageKind::refusal, MessageIcon::exclamation});
   terminal.show({"Input error", "second", MessageKind::refusal, MessageIcon::exclamation});
   EXPECT_EQ(told(), "");
@@ -31,7 +31,7 @@ TEST_F(Terminal, KeepsTheFirstRefusalAndTellsNone) {
   EXPECT_EQ(terminal.takeRefusal(), std::nullopt);
 }
 
-TEST_F(Terminal, TheKindDecidesAndNotTheIcon) {
+TEST_F(Terminal, TheKindOfAMessageMattersNotItsIcon) {
   for (const MessageIcon icon : {MessageIcon::none, MessageIcon::critical, MessageIcon::question,
                                  MessageIcon::exclamation, MessageIcon::information}) {
     for (const MessageKind kind : {MessageKind::notice, MessageKind::question, MessageKind::failure}) {
@@ -45,12 +45,12 @@ TEST_F(Terminal, TheKindDecidesAndNotTheIcon) {
   }
 }
 
-TEST_F(Terminal, TheProgramsOwnTitleIsNotTold) {
+TEST_F(Terminal, TheDefaultTitleIsOmitted) {
   terminal.show({defaultTitle, "a failure", MessageKind::failure, MessageIcon::critical});
   EXPECT_EQ(told(), "verdalis-cli: a failure\n");
 }
 
-TEST_F(Terminal, SaysNoToAQuestion) {
+TEST_F(Terminal, AnswersNoToAQuestion) {
   Message question{"Delete?", "Delete it?", MessageKind::question, MessageIcon::question,
                    MessageButtons::yesNo};
   EXPECT_EQ(terminal.show(question), MessageAnswer::no);

@@ -24,7 +24,7 @@ TEST(TextTable, AlignsItsColumns) {
             "A b       1,000.5\n");
 }
 
-TEST(TextTable, CutsWhatMayShrink) {
+TEST(TextTable, ShortensColumnsThatMayShrink) {
   TextTable table({{"A", TextTable::Align::left, true}, {"B", TextTable::Align::left, true}, {"C"}});
   table.add({std::string(150, 'x'), std::string(40, 'y'), std::string(30, '1')});
   std::istringstream lines(written(table));
@@ -34,7 +34,7 @@ TEST(TextTable, CutsWhatMayShrink) {
   EXPECT_NE(written(table).find(std::string(30, '1')), std::string::npos);
 }
 
-TEST(TextTable, NumbersAreNeverCut) {
+TEST(TextTable, NeverShortensNumbers) {
   TextTable table({{"A", TextTable::Align::left, true}, {"B"}});
   table.add({std::string(20, 'x'), std::string(120, '1')});
   EXPECT_NE(written(table).find("xxxxx...  " + std::string(120, '1')), std::string::npos);
@@ -61,7 +61,7 @@ TEST(DrawCurve, ShowsEveryPointBetweenTheLowestAndTheHighest) {
     EXPECT_LE(textWidth(line), mostTableColumns);
 }
 
-TEST(DrawCurve, ManyPointsAreThinned) {
+TEST(DrawCurve, OmitsPointsIfThereAreTooMany) {
   std::vector<CurvePoint> points;
   for (int i = 0; i < 1000; ++i)
     points.push_back({static_cast<double>(i), static_cast<double>(-i)});
@@ -72,7 +72,7 @@ TEST(DrawCurve, ManyPointsAreThinned) {
     EXPECT_LE(textWidth(line), mostTableColumns);
 }
 
-TEST(DrawCurve, OnePointAndEqualPointsAreDrawn) {
+TEST(DrawCurve, DrawsOnePointAndEqualPoints) {
   for (const std::size_t count : {1, 2}) {
     std::ostringstream out;
     drawCurve(out, std::vector<CurvePoint>(count, {5, 7}), "");

@@ -13,7 +13,7 @@
 #include "trend/VariableTrendExport.h"
 #include "trend/runTrend.h"
 
-// What `trend` finds and refuses, with figures that can be worked out by hand.
+// The results and refusals of `trend`, with numbers computed by hand.
 
 namespace verdalis::testing {
 namespace {
@@ -27,7 +27,7 @@ using Json = nlohmann::ordered_json;
 /// One field of Plain on 100 acres: 50 of 100 bushels at $2.
 const Args plain{"--split", "5", "--crop", "Plain", "--price", "Plain=2", "--max-yield", "Plain=100"};
 
-/// Two fields and two crops, for more than four options.
+/// Two fields and two crops, which give more than four options.
 const Args mixed{"--split",   "0",      "--crop",  "Plain",       "--price",     "Plain=2", "--max-yield",
                  "Plain=100", "--crop", "Thirsty", "--max-yield", "Thirsty=300", "--price", "Thirsty=3"};
 
@@ -70,7 +70,7 @@ class TrendCommandTest : public ::testing::Test {
   }
 };
 
-TEST_F(TrendCommandTest, RunsOverAPrice) {
+TEST_F(TrendCommandTest, VariesAPrice) {
   const json result = trendJson(plain + priceOfPlain + Args{"--values", "2,4.5"});
   EXPECT_EQ(result["kind"], "variable");
   EXPECT_EQ(result["variable"], "Crop Price");
@@ -82,7 +82,7 @@ TEST_F(TrendCommandTest, RunsOverAPrice) {
   EXPECT_EQ(result["steps"][1]["options"][0]["profit"], 22500);
 }
 
-TEST_F(TrendCommandTest, RunsOverTheOtherVariablesOfACrop) {
+TEST_F(TrendCommandTest, VariesTheOtherVariablesOfACrop) {
   const json costs =
       trendJson(plain + Args{"--variable", "1", "--trend-crop", "plain", "--values", "10,20"})["steps"];
   ASSERT_EQ(costs.size(), 2U);
@@ -106,7 +106,7 @@ TEST_F(TrendCommandTest, ReportsEachStepWithItsOwnEfficiency) {
   }
 }
 
-TEST_F(TrendCommandTest, MakesOfEachStepWhatAnEvaluationMakes) {
+TEST_F(TrendCommandTest, EachStepEqualsAnEvaluation) {
   const json steps =
       trendJson(mixed + Args{"--no-split", "--factor", "7", "--variable", "5", "--values", "11,12"})["steps"];
   ASSERT_EQ(steps.size(), 2U);
@@ -116,8 +116,8 @@ TEST_F(TrendCommandTest, MakesOfEachStepWhatAnEvaluationMakes) {
   EXPECT_EQ(steps[1]["options"], evaluated["options"]);
 }
 
-TEST_F(TrendCommandTest, TakesValuesInThreeWays) {
-  home.folder().write("values.txt", "1, 2\r\n.5,3");  // the end of a line parts nothing
+TEST_F(TrendCommandTest, AcceptsValuesAsAListARangeOrAFile) {
+  home.folder().write("values.txt", "1, 2\r\n.5,3");  // a line end does not separate values
   EXPECT_EQ(values(priceOfPlain + Args{"--values", "1, x,,2.5"}), (std::vector<double>{1, 2.5}));
   EXPECT_EQ(values(priceOfPlain + Args{"--from", "1", "--to", "2", "--steps", "3"}),
             (std::vector<double>{1, 1.5, 2}));
@@ -155,7 +155,7 @@ TEST_F(TrendCommandTest, RepricesAnOptionWithTwoProcesses) {
   EXPECT_EQ(result["options"][0]["profit"], 45000);
 }
 
-TEST_F(TrendCommandTest, WritesTheKeysInTheirOrder) {
+TEST_F(TrendCommandTest, WritesTheKeysInOrder) {
   const auto keys = [](const Json& object) {
     Args names;
     for (const auto& item : object.items())
@@ -175,7 +175,7 @@ TEST_F(TrendCommandTest, WritesTheKeysInTheirOrder) {
   EXPECT_EQ(keys(fixed["options"][0]["trend"][0]), (Args{"variable", "value", "prefix", "suffix"}));
 }
 
-TEST_F(TrendCommandTest, WritesCsvWithTheStepInFront) {
+TEST_F(TrendCommandTest, CsvRowsBeginWithTheStep) {
   const std::string head =
       "step,value,value2,option,field,crop,acres,net_inches,gross_inches,yield,yield_unit,price,max_yield,"
       "soil,costs,return,profit,option_costs,option_return,option_profit\r\n";
@@ -189,7 +189,7 @@ TEST_F(TrendCommandTest, WritesCsvWithTheStepInFront) {
                 "2,3,0,1,1,Plain,100,8.5,10,50,bu.,3" + rest + "15000,15000,0,15000,15000\r\n");
 }
 
-TEST_F(TrendCommandTest, QuotedLineEndsEndNoRowOfCsv) {
+TEST_F(TrendCommandTest, QuotedLineEndsDoNotEndACsvRow) {
   home.crop("odd.txt", "Odd, \"crop\"", "bu.,bushels", "0.5,0.5,0.5,0.5");
   const CliResult result = trend(
       {"--split", "5", "--crop", "Odd, \"crop\"", "--variable", "4", "--values", "0,1", "--format", "csv"});
@@ -217,7 +217,7 @@ TEST_F(TrendCommandTest, WritesToAFileAndSavesNoInputs) {
   EXPECT_FALSE(std::filesystem::exists(file("inputs.txt")));
 }
 
-/// The farm of `mixed`, to hold what the writers make of it against the exported file.
+/// The farm of `mixed`, for comparing the writers' output with the exported file.
 struct OwnTrend {
   explicit OwnTrend(const SmallHome& home) : request(requestOf(home)) {
     BatchProcess price;
@@ -248,7 +248,7 @@ struct OwnTrend {
   TrendOutcome run() { return typed->runTrend(trend, unheard).value(); }
 };
 
-TEST_F(TrendCommandTest, ExportsAVariableTrendAsItsWriterDoes) {
+TEST_F(TrendCommandTest, TheExportOfAVariableTrendEqualsItsWriter) {
   const CliResult result =
       trend(mixed + priceOfPlain + Args{"--values", "2,5", "--export", file("trend.xls")});
   ASSERT_EQ(result.exitCode, 0) << result.err;
@@ -261,7 +261,7 @@ TEST_F(TrendCommandTest, ExportsAVariableTrendAsItsWriterDoes) {
   EXPECT_EQ(bytesOf(file("trend.xls")), encodeForExport(text));
 }
 
-TEST_F(TrendCommandTest, ExportsAFixedTrendAsItsWriterDoes) {
+TEST_F(TrendCommandTest, TheExportOfAFixedTrendEqualsItsWriter) {
   const CliResult result =
       trend(mixed + priceOfPlain + Args{"--values", "2,5", "--option", "2", "--export", file("trend.xls")});
   ASSERT_EQ(result.exitCode, 0) << result.err;
@@ -277,7 +277,7 @@ TEST_F(TrendCommandTest, ExportsAFixedTrendAsItsWriterDoes) {
   EXPECT_EQ(bytesOf(file("trend.xls")), encodeForExport(text));
 }
 
-TEST_F(TrendCommandTest, AnExportThatBreaksOffFailsAfterTheResult) {
+TEST_F(TrendCommandTest, AnIncompleteExportFailsAfterTheResult) {
   const CliResult result =
       trend(plain + priceOfPlain + Args{"--values", "1,3", "--export", file("trend.xls")});
   EXPECT_EQ(result.exitCode, 1);
@@ -288,7 +288,7 @@ TEST_F(TrendCommandTest, AnExportThatBreaksOffFailsAfterTheResult) {
   EXPECT_EQ(page.find("</html>"), std::string::npos);
 }
 
-TEST_F(TrendCommandTest, RefusesAWrongVariableOrCrop) {
+TEST_F(TrendCommandTest, RefusesAnInvalidVariableOrCrop) {
   expectRefused({"--values", "1"}, "A trend needs a variable (--variable N)");
   expectRefused({"--variable", "6", "--values", "1"}, "There is no such variable");
   expectRefused({"--variable", "1x", "--values", "1"}, "There is no such variable");
@@ -296,7 +296,7 @@ TEST_F(TrendCommandTest, RefusesAWrongVariableOrCrop) {
   expectRefused({"--variable", "0", "--trend-crop", "Kale", "--values", "1"}, "There is no crop \"Kale\"");
 }
 
-TEST_F(TrendCommandTest, RefusesWrongValues) {
+TEST_F(TrendCommandTest, RefusesInvalidValues) {
   const Args efficiency{"--variable", "3"};
   const Args rain{"--variable", "5"};
   const auto range = [](const std::string& from, const std::string& to, const std::string& steps) {
@@ -304,7 +304,7 @@ TEST_F(TrendCommandTest, RefusesWrongValues) {
   };
   expectRefused(efficiency, "A trend needs its values in one way");
   expectRefused(efficiency + Args{"--values", "1", "--values-file", "x"}, "in one way");
-  expectRefused(efficiency + Args{"--from", "1"}, "A range of values needs all of");
+  expectRefused(efficiency + Args{"--from", "1"}, "A range of values requires");
   expectRefused(efficiency + range("1", "x", "2"), "--to \"x\": Please enter a valid number");
   expectRefused(efficiency + range("2", "1", "2"),
                 "Please select a maximum value greater than the minimum value!");
@@ -320,13 +320,13 @@ TEST_F(TrendCommandTest, RefusesWrongValues) {
   expectRefused(efficiency + range("1", "2", "20000"), "options that a variable trend can keep");
 }
 
-TEST_F(TrendCommandTest, RefusesAWrongFixedTrend) {
+TEST_F(TrendCommandTest, RefusesAnInvalidFixedTrend) {
   const Args one = priceOfPlain + Args{"--values", "1,2"};
-  expectRefused(one + Args{"--option", "0"}, "Options are counted 1, 2, 3");
-  expectRefused(one + Args{"--option", "x"}, "Options are counted 1, 2, 3");
-  expectRefused(one + Args{"--option", "2"}, "The evaluation has found 1 option.");
-  expectRefused(one + Args{"--variable2", "3", "--values2", "70"}, "which needs --option K");
-  expectRefused(one + Args{"--report", file("r.txt")}, "which needs --option K");
+  expectRefused(one + Args{"--option", "0"}, "Options are counted from 1");
+  expectRefused(one + Args{"--option", "x"}, "Options are counted from 1");
+  expectRefused(one + Args{"--option", "2"}, "The evaluation found 1 option.");
+  expectRefused(one + Args{"--variable2", "3", "--values2", "70"}, "It requires --option K");
+  expectRefused(one + Args{"--report", file("r.txt")}, "It requires --option K");
   expectRefused(one + Args{"--option", "1", "--variable2", "5", "--values2", "30"},
                 "--values2: Values for Annual Rainfall cannot exceed 21 inches.");
   expectRefused(
@@ -334,7 +334,7 @@ TEST_F(TrendCommandTest, RefusesAWrongFixedTrend) {
       "The values make 32,768 combinations");
 }
 
-TEST_F(TrendCommandTest, RefusesAFarmThatIsNotComplete) {
+TEST_F(TrendCommandTest, RefusesAnIncompleteFarm) {
   const CliResult result = trend(priceOfPlain + Args{"--values", "1,2"});
   EXPECT_EQ(result.exitCode, 2);
   EXPECT_THAT(result.err, HasSubstr("a land split (--split N); a crop (--crop NAME)"));
@@ -354,7 +354,7 @@ TEST_F(TrendCommandTest, PrintsTheReportsOfTheEvaluation) {
   EXPECT_NE(bytesOf(file("report.txt")), "");
 }
 
-TEST_F(TrendCommandTest, TellsItsOptions) {
+TEST_F(TrendCommandTest, HelpListsTheOptions) {
   const CliResult result = runCli({"trend", "--help"});
   EXPECT_EQ(result.exitCode, 0);
   for (const char* option : {"--variable ", "--trend-crop ", "--values ", "--from ", "--to ", "--steps ",

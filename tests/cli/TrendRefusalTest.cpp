@@ -236,12 +236,11 @@ TEST_F(TrendRefusalTest, RejectsRainfallOutsideTheYieldTables) {
 TEST_F(TrendRefusalTest, RejectsAnUnknownOption) {
   const Args one = irrigationCosts + Args{"--values", "1,2"};
   for (const std::string option : {"0", "-1", "", "1.0", "1x", " 1"}) {
-    expectRefused(one + Args{"--option", option},
-                  "--option \"" + option + "\": Options are counted 1, 2, 3 and so on.");
+    expectRefused(one + Args{"--option", option}, "--option \"" + option + "\": Options are counted from 1.");
   }
-  expectRefused(one + Args{"--option", "2"}, "--option 2: The evaluation has found 1 option.");
+  expectRefused(one + Args{"--option", "2"}, "--option 2: The evaluation found 1 option.");
   expectRefused(one + Args{"--option", "18446744073709551615"},
-                "--option 18446744073709551615: The evaluation has found 1 option.");
+                "--option 18446744073709551615: The evaluation found 1 option.");
 }
 
 TEST_F(TrendRefusalTest, RejectsAnUnknownVariable) {
@@ -321,13 +320,13 @@ TEST_F(TrendRefusalTest, ReportsAnUnusedCropName) {
   EXPECT_EQ(told(ofPlain("0")), "");
   EXPECT_EQ(
       told(irrigationCosts + Args{"--trend-crop", "Plain"}),
-      "verdalis-cli: --trend-crop: \"Irrigation Costs\" belongs to no crop, so the name takes no part.\n");
+      "verdalis-cli: --trend-crop: \"Irrigation Costs\" belongs to no crop, so the name has no effect.\n");
   EXPECT_EQ(told({"--variable", "1", "--trend-crop", "Fallow"}),
-            "verdalis-cli: --trend-crop: \"Fallow\" is not ticked, so its values change nothing.\n");
+            "verdalis-cli: --trend-crop: \"Fallow\" is not ticked, so its values have no effect.\n");
   EXPECT_EQ(
       told(ofPlain("0") +
            Args{"--option", "1", "--variable2", "1", "--trend-crop2", "Fallow", "--values2", "3"}),
-      "verdalis-cli: --trend-crop2: \"Fallow\" has no field in this option, so its values change nothing.\n");
+      "verdalis-cli: --trend-crop2: \"Fallow\" has no field in this option, so its values have no effect.\n");
 }
 
 }  // namespace

@@ -14,7 +14,7 @@ bool has(const std::string& text, const std::string& part) {
   return text.find(part) != std::string::npos;
 }
 
-TEST(Wish, OptionsMeetItAndAreAmongAllOptions) {
+TEST(Wish, TheResultIsTheOptionsThatMeetIt) {
   const StockHome home;
   const json all = home.json({"evaluate"}, {"--keep", "5000"});
   const json some = home.json({"evaluate"}, {"--keep", "20", "--wish", "wheat  AT least 40 acre"});
@@ -33,7 +33,7 @@ TEST(Wish, OptionsMeetItAndAreAmongAllOptions) {
   EXPECT_EQ(json(expected), some["options"]);
 }
 
-TEST(Wish, TheTableHasALineForEach) {
+TEST(Wish, TheTableHasALineForEachWish) {
   const StockHome home;
   const CliResult result = home.run({"evaluate"}, {"--keep", "1", "--wish", "field 1 is corn", "--wish",
                                                    "at most 2 crop", "--wish", "Field 1 is Corn", "--mixes"});
@@ -41,7 +41,7 @@ TEST(Wish, TheTableHasALineForEach) {
   EXPECT_TRUE(has(result.out, "%\nWish: field 1 is Corn\nWish: at most 2 crops\nOf each mix")) << result.out;
 }
 
-TEST(Wish, NothingFits) {
+TEST(Wish, IfNoPlanMeetsAllWishesTheWishesToGiveUpAreReported) {
   const StockHome home;
   const Args wishes{"--wish", "Corn at least 80 acres", "--wish", "field 1 is Wheat",
                     "--wish", "Wheat at most 10 acres"};
@@ -53,7 +53,7 @@ TEST(Wish, NothingFits) {
   const json told = json::parse(result.out);
   EXPECT_EQ(told["options"], json::array());
   EXPECT_EQ(told["wishes"].size(), 3);
-  // Each of the relaxations is the best without its wishes.
+  // Each relaxation is the best result without its wishes.
   ASSERT_EQ(told["relax"].size(), 1) << told["relax"];
   EXPECT_EQ(told["relax"][0]["without"], json({"field 1 is Wheat"}));
   EXPECT_EQ(told["relax"][0]["profit"],
@@ -78,16 +78,16 @@ TEST(Wish, NothingFits) {
   }
 }
 
-TEST(Wish, WithoutCandidatesThereIsNothingToGiveUp) {
+TEST(Wish, WithoutCandidatesNoRelaxationIsReported) {
   const SmallHome home;
-  // With six steps the whole water is no share, so an undivided farm has no split of it.
+  // With six steps no share is the whole water, so the undivided farm has no split.
   const CliResult result = home.evaluate(
       {"--split", "5", "--factor", "6", "--crop", "Plain", "--wish", "field 1 is Plain", "--format", "json"});
   EXPECT_EQ(result.exitCode, 1) << result.out;
   EXPECT_EQ(json::parse(result.out)["relax"], json::array());
 }
 
-TEST(Wish, WhatIsWrongIsTold) {
+TEST(Wish, AnInvalidWishIsRefusedWithTheReason) {
   const StockHome home;
   const auto refusal = [&](const std::string& wish) {
     const CliResult result = home.run({"evaluate"}, {"--wish", wish});
@@ -111,7 +111,7 @@ TEST(Wish, WhatIsWrongIsTold) {
   EXPECT_EQ(home.run({"evaluate"}, many).exitCode, 0);
 }
 
-TEST(Wish, TheReportNamesIt) {
+TEST(Wish, TheResultsReportListsTheWishes) {
   const StockHome home;
   const std::string report = (home.folder() / "report.txt").string();
   EXPECT_EQ(home.run({"evaluate"}, {"--wish", "field 1 is corn", "--report", report}).exitCode, 0);
@@ -120,7 +120,7 @@ TEST(Wish, TheReportNamesIt) {
   EXPECT_FALSE(has(bytesOf(report), "Wish"));
 }
 
-TEST(Wish, AVariableTrendObeysIt) {
+TEST(Wish, AVariableTrendMeetsTheWishes) {
   const StockHome home;
   const Args trend{"--variable", "5", "--values", "15,18", "--keep", "4"};
   Args wished = trend;
@@ -137,7 +137,7 @@ TEST(Wish, AVariableTrendObeysIt) {
   EXPECT_TRUE(has(home.run({"trend"}, wished).out, "Wish: field 1 is Wheat\n"));
 }
 
-TEST(Wish, AFixedTrendTakesItsOptionFromThoseThatMeetIt) {
+TEST(Wish, TheOptionOfAFixedTrendMeetsTheWishes) {
   const StockHome home;
   const json result = home.json(
       {"trend"}, {"--option", "2", "--variable", "4", "--values", "15", "--wish", "field 1 is wheat"});
@@ -145,7 +145,7 @@ TEST(Wish, AFixedTrendTakesItsOptionFromThoseThatMeetIt) {
   EXPECT_EQ(result["grid"][0]["option"]["fields"][0]["crop"], "Wheat");
 }
 
-TEST(Wish, ATrendWithoutAPlanTellsWhatToGiveUp) {
+TEST(Wish, ATrendWithoutAPlanReportsTheWishesToGiveUp) {
   const StockHome home;
   for (const Args& kind : std::vector<Args>{{"--values", "15,16"}, {"--values", "15", "--option", "1"}}) {
     Args trend{"--variable", "4", "--wish", "field 1 is Wheat", "--wish", "Wheat at most 1 acre"};
@@ -161,14 +161,14 @@ TEST(Wish, ATrendWithoutAPlanTellsWhatToGiveUp) {
   }
 }
 
-TEST(Wish, AWishNeedsTheFarmToBeComplete) {
+TEST(Wish, AWishRequiresACompleteFarm) {
   const StockHome home;
   const CliResult result = runCli({"evaluate", "--home", home.path(), "--wish", "field 1 is Corn"});
   EXPECT_EQ(result.exitCode, 2);
   EXPECT_TRUE(has(result.err, "a crop (--crop NAME)")) << result.err;
 }
 
-TEST(Mixes, EachStandsOnceAtItsBest) {
+TEST(Mixes, TheBestOptionOfEachMixIsKept) {
   const StockHome home;
   const auto mixOf = [](const json& option) {
     std::vector<std::pair<double, std::string>> mix;

@@ -88,10 +88,10 @@ TEST(CsvReader, BlanksAndALoneCrBelongToTheirCell) {
 }
 
 TEST(CsvReader, AFaultNamesItsCellAndEndsWithItsLine) {
-  const std::string inside = "Cell 2: A quote stands inside a text that is not in quotes.";
-  const std::string behind = "Cell 1: A text stands behind the quote that ends it.";
-  const std::string open = "Cell 2: The quote in front of it has no end.";
-  const std::string bytes = "Cell 3: The text is no UTF-8.";
+  const std::string inside = "Cell 2: A text that is not in quotes contains a quote.";
+  const std::string behind = "Cell 1: There is text after the closing quote.";
+  const std::string open = "Cell 2: The closing quote is missing.";
+  const std::string bytes = "Cell 3: The text is not UTF-8.";
   for (const std::size_t piece : {1U, 3U, 100U}) {
     const auto rows = rowsOf("a,b\"c,d\n\"a\"b,c\n\"a\"\r\r\na,b,\xFF\nx,y\na,\"b\n\n", piece);
     ASSERT_EQ(rows.size(), 6U);

@@ -23,11 +23,11 @@ using reference::PlainPlan;
 using reference::RandomFarm;
 using testing::ScopedEfficiency;
 
-/// Farms of each kind in a run of the suite, each with several questions.
+/// Number of farms of each kind in a run of the suite, each with several questions.
 constexpr std::uint64_t farmsPerKind = 60;
 constexpr double mostCandidates = 2500;
 
-/// The first farm of a run. Every run takes the same ones, unless VERDALIS_SEED asks for others.
+/// The first farm of a run. Every run uses the same farms unless VERDALIS_SEED is set.
 std::uint64_t firstSeed() {
   const char* text = std::getenv("VERDALIS_SEED");
   return text == nullptr ? 0 : std::strtoull(text, nullptr, 10);
@@ -47,7 +47,7 @@ class Random {
   std::mt19937_64 random_;
 };
 
-/// A wish that some plans meet and others do not, mostly.
+/// A wish that usually some plans meet and others do not.
 Wish randomWish(const RandomFarm& farm, Random& random) {
   const SearchInputs inputs = farm.inputs();
   Wish wish;
@@ -77,7 +77,7 @@ Wish randomWish(const RandomFarm& farm, Random& random) {
   return wish;
 }
 
-/// The farm in several years: other rain, and yields that follow it.
+/// The farm in several years with different rain, and so with different yields.
 class Years {
  public:
   Years(const RandomFarm& farm, std::size_t count, Random& random) : farm_(farm) {
@@ -145,7 +145,7 @@ std::vector<Wish> randomWishes(const RandomFarm& farm, Random& random, std::size
 
 class PlanSearchOn : public ::testing::TestWithParam<FarmKind> {};
 
-TEST_P(PlanSearchOn, RandomFarmsRanksWhatMeetsTheWishesAsGoingThroughAllDoes) {
+TEST_P(PlanSearchOn, RanksRandomFarmsWithWishesLikeAFullEnumeration) {
   for (std::uint64_t seed = firstSeed(); seed < firstSeed() + farmsPerKind; ++seed) {
     const RandomFarm farm(GetParam(), seed, mostCandidates);
     const ScopedEfficiency efficiency(farm.efficiency());
@@ -173,7 +173,7 @@ TEST_P(PlanSearchOn, RandomFarmsRanksWhatMeetsTheWishesAsGoingThroughAllDoes) {
   }
 }
 
-TEST_P(PlanSearchOn, SeveralSeasonsRanksByAverageAndFindsTheLeastRegret) {
+TEST_P(PlanSearchOn, RanksSeveralSeasonsByAverageAndFindsTheLeastRegret) {
   for (std::uint64_t seed = firstSeed(); seed < firstSeed() + farmsPerKind; ++seed) {
     const RandomFarm farm(GetParam(), seed, mostCandidates / 2);
     const ScopedEfficiency efficiency(farm.efficiency());

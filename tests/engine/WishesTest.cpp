@@ -31,7 +31,7 @@ const std::string corn = "Corn";
 const std::string wheat = "Wheat";
 const std::string fallow = "Fallow";
 
-TEST(MeetsWish, AcresOfACropAreAddedInFieldOrderAndMetWithinABillionth) {
+TEST(MeetsWish, AcresOfACropAreSummedAndComparedWithinABillionth) {
   const std::vector<WishedField> plan{{33, &corn, 10}, {33, &wheat, 5}, {33, &corn, 0}};
   EXPECT_TRUE(meetsWish({Wish::Kind::acresAtLeast, corn, 0, 66}, plan));
   EXPECT_TRUE(meetsWish({Wish::Kind::acresAtLeast, corn, 0, 66 * (1 + 0.9e-9)}, plan));
@@ -42,7 +42,7 @@ TEST(MeetsWish, AcresOfACropAreAddedInFieldOrderAndMetWithinABillionth) {
   EXPECT_FALSE(meetsWish({Wish::Kind::acresAtMost, wheat, 0, 0}, plan));
 }
 
-TEST(MeetsWish, AFieldIsOneCropAndHasItsDepth) {
+TEST(MeetsWish, AFieldHasOneCropAndOneDepth) {
   const std::vector<WishedField> plan{{50, &corn, 12}, {50, &fallow, 0}};
   EXPECT_TRUE(meetsWish({Wish::Kind::fieldIs, corn, 1, 0}, plan));
   EXPECT_FALSE(meetsWish({Wish::Kind::fieldIs, corn, 2, 0}, plan));
@@ -53,7 +53,7 @@ TEST(MeetsWish, AFieldIsOneCropAndHasItsDepth) {
   EXPECT_FALSE(meetsWish({Wish::Kind::depthAtMost, "", 1, 11}, plan));
 }
 
-TEST(MeetsWish, AFieldThatThePlanLacksMeetsWhatForbidsOrLimits) {
+TEST(MeetsWish, AMissingFieldMeetsOnlyWishesThatForbidOrLimit) {
   const std::vector<WishedField> plan{{100, &corn, 12}};
   EXPECT_FALSE(meetsWish({Wish::Kind::fieldIs, corn, 2, 0}, plan));
   EXPECT_TRUE(meetsWish({Wish::Kind::fieldIsNot, corn, 2, 0}, plan));
@@ -61,7 +61,7 @@ TEST(MeetsWish, AFieldThatThePlanLacksMeetsWhatForbidsOrLimits) {
   EXPECT_TRUE(meetsWish({Wish::Kind::depthAtMost, "", 2, 0}, plan));
 }
 
-TEST(MeetsWish, DifferentCropsAreCountedFallowAmongThem) {
+TEST(MeetsWish, DifferentCropsAreCountedIncludingFallow) {
   const std::vector<WishedField> plan{{25, &corn, 1}, {25, &fallow, 0}, {25, &corn, 1}, {25, &wheat, 0}};
   EXPECT_TRUE(meetsWish({Wish::Kind::cropsAtLeast, "", 0, 3}, plan));
   EXPECT_FALSE(meetsWish({Wish::Kind::cropsAtLeast, "", 0, 4}, plan));
@@ -69,7 +69,7 @@ TEST(MeetsWish, DifferentCropsAreCountedFallowAmongThem) {
   EXPECT_FALSE(meetsWish({Wish::Kind::cropsAtMost, "", 0, 2}, plan));
 }
 
-TEST(WaterPathsTest, EndInTheSplitsWhateverTheirOrder) {
+TEST(WaterPathsTest, EndInTheSplitsInAnyOrder) {
   std::mt19937_64 random(7);
   for (int round = 0; round < 200; ++round) {
     std::set<std::vector<std::uint16_t>> different;
@@ -117,7 +117,7 @@ Scenario scenarioOf(const RandomFarm& farm, std::vector<Wish> wishes, bool noSpl
           inputs.size,  noSplit,          std::move(wishes),   mixes};
 }
 
-/// Every candidate that meets the wishes, undivided ones too, in the order of submission.
+/// All candidates that meet the wishes, including those of the undivided farm, in the order of submission.
 std::vector<BestMix::Option> allOptions(const Scenario& scenario) {
   std::vector<BestMix::Option> options;
   const auto take = [&](FieldCollection& candidate) {
@@ -171,8 +171,8 @@ std::vector<BestMix::Option> oneOfEachMix(const std::vector<BestMix::Option>& ra
   return result;
 }
 
-/// What a person sees of options: profit, crops, acres, depths, yields. The pumping hours of a dry undivided
-/// field are those of the one before it, which the plain options here do not share.
+/// The displayed values of options: profit, crops, acres, depths, yields. Pumping hours are omitted: those of
+/// a dry undivided field come from the field before it, which the simple options here do not share.
 std::vector<std::string> seen(const std::vector<BestMix::Option>& options, double efficiency) {
   std::vector<std::string> texts;
   for (const auto& option : options) {
@@ -202,7 +202,7 @@ Wish someWish(const Scenario& scenario, std::mt19937_64& random) {
 
 class WishesOn : public ::testing::TestWithParam<FarmKind> {};
 
-TEST_P(WishesOn, AnEvaluationRanksTheUndividedFarmTooAsGoingThroughAllDoes) {
+TEST_P(WishesOn, EvaluationsRankTheUndividedFarmLikeAFullEnumeration) {
   std::mt19937_64 random(static_cast<std::uint64_t>(GetParam()));
   for (std::uint64_t seed = 0; seed < 40; ++seed) {
     const RandomFarm farm(GetParam(), seed, 1200);
@@ -226,7 +226,7 @@ TEST_P(WishesOn, AnEvaluationRanksTheUndividedFarmTooAsGoingThroughAllDoes) {
                 seen(expected.returnCollection(!scenario.mixes), scenario.efficiency));
       if (!plain.empty() || scenario.wishes.empty()) continue;
 
-      // Nothing fits: the smallest sets to give up, by going through all sets.
+      // No plan meets the wishes: find the smallest sets to give up by trying all sets.
       const auto relaxations = relaxWishes(scenario, state, hooks);
       ASSERT_TRUE(relaxations);
       std::size_t sets = 0;

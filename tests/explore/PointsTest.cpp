@@ -11,7 +11,7 @@
 #include "tests/explore/SmallFarm.h"
 #include "text/RunTimeError.h"
 
-// Questions that put many points to the search: each is the best plan of a farm with that input, whatever the
+// Questions that solve many points. Each point must be the best plan of a farm with that input, for any
 // number of threads.
 
 namespace verdalis {
@@ -23,7 +23,7 @@ using Kind = FarmInput::Kind;
 
 constexpr unsigned manyJobs = 5;
 
-/// Counts the steps, and cancels at one of them.
+/// Counts the steps, and cancels at a given step.
 class Steps : public RunHooks {
  public:
   explicit Steps(ProgramState& state, int cancelAt = -1) : state_(state), cancelAt_(cancelAt) {}
@@ -62,7 +62,7 @@ Plan planAt(const Farm& farm, const FarmInput& input, double value) {
   return bestPlan(withInput(farm, input, value), state, hooks).value();
 }
 
-TEST(BestPlans, AreThoseOfOneThread) {
+TEST(BestPlans, DoNotDependOnTheNumberOfThreads) {
   for (std::uint64_t seed = 1; seed <= 30; ++seed) {
     const Farm farm = smallFarm(seed);
     if (farm.crops.Count() == 0) continue;
@@ -84,13 +84,13 @@ TEST(BestPlans, AreThoseOfOneThread) {
         expectSame((*alone)[i], (*together)[i]);
         expectSame((*alone)[i], planAt(farm, {Kind::water, {}}, amounts[i]));
       }
-    } catch (const std::exception& error) {  // a farm that cannot be evaluated, or that has no candidate
+    } catch (const std::exception& error) {  // a farm that cannot be evaluated or has no candidate
       EXPECT_ANY_THROW(static_cast<void>(plansWith(manyJobs))) << error.what();
     }
   }
 }
 
-TEST(BestPlans, TheFirstPointThatFailsIsTold) {
+TEST(BestPlans, TheFirstFailedPointIsReported) {
   const Farm farm = twoCropFarm();
   for (unsigned jobs = 1; jobs <= manyJobs; ++jobs) {
     ProgramState state;
@@ -107,7 +107,7 @@ TEST(BestPlans, TheFirstPointThatFailsIsTold) {
   }
 }
 
-TEST(BestPlans, ACancelEndsThem) {
+TEST(BestPlans, ACancelEndsTheSearch) {
   const Farm farm = twoCropFarm();
   const FarmOfPoint farmOf = [](const Farm& base, std::size_t /*point*/) { return base.Copy(); };
   for (const unsigned jobs : {1U, manyJobs}) {
@@ -118,7 +118,7 @@ TEST(BestPlans, ACancelEndsThem) {
   }
 }
 
-TEST(BestPlans, AFailureOfTheHooksEndsThem) {
+TEST(BestPlans, AnExceptionInTheHooksEndsTheSearch) {
   class Failing : public RunHooks {
     void pumpEvents() override { throw std::runtime_error("no events"); }
   };
@@ -130,35 +130,35 @@ TEST(BestPlans, AFailureOfTheHooksEndsThem) {
                std::runtime_error);
 }
 
-TEST(ExploreWater, TheUsualAmountsAreWater) {
+TEST(ExploreWater, DefaultAmountsDoNotRoundToZero) {
   Farm farm = twoCropFarm();
   EXPECT_EQ(usualAmounts(farm).size(), 20);
   EXPECT_EQ(usualAmounts(farm).back(), 24);
   farm.acres = 0.3;
   farm.takeWater(4);
-  // 0.12 to 2.4 acre-inches by 0.12: those of half an acre-inch and more.
+  // 0.12 to 2.4 acre-inches in steps of 0.12: only those of at least half an acre-inch remain.
   EXPECT_EQ(usualAmounts(farm).size(), 16);
   for (const double gross : usualAmounts(farm))
     EXPECT_TRUE(isWater(farm, gross));
   EXPECT_FALSE(isWater(farm, 0));
 }
 
-TEST(ExploreWater, MostIsTheFirstOfTheHighest) {
+TEST(ExploreWater, MostIsTheFirstOfEqualHighestPoints) {
   ProgramState state;
   Steps hooks(state);
-  // The same amount twice, so two points have the highest profit.
+  // The same amount is used twice, so two points have the highest profit.
   const auto result = exploreWater(twoCropFarm(), {2, 12, 12, 3}, state, hooks);
   ASSERT_TRUE(result);
   EXPECT_EQ(result->most, 1);
   EXPECT_EQ(hooks.announced, hooks.done);
 }
 
-TEST(ExploreWater, AWishThatNeedsTheLastInchLeavesItWithoutAWorth) {
+TEST(ExploreWater, LastInchIsEmptyIfAWishRequiresIt) {
   Farm farm = twoCropFarm();
   Wish wish;
   wish.kind = Wish::Kind::depthAtLeast;
   wish.field = 1;
-  wish.amount = 47.5;  // of 48 inches that the whole water is on a quarter of the farm
+  wish.amount = 47.5;  // of the 48 inches that all the water is on a quarter of the farm
   farm.wishes = {wish};
   ProgramState state;
   RunHooks hooks;
@@ -174,7 +174,7 @@ TEST(ExploreWater, AWishThatNeedsTheLastInchLeavesItWithoutAWorth) {
   }
 }
 
-TEST(ExploreInputs, EachCropHasItsInputsOnce) {
+TEST(ExploreInputs, EachCropNameHasItsInputsOnce) {
   Farm farm = twoCropFarm();
   farm.crops.Add(std::make_shared<Crop>(testing::fallowCrop()));
   farm.crops.Add(std::make_shared<Crop>(testing::cornCrop()));
@@ -184,7 +184,7 @@ TEST(ExploreInputs, EachCropHasItsInputsOnce) {
   EXPECT_EQ(inputsOf(farm), expected);
 }
 
-TEST(ExploreInputs, EachEndIsThatFarm) {
+TEST(ExploreInputs, EachChangedValueGivesTheBestPlanOfThatFarm) {
   for (std::uint64_t seed = 40; seed < 60; ++seed) {
     const Farm farm = smallFarm(seed);
     ProgramState state;
@@ -211,7 +211,7 @@ TEST(ExploreInputs, EachEndIsThatFarm) {
 }
 
 TEST(ExploreInputs, EqualChangesKeepTheOrderOfTheInputs) {
-  // Crops that bring in nothing but a fixed income: water, rain and yields change nothing.
+  // Crops with only a fixed income: water, rain and yields have no effect.
   Farm farm = twoCropFarm();
   farm.crops = CropScenario();
   farm.crops.Add(std::make_shared<Crop>(testing::namedCrop("Rest")));
@@ -230,7 +230,7 @@ TEST(ExploreInputs, EqualChangesKeepTheOrderOfTheInputs) {
   EXPECT_EQ(told, inputsOf(farm));
 }
 
-TEST(ExploreMap, EachPointIsThatFarmAndEachMixStandsOnce) {
+TEST(ExploreMap, EachPointIsTheBestPlanAndEachMixIsListedOnce) {
   const Farm farm = twoCropFarm();
   const MapAxis x{{Kind::price, "Corn"}, evenValues(2, 8, 4)};
   const MapAxis y{{Kind::rain, {}}, evenValues(12, 20, 3)};
@@ -256,7 +256,7 @@ TEST(ExploreMap, EachPointIsThatFarmAndEachMixStandsOnce) {
     EXPECT_EQ(std::count(map->mixes.begin(), map->mixes.end(), map->mixes[i]), 1);
 }
 
-TEST(ExploreMap, AYieldAndTheRainScaleACropInEitherOrder) {
+TEST(ExploreMap, YieldAndRainCanBeEitherAxis) {
   const Farm farm = twoCropFarm();
   const MapAxis yield{{Kind::maxYield, "Corn"}, {150, 250}};
   const MapAxis rain{{Kind::rain, {}}, {12, 20}};
@@ -270,7 +270,7 @@ TEST(ExploreMap, AYieldAndTheRainScaleACropInEitherOrder) {
   }
 }
 
-TEST(Mix, DoesNotHeedTheOrderOfTheFields) {
+TEST(Mix, DoesNotDependOnTheOrderOfTheFields) {
   const Plan a{1, {{40, "Wheat", 0, 0, 0}, {40, "Corn", 5, 6, 7}, {80, "Corn", 0, 0, 0}}};
   const Plan b{2, {{80, "Corn", 1, 2, 3}, {40, "Wheat", 0, 0, 0}, {40, "Corn", 0, 0, 0}}};
   EXPECT_EQ(mixOf(a), mixOf(b));

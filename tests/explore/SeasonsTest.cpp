@@ -22,7 +22,7 @@ namespace {
 using testing::smallFarm;
 using testing::twoCropFarm;
 
-/// A candidate over several seasons, worked out one by one.
+/// A candidate over several seasons, calculated separately.
 struct PlainSeasonPlan {
   std::vector<double> profits;
   double average = 0;
@@ -37,7 +37,7 @@ double profitAndYields(FieldCollection& candidate, double efficiency, std::vecto
   return candidate.getProfit(efficiency);
 }
 
-/// Every plan that meets the wishes in the order of submission, priced season by season.
+/// All plans that meet the wishes, in the order of submission, priced season by season.
 std::vector<PlainSeasonPlan> allPlans(const Farm& farm, const std::vector<Season>& seasons) {
   std::vector<PlainSeasonPlan> plans;
   for (std::size_t season = 0; season < seasons.size(); ++season) {
@@ -99,7 +99,8 @@ std::string textOf(const std::vector<PlannedField>& fields) {
   return text;
 }
 
-/// The rule of the ranking: neighbours of equal value whose first field has a partner that reads the same.
+/// The rule of the ranking: neighbours of equal value are duplicates if the first field has a match that
+/// looks the same.
 bool areDuplicates(const PlainSeasonPlan& lower, const PlainSeasonPlan& above) {
   if (lower.average != above.average) return false;
   if (lower.fields.size() != above.fields.size()) return true;
@@ -115,7 +116,7 @@ bool areDuplicates(const PlainSeasonPlan& lower, const PlainSeasonPlan& above) {
   return false;
 }
 
-TEST(ExploreSeasons, RanksByAverageAndFindsTheSafestAsGoingThroughAllDoes) {
+TEST(ExploreSeasons, RanksByAverageAndFindsTheSafestLikeAFullEnumeration) {
   std::mt19937_64 random(11);
   for (std::uint64_t seed = 0; seed < 600; ++seed) {
     SCOPED_TRACE("farm " + std::to_string(seed));
@@ -180,7 +181,7 @@ TEST(ExploreSeasons, RanksByAverageAndFindsTheSafestAsGoingThroughAllDoes) {
   }
 }
 
-TEST(ExploreSeasons, AlikeSeasonsGiveTheRankingOfAnEvaluation) {
+TEST(ExploreSeasons, IdenticalSeasonsGiveTheRankingOfAnEvaluation) {
   for (std::uint64_t seed = 0; seed < 100; ++seed) {
     const Farm farm = smallFarm(seed);
     const std::vector<Season> seasons{{"one", farm.rain, 1}, {"two", farm.rain, 1}};
@@ -202,7 +203,7 @@ TEST(ExploreSeasons, AlikeSeasonsGiveTheRankingOfAnEvaluation) {
   }
 }
 
-TEST(ExploreSeasons, UsualSeasonsAreHeldWithinTheYieldTables) {
+TEST(ExploreSeasons, UsualSeasonsAreLimitedToTheYieldTables) {
   const auto rains = [](double rain) {
     std::vector<double> result;
     for (const Season& season : usualSeasons(rain))
@@ -216,7 +217,7 @@ TEST(ExploreSeasons, UsualSeasonsAreHeldWithinTheYieldTables) {
   EXPECT_EQ(usualSeasons(16)[0].name, "dry");
 }
 
-TEST(ExploreSeasons, ACancelGivesNothing) {
+TEST(ExploreSeasons, ACancelGivesNoResult) {
   class CancelAtOnce : public RunHooks {
    public:
     explicit CancelAtOnce(ProgramState& state) : state_(state) {}

@@ -12,7 +12,7 @@
 
 namespace verdalis::testing {
 
-/// A farm drawn from a seed, with few enough candidates to go through them all. Two rows of one name come up.
+/// A random farm with few enough candidates to try them all. Two rows may have the same crop name.
 inline Farm smallFarm(std::uint64_t seed) {
   RandomFarm random(seed);
   Farm farm;
@@ -34,7 +34,7 @@ inline Farm smallFarm(std::uint64_t seed) {
   return farm;
 }
 
-/// Corn and Wheat on 125 acres in four fields, 12 inches of water, 16 of rain.
+/// Corn and Wheat on 125 acres in four fields, 12 inches of water, 16 inches of rain.
 inline Farm twoCropFarm() {
   Farm farm;
   farm.acres = 125;

@@ -20,7 +20,7 @@ using testing::smallFarm;
 using testing::twoCropFarm;
 
 constexpr std::uint64_t farms = 150;
-constexpr double sharp = 1e-6;  ///< Of the range: as right as a corner must be
+constexpr double sharp = 1e-6;  ///< Required accuracy of a corner, relative to the range
 
 struct Range {
   FarmInput input;
@@ -49,7 +49,7 @@ std::vector<BestMix::Option> candidatesOf(Farm farm) {
   ProgramState state;
   RunHooks hooks;
   std::vector<BestMix::Option> all = evaluateScenario(scenario, state, hooks)->returnCollection(false);
-  EXPECT_TRUE(all.back()->isNew);  // there are fewer than places
+  EXPECT_TRUE(all.back()->isNew);  // not all places are used
   std::erase_if(all, [](const BestMix::Option& option) { return option->isNew; });
   return all;
 }
@@ -58,7 +58,7 @@ double profitOf(const PlanLine& line, double value) {
   return line.at(value).plan.profit;
 }
 
-/// A range of the seed's choice that some crop of the farm has.
+/// A range that depends on the seed, of an input that the farm has.
 Range rangeOf(const Farm& farm, std::uint64_t seed) {
   std::mt19937_64 random(seed);
   const auto below = [&](std::uint64_t n) { return random() % n; };
@@ -93,7 +93,7 @@ void expectSameFields(const std::vector<PlannedField>& a, const std::vector<Plan
   }
 }
 
-TEST(PlanLine, PricesEveryPlanAsAnEvaluationDoes) {
+TEST(PlanLine, PricesEveryPlanLikeAnEvaluation) {
   for (std::uint64_t seed = 0; seed < farms; ++seed) {
     SCOPED_TRACE(seed);
     const Farm farm = smallFarm(seed);
@@ -123,7 +123,7 @@ TEST(PlanLine, IsStraight) {
   }
 }
 
-TEST(SwitchPrices, LeavesNoGapAndTellsBothEndsExactly) {
+TEST(SwitchPrices, SegmentsHaveNoGapsAndExactEnds) {
   for (std::uint64_t seed = 0; seed < farms; ++seed) {
     SCOPED_TRACE(seed);
     const Farm farm = smallFarm(seed);
@@ -140,7 +140,7 @@ TEST(SwitchPrices, LeavesNoGapAndTellsBothEndsExactly) {
   }
 }
 
-TEST(SwitchPrices, HasTheBestProfitInsideEverySegment) {
+TEST(SwitchPrices, EverySegmentHasTheBestProfit) {
   std::mt19937_64 random(7);
   for (std::uint64_t seed = 0; seed < farms; ++seed) {
     SCOPED_TRACE(seed);
@@ -162,7 +162,7 @@ TEST(SwitchPrices, HasTheBestProfitInsideEverySegment) {
   }
 }
 
-/// The values at which the best of all lines changes, by going from one crossing to the next.
+/// The values at which the best of all lines changes, found by going from one crossing to the next.
 std::vector<double> cornersOf(const std::vector<PlanLine>& plans, const Range& range) {
   struct Line {
     double from;
@@ -199,7 +199,7 @@ std::vector<double> cornersOf(const std::vector<PlanLine>& plans, const Range& r
   }
 }
 
-TEST(SwitchPrices, HasItsCornersWhereAllCandidatesHaveThem) {
+TEST(SwitchPrices, CornersEqualThoseOfAllCandidates) {
   std::size_t all = 0;
   for (std::uint64_t seed = 0; seed < farms; ++seed) {
     SCOPED_TRACE(seed);
@@ -207,7 +207,7 @@ TEST(SwitchPrices, HasItsCornersWhereAllCandidatesHaveThem) {
     const Range range = rangeOf(farm, seed);
     const std::vector<SwitchSegment> segments = segmentsOf(farm, range);
     std::vector<double> corners = cornersOf(linesOf(farm, range), range);
-    // Where three lines meet in one point, rounding makes two corners of it.
+    // If three lines meet in one point, rounding gives two corners.
     const auto isSame = [&](double a, double b) { return b - a < sharp * (range.to - range.from); };
     corners.erase(std::unique(corners.begin(), corners.end(), isSame), corners.end());
     ASSERT_EQ(segments.size(), corners.size() + 1);
@@ -215,10 +215,10 @@ TEST(SwitchPrices, HasItsCornersWhereAllCandidatesHaveThem) {
       EXPECT_NEAR(segments[i].to, corners[i], sharp * (range.to - range.from));
     all += corners.size();
   }
-  EXPECT_GT(all, farms / 10);  // the farms do switch
+  EXPECT_GT(all, farms / 10);  // the plans of the farms do change
 }
 
-TEST(SwitchPrices, TellsAPlanThatEarnsWhatTheSegmentSays) {
+TEST(SwitchPrices, ThePlanOfASegmentEarnsItsProfit) {
   for (std::uint64_t seed = 0; seed < farms; ++seed) {
     SCOPED_TRACE(seed);
     const Farm farm = smallFarm(seed);
@@ -241,7 +241,7 @@ TEST(SwitchPrices, TellsAPlanThatEarnsWhatTheSegmentSays) {
   }
 }
 
-TEST(SwitchPrices, IsOneSegmentWherePumpingCostsNothing) {
+TEST(SwitchPrices, FreePumpingGivesOneSegmentForFuel) {
   Farm farm = twoCropFarm();
   farm.plant.active = false;
   const Range range{{FarmInput::Kind::fuel, ""}, 0, 20};
@@ -251,7 +251,7 @@ TEST(SwitchPrices, IsOneSegmentWherePumpingCostsNothing) {
   expectSameFields(segments[0].fields, bestAt(farm, range, 0).fields);
 }
 
-TEST(SwitchPrices, BeginsWithTheBestPlanAtItsFirstValue) {
+TEST(SwitchPrices, TheFirstSegmentHasTheBestPlanAtTheFirstValue) {
   const Farm farm = twoCropFarm();
   const Range range{{FarmInput::Kind::price, "Corn"}, 0, 10};
   const std::vector<SwitchSegment> segments = segmentsOf(farm, range);
@@ -259,7 +259,7 @@ TEST(SwitchPrices, BeginsWithTheBestPlanAtItsFirstValue) {
   expectSameFields(segments.front().fields, bestAt(farm, range, 0).fields);
 }
 
-TEST(SwitchPrices, NeedsNoMoreThanOneNextFloat) {
+TEST(SwitchPrices, AcceptsARangeOfTwoAdjacentFloats) {
   const Farm farm = twoCropFarm();
   const Range range{{FarmInput::Kind::price, "Corn"}, 5, std::nextafter(5, 6)};
   const std::vector<SwitchSegment> segments = segmentsOf(farm, range);
@@ -267,7 +267,7 @@ TEST(SwitchPrices, NeedsNoMoreThanOneNextFloat) {
   EXPECT_EQ(segments[0].to, range.to);
 }
 
-TEST(SwitchPrices, VariesEveryRowOfTheName) {
+TEST(SwitchPrices, VariesEveryRowOfACropName) {
   Farm farm = twoCropFarm();
   Crop other = testing::cornCrop();
   other.inputCosts.MiscCost = 100;
@@ -282,7 +282,7 @@ TEST(SwitchPrices, VariesEveryRowOfTheName) {
   }
 }
 
-TEST(SwitchPrices, ObeysTheWishes) {
+TEST(SwitchPrices, MeetsTheWishes) {
   Farm farm = twoCropFarm();
   farm.wishes = {{Wish::Kind::acresAtMost, "Corn", 0, 31.25}};
   for (const SwitchSegment& segment : segmentsOf(farm, {{FarmInput::Kind::price, "Corn"}, 0, 10})) {
@@ -302,7 +302,7 @@ TEST(SwitchPrices, PricesPlansOfAFarmWithoutCosts) {
   EXPECT_FALSE(segmentsOf(farm, {{FarmInput::Kind::price, "Corn"}, 0, 10}).empty());
 }
 
-TEST(SwitchPrices, StopsAtACancel) {
+TEST(SwitchPrices, ACancelGivesNoResult) {
   class Cancelling : public RunHooks {
    public:
     explicit Cancelling(ProgramState& state) : state_(state) {}
@@ -316,7 +316,7 @@ TEST(SwitchPrices, StopsAtACancel) {
   EXPECT_FALSE(switchPrices(twoCropFarm(), {FarmInput::Kind::price, "Corn"}, 0, 10, state, hooks));
 }
 
-TEST(SwitchPrices, KnowsTheInputsThatAreStraight) {
+TEST(SwitchPrices, LinearInputsAreRecognized) {
   EXPECT_TRUE(isLinear({FarmInput::Kind::price, "Corn"}));
   EXPECT_TRUE(isLinear({FarmInput::Kind::maxYield, "Corn"}));
   EXPECT_TRUE(isLinear({FarmInput::Kind::fuel, ""}));

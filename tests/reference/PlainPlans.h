@@ -10,7 +10,7 @@
 
 namespace verdalis::reference {
 
-/// One candidate with all that a wish or a question asks of it.
+/// One candidate with the values that wishes and questions refer to.
 struct PlainPlan {
   struct PlannedField {
     double acres = 0;
@@ -23,18 +23,18 @@ struct PlainPlan {
   std::uint64_t combination = 0;  ///< From 0
 };
 
-/// Every candidate in the order of submission, priced by the model. All seasons share the depths and the
-/// crops by position.
+/// All candidates in the order of submission, priced by the model. All seasons share the depths, and the
+/// crops at each position.
 [[nodiscard]] std::vector<PlainPlan> allPlans(const std::vector<SearchInputs>& seasons);
 
 [[nodiscard]] bool meets(const PlainPlan& plan, const Wish& wish);
 [[nodiscard]] bool meetsAll(const PlainPlan& plan, const std::vector<Wish>& wishes);
 
-/// The weighted average of the profits; the profit itself of one season.
+/// The weighted average of the profits; for one season its profit.
 [[nodiscard]] double averageOf(const PlainPlan& plan, const std::vector<double>& weights);
 
-/// Indices of the plans that meet the wishes, by falling average; of equal ones the later first. With `mixes`
-/// only the first of each mix.
+/// Indices of the plans that meet the wishes, highest average first; for equal averages the later plan first.
+/// With `mixes`, only the first plan of each mix.
 [[nodiscard]] std::vector<std::size_t> rankPlans(const std::vector<PlainPlan>& plans,
                                                  const std::vector<double>& weights,
                                                  const std::vector<Wish>& wishes, bool mixes);
