@@ -132,7 +132,7 @@ void Control::act(const std::function<void()>& action, bool takesFocus) {
   // Leaving the previous field is an event of its own: the action is carried out even if the field fails its
   // test.
   Desk& desk = *desk_;
-  const std::weak_ptr<const void> here = life();
+  const Life::Watch here(life());
   desk.run([&] {
     if (takesFocus) {
       desk.enter(*this, true);
@@ -198,7 +198,7 @@ void Desk::activate(Window* window) {
 }
 
 void Desk::enter(Control& control, bool acting) {
-  const std::weak_ptr<const void> here = control.life();
+  const Life::Watch here(control.life());
   activate(dynamic_cast<Window*>(&control.window()));
   if (here.expired() || focus_ == &control) return;
   Control* const before = std::exchange(focus_, &control);

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "controls/Event.h"
+#include "controls/Life.h"
 
 namespace verdalis {
 
@@ -91,9 +92,8 @@ class Control {
 
   void changed() const { onStateChange(); }
 
-  /// Expires when the control is destroyed. Code that continues after an event checks it, because a listener
-  /// may have destroyed the control.
-  [[nodiscard]] std::weak_ptr<const void> life() const { return life_; }
+  /// Code that continues after an event watches this, because a listener may have destroyed the control.
+  [[nodiscard]] const Life& life() const { return life_; }
 
   /// Called when the control gets the focus, before onEnter.
   virtual void focused() {}
@@ -112,7 +112,7 @@ class Control {
   bool visible_ = true;
   bool enabled_ = true;
   bool covered_ = false;
-  std::shared_ptr<const void> life_ = std::make_shared<char>();
+  Life life_;
 };
 
 /// A container of controls: a frame, a pane, a window or a composite control.

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <algorithm>
 #include <cassert>
+#include <cstddef>
 #include <functional>
 #include <memory>
 #include <utility>
@@ -47,61 +49,84 @@ class Event {
   Event(const Event&) = delete;
   Event& operator=(const Event&) = delete;
   ~Event() {
-    if (!entries_) return;
-    for (const std::shared_ptr<Entry>& entry : *entries_)
-      entry->connected = false;
+    if (!list_) return;
+    for (const std::unique_ptr<Entry>& entry : list_->entries)
+      entry->disconnect();
+    // While the event is raised, the list is still in use; the last call that uses it destroys it.
+    if (list_->calls > 0) list_->itself = std::move(list_);
   }
 
   /// Connects a listener for the lifetime of the event.
-  void connect(Listener listener) { static_cast<void>(add(std::move(listener))); }
+  void connect(Listener listener) { add(std::move(listener)); }
 
   /// Connects a listener for the lifetime of the connection. Use it for a listener that is destroyed before
   /// the event.
   [[nodiscard]] Connection connectScoped(Listener listener) {
-    const std::shared_ptr<Entry> entry = add(std::move(listener));
-    return Connection(std::shared_ptr<bool>(entry, &entry->connected));
+    Entry& entry = add(std::move(listener));
+    entry.scope = std::make_shared<bool>(true);
+    return Connection(entry.scope);
   }
 
   /// Whether a listener is connected.
   [[nodiscard]] bool isHeard() const {
-    if (!entries_) return false;
-    for (const std::shared_ptr<Entry>& entry : *entries_) {
-      if (entry->connected) return true;
-    }
-    return false;
+    return list_ && std::any_of(list_->entries.begin(), list_->entries.end(),
+                                [](const std::unique_ptr<Entry>& entry) { return entry->isConnected(); });
   }
 
   /// Raises the event.
   void operator()(Arguments... arguments) const {
-    if (!entries_) return;
-    // connect() makes a new list, and this copy keeps the list alive if a listener destroys the event.
-    const std::shared_ptr<const Entries> entries = entries_;
-    for (const std::shared_ptr<Entry>& entry : *entries) {
-      if (entry->connected) entry->listener(arguments...);
+    if (!list_) return;
+    const Call call(*list_);
+    // Listeners connected meanwhile are behind these.
+    for (std::size_t i = 0, count = call.list.entries.size(); i < count; ++i) {
+      const Entry& entry = *call.list.entries[i];
+      if (entry.isConnected()) entry.listener(arguments...);
     }
   }
 
  private:
   struct Entry {
     Listener listener;
-    bool connected = true;
-  };
-  using Entries = std::vector<std::shared_ptr<Entry>>;
+    bool connected = true;        ///< Until the event is destroyed
+    std::shared_ptr<bool> scope;  ///< Shared with the connection, if there is one
 
-  std::shared_ptr<Entry> add(Listener listener) {
-    assert(listener);
-    auto entries = std::make_shared<Entries>();
-    if (entries_) {
-      for (const std::shared_ptr<Entry>& entry : *entries_) {
-        if (entry->connected) entries->push_back(entry);
-      }
+    [[nodiscard]] bool isConnected() const { return connected && (!scope || *scope); }
+    void disconnect() {
+      connected = false;
+      if (scope) *scope = false;
     }
-    entries->push_back(std::make_shared<Entry>(Entry{std::move(listener), true}));
-    entries_ = std::move(entries);
-    return entries_->back();
+  };
+
+  struct List {
+    std::vector<std::unique_ptr<Entry>> entries;
+    std::size_t calls = 0;         ///< That go through the entries now
+    std::unique_ptr<List> itself;  ///< Set if the event is destroyed during a call
+  };
+
+  /// Keeps a list in use for the duration of a scope.
+  struct Call {
+    explicit Call(List& used) : list(used) { ++list.calls; }
+    Call(const Call&) = delete;
+    Call& operator=(const Call&) = delete;
+    ~Call() {
+      if (--list.calls == 0) const std::unique_ptr<List> last = std::move(list.itself);
+    }
+
+    List& list;
+  };
+
+  Entry& add(Listener listener) {
+    assert(listener);
+    if (!list_) list_ = std::make_unique<List>();
+    if (list_->calls == 0) {
+      std::erase_if(list_->entries,
+                    [](const std::unique_ptr<Entry>& entry) { return !entry->isConnected(); });
+    }
+    list_->entries.push_back(std::make_unique<Entry>(Entry{std::move(listener), true, nullptr}));
+    return *list_->entries.back();
   }
 
-  std::shared_ptr<const Entries> entries_;
+  std::unique_ptr<List> list_;
 };
 
 }  // namespace verdalis

@@ -71,7 +71,7 @@ void Grid::setCurrent(int row, int column) {
 void Grid::clickCell(int row, int column) {
   act([&] {
     if (!inside(row, column)) return;
-    const std::weak_ptr<const void> here = life();
+    const Life::Watch here(life());
     setCurrent(row, column);
     if (!here.expired()) onClick();
   });

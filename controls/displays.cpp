@@ -38,14 +38,14 @@ void ScrollBar::setValue(int value) {
   const int inside = std::clamp(value, 0, maximum_);
   if (inside == value_) return;
   value_ = inside;
-  const std::weak_ptr<const void> here = life();
+  const Life::Watch here(life());
   changed();
   if (!here.expired()) onChange();
 }
 
 void ScrollBar::setMaximum(int maximum) {
   maximum_ = std::max(maximum, 0);
-  const std::weak_ptr<const void> here = life();
+  const Life::Watch here(life());
   changed();
   if (!here.expired()) setValue(value_);
 }

@@ -12,7 +12,7 @@ void TextBox::setText(const std::string& text) {
 
 void TextBox::type(const std::string& text) {
   act([&] {
-    const std::weak_ptr<const void> here = life();
+    const Life::Watch here(life());
     onKey();
     if (here.expired()) return;
     edited_ = edited_ || text != text_;
@@ -33,7 +33,7 @@ void TextBox::focused() {
 void TextBox::replace(const std::string& text) {
   if (text == text_) return;
   text_ = text;
-  const std::weak_ptr<const void> here = life();
+  const Life::Watch here(life());
   changed();
   if (!here.expired()) onChange();
 }
@@ -85,7 +85,7 @@ void ComboBox::pick(int index) {
 void ComboBox::select(int index) {
   index_ = index;
   text_ = items_[static_cast<std::size_t>(index)];
-  const std::weak_ptr<const void> here = life();
+  const Life::Watch here(life());
   changed();
   if (!here.expired() && enabled()) onClick();
 }
@@ -96,7 +96,7 @@ void ComboBox::replace(const std::string& text) {
   const int before = index_;
   text_ = text;
   index_ = entry == items_.end() ? -1 : static_cast<int>(entry - items_.begin());
-  const std::weak_ptr<const void> here = life();
+  const Life::Watch here(life());
   changed();
   if (here.expired()) return;
   onChange();
@@ -112,7 +112,7 @@ void CheckBox::setCaption(const std::string& caption) {
 void CheckBox::setChecked(bool checked) {
   if (checked_ == checked) return;
   checked_ = checked;
-  const std::weak_ptr<const void> here = life();
+  const Life::Watch here(life());
   changed();
   if (!here.expired()) onClick();
 }
@@ -147,7 +147,7 @@ OptionButton::OptionButton(Frame& container, std::string name, OptionGroup& grou
 void OptionButton::setChecked(bool checked) {
   if (checked_ == checked) return;
   checked_ = checked;
-  const std::weak_ptr<const void> here = life();
+  const Life::Watch here(life());
   if (checked) {
     for (OptionButton* other : group_.buttons_) {
       if (other != this) other->setChecked(false);

@@ -21,10 +21,11 @@ std::optional<double> fuelPerformance(std::string_view fuelType) {
   return std::nullopt;
 }
 
-PumpingCosts IrrigationCosts::price(double Depth, double acres, double efficiency) const {
+PumpingCosts IrrigationCosts::price(double Depth, double acres, double efficiency,
+                                    PumpingParts* partsFound) const {
   // The trend's cost applies to the net depth.
-  if (UseBatch) return {stepOrZero(BatchIrrigationCosts * acres * Depth), hours, {}};
-  if (!pumps(Depth)) return {0, hours, {}};
+  if (UseBatch) return {stepOrZero(BatchIrrigationCosts * acres * Depth), hours};
+  if (!pumps(Depth)) return {0, hours};
 
   const double gross = stepOrZero(Depth / efficiency);
   PumpingParts parts;
@@ -34,7 +35,8 @@ PumpingCosts IrrigationCosts::price(double Depth, double acres, double efficienc
   parts.fuel = stepOrZero((parts.waterHorsepower / NPC) * hoursUsed * cost);
   parts.labor = acres * laborHoursPerAcre * LaborPerHour;
   parts.repairs = acres * RepairsPerAcreInch * gross;
-  return {stepOrZero(parts.labor + parts.fuel + parts.repairs), hoursUsed, parts};
+  if (partsFound != nullptr) *partsFound = parts;
+  return {stepOrZero(parts.labor + parts.fuel + parts.repairs), hoursUsed};
 }
 
 double IrrigationCosts::getCosts(double Depth, double acres, double efficiency) {

@@ -18,9 +18,8 @@ struct PumpingParts {
 
 /// Seasonal pumping of a field.
 struct PumpingCosts {
-  double cost = 0;     ///< Dollars for the field
-  double hours = 0;    ///< Pumping hours
-  PumpingParts parts;  ///< All 0 if no water is pumped or a trend replaces the cost
+  double cost = 0;   ///< Dollars for the field
+  double hours = 0;  ///< Pumping hours
 };
 
 /// Cost of irrigation water at the farm's pumping plant, computed from pump physics. One object describes the
@@ -47,7 +46,10 @@ class IrrigationCosts {
   /// and the hours are those stored in the plant. A step that cannot be computed counts as 0.
   /// \param Depth net irrigation, inches.
   /// \param efficiency as a fraction.
-  [[nodiscard]] PumpingCosts price(double Depth, double acres, double efficiency) const;
+  /// \param parts gets the parts of the cost, if it is given; unchanged if no water is pumped or a trend
+  /// replaces the cost.
+  [[nodiscard]] PumpingCosts price(double Depth, double acres, double efficiency,
+                                   PumpingParts* parts = nullptr) const;
 
   /// Whether irrigating a field to a net depth, inches, costs anything.
   [[nodiscard]] bool pumps(double Depth) const { return Depth > 0 && active && !(GPM <= 0 || NPC <= 0); }

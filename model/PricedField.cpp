@@ -17,12 +17,14 @@ double totalReturns(const Crop& crop, double sales, double acres) {
 }
 
 PricedField priceField(const FieldPlan& plan, const Crop& crop, const IrrigationCosts& plant,
-                       double efficiency) {
+                       double efficiency, CostParts* parts) {
   PricedField priced;
   priced.Yield = crop.yieldAt(plan.Depth, plan.annualRain);
   priced.production =
-      crop.inputCosts.price(plan.acres, priced.Yield, crop, grossFromNet(plan.Depth, efficiency), efficiency);
-  priced.irrigation = plant.price(plan.Depth, plan.acres, efficiency);
+      crop.inputCosts.price(plan.acres, priced.Yield, crop, grossFromNet(plan.Depth, efficiency), efficiency,
+                            parts != nullptr ? &parts->production : nullptr);
+  priced.irrigation =
+      plant.price(plan.Depth, plan.acres, efficiency, parts != nullptr ? &parts->irrigation : nullptr);
   priced.costs = totalCosts(priced.production, priced.irrigation);
   priced.sales = salesOf(crop, priced.Yield, plan.acres);
   priced.returns = totalReturns(crop, priced.sales, plan.acres);

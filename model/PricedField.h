@@ -12,6 +12,12 @@ struct FieldPlan {
   double annualRain = 0;  ///< Inches
 };
 
+/// Parts of the costs of a field.
+struct CostParts {
+  ProductionParts production;  ///< All 0 if a trend replaces the production costs
+  PumpingParts irrigation;     ///< All 0 if no water is pumped or a trend replaces the irrigation costs
+};
+
 /// Yield, costs and returns of a crop on a field. Pricing changes neither the crop nor the plant.
 struct PricedField {
   double Yield = 0;            ///< Yield units per acre
@@ -26,10 +32,11 @@ struct PricedField {
 
 /// Prices a field.
 /// \param efficiency irrigation efficiency as a fraction.
+/// \param parts gets the parts of the costs, if it is given.
 /// \throws RunTimeError (subscript) outside the yield table, (divisionByZero) if the efficiency is 0,
 /// (overflow)
 [[nodiscard]] PricedField priceField(const FieldPlan& plan, const Crop& crop, const IrrigationCosts& plant,
-                                     double efficiency);
+                                     double efficiency, CostParts* parts = nullptr);
 
 /// Production and irrigation costs of a field with known yield, dollars.
 /// \throws RunTimeError (overflow)

@@ -9,10 +9,10 @@
 namespace verdalis {
 
 ProductionCosts inputCosts::price(double acres, double yield, const Crop& crop, double grossDepth,
-                                  double efficiency) const {
+                                  double efficiency, ProductionParts* partsFound) const {
   if (UseBatch) {
     const double cost = checked(BatchGeneralCosts * acres, "The production cost of a field");
-    return {cost, NPerAcre, PPerAcre, SeedRate, AlfalfaStand, {}};
+    return {cost, NPerAcre, PPerAcre, SeedRate, AlfalfaStand};
   }
   ProductionCosts result;
   // Forage is decided by the units, not the name: a custom crop in tons has a stand life too.
@@ -21,7 +21,7 @@ ProductionCosts inputCosts::price(double acres, double yield, const Crop& crop, 
   const NutrientRates rates = nutrientRates(cropKind(crop.cropType));
 
   result.nitrogen = NOptimal ? rates.nitrogen * yield : NitrogenApplied;
-  ProductionParts& parts = result.parts;
+  ProductionParts parts;
   parts.nitrogen = result.nitrogen * NitrogenCost * acres;
   result.phosphorus = POptimal ? rates.phosphorus * yield : PApplied;
   parts.phosphorus = result.phosphorus * PCost * acres;
@@ -40,6 +40,7 @@ ProductionCosts inputCosts::price(double acres, double yield, const Crop& crop, 
   parts.misc = MiscCost * acres;
   // An overflow in any part makes the sum infinite or NaN.
   result.cost = checked(parts.sum(), "The production cost of a field");
+  if (partsFound != nullptr) *partsFound = parts;
   return result;
 }
 

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -28,13 +27,8 @@ struct ProductionParts {
   double misc = 0;
 
   [[nodiscard]] double sum() const {
-    double total = nitrogen;
-    for (const double part :
-         {phosphorus, seed, herbicide, insecticide, tillage, planting, fertilizerApplication,
-          herbicideApplication, insecticideApplication, harvest, misc}) {
-      total += part;
-    }
-    return total;
+    return nitrogen + phosphorus + seed + herbicide + insecticide + tillage + planting +
+           fertilizerApplication + herbicideApplication + insecticideApplication + harvest + misc;
   }
 };
 
@@ -45,7 +39,6 @@ struct ProductionCosts {
   double phosphorus = 0;  ///< lb per acre
   double seedRate = 0;    ///< Seeds per acre, or lb per acre
   Number stand;           ///< Life of stand, years
-  ProductionParts parts;  ///< All 0 if a trend replaces the costs
 };
 
 /// Seed of a field, not yet spread over the life of the stand.
@@ -102,9 +95,10 @@ class inputCosts {
   /// \param yield per acre.
   /// \param grossDepth gross irrigation, inches.
   /// \param efficiency as a fraction.
+  /// \param parts gets the parts of the costs, if it is given; unchanged if a trend replaces the costs.
   /// \throws RunTimeError (overflow)
   [[nodiscard]] ProductionCosts price(double acres, double yield, const Crop& crop, double grossDepth,
-                                      double efficiency) const;
+                                      double efficiency, ProductionParts* parts = nullptr) const;
 
   /// The cost from price(), dollars. Stores the rates in NPerAcre, PPerAcre, SeedRate and AlfalfaStand.
   /// \param grossDepth multiplied by the efficiency on return, except with UseBatch.

@@ -12,7 +12,7 @@ namespace {
 class ProductionSteps {
  public:
   ProductionSteps(ExplainedSteps& steps, const ExplainedField& field)
-      : steps_(steps), field_(field), costs_(field.crop.inputCosts), parts_(field.priced.production.parts) {}
+      : steps_(steps), field_(field), costs_(field.crop.inputCosts), parts_(field.parts.production) {}
 
   void explain() {
     const NutrientRates rates = nutrientRates(cropKind(field_.crop.cropType));
@@ -129,12 +129,12 @@ void explainPumping(ExplainedSteps& steps, const ExplainedField& field) {
   const IrrigationCosts& plant = field.plant;
   const PumpingCosts& priced = field.priced.irrigation;
   const std::string gross = inches(grossFromNet(field.plan.Depth, field.efficiency), "###,##0.0");
-  const std::string power = formatNumber(priced.parts.waterHorsepower, "###,##0.0");
+  const std::string power = formatNumber(field.parts.irrigation.waterHorsepower, "###,##0.0");
   steps.add("Water horsepower",
             "(pressure " + generalText(plant.PSI) + " psi x " + generalText(feetPerPsi) + " + lift " +
                 generalText(plant.Lift) + " feet) x discharge rate " + generalText(plant.GPM) + " GPM / " +
                 formatNumber(gallonFeetPerHorsepower, "###,###"),
-            priced.parts.waterHorsepower, power, "hp");
+            field.parts.irrigation.waterHorsepower, power, "hp");
   steps.add("Pumping hours",
             "gross irrigation " + gross + " x " + steps.acresText() + " / (" + generalText(plant.GPM) +
                 " GPM / " + generalText(gpmPerAcreInchHour) + ")",
@@ -142,15 +142,15 @@ void explainPumping(ExplainedSteps& steps, const ExplainedField& field) {
   steps.addPerAcre("Labor cost",
                    generalText(laborHoursPerAcre) + " hours an acre x " + rateText(plant.LaborPerHour) +
                        " /hr x " + steps.acresText(),
-                   priced.parts.labor);
+                   field.parts.irrigation.labor);
   steps.addPerAcre("Fuel cost",
                    "water horsepower " + power + " / " + generalText(plant.NPC) + " a unit of " +
                        plant.FuelType + " x " + hoursText(priced.hours) + " hrs x $" +
                        formatNumber(plant.cost, "##0.00") + "/ unit",
-                   priced.parts.fuel);
+                   field.parts.irrigation.fuel);
   steps.addPerAcre("Maintenance & repairs",
                    rateText(plant.RepairsPerAcreInch) + " /acre-inch x " + gross + " x " + steps.acresText(),
-                   priced.parts.repairs);
+                   field.parts.irrigation.repairs);
 }
 
 }  // namespace

@@ -51,8 +51,8 @@ std::vector<ExplainedStep> explainField(const FieldCollection& option, std::size
   FieldCollection own = option.Copy();  // pricing changes the fields
   const Field& asked = *own.Item(static_cast<long>(number));
   const FieldPlan plan{asked.acres, asked.Depth, asked.annualRain};
-  const ExplainedField field{plan, *asked.theCrop, *asked.irrigCosts, efficiency,
-                             priceField(plan, *asked.theCrop, *asked.irrigCosts, efficiency)};
+  ExplainedField field{plan, *asked.theCrop, *asked.irrigCosts, efficiency, {}, {}};
+  field.priced = priceField(plan, field.crop, field.plant, efficiency, &field.parts);
   ExplainedSteps steps(plan.acres);
   explainWater(steps, field);
   explainYield(steps, field);

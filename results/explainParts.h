@@ -16,6 +16,7 @@ struct ExplainedField {
   const IrrigationCosts& plant;
   double efficiency;  ///< Fraction
   PricedField priced;
+  CostParts parts;
 };
 
 /// Gross and net water.

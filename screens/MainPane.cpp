@@ -118,11 +118,7 @@ bool MainPane::ready() const {
 }
 
 double MainPane::getVolume() {
-  ScenarioInputs inputs;
-  inputs.txtArea = txtArea.text();
-  inputs.txtMax = txtMax.text();
-  verdalis::getVolume(inputs);
-  lblVolume.setCaption(inputs.lblVolume);
+  lblVolume.setCaption(volumeText(txtArea.text(), txtMax.text()));
   return 0;
 }
 

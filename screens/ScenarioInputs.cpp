@@ -22,9 +22,12 @@ bool ready(const ScenarioInputs& inputs) {
   return fieldsGood && selectionGood;
 }
 
+std::string volumeText(const std::string& txtArea, const std::string& txtMax) {
+  return formatNumber(checked(Val(txtArea) * Val(txtMax), "The gross water volume"), "###,###");
+}
+
 void getVolume(ScenarioInputs& inputs) {
-  const double volume = checked(Val(inputs.txtArea) * Val(inputs.txtMax), "The gross water volume");
-  inputs.lblVolume = formatNumber(volume, "###,###");
+  inputs.lblVolume = volumeText(inputs.txtArea, inputs.txtMax);
 }
 
 }  // namespace verdalis

@@ -43,6 +43,10 @@ struct ScenarioInputs {
 /// rainfall, and at least one ticked crop.
 [[nodiscard]] bool ready(const ScenarioInputs& inputs);
 
+/// Gross volume for total acres and gross inches, acre-inches, as a whole number; empty if it rounds to 0.
+/// \throws RunTimeError (overflow)
+[[nodiscard]] std::string volumeText(const std::string& txtArea, const std::string& txtMax);
+
 /// Updates lblVolume from the acres and the inches. The run reads this text, so it works with the volume
 /// rounded to a whole number. A volume that rounds to 0 gives an empty text.
 /// \throws RunTimeError (overflow)

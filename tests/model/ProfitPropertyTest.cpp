@@ -104,10 +104,11 @@ RC_GTEST_PROP(PricedField, IsTheSumOfItsParts, (std::uint64_t seed)) {
   const Drawn drawn = drawFarm(seed);
   for (const auto& source : drawn.farm) {
     const Crop& crop = *source->theCrop;
+    CostParts parts;
     const PricedField priced = priceField({source->acres, source->Depth, source->annualRain}, crop,
-                                          *source->irrigCosts, drawn.efficiency);
-    if (!crop.inputCosts.UseBatch) RC_ASSERT(priced.production.parts.sum() == priced.production.cost);
-    const PumpingParts& pumping = priced.irrigation.parts;
+                                          *source->irrigCosts, drawn.efficiency, &parts);
+    if (!crop.inputCosts.UseBatch) RC_ASSERT(parts.production.sum() == priced.production.cost);
+    const PumpingParts& pumping = parts.irrigation;
     if (!source->irrigCosts->UseBatch)
       RC_ASSERT(pumping.labor + pumping.fuel + pumping.repairs == priced.irrigation.cost);
     RC_ASSERT(priced.sales + crop.inputCosts.getReturns(source->acres) == priced.returns);
