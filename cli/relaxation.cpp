@@ -67,7 +67,9 @@ std::string noPlanJson(const std::vector<Wish>& wishes, const std::vector<Relaxa
 std::string noPlanText(const NoPlan& noPlan) {
   std::string text = noPlan.what();
   if (!noPlan.where().empty()) text += " This applies to " + noPlan.where() + ".";
-  if (noPlan.relaxations().empty()) return text + " There are no candidates, even without wishes.";
+  if (noPlan.relaxations().empty())
+    return text + (noPlan.hasWishes() ? " There are no candidates, even without wishes."
+                                      : " There are no candidates.");
   for (const Relaxation& relaxation : noPlan.relaxations()) {
     text += "\nWithout " + quotedList(relaxation.without) + " the best net return is " +
             dollarsText(relaxation.profit) + ".";

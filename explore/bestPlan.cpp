@@ -39,7 +39,7 @@ BestMix::Option bestOption(const Farm& farm, ProgramState& state, RunHooks& hook
   if (!option->isNew) return option;
   std::optional<std::vector<Relaxation>> relaxations = relaxWishes(scenario, own, standing);
   if (!relaxations || state.CancelRequested) return nullptr;
-  throw NoPlan(std::move(*relaxations));
+  throw NoPlan(std::move(*relaxations), {}, !scenario.wishes.empty());
 }
 
 Plan planOf(FieldCollection& option, double efficiency) {

@@ -32,10 +32,14 @@ struct Plan {
 /// No plan of the farm meets all wishes.
 class NoPlan : public std::runtime_error {
  public:
-  explicit NoPlan(std::vector<Relaxation> relaxations, std::string where = {})
-      : std::runtime_error("No plan meets all wishes."),
+  explicit NoPlan(std::vector<Relaxation> relaxations, std::string where = {}, bool hasWishes = true)
+      : std::runtime_error(hasWishes ? "No plan meets all wishes." : "There is no plan."),
         relaxations_(std::move(relaxations)),
-        where_(std::move(where)) {}
+        where_(std::move(where)),
+        hasWishes_(hasWishes) {}
+
+  /// Whether there are wishes. Without any, the farm has no candidates.
+  [[nodiscard]] bool hasWishes() const { return hasWishes_; }
 
   /// The wishes to give up; best profit first.
   [[nodiscard]] const std::vector<Relaxation>& relaxations() const { return relaxations_; }
@@ -46,6 +50,7 @@ class NoPlan : public std::runtime_error {
  private:
   std::vector<Relaxation> relaxations_;
   std::string where_;
+  bool hasWishes_;
 };
 
 /// The first option in an evaluation of the farm, priced. A cancel is requested in `state`, which several

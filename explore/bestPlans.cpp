@@ -88,7 +88,7 @@ void Points::work(const Farm& base) {
     try {
       solve(base, point);
     } catch (const NoPlan& noPlan) {
-      fail(point, std::make_exception_ptr(NoPlan(noPlan.relaxations(), nameOf_(point))));
+      fail(point, std::make_exception_ptr(NoPlan(noPlan.relaxations(), nameOf_(point), noPlan.hasWishes())));
     } catch (...) {
       fail(point, std::current_exception());
     }

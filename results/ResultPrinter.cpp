@@ -21,6 +21,16 @@ constexpr std::array<const char*, 7> columns{
 constexpr int optionRule = 168;
 constexpr int mostOptions = 5;
 
+/// A line for each wish that the options meet.
+void writeWishes(PageSurface& page, const std::vector<std::string>& wishes) {
+  ReportWriter write(page);
+  for (const std::string& wish : wishes) {
+    page.setCurrentX(stops[0]);
+    write.pair("Wish: ", wish);
+    write.endLine();
+  }
+}
+
 void writeFarm(PageSurface& page, const ReportedFarm& farm) {
   ReportWriter write(page);
   page.setCurrentX(stops[0]);
@@ -36,11 +46,7 @@ void writeFarm(PageSurface& page, const ReportedFarm& farm) {
   page.setCurrentX(stops[0]);
   write.pair("Crops to Evaluate: ", farm.crops);
   write.endLine();
-  for (const std::string& wish : farm.wishes) {
-    page.setCurrentX(stops[0]);
-    write.pair("Wish: ", wish);
-    write.endLine();
-  }
+  writeWishes(page, farm.wishes);
   if (!farm.mixes) return;
   page.setCurrentX(stops[0]);
   write.pair("Options: ", "of each mix of acres and crops the best alone");
@@ -140,6 +146,9 @@ void ResultPrinter::writeDetails(PageSurface& page) const {
                        "No field's details have been shown yet, so none can be printed.");
   }
   writeDetailsReport(page, *field_, sources_.now());
+  const std::vector<std::string> wishes = sources_.farm().wishes;
+  if (!wishes.empty()) page.printLine("");
+  writeWishes(page, wishes);
   page.endDocument();
 }
 

@@ -116,6 +116,11 @@ TEST(Wish, TheResultsReportListsTheWishes) {
   const std::string report = (home.folder() / "report.txt").string();
   EXPECT_EQ(home.run({"evaluate"}, {"--wish", "field 1 is corn", "--report", report}).exitCode, 0);
   EXPECT_TRUE(has(bytesOf(report), "Wish: field 1 is Corn\n")) << bytesOf(report);
+  const std::string details = (home.folder() / "details.txt").string();
+  EXPECT_EQ(
+      home.run({"evaluate"}, {"--wish", "field 1 is corn", "--details-report", "1.1=" + details}).exitCode,
+      0);
+  EXPECT_TRUE(has(bytesOf(details), "Wish: field 1 is Corn\n")) << bytesOf(details);
   EXPECT_EQ(home.run({"evaluate"}, {"--report", report}).exitCode, 0);
   EXPECT_FALSE(has(bytesOf(report), "Wish"));
 }
