@@ -1,6 +1,7 @@
 #include "controls/Control.h"
 
 #include <algorithm>
+#include <functional>
 #include <utility>
 
 #include "text/RunTimeError.h"
@@ -133,13 +134,14 @@ void Control::act(const std::function<void()>& action, bool takesFocus) {
   // test.
   Desk& desk = *desk_;
   const Life::Watch here(life());
-  desk.run([&] {
+  const auto leavePrevious = [&] {
     if (takesFocus) {
       desk.enter(*this, true);
     } else {
       desk.activate(dynamic_cast<Window*>(&window()));
     }
-  });
+  };
+  desk.run(std::cref(leavePrevious));  // a reference needs no memory of its own
   if (!here.expired()) desk.run(action);
 }
 
