@@ -163,16 +163,8 @@ std::vector<double> PlanSearch::profitsOf(const KeptCandidate& candidate) const 
   inputs.combinations.positions(inputs.combinations.Count() - 1 - candidate.digits, crops);
   const std::uint16_t* levels = inputs.depths.levelNumbers(static_cast<std::size_t>(candidate.split));
   std::vector<double> profits;
-  for (std::size_t season = 0; season < tables_.seasons(); ++season) {
-    double returns = 0;
-    double costs = 0;
-    for (std::size_t field = 0; field < crops.size(); ++field) {
-      const PricedRow::Price& price = tables_.price(season, field, levels[field], crops[field]);
-      returns += price.income;
-      costs += price.cost;
-    }
-    profits.push_back(returns - costs);
-  }
+  for (std::size_t season = 0; season < tables_.seasons(); ++season)
+    profits.push_back(tables_.profit(season, levels, crops));
   return profits;
 }
 

@@ -29,6 +29,20 @@ class PlanTables {
     return tables_[season].row(field, level).prices[crop];
   }
 
+  /// Profit of a candidate in a season, dollars: returns minus costs, each added in field order.
+  /// \param levels, crops one per field.
+  template <class Crops>
+  [[nodiscard]] double profit(std::size_t season, const std::uint16_t* levels, const Crops& crops) const {
+    double returns = 0;
+    double costs = 0;
+    for (std::size_t field = 0; field < crops.size(); ++field) {
+      const PricedRow::Price& found = price(season, field, levels[field], crops[field]);
+      returns += found.income;
+      costs += found.cost;
+    }
+    return returns - costs;
+  }
+
   /// Whether the wishes about this field allow this crop at this level, and it can be priced.
   [[nodiscard]] bool isOpen(std::size_t field, std::size_t crop, std::size_t level) const {
     return open_[field][crop * levelCount_[field] + level] != 0;

@@ -394,16 +394,8 @@ bool PlanWalk::followPath(std::size_t field, std::uint32_t node, const std::vect
 }
 
 void PlanWalk::offer(std::uint32_t split) {
-  for (std::size_t season = 0; season < profits_.size(); ++season) {
-    double returns = 0;
-    double costs = 0;
-    for (std::size_t field = 0; field < chosen_.size(); ++field) {
-      const PricedRow::Price& price = tables_.price(season, field, levels_[field], chosen_[field]);
-      returns += price.income;
-      costs += price.cost;
-    }
-    profits_[season] = returns - costs;
-  }
+  for (std::size_t season = 0; season < profits_.size(); ++season)
+    profits_[season] = tables_.profit(season, levels_.data(), chosen_);
   const double value = value_.of(profits_);
   if (value < limit_) return;
   const std::int64_t place =
