@@ -155,6 +155,7 @@ void FileReader::readSoils(Crop& crop) const {
     fs::path file = home_ / "crops" / "soils" / "";
     file += lowerCase(crop.cropType) +
             ".txt";  // appended as text, so that a name such as "/corn" stays in the folder
+    if (isHidden(file)) return;
     const std::string text = readFile(file);
     LineReader lines(text);
     for (long cells = 0; cells < maxSoilCells && !lines.atEnd();) {
