@@ -15,15 +15,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr std::string_view prefix = ".saving-";
-constexpr std::string_view pattern = "XXXXXX";  // mkostemp puts letters and digits there
-
-bool isTemporaryName(std::string_view name) {
-  const auto isLetterOrDigit = [](char c) {
-    return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
-  };
-  return name.size() == prefix.size() + pattern.size() && name.starts_with(prefix) &&
-         std::all_of(name.begin() + prefix.size(), name.end(), isLetterOrDigit);
-}
+constexpr std::string_view pattern = "XXXXXX";  // replaced by mkostemp
 
 /// Locks an open file, or waits if a cleaner holds the lock for a moment. A file system without locks is no
 /// error: no file can be found abandoned there.
@@ -57,6 +49,14 @@ void removeIfAbandoned(const fs::path& file) {
 }
 
 }  // namespace
+
+bool isTemporaryName(std::string_view name, std::string_view start) {
+  const auto isLetterOrDigit = [](char c) {
+    return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+  };
+  return name.size() == start.size() + pattern.size() && name.starts_with(start) &&
+         std::all_of(name.begin() + start.size(), name.end(), isLetterOrDigit);
+}
 
 TemporaryFile::TemporaryFile(const fs::path& folder) {
   // A cleaner may remove the file before it is locked; then another one is created.
@@ -115,7 +115,7 @@ void TemporaryFile::close() {
 void removeAbandonedFiles(const fs::path& folder) {
   std::error_code error;
   for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
-    if (isTemporaryName(entry->path().filename().string())) removeIfAbandoned(entry->path());
+    if (isTemporaryName(entry->path().filename().string(), prefix)) removeIfAbandoned(entry->path());
   }
 }
 

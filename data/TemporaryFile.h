@@ -39,6 +39,10 @@ class TemporaryFile {
   int descriptor_ = -1;
 };
 
+/// Whether a name consists of `start` and six letters or digits, which the system puts at the end of the
+/// names of temporary files and folders.
+[[nodiscard]] bool isTemporaryName(std::string_view name, std::string_view start);
+
 /// Removes the temporary files in a folder that belong to this user and that no program is writing any more.
 /// What cannot be removed stays.
 void removeAbandonedFiles(const std::filesystem::path& folder);
