@@ -158,7 +158,8 @@ std::string RemoveIllegals(std::string_view name) {
 }
 
 fs::path customCropPath(const fs::path& folder, const std::string& name) {
-  return folder / (RemoveIllegals(name) + ".txt");
+  const std::string file = RemoveIllegals(name) + ".txt";
+  return folder / (isHidden(file) ? "_" + file : file);
 }
 
 }  // namespace verdalis

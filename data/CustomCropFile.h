@@ -55,8 +55,8 @@ struct CustomCropItems {
 /// Removes the nine characters that a file name cannot contain.
 [[nodiscard]] std::string RemoveIllegals(std::string_view name);
 
-/// The file path of a new crop: its name without illegal characters, plus ".txt". A name of only illegal
-/// characters gives ".txt".
+/// The file path of a new crop: its name without illegal characters, plus ".txt". A name that would be
+/// hidden, and then no crop file, is preceded by "_".
 [[nodiscard]] std::filesystem::path customCropPath(const std::filesystem::path& folder,
                                                    const std::string& name);
 

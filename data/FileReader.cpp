@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "data/listFiles.h"
+#include "data/owner.h"
 #include "data/readFile.h"
 #include "model/CropKind.h"
 #include "text/RunTimeError.h"
@@ -125,8 +126,8 @@ bool FileReader::Initialize() {
   fileCollection = filesByName(fileDirectory);
   const std::size_t stockFiles = fileCollection.size();
   fileDirectory /= "custom";
+  static_cast<void>(makeFolder(fileDirectory));
   std::error_code error;
-  fs::create_directory(fileDirectory, error);
   // A home folder that is not writable has no custom crops, but the stock crops are still read.
   if (fs::is_directory(fileDirectory, error)) {
     for (fs::path& path : filesByName(fileDirectory))
@@ -155,6 +156,7 @@ void FileReader::readSoils(Crop& crop) const {
     fs::path file = home_ / "crops" / "soils" / "";
     file += lowerCase(crop.cropType) +
             ".txt";  // appended as text, so that a name such as "/corn" stays in the folder
+    if (isHidden(file)) return;
     const std::string text = readFile(file);
     LineReader lines(text);
     for (long cells = 0; cells < maxSoilCells && !lines.atEnd();) {

@@ -19,7 +19,8 @@ struct HomePlaces {
 [[nodiscard]] HomePlaces homePlaces();
 
 /// The home folder: the folder of the executable if it contains `crops` and is writable, else the user's data
-/// folder. The stock crops are copied there if it has no crops yet.
+/// folder. The stock crops are copied there if it has no crops yet, and copies that killed programs have left
+/// unfinished are removed.
 /// \throws RunTimeError (fileNotFound) if there is none and none can be created
 [[nodiscard]] std::filesystem::path homeFolder(const HomePlaces& places);
 

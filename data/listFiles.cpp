@@ -10,13 +10,17 @@
 
 namespace verdalis {
 
+bool isHidden(const std::filesystem::path& path) {
+  return path.filename().string().starts_with('.');
+}
+
 std::vector<std::filesystem::path> filesByName(const std::filesystem::path& folder) {
   std::error_code error;
   std::filesystem::directory_iterator entry(folder, error);
   std::vector<std::pair<std::string, std::filesystem::path>> files;
   for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
     std::error_code ignored;
-    if (!entry->is_directory(ignored))
+    if (!isHidden(entry->path()) && !entry->is_directory(ignored))
       files.emplace_back(lowerCase(entry->path().filename().string()), entry->path());
   }
   if (error) {

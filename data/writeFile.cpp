@@ -1,6 +1,5 @@
 #include "data/writeFile.h"
 
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -9,6 +8,9 @@
 #include <string>
 #include <system_error>
 
+#include "data/SavingFolder.h"
+#include "data/TemporaryFile.h"
+#include "data/owner.h"
 #include "text/RunTimeError.h"
 
 namespace verdalis {
@@ -50,75 +52,52 @@ int reasonToRefuse(const fs::path& target) {
 
 }  // namespace
 
-/// A temporary file. The destructor removes it unless moveTo() succeeded.
-class FileReplacement::TemporaryFile {
- public:
-  /// The temporary name is short, because the target's name may have the maximum length.
-  TemporaryFile(const fs::path& beside, mode_t mode)
-      : name_((beside.parent_path() / ".saving-XXXXXX").string()) {
-    descriptor_ = ::mkstemp(name_.data());
-    if (descriptor_ >= 0 && ::fchmod(descriptor_, mode) != 0) close();
-  }
-  TemporaryFile(const TemporaryFile&) = delete;
-  TemporaryFile& operator=(const TemporaryFile&) = delete;
-  ~TemporaryFile() { close(); }
-
-  [[nodiscard]] bool isOpen() const { return descriptor_ >= 0; }
-
-  [[nodiscard]] bool write(std::string_view bytes) const {
-    while (isOpen() && !bytes.empty()) {
-      const ssize_t written = ::write(descriptor_, bytes.data(), bytes.size());
-      if (written < 0 && errno == EINTR) continue;
-      if (written < 0) return false;
-      bytes.remove_prefix(static_cast<std::size_t>(written));
-    }
-    return isOpen();
-  }
-
-  [[nodiscard]] bool moveTo(const fs::path& target) {
-    if (::fsync(descriptor_) != 0) return false;
-    if (::rename(name_.c_str(), target.c_str()) != 0) return false;
-    ::close(descriptor_);
-    descriptor_ = -1;
-    return true;
-  }
-
- private:
-  void close() {
-    if (!isOpen()) return;
-    const int cause = errno;  // keep the errno of the failure
-    ::close(descriptor_);
-    ::unlink(name_.c_str());
-    descriptor_ = -1;
-    errno = cause;
-  }
-
-  std::string name_;
-  int descriptor_ = -1;
-};
-
 FileReplacement::FileReplacement(const fs::path& path) : path_(path) {
   const std::optional<fs::path> target = behindLinks(path);
   const int reason = target ? reasonToRefuse(*target) : ELOOP;
   if (reason != 0) fail(reason);
   target_ = *target;
-  file_ = std::make_unique<TemporaryFile>(target_, modeFor(target_));
-  if (!file_->isOpen()) fail(errno);
+  mode_ = modeFor(target_);
+  open(target_.has_parent_path() ? target_.parent_path() : ".");
+  const Owner owner = ownerFor(target_);
+  file_->giveTo(owner.user, owner.group);
 }
 
 FileReplacement::~FileReplacement() = default;
+
+void FileReplacement::open(const fs::path& folder) {
+  // Another process may remove the saving folder before there is a file in it.
+  constexpr int mostAttempts = 10;
+  for (int attempt = 0; attempt < mostAttempts; ++attempt) {
+    savingFolder_.reset();  // removes the folder, if empty, before the next one is made
+    savingFolder_ = std::make_unique<SavingFolder>(folder);
+    if (!savingFolder_->path()) break;
+    // Refused here, as a file beside the target would be, and not only by keep().
+    if (::access(folder.c_str(), W_OK | X_OK) != 0) fail(errno);
+    file_ = std::make_unique<TemporaryFile>(*savingFolder_->path());
+    if (file_->isOpen()) return;
+    if (errno != ENOENT) break;
+  }
+  savingFolder_.reset();
+  removeAbandonedFiles(folder);
+  file_ = std::make_unique<TemporaryFile>(folder);
+  if (!file_->isOpen()) fail(errno);
+}
 
 void FileReplacement::write(std::string_view bytes) {
   if (!file_->write(bytes)) fail(errno);
 }
 
 void FileReplacement::keep() {
-  if (!file_->moveTo(target_)) fail(errno);
+  if (!file_->moveTo(target_, mode_)) fail(errno);
+  savingFolder_.reset();
 }
 
 void FileReplacement::fail(int reason) const {
-  throw RunTimeError(ErrorNumber::fileNotFound, "The file " + path_.string() + " cannot be written: " +
-                                                    std::generic_category().message(reason) + ".");
+  const std::string text =
+      "The file " + path_.string() + " cannot be written: " + std::generic_category().message(reason) + ".";
+  errno = reason;
+  throw RunTimeError(ErrorNumber::fileNotFound, text);
 }
 
 void writeFile(const fs::path& path, std::string_view bytes) {

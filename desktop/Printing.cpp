@@ -1,13 +1,19 @@
 #include "desktop/Printing.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QFileInfo>
 #include <QFont>
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QTemporaryDir>
+#include <filesystem>
+#include <string_view>
+#include <system_error>
 
+#include "data/writeFile.h"
 #include "desktop/Binder.h"
 #include "text/RunTimeError.h"
 
@@ -57,6 +63,16 @@ QString numbered(const QString& file, int number) {
          suffix;
 }
 
+/// Whether a file is a device or a pipe, which can be written but not replaced.
+bool isDevice(const QString& file) {
+  std::error_code error;
+  return std::filesystem::is_other(std::filesystem::status(programText(file), error));
+}
+
+RunTimeError cannotPrint() {
+  return {ErrorNumber::fileNotFound, "The report cannot be printed."};
+}
+
 }  // namespace
 
 Printing::Printing() : metrics_(std::make_unique<QtMetrics>()) {}
@@ -85,11 +101,35 @@ std::unique_ptr<PageSurface> Printing::beginDocument() {
 }
 
 void Printing::draw(const PageLayout& layout) {
+  const QString file = printer_->outputFileName();
+  if (file_.empty() || isDevice(file)) {
+    paint(layout);
+    return;
+  }
+  // Qt writes into a file piece by piece. The report is replaced completely or not at all.
+  const QTemporaryDir work;
+  const QString suffix = QFileInfo(file).suffix();  // decides the format
+  const QString copy =
+      work.filePath(suffix.isEmpty() ? QStringLiteral("report") : QStringLiteral("report.") + suffix);
+  printer_->setOutputFileName(copy);
+  paint(layout);
+  QFile painted(copy);
+  if (!painted.open(QIODevice::ReadOnly)) throw cannotPrint();
+  const QByteArray bytes = painted.readAll();
+  // Qt does not report a full disk.
+  if (printer_->outputFormat() == QPrinter::PdfFormat && !bytes.trimmed().endsWith("%%EOF"))
+    throw cannotPrint();
+  try {
+    writeFile(programText(file), std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
+  } catch (const RunTimeError&) {
+    throw cannotPrint();
+  }
+}
+
+void Printing::paint(const PageLayout& layout) {
   printer_->setFullPage(true);
   QPainter painter;
-  if (!painter.begin(printer_.get())) {
-    throw RunTimeError(ErrorNumber::fileNotFound, "The report cannot be printed.");
-  }
+  if (!painter.begin(printer_.get())) throw cannotPrint();
   painter.scale(printer_->resolution() / pointsPerInch, printer_->resolution() / pointsPerInch);
   int page = 0;
   for (const PlacedText& text : layout.texts()) {
@@ -98,6 +138,7 @@ void Printing::draw(const PageLayout& layout) {
     painter.setFont(fontOf(text.font));
     painter.drawText(QPointF(text.x, text.y), qText(text.text));
   }
+  if (!painter.end()) throw cannotPrint();
 }
 
 }  // namespace verdalis::desktop

@@ -26,6 +26,7 @@ class Printing {
 
  private:
   void draw(const PageLayout& layout);
+  void paint(const PageLayout& layout);
 
   std::unique_ptr<QPrinter> printer_;
   std::unique_ptr<FontMetrics> metrics_;

@@ -4,6 +4,7 @@
 
 #include "controls/ask.h"
 #include "data/SavedInputs.h"
+#include "data/SavingFolder.h"
 #include "data/StockDefaults.h"
 #include "data/writeFile.h"
 #include "main/SavedInputsControls.h"
@@ -78,6 +79,7 @@ void frmMain::load() {
   strMainInfo = standardMainInfo;
   pneMain.currentSoil = "Silt Loam";
   pneMain.txtSoil.setText(pneMain.currentSoil);
+  clearLeftovers(files_.home);
   try {
     loadCropRows();
   } catch (const RunTimeError& error) {

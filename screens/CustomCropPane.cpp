@@ -5,6 +5,7 @@
 
 #include "controls/ask.h"
 #include "data/StockGrids.h"
+#include "data/owner.h"
 #include "data/writeFile.h"
 #include "model/CropKind.h"
 #include "model/YieldUnit.h"
@@ -243,8 +244,7 @@ std::optional<std::filesystem::path> CustomCropPane::pathToSave() {
 
 void CustomCropPane::write(const std::filesystem::path& path) {
   // The folder may have been deleted since the library was read.
-  std::error_code ignored;
-  std::filesystem::create_directory(folder_, ignored);
+  static_cast<void>(makeFolder(folder_));
   writeFile(path,
             customCropText({txtCustom.text(), cboCustomGrid[4].text(), cboCustomGrid[1].text(),
                             cboCustomGrid[2].text(), cboCustomGrid[3].text(), customGridValues(dgCustom)}));

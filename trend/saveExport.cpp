@@ -24,21 +24,29 @@ ExportError systemError(int reason) {
   return {reason, std::generic_category().message(reason)};
 }
 
-/// Opens the file for writing without changing its content, to get the error of the system if it cannot be
+/// Tries to open the file for writing, to get the error of the system if it cannot be written. The file is
+/// not created yet, so that a failed export leaves no empty file. \returns the error; nothing if it can be
 /// written.
-/// \returns the error; nothing if it can be opened.
-std::optional<ExportError> openForOutput(const std::filesystem::path& path) {
-  constexpr int flags = O_WRONLY | O_CREAT | O_CLOEXEC | O_NONBLOCK;
-  const int file = ::open(path.c_str(), flags, 0666);  // NOLINT(cppcoreguidelines-pro-type-vararg)
-  if (file < 0) return systemError(errno);
-  ::close(file);
+std::optional<ExportError> tryToOpen(const std::filesystem::path& path) {
+  constexpr int flags = O_WRONLY | O_CLOEXEC | O_NONBLOCK;
+  const int file = ::open(path.c_str(), flags);  // NOLINT(cppcoreguidelines-pro-type-vararg)
+  if (file >= 0) {
+    ::close(file);
+    return std::nullopt;
+  }
+  if (errno != ENOENT) return systemError(errno);
+  try {
+    const FileReplacement canBeCreated(path);
+  } catch (const RunTimeError&) {
+    return systemError(errno);
+  }
   return std::nullopt;
 }
 
 std::optional<ExportError> saveText(const std::filesystem::path& path,
                                     const std::function<void(std::string&)>& write,
                                     const FileWriter& writer) {
-  if (std::optional<ExportError> refused = openForOutput(path)) return refused;
+  if (std::optional<ExportError> refused = tryToOpen(path)) return refused;
   std::string text;
   std::optional<ExportError> error;
   try {

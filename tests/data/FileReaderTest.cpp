@@ -60,21 +60,25 @@ TEST(FileReader, SortsAccentedLettersIgnoringCase) {
   EXPECT_EQ(library.names(), (Names{"\xC3\xA9", "\xC3\x89-1", "\xC3\xA9-2", "\xC3\x89-3", "Fallow"}));
 }
 
-TEST(FileReader, ReadsEveryFileWhateverItsName) {
+TEST(FileReader, ReadsEveryFileThatIsNotHiddenWhateverItsName) {
   const CropLibrary library;
-  library.stock(".hidden", smallCrop("Hidden"));
   library.stock("no extension", smallCrop("None"));
   library.stock("page.html", smallCrop("Page"));
   library.stock("Ma\xEFs.txt~", smallCrop("Backup"));
-  library.custom(".hidden", smallCrop("Mine"));
-  EXPECT_EQ(library.names(), (Names{"Hidden", "Backup", "None", "Page", "Fallow", "Mine"}));
+  library.custom("~mine", smallCrop("Mine"));
+  EXPECT_EQ(library.names(), (Names{"Backup", "None", "Page", "Fallow", "Mine"}));
 }
 
-TEST(FileReader, CountsHiddenFilesThatAreNotCrops) {
+TEST(FileReader, PassesOverHiddenFiles) {
   const CropLibrary library;
   library.stock(".DS_Store", "x");
+  library.stock(".hidden", smallCrop("Hidden"));
+  library.stock(".saving-a1B2c3", smallCrop("Half written"));
   library.stock("corn.txt", smallCrop("Corn"));
-  EXPECT_EQ(library.names(), Names{"Corn"});
+  library.custom(".hidden.txt", smallCrop("Hidden too"));
+  library.custom("mine.txt", smallCrop("Mine"));
+  EXPECT_EQ(library.names(), (Names{"Corn", "Fallow", "Mine"})) << "and Fallow is where it was without them";
+  EXPECT_EQ(library.read().fileCollection.size(), 2U);
 }
 
 TEST(FileReader, SkipsFolders) {

@@ -1,4 +1,7 @@
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/file.h>
+#include <unistd.h>
 
 #include "data/home.h"
 #include "tests/support/Errors.h"
@@ -65,6 +68,35 @@ TEST_F(Home, CopiesOfReadOnlyCropsAreWritable) {
   };
   EXPECT_TRUE(writable("corn.txt"));
   EXPECT_TRUE(writable("custom"));
+}
+
+TEST_F(Home, IsClearedOfUnfinishedCopies) {
+  for (int start = 1; start <= 2; ++start) {
+    folder_.write("user/data/.crops.a1B2c3/crops/corn.txt", "half");
+    fs::create_directories(folder_ / "user/data/.crops.A1b2C3");
+    EXPECT_EQ(homeFolder(places()), folder_ / "user/data");
+    EXPECT_EQ(folder_.names("user/data"), std::vector<std::string>{"crops"}) << "start " << start;
+  }
+}
+
+TEST_F(Home, KeepsACopyThatAnotherProgramIsMaking) {
+  folder_.write("user/data/.crops.a1B2c3/crops/corn.txt", "half");
+  const int other = ::open((folder_ / "user/data/.crops.a1B2c3").c_str(), O_RDONLY);
+  ASSERT_EQ(::flock(other, LOCK_EX), 0);
+  static_cast<void>(homeFolder(places()));
+  EXPECT_TRUE(fs::exists(folder_ / "user/data/.crops.a1B2c3/crops/corn.txt"));
+  ::close(other);
+}
+
+TEST_F(Home, KeepsFoldersOfTheUser) {
+  folder_.write("mine/corn.txt", "my own corn");
+  for (const char* name : {".crops.old", ".crops.a1B2c3d", ".crops.a1-2c3", "crops.a1B2c3", ".crops"})
+    folder_.write(fs::path("user/data") / name / "corn.txt", "my own corn");
+  folder_.write("user/data/.crops.file12", "my own corn");
+  fs::create_directory_symlink("../../mine", folder_ / "user/data/.crops.link12");
+  static_cast<void>(homeFolder(places()));
+  EXPECT_EQ(folder_.names("user/data").size(), 8U);
+  EXPECT_EQ(folder_.read("mine/corn.txt"), "my own corn");
 }
 
 TEST_F(Home, WithoutAUserIsAnError) {

@@ -105,13 +105,24 @@ TEST(SoilsFile, IsInItsFolderWhateverTheNameOfTheCrop) {
   library.folder().write("outside.txt", soil("ulysses", 7, 1));
   const std::string outside = (library.home() / "outside").string();
   library.stock("a.txt", smallCrop(outside));
-  library.stock("b.txt", smallCrop(""));
+  library.stock("b.txt", smallCrop("corn"));
   library.stock("c.txt", smallCrop(std::string(5000, 'n')));
-  library.soils(".txt", soil("ulysses", 8, 1));
+  library.soils("corn.txt", soil("ulysses", 8, 1));
   const auto reader = library.read();
   EXPECT_TRUE(reader.cropCollection.Item(1)->soil_ulysses->empty());
-  EXPECT_EQ(yieldOf(reader.cropCollection.Item(2)->soil_ulysses), 8) << "of a crop without a name";
+  EXPECT_EQ(yieldOf(reader.cropCollection.Item(2)->soil_ulysses), 8);
   EXPECT_TRUE(reader.cropCollection.Item(3)->soil_ulysses->empty());
+}
+
+TEST(SoilsFile, IsNoHiddenFile) {
+  const CropLibrary library;
+  library.stock("a.txt", smallCrop(""));
+  library.stock("b.txt", smallCrop(".Corn"));
+  library.soils(".txt", soil("ulysses", 7, 1));
+  library.soils(".corn.txt", soil("ulysses", 8, 1));
+  const auto reader = library.read();
+  EXPECT_TRUE(reader.cropCollection.Item(1)->soil_ulysses->empty()) << "of a crop without a name";
+  EXPECT_TRUE(reader.cropCollection.Item(2)->soil_ulysses->empty());
 }
 
 TEST(SoilsFile, MatchesSoilNamesExactlyInLowerCase) {

@@ -271,7 +271,7 @@ TEST(StockCropsExtraCells, SunflowerPeaksOneRowBeforeTheLast) {
   EXPECT_EQ(cell(cropNamed("Sunflower"), 21, 21), 3487);
 }
 
-// Any other file in these folders, even a hidden one, would become a crop.
+// Any other file in these folders that is not hidden would become a crop.
 TEST(StockCropsFolder, ContainsOnlyTheSixFiles) {
   std::vector<std::string> found;
   for (const auto& entry : std::filesystem::recursive_directory_iterator(cropFolder())) {

@@ -1,16 +1,14 @@
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 
-#include <csignal>
 #include <filesystem>
 #include <optional>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "data/writeFile.h"
 #include "tests/data/Failure.h"
+#include "tests/data/FullDisk.h"
 #include "tests/data/OrdinaryUser.h"
 #include "tests/support/TemporaryFolder.h"
 #include "text/RunTimeError.h"
@@ -21,6 +19,7 @@ namespace {
 namespace fs = std::filesystem;
 using testing::asOrdinaryUser;
 using testing::failureOf;
+using testing::FullDisk;
 using testing::openToAll;
 using testing::TemporaryFolder;
 
@@ -30,28 +29,6 @@ void expectNotWritten(const fs::path& path) {
   const auto text = failureOf(ErrorNumber::fileNotFound, [&] { writeFile(path, "new"); });
   EXPECT_NE(text.find(path.string()), std::string::npos) << text;
 }
-
-/// While this object exists, files of this process cannot grow beyond `bytes`: a write beyond that fails
-/// halfway, like on a full disk.
-class FullDisk {
- public:
-  explicit FullDisk(rlim_t bytes) {
-    if (::getrlimit(RLIMIT_FSIZE, &before_) != 0) throw std::runtime_error("no limit");
-    handler_ = std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit limit{bytes, before_.rlim_max};
-    if (::setrlimit(RLIMIT_FSIZE, &limit) != 0) throw std::runtime_error("no limit");
-  }
-  FullDisk(const FullDisk&) = delete;
-  FullDisk& operator=(const FullDisk&) = delete;
-  ~FullDisk() {
-    ::setrlimit(RLIMIT_FSIZE, &before_);
-    std::signal(SIGXFSZ, handler_);
-  }
-
- private:
-  rlimit before_{};
-  void (*handler_)(int) = nullptr;
-};
 
 TEST(WriteFile, AcceptsANameOfTheMaximumLength) {
   const TemporaryFolder folder;

@@ -3,7 +3,10 @@
 #include <QPrintDialog>
 #include <QProcess>
 #include <QSpinBox>
+#include <filesystem>
+#include <fstream>
 
+#include "tests/data/FullDisk.h"
 #include "tests/desktop/RunningDesktop.h"
 
 namespace verdalis::testing {
@@ -109,6 +112,29 @@ TEST_F(Printing, EachCopyIsASeparateDocument) {
     EXPECT_EQ(textOf(home() / copy), first);
   }
   EXPECT_FALSE(std::filesystem::exists(home() / "report-4.pdf"));
+}
+
+TEST_F(Printing, AReportReplacesTheOldFile) {
+  startWithOptions();
+  const std::filesystem::path second = home() / "report-2.pdf";
+  std::ofstream(second) << "old";
+  std::filesystem::create_hard_link(second, home() / "reader");
+  expectDialog(home() / "report.pdf", 2);
+  press("theResults.Command2");
+  EXPECT_EQ(textOf(second), textOf(home() / "report.pdf"));
+  EXPECT_EQ(std::filesystem::file_size(home() / "reader"), 3U) << "replaced, not overwritten";
+}
+
+TEST_F(Printing, AFullDiskLeavesNoPartOfAReport) {
+  startWithOptions();
+  {
+    const FullDisk full(1000);
+    expectDialog(home() / "report.pdf");
+    press("theResults.Command2");
+  }
+  EXPECT_EQ(dialogs, 1);
+  EXPECT_FALSE(std::filesystem::exists(home() / "report.pdf"));
+  EXPECT_EQ(pane(), "pneResults");
 }
 
 TEST_F(Printing, ACancelledDialogAndAnUnwritablePathEndTheReportSilently) {

@@ -173,6 +173,18 @@ std::string cropFile(const std::string& name) {
          "4\r\n";
 }
 
+TEST(Start, ClearsWhatAKilledProgramLeft) {
+  RunningProgram running;
+  for (const char* place : {"", "crops", "crops/custom", ".saving"})
+    running.folder.write(std::filesystem::path(place) / ".saving-a1B2c3", cropFile("Half written"));
+  running.folder.write("crops/custom/oats.txt", cropFile("Oats"));
+  running.start();
+  EXPECT_EQ(running.folder.names("crops/custom"), Strings{"oats.txt"});
+  EXPECT_FALSE(std::filesystem::exists(running.home() / "crops" / ".saving-a1B2c3"));
+  EXPECT_FALSE(std::filesystem::exists(running.home() / ".saving-a1B2c3"));
+  EXPECT_FALSE(std::filesystem::exists(running.home() / ".saving"));
+}
+
 class LibrarySize : public ::testing::Test {
  protected:
   void fill(int customCrops) {

@@ -161,9 +161,9 @@ struct BadName {
 };
 
 TEST_F(CustomCropSave, FileNamesOmitInvalidCharactersOfTheCropName) {
-  const std::vector<BadName> names{{"a/b", "ab.txt"},        {"../../etc/passwd", "....etcpasswd.txt"},
-                                   {"..", "...txt"},         {"/", ".txt"},
-                                   {"*?/\\:|<>\"", ".txt"},  {"C:\\crop", "Ccrop.txt"},
+  const std::vector<BadName> names{{"a/b", "ab.txt"},        {"../../etc/passwd", "_....etcpasswd.txt"},
+                                   {"..", "_...txt"},        {"/", "_.txt"},
+                                   {"*?/\\:|<>\"", "_.txt"}, {"C:\\crop", "Ccrop.txt"},
                                    {"🌽 maïs", "🌽 maïs.txt"}, {" ", " .txt"},
                                    {"B=C", "B=C.txt"}};
   for (const BadName& bad : names) {

@@ -502,6 +502,29 @@ TEST_F(SaveExportTest, AFullDiskIsReportedAndKeepsTheOldFile) {
   EXPECT_EQ(folder.read("a.xls"), "old");
 }
 
+TEST_F(SaveExportTest, AFailureLeavesNoEmptyFile) {
+  save(folder / "new.xls", [](const auto&, auto) {
+    errno = ENOSPC;
+    throw RunTimeError(ErrorNumber::fileNotFound, "cannot be written");
+  });
+  EXPECT_THAT(theMessage().text,
+              HasSubstr("Error #" + std::to_string(ENOSPC) + " -> No space left on device"));
+  EXPECT_TRUE(folder.names().empty());
+}
+
+TEST_F(SaveExportTest, NoFileIsCreatedBeforeTheTextIsComplete) {
+  fakes.messageBox.answers = {MessageAnswer::no};
+  fakes.fileChooser.answers.emplace_back(folder / "new.xls");
+  std::vector<std::string> during{"unknown"};
+  exportForSpreadsheet(desk, fakes.services, host.home(), [&](std::string& text) {
+    during = folder.names();
+    text += "page\r\n";
+  });
+  EXPECT_TRUE(during.empty());
+  EXPECT_EQ(folder.names(), std::vector<std::string>{"new.xls"});
+  EXPECT_EQ(folder.read("new.xls"), "page\r\n");
+}
+
 /// The export in a folder as a spreadsheet program reads it, as comma-separated cells; nothing if no such
 /// program is installed.
 std::optional<std::string> cellsOf(const TemporaryFolder& folder) {

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <sys/stat.h>
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace verdalis {
+
+/// A file for contents that are not complete yet, named ".saving-XXXXXX". It is locked while it exists, so
+/// that another process can tell it from a file that a killed program has left behind. The destructor removes
+/// it unless moveTo() succeeded. After a failure, errno says why.
+class TemporaryFile {
+ public:
+  /// Creates the file in a folder. The name is short, because the name of the file to replace may have the
+  /// maximum length.
+  explicit TemporaryFile(const std::filesystem::path& folder);
+  TemporaryFile(const TemporaryFile&) = delete;
+  TemporaryFile& operator=(const TemporaryFile&) = delete;
+  ~TemporaryFile();
+
+  /// Whether the file has been created.
+  [[nodiscard]] bool isOpen() const { return descriptor_ >= 0; }
+
+  /// Sets the owner, the group, or both; -1 keeps what it is. A file system that has no owners ignores this.
+  void giveTo(uid_t owner, gid_t group) const;
+
+  [[nodiscard]] bool write(std::string_view bytes) const;
+
+  /// Flushes the contents to disk, sets the permissions, and renames the file.
+  [[nodiscard]] bool moveTo(const std::filesystem::path& target, mode_t mode);
+
+ private:
+  void create(const std::filesystem::path& folder);
+  void close();
+
+  std::string name_;
+  int descriptor_ = -1;
+};
+
+/// Whether a name consists of `start` and six letters or digits, which the system puts at the end of the
+/// names of temporary files and folders.
+[[nodiscard]] bool isTemporaryName(std::string_view name, std::string_view start);
+
+/// Removes the temporary files in a folder that belong to this user and that no program is writing any more.
+/// What cannot be removed stays.
+void removeAbandonedFiles(const std::filesystem::path& folder);
+
+}  // namespace verdalis
