@@ -17,6 +17,9 @@ class Number {
   [[nodiscard]] bool isEmpty() const { return !value_.has_value(); }
   void clear() { value_.reset(); }
 
+  /// Whether both are empty, or both are the same number. An empty number is not the number 0.
+  [[nodiscard]] bool sameAs(const Number& other) const { return value_ == other.value_; }
+
   /// General number text, or an empty text.
   [[nodiscard]] std::string text() const { return value_ ? generalText(*value_) : std::string(); }
 

@@ -25,6 +25,13 @@ namespace verdalis {
   return value;
 }
 
+[[nodiscard]] inline bool sameSaved(const auto& a, const auto& b) {
+  return a == b;
+}
+[[nodiscard]] inline bool sameSaved(const Number& a, const Number& b) {
+  return a.sameAs(b);
+}
+
 /// Reads a value back from the text in the file.
 /// \throws RunTimeError (overflow) if a number is too large.
 inline void readSaved(double& value, std::string_view text) {
@@ -88,6 +95,17 @@ class SavedField {
     } else {
       owner.*std::get<Number Owner::*>(member_) = value;
     }
+  }
+
+  /// Calls `action` with a reference to the member: double, Number, bool or std::string.
+  template <class OwnerReference, class Action>
+  auto visit(OwnerReference& owner, Action action) const {
+    return std::visit([&](auto member) { return action(owner.*member); }, member_);
+  }
+
+  /// Whether the member has the same value in both owners.
+  [[nodiscard]] bool same(const Owner& a, const Owner& b) const {
+    return std::visit([&](auto member) { return sameSaved(a.*member, b.*member); }, member_);
   }
 
   friend constexpr bool operator==(const SavedField&, const SavedField&) = default;

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "document/FarmDocument.h"
+
+namespace verdalis {
+
+// Farm files: a document as JSON text in UTF-8, with indents of two spaces, keys in a fixed order and a line
+// end at the end. Reading a written file and writing it again gives the same bytes.
+// docs/farm-file.schema.json describes version 1.
+
+/// The version of the format that writeFarm() writes.
+inline constexpr int farmFileVersion = 1;
+
+/// Extension of the names of farm files.
+inline constexpr const char* farmFileExtension = ".verdalis";
+
+/// The text of a farm file. Bytes of texts that are not valid UTF-8 are replaced.
+[[nodiscard]] std::string writeFarm(const FarmDocument& document);
+
+/// Reads the text of a farm file.
+/// \throws RunTimeError (invalidCall) for a text that is no farm file, that belongs to a newer version, or
+/// that is damaged: it has a value of the wrong kind, or one that no control can hold. The message names the
+/// line and the reason.
+[[nodiscard]] FarmDocument readFarm(std::string_view text);
+
+/// The text of the inputs of a saved option, for comparing and testing.
+[[nodiscard]] std::string writeInputs(const FarmInputs& inputs);
+
+}  // namespace verdalis
