@@ -122,11 +122,11 @@ bool Control::isReachable() const {
 }
 
 void Control::enter() {
-  desk_->run([this] { desk_->enter(*this, false); });
+  desk_->act([this] { desk_->run([this] { desk_->enter(*this, false); }); });
 }
 
 void Control::leave() {
-  desk_->run([this] { desk_->leave(*this); });
+  desk_->act([this] { desk_->run([this] { desk_->leave(*this); }); });
 }
 
 void Control::act(const std::function<void()>& action, bool takesFocus) {
@@ -141,8 +141,13 @@ void Control::act(const std::function<void()>& action, bool takesFocus) {
       desk.activate(dynamic_cast<Window*>(&window()));
     }
   };
-  desk.run(std::cref(leavePrevious));  // a reference needs no memory of its own
-  if (!here.expired()) desk.run(action);
+  const auto carryOut = [&] {
+    desk.run(std::cref(leavePrevious));  // a reference needs no memory of its own
+    if (here.expired()) return;
+    if (desk.actions_ == 1) desk.onActing(*this);
+    if (!here.expired()) desk.run(action);
+  };
+  desk.act(std::cref(carryOut));
 }
 
 void Frame::setCaption(const std::string& caption) {
@@ -178,12 +183,15 @@ Window::~Window() {
 }
 
 void Window::closeByUser() {
-  desk().run([this] {
-    if (onCloseByUser) {
-      onCloseByUser();
-    } else {
-      close();
-    }
+  Desk& desk = this->desk();
+  desk.act([this, &desk] {
+    desk.run([this] {
+      if (onCloseByUser) {
+        onCloseByUser();
+      } else {
+        close();
+      }
+    });
   });
 }
 
@@ -237,6 +245,14 @@ void Desk::run(const std::function<void()>& action) {
     if (!onRunTimeError) throw;
     onRunTimeError(error);
   }
+}
+
+void Desk::act(const std::function<void()>& action) {
+  {
+    const Action counted(*this);
+    action();
+  }
+  if (actions_ == 0) onActed();
 }
 
 Control* Desk::find(std::string_view path) const {

@@ -171,6 +171,16 @@ class Window : public Frame {
 /// start and their run-time errors are caught.
 class Desk {
  public:
+  /// The user starts to do something with a control, and the control that had the focus before has been left.
+  /// Not raised for actions inside another one, such as a click on "Cancel" during a run.
+  Event<Control&> onActing;
+
+  /// An action of the user has ended, or the focus has moved. Not raised for actions inside another one.
+  Event<> onActed;
+
+  /// Whether an action of the user is being carried out.
+  [[nodiscard]] bool isActing() const { return actions_ > 0; }
+
   Desk() = default;
   Desk(const Desk&) = delete;
   Desk& operator=(const Desk&) = delete;
@@ -215,7 +225,23 @@ class Desk {
   void forget(const Control& control);
   void run(const std::function<void()>& action);
 
+  /// Counts the actions that are being carried out, for the duration of a scope.
+  class Action {
+   public:
+    explicit Action(Desk& desk) : desk_(desk) { ++desk_.actions_; }
+    Action(const Action&) = delete;
+    Action& operator=(const Action&) = delete;
+    ~Action() { --desk_.actions_; }
+
+   private:
+    Desk& desk_;
+  };
+
+  /// Runs a user action and raises onActed at its end.
+  void act(const std::function<void()>& action);
+
   std::vector<Window*> windows_;
+  int actions_ = 0;
   Control* focus_ = nullptr;
   Window* active_ = nullptr;
   int modals_ = 0;

@@ -1,5 +1,6 @@
 #include "data/FileReader.h"
 
+#include <algorithm>
 #include <memory>
 #include <system_error>
 #include <utility>
@@ -53,10 +54,8 @@ std::string_view lastEntry(std::string_view list) {
   return comma == std::string_view::npos ? list : list.substr(comma + 1);
 }
 
-/// Reads a crop file into an existing crop, overwriting its values.
-void readCrop(Crop& crop, const fs::path& path) {
-  const std::string text = readFile(path);
-  crop.Custom = fs::absolute(path).string().find("custom") != std::string::npos;
+/// Reads the text of a crop file into an existing crop, overwriting its values.
+void readCrop(Crop& crop, std::string_view text) {
   LineReader lines(text);
   const auto keyLine = [&] { return FileReader::parseEquals(lines.next()); };
   const auto passOver = [&] { static_cast<void>(lines.next()); };
@@ -119,9 +118,36 @@ YieldTable FileReader::makeYieldArray(std::string_view rainfall, std::string_vie
   return table;
 }
 
+std::shared_ptr<const std::string> FileReader::textOf(const Crop& crop) const {
+  const auto found = texts_.find(&crop);
+  return found == texts_.end() ? nullptr : found->second;
+}
+
+bool FileReader::isFarmCrop(std::string_view name) const {
+  return std::any_of(farmCrops.begin(), farmCrops.end(),
+                     [&](const FarmCrop& crop) { return crop.name == name; });
+}
+
+std::shared_ptr<const std::string> FileReader::libraryText(std::string_view name) const {
+  const auto found = ownTexts_.find(name);
+  return found == ownTexts_.end() ? nullptr : found->second;
+}
+
+bool FileReader::isCropFile(std::string_view text) {
+  try {
+    Crop crop;
+    readCrop(crop, text);
+    return true;
+  } catch (const RunTimeError&) {
+    return false;
+  }
+}
+
 bool FileReader::Initialize() {
   fileCollection.clear();
   cropCollection = {};
+  texts_.clear();
+  ownTexts_.clear();
   fileDirectory = home_ / "crops";
   fileCollection = filesByName(fileDirectory);
   const std::size_t stockFiles = fileCollection.size();
@@ -137,18 +163,50 @@ bool FileReader::Initialize() {
   std::size_t position = 1;
   auto crop = std::make_shared<Crop>();
   for (const fs::path& path : fileCollection) {
+    Text text;
     try {
-      readCrop(*crop, path);
+      text = std::make_shared<const std::string>(readFile(path));
+      crop->Custom = fs::absolute(path).string().find("custom") != std::string::npos;
+      readCrop(*crop, *text);
     } catch (const RunTimeError&) {
       continue;  // not a crop: the next file overwrites what this one left in `crop`
     }
     readSoils(*crop);
     cropCollection.Add(crop);
+    if (crop->Custom) {
+      texts_[crop.get()] = text;
+      ownTexts_[crop->cropType] = text;
+    }
     if (position == stockFiles) cropCollection.Add(makeFallowCrop());
     ++position;
     crop = std::make_shared<Crop>();
   }
+  addFarmCrops();
   return true;
+}
+
+void FileReader::addFarmCrops() {
+  for (const FarmCrop& own : farmCrops) {
+    auto crop = std::make_shared<Crop>();
+    try {
+      readCrop(*crop, own.text);
+    } catch (const RunTimeError&) {
+      continue;
+    }
+    crop->cropType = own.name;
+    crop->Custom = true;
+    readSoils(*crop);
+    texts_[crop.get()] = std::make_shared<const std::string>(own.text);
+    bool replaced = false;
+    CropScenario crops;
+    for (const auto& each : cropCollection) {
+      const bool same = !replaced && each->Custom && each->cropType == own.name;
+      crops.Add(same ? crop : each);
+      replaced = replaced || same;
+    }
+    if (!replaced) crops.Add(crop);
+    cropCollection = std::move(crops);
+  }
 }
 
 void FileReader::readSoils(Crop& crop) const {

@@ -1,6 +1,10 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -18,6 +22,30 @@ class FileReader {
   std::filesystem::path fileDirectory;                ///< Folder listed last
   std::vector<std::filesystem::path> fileCollection;  ///< Files in reading order
   CropScenario cropCollection;                        ///< Crops read, with Fallow after the stock crops
+
+  /// A custom crop of an open farm, which need not be in the library.
+  struct FarmCrop {
+    std::string name;
+    std::string text;  ///< The contents of its crop file
+
+    friend bool operator==(const FarmCrop&, const FarmCrop&) = default;
+  };
+
+  /// Crops that Initialize() uses in place of the custom crops with the same name, or after all others. A
+  /// text that is no crop file is passed over.
+  std::vector<FarmCrop> farmCrops;
+
+  /// The contents of the crop file of a custom crop; nullptr for any other crop.
+  [[nodiscard]] std::shared_ptr<const std::string> textOf(const Crop& crop) const;
+
+  /// Whether a crop is one of farmCrops.
+  [[nodiscard]] bool isFarmCrop(std::string_view name) const;
+
+  /// The contents of the library's own file of a custom crop; nullptr if it has none of this name.
+  [[nodiscard]] std::shared_ptr<const std::string> libraryText(std::string_view name) const;
+
+  /// Whether a text is a crop file.
+  [[nodiscard]] static bool isCropFile(std::string_view text);
 
   /// Reads the library again. A file that is not a valid crop file is skipped without a message. Fallow is
   /// inserted once as many valid files have been read as there are stock files, so a bad file moves it behind
@@ -39,6 +67,11 @@ class FileReader {
 
  private:
   void readSoils(Crop& crop) const;
+  void addFarmCrops();
+
+  using Text = std::shared_ptr<const std::string>;
+  std::map<const Crop*, Text> texts_;                  ///< Of the custom crops in cropCollection
+  std::map<std::string, Text, std::less<>> ownTexts_;  ///< Of the library's custom crops, by name
 
   std::filesystem::path home_;
 };

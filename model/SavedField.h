@@ -108,6 +108,11 @@ class SavedField {
     return std::visit([&](auto member) { return sameSaved(a.*member, b.*member); }, member_);
   }
 
+  /// Copies the value of the member.
+  void copy(const Owner& from, Owner& to) const {
+    std::visit([&](auto member) { to.*member = from.*member; }, member_);
+  }
+
   friend constexpr bool operator==(const SavedField&, const SavedField&) = default;
 
  private:

@@ -101,6 +101,9 @@ class BatchSetupPane : public Frame {
   /// \returns false if the pane cannot be read; nothing changes then.
   bool LoadBatchProcess(std::int16_t index);
 
+  /// Replaces all processes and says which of them the pane shows, from 0. Its fields are set by the caller.
+  void putProcesses(std::vector<BatchProcess> processes, std::int16_t shown);
+
   /// Clears the pane.
   /// \returns true.
   bool ClearBatchData();
@@ -125,6 +128,7 @@ class BatchSetupPane : public Frame {
   [[nodiscard]] TrendReading readValues(bool validate) const;
   [[nodiscard]] std::optional<Message> refuseCrop(const std::string& cropName) const;
   void showProcess(const BatchProcess& process);
+  void tickOthers(std::size_t shown);
   void fillProcessList();
   void selectProcess(int index);
   void switchProcess();

@@ -1,3 +1,5 @@
+#include <utility>
+
 #include "controls/ask.h"
 #include "model/listIndex.h"
 #include "text/RunTimeError.h"
@@ -52,10 +54,27 @@ bool BatchSetupPane::LoadBatchProcess(std::int16_t index) {
   ClearBatchData();
   showProcess(processes[place]);
   trend_.CurrentProcess = index;
-  for (std::size_t i = 0; i < processes.size(); ++i) {
-    if (i != place) check.at(static_cast<std::size_t>(processes[i].VariableIndex))->setVisible(true);
-  }
+  tickOthers(place);
   return true;
+}
+
+/// Ticks the variables of the processes that are not shown.
+void BatchSetupPane::tickOthers(std::size_t shown) {
+  const auto& processes = trend_.ProcessCollection;
+  for (std::size_t i = 0; i < processes.size(); ++i) {
+    if (i != shown) check.at(static_cast<std::size_t>(processes[i].VariableIndex))->setVisible(true);
+  }
+}
+
+void BatchSetupPane::putProcesses(std::vector<BatchProcess> processes, std::int16_t shown) {
+  trend_.ProcessCollection = std::move(processes);
+  trend_.CurrentProcess = shown;
+  fillProcessList();
+  selectProcess(shown);
+  for (const auto& tick : check)
+    tick->setVisible(false);
+  tickOthers(static_cast<std::size_t>(shown));
+  RefreshBatchButtons();
 }
 
 bool BatchSetupPane::ClearBatchData() {

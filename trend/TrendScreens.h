@@ -25,6 +25,9 @@ class TrendScreens {
   BatchSetupPane pneBatchSetup0;
   BatchResultsPane pneBatchSetup1;
 
+  /// The inputs that a trend changes.
+  [[nodiscard]] TrendHost& host() const { return host_; }
+
   /// Opens the setup for a variable trend. Deselects the selected option.
   void mnuFallBatch_Click();
 
