@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <system_error>
 
@@ -39,6 +40,28 @@ bool isOurs(int descriptor, const fs::path& file) {
          opened.st_ino == named.st_ino;
 }
 
+/// A path that leads to an open file, whether it has a name or not.
+std::string pathOf(int descriptor) {
+  return "/proc/self/fd/" + std::to_string(descriptor);
+}
+
+/// Gives a name to a file that has none.
+/// \returns false if that failed, for example because the name is taken (EEXIST).
+bool giveName(int descriptor, const fs::path& name) {
+  return ::linkat(AT_FDCWD, pathOf(descriptor).c_str(), AT_FDCWD, name.c_str(), AT_SYMLINK_FOLLOW) == 0;
+}
+
+/// A name as mkostemp makes them; empty if the system has no random numbers.
+std::string randomName() {
+  constexpr std::string_view letters = "abcdefghijklmnopqrstuvwxyz0123456789";
+  std::array<unsigned char, pattern.size()> bytes{};
+  if (::getentropy(bytes.data(), bytes.size()) != 0) return {};
+  std::string name(prefix);
+  for (const unsigned char byte : bytes)
+    name += letters[byte % letters.size()];
+  return name;
+}
+
 void removeIfAbandoned(const fs::path& file) {
   constexpr int flags = O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
   const int descriptor = ::open(file.c_str(), flags);  // NOLINT(cppcoreguidelines-pro-type-vararg)
@@ -58,7 +81,8 @@ bool isTemporaryName(std::string_view name, std::string_view start) {
          std::all_of(name.begin() + start.size(), name.end(), isLetterOrDigit);
 }
 
-TemporaryFile::TemporaryFile(const fs::path& folder) {
+TemporaryFile::TemporaryFile(const fs::path& folder, Naming naming) : folder_(folder) {
+  if (naming == Naming::whenComplete && createWithoutName(folder)) return;
   // A cleaner may remove the file before it is locked; then another one is created.
   constexpr int mostAttempts = 100;
   for (int attempt = 0; attempt < mostAttempts; ++attempt) {
@@ -80,6 +104,15 @@ void TemporaryFile::create(const fs::path& folder) {
   descriptor_ = ::mkostemp(name_.data(), O_CLOEXEC);
 }
 
+bool TemporaryFile::createWithoutName(const fs::path& folder) {
+  constexpr int flags = O_TMPFILE | O_RDWR | O_CLOEXEC;
+  descriptor_ = ::open(folder.c_str(), flags, 0600);  // NOLINT(cppcoreguidelines-pro-type-vararg)
+  // It gets its name by this path, which needs /proc.
+  if (isOpen() && ::access(pathOf(descriptor_).c_str(), F_OK) != 0) close();
+  if (isOpen()) lock(descriptor_);
+  return isOpen();
+}
+
 void TemporaryFile::giveTo(uid_t owner, gid_t group) const {
   const int ignored = ::fchown(descriptor_, owner, group);
   static_cast<void>(ignored);
@@ -95,9 +128,21 @@ bool TemporaryFile::write(std::string_view bytes) const {
   return isOpen();
 }
 
-bool TemporaryFile::moveTo(const fs::path& target, mode_t mode) {
+bool TemporaryFile::putInto(const fs::path& target, const fs::path& step) {
+  if (name_.empty() && giveName(descriptor_, target)) return true;
+  // Giving a name does not replace a file, but renaming does.
+  constexpr int mostAttempts = 100;
+  for (int attempt = 0; attempt < mostAttempts && name_.empty(); ++attempt) {
+    if (errno != EEXIST) return false;
+    const std::string name = (step.empty() ? folder_ / randomName() : step).string();
+    if (giveName(descriptor_, name)) name_ = name;
+  }
+  return !name_.empty() && ::rename(name_.c_str(), target.c_str()) == 0;
+}
+
+bool TemporaryFile::moveTo(const fs::path& target, mode_t mode, const fs::path& step) {
   if (::fchmod(descriptor_, mode) != 0 || ::fsync(descriptor_) != 0) return false;
-  if (::rename(name_.c_str(), target.c_str()) != 0) return false;
+  if (!putInto(target, step)) return false;
   ::close(descriptor_);
   descriptor_ = -1;
   return true;
@@ -105,8 +150,8 @@ bool TemporaryFile::moveTo(const fs::path& target, mode_t mode) {
 
 void TemporaryFile::close() {
   if (!isOpen()) return;
-  const int cause = errno;  // keep the errno of the failure
-  ::unlink(name_.c_str());  // while it is locked
+  const int cause = errno;                      // keep the errno of the failure
+  if (!name_.empty()) ::unlink(name_.c_str());  // while it is locked
   ::close(descriptor_);
   descriptor_ = -1;
   errno = cause;

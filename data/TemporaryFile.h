@@ -13,9 +13,13 @@ namespace verdalis {
 /// it unless moveTo() succeeded. After a failure, errno says why.
 class TemporaryFile {
  public:
+  /// When the file gets its name. A file without a name goes with its program, even if that is killed. Where
+  /// the file system has no such files, the name is given at once.
+  enum class Naming { atOnce, whenComplete };
+
   /// Creates the file in a folder. The name is short, because the name of the file to replace may have the
   /// maximum length.
-  explicit TemporaryFile(const std::filesystem::path& folder);
+  explicit TemporaryFile(const std::filesystem::path& folder, Naming naming = Naming::atOnce);
   TemporaryFile(const TemporaryFile&) = delete;
   TemporaryFile& operator=(const TemporaryFile&) = delete;
   ~TemporaryFile();
@@ -29,13 +33,19 @@ class TemporaryFile {
   [[nodiscard]] bool write(std::string_view bytes) const;
 
   /// Flushes the contents to disk, sets the permissions, and renames the file.
-  [[nodiscard]] bool moveTo(const std::filesystem::path& target, mode_t mode);
+  /// \param step the name, in the same folder and unused, that a file without a name has for the moment
+  /// before it replaces an existing target; a random one if empty
+  [[nodiscard]] bool moveTo(const std::filesystem::path& target, mode_t mode,
+                            const std::filesystem::path& step = {});
 
  private:
   void create(const std::filesystem::path& folder);
+  bool createWithoutName(const std::filesystem::path& folder);
+  bool putInto(const std::filesystem::path& target, const std::filesystem::path& step);
   void close();
 
-  std::string name_;
+  std::filesystem::path folder_;
+  std::string name_;  ///< Empty while it has none
   int descriptor_ = -1;
 };
 

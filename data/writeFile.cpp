@@ -9,7 +9,6 @@
 #include <system_error>
 
 #include "data/SavingFolder.h"
-#include "data/TemporaryFile.h"
 #include "data/owner.h"
 #include "text/RunTimeError.h"
 
@@ -52,20 +51,26 @@ int reasonToRefuse(const fs::path& target) {
 
 }  // namespace
 
-FileReplacement::FileReplacement(const fs::path& path) : path_(path) {
+FileReplacement::FileReplacement(const fs::path& path, TemporaryFile::Naming naming) : path_(path) {
   const std::optional<fs::path> target = behindLinks(path);
   const int reason = target ? reasonToRefuse(*target) : ELOOP;
   if (reason != 0) fail(reason);
   target_ = *target;
   mode_ = modeFor(target_);
-  open(target_.has_parent_path() ? target_.parent_path() : ".");
+  open(target_.has_parent_path() ? target_.parent_path() : ".", naming);
   const Owner owner = ownerFor(target_);
   file_->giveTo(owner.user, owner.group);
 }
 
 FileReplacement::~FileReplacement() = default;
 
-void FileReplacement::open(const fs::path& folder) {
+void FileReplacement::open(const fs::path& folder, TemporaryFile::Naming naming) {
+  if (naming == TemporaryFile::Naming::whenComplete) {
+    removeAbandonedFiles(folder);
+    file_ = std::make_unique<TemporaryFile>(folder, naming);
+    if (!file_->isOpen()) fail(errno);
+    return;
+  }
   // Another process may remove the saving folder before there is a file in it.
   constexpr int mostAttempts = 10;
   for (int attempt = 0; attempt < mostAttempts; ++attempt) {

@@ -6,10 +6,11 @@
 #include <memory>
 #include <string_view>
 
+#include "data/TemporaryFile.h"
+
 namespace verdalis {
 
 class SavingFolder;
-class TemporaryFile;
 
 /// Replaces the contents of a file, whole or not at all, with bytes that come piece by piece: they are
 /// written to a temporary file on the same file system, flushed to disk, and renamed over it by keep(). On
@@ -19,8 +20,10 @@ class TemporaryFile;
 /// file (a folder, a device, a pipe) and a write-protected file are not replaced.
 class FileReplacement {
  public:
+  /// \param naming when the temporary file gets its name; one without a name is beside the target in any case
   /// \throws RunTimeError (fileNotFound) if the file cannot be written; the text and errno say why.
-  explicit FileReplacement(const std::filesystem::path& path);
+  explicit FileReplacement(const std::filesystem::path& path,
+                           TemporaryFile::Naming naming = TemporaryFile::Naming::atOnce);
   FileReplacement(const FileReplacement&) = delete;
   FileReplacement& operator=(const FileReplacement&) = delete;
   ~FileReplacement();
@@ -33,7 +36,7 @@ class FileReplacement {
   void keep();
 
  private:
-  void open(const std::filesystem::path& folder);
+  void open(const std::filesystem::path& folder, TemporaryFile::Naming naming);
   [[noreturn]] void fail(int reason) const;
 
   std::filesystem::path path_;
