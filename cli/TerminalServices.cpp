@@ -16,6 +16,7 @@ MessageAnswer TerminalServices::show(const Message& message) {
     case MessageButtons::yesNo:
       return MessageAnswer::no;
     case MessageButtons::yesNoCancel:
+    case MessageButtons::saveDiscardCancel:
       return MessageAnswer::cancel;
     case MessageButtons::ok:
       break;

@@ -178,8 +178,9 @@ class Desk {
   /// An action of the user has ended, or the focus has moved. Not raised for actions inside another one.
   Event<> onActed;
 
-  /// Whether an action of the user is being carried out.
-  [[nodiscard]] bool isActing() const { return actions_ > 0; }
+  /// Whether the present action of the user is inside another one, which goes on afterwards: a run, or a
+  /// message box.
+  [[nodiscard]] bool isInsideAction() const { return actions_ > 1; }
 
   Desk() = default;
   Desk(const Desk&) = delete;

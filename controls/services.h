@@ -20,8 +20,8 @@ enum class MessageKind {
   failure    ///< An operation failed
 };
 enum class MessageIcon { none, critical, question, exclamation, information };
-enum class MessageButtons { ok, yesNo, yesNoCancel };
-enum class MessageAnswer { ok, yes, no, cancel };
+enum class MessageButtons { ok, yesNo, yesNoCancel, saveDiscardCancel };
+enum class MessageAnswer { ok, yes, no, cancel, save, discard };
 
 /// The title of a box that has no title of its own: the name of the program.
 inline constexpr const char* defaultTitle = "Verdalis";

@@ -162,4 +162,13 @@ fs::path customCropPath(const fs::path& folder, const std::string& name) {
   return folder / (isHidden(file) ? "_" + file : file);
 }
 
+std::filesystem::path freeCropPath(const std::filesystem::path& folder, const std::string& name) {
+  const std::filesystem::path path = customCropPath(folder, name);
+  std::filesystem::path free = path;
+  std::error_code error;
+  for (int number = 2; std::filesystem::exists(free, error); ++number)
+    free = folder / (path.stem().string() + " (" + std::to_string(number) + ").txt");
+  return free;
+}
+
 }  // namespace verdalis

@@ -60,4 +60,8 @@ struct CustomCropItems {
 [[nodiscard]] std::filesystem::path customCropPath(const std::filesystem::path& folder,
                                                    const std::string& name);
 
+/// The path of customCropPath(), with a number added if there is such a file.
+[[nodiscard]] std::filesystem::path freeCropPath(const std::filesystem::path& folder,
+                                                 const std::string& name);
+
 }  // namespace verdalis

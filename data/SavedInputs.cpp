@@ -104,14 +104,19 @@ void readInto(std::string_view text, SavedInputsTarget& target) {
 
 }  // namespace
 
-bool saveInputs(const std::filesystem::path& file, const GeneralInputs& general, const IrrigationCosts& plant,
-                const CropScenario& cropCollection, bool trendEnabled) {
+std::string savedInputsText(const GeneralInputs& general, const IrrigationCosts& plant,
+                            const CropScenario& cropCollection, bool trendEnabled) {
   std::string text = general.writeData() + "\r\n" + plant.writeData() + "\r\n";
   for (const auto& crop : cropCollection)
     text += crop->writeData() + "\r\n";
   if (trendEnabled) text += std::string(trendToken) + "\r\n";
+  return text;
+}
+
+bool saveInputs(const std::filesystem::path& file, const GeneralInputs& general, const IrrigationCosts& plant,
+                const CropScenario& cropCollection, bool trendEnabled) {
   try {
-    writeFile(file, text);
+    writeFile(file, savedInputsText(general, plant, cropCollection, trendEnabled));
     return true;
   } catch (const RunTimeError&) {
     return false;

@@ -24,8 +24,12 @@ class SavedInputsTarget : public InputControls {
   virtual void setTrendEnabled() = 0;
 };
 
-/// Writes the saved inputs file: general inputs, plant, every crop of the library, and whether trends are
-/// enabled. The file is replaced whole or not at all.
+/// The text of the saved inputs file: general inputs, plant, every crop of the library, and whether trends
+/// are enabled.
+[[nodiscard]] std::string savedInputsText(const GeneralInputs& general, const IrrigationCosts& plant,
+                                          const CropScenario& cropCollection, bool trendEnabled);
+
+/// Writes the saved inputs file. It is replaced whole or not at all.
 /// \returns whether the file was written. A failure is not reported, because it must not stop the run that
 /// saves.
 bool saveInputs(const std::filesystem::path& file, const GeneralInputs& general, const IrrigationCosts& plant,

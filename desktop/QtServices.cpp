@@ -36,6 +36,8 @@ QMessageBox::StandardButtons boxButtons(MessageButtons buttons) {
       return QMessageBox::Yes | QMessageBox::No;
     case MessageButtons::yesNoCancel:
       return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
+    case MessageButtons::saveDiscardCancel:
+      return QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel;
     case MessageButtons::ok:
       break;
   }
@@ -81,6 +83,10 @@ MessageAnswer QtServices::show(const Message& message) {
       return MessageAnswer::no;
     case QMessageBox::Cancel:
       return MessageAnswer::cancel;
+    case QMessageBox::Save:
+      return MessageAnswer::save;
+    case QMessageBox::Discard:
+      return MessageAnswer::discard;
     default:
       // Closing a message without a Cancel button means No if it has a No button.
       return message.buttons == MessageButtons::ok ? MessageAnswer::ok : MessageAnswer::no;

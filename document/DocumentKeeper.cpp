@@ -126,7 +126,7 @@ void DocumentKeeper::put(const SharedDocument& document) {
 }
 
 void DocumentKeeper::finishTyping() {
-  if (!started_) return;
+  if (!started_ || desk_.isInsideAction()) return;
   refresh();
   if (now_ != committed_ && !(*now_ == *committed_)) commit();
 }

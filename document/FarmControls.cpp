@@ -282,6 +282,8 @@ void FarmControls::put(const FarmDocument& document) {
     putFarm(document.inputs.farm);
     putPlant(document.inputs.plant.plant);
     putCrops(document.inputs.crops);
+    parts_.main.tellCapacity = nullptr;
+    cautionOfCapacity();
   }
   putOptions(document.inputs.options);
   parts_.main.wishes.clear();
@@ -295,6 +297,8 @@ void FarmControls::put(const FarmDocument& document) {
 
 void FarmControls::putFarm(const DocumentFarm& farm) {
   MainPane& pane = parts_.main;
+  // The plant is put later, and only what both come to is of interest.
+  pane.tellCapacity = [](const Message&) {};
   pass([&] { pane.txtArea.setText(farm.txtArea); });
   pass([&] { pane.txtMax.setText(farm.txtMax); });
   pass([&] { pane.txtAnnRain.setText(farm.txtAnnRain); });
@@ -304,6 +308,14 @@ void FarmControls::putFarm(const DocumentFarm& farm) {
   pane.landSplits.select(farm.split ? static_cast<int>(*farm.split) : -1);
   pane.chkNoSplit.setChecked(farm.noSplit);
   pane.Check1.setChecked(farm.fallowNegatives);
+}
+
+void FarmControls::cautionOfCapacity() const {
+  pass([&] {
+    const MainPane& pane = parts_.main;
+    const auto caution = capacityWarning(parts_.plant, pane.txtArea.text(), pane.txtMax.text());
+    if (caution && tellCaution) tellCaution(*caution);
+  });
 }
 
 void FarmControls::putPlant(const IrrigationCosts& plant) {

@@ -38,6 +38,9 @@ class FarmControls {
   /// The inputs under which the options on show were found. An option that is saved keeps them.
   FarmInputs foundWith;
 
+  /// Receives what a message box tells while a user types, such as that the plant cannot pump the irrigation.
+  std::function<void(const Message&)> tellCaution;
+
   /// Names of crops that were deleted on purpose: a document does not keep what was entered for them.
   std::set<std::string> deletedCrops;
 
@@ -59,6 +62,7 @@ class FarmControls {
   void putFarm(const DocumentFarm& farm);
   void putCrops(const SharedList<DocumentCrop>& crops);
   void putPlant(const IrrigationCosts& plant);
+  void cautionOfCapacity() const;
   void putOptions(const DocumentOptions& options);
   void putTrend(const std::vector<DocumentProcess>& trend);
 

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "document/documentKeys.h"
-#include "document/farmFile.h"
+#include "document/farmText.h"
 #include "document/jsonLines.h"
 #include "model/LandDivision.h"
 #include "text/RunTimeError.h"

@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "document/documentKeys.h"
-#include "document/farmFile.h"
+#include "document/farmText.h"
 #include "document/jsonNumber.h"
 #include "text/version.h"
 

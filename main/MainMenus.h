@@ -1,6 +1,11 @@
 #pragma once
 
+#include <memory>
+#include <string>
+#include <vector>
+
 #include "controls/displays.h"
+#include "data/RecentFarms.h"
 
 namespace verdalis {
 
@@ -9,6 +14,13 @@ namespace verdalis {
 struct MainMenus {
   explicit MainMenus(Frame& window)
       : mnuFile(window, "mnuTools(0)", "File"),
+        mnuNew(window, "mnuNew", "New", &mnuFile),
+        mnuOpen(window, "mnuOpen", "Open...", &mnuFile),
+        mnuOpenRecent(window, "mnuOpenRecent", "Open Recent", &mnuFile),
+        mnuRecent(recentEntries(window, mnuOpenRecent)),
+        mnuSave(window, "mnuSave", "Save", &mnuFile),
+        mnuSaveAs(window, "mnuSaveAs", "Save As...", &mnuFile),
+        mnuNotes(window, "mnuNotes", "Farm Name and Notes...", &mnuFile),
         mnuPrint(window, "mnuPrint", "Print", &mnuFile),
         mnuExit(window, "mnuExit", "Exit", &mnuFile),
         mnuLocation(window, "mnuLocation", "Location"),
@@ -16,6 +28,8 @@ struct MainMenus {
         mnuTexas(window, "mnuTexas", "Texas", &mnuLocation),
         mnuSummary(window, "mnuSummary", "Summary Table"),
         mnuEdit(window, "mnuTools(1)", "Edit"),
+        mnuUndo(window, "mnuUndo", "Undo", &mnuEdit),
+        mnuRedo(window, "mnuRedo", "Redo", &mnuEdit),
         mnuOptions(window, "mnuOptions", "Options", &mnuEdit),
         mnuTools(window, "mnuTools(2)", "Tools"),
         mnuCustomCrop(window, "mnuCustomCrop", "Manage Custom Crops", &mnuTools),
@@ -24,6 +38,8 @@ struct MainMenus {
         mnuAbout(window, "mnuAbout", "Help"),
         mnuHelp(window, "mnuHelp", "Help", &mnuAbout),
         mnuAboutVDL(window, "mnuAboutVDL", "About Verdalis...", &mnuAbout) {
+    mnuUndo.setEnabled(false);
+    mnuRedo.setEnabled(false);
     mnuPrint.setEnabled(false);
     mnuPrairia.setChecked(true);
     mnuTexas.setEnabled(false);
@@ -31,6 +47,14 @@ struct MainMenus {
   }
 
   MenuEntry mnuFile;  ///< Element 0 of the array mnuTools
+  MenuEntry mnuNew;
+  MenuEntry mnuOpen;
+  MenuEntry mnuOpenRecent;
+  std::vector<std::unique_ptr<MenuEntry>>
+      mnuRecent;  ///< The farms that were used last; invisible without one
+  MenuEntry mnuSave;
+  MenuEntry mnuSaveAs;
+  MenuEntry mnuNotes;
   MenuEntry mnuPrint;
   MenuEntry mnuExit;
   MenuEntry mnuLocation;
@@ -38,6 +62,8 @@ struct MainMenus {
   MenuEntry mnuTexas;
   MenuEntry mnuSummary;
   MenuEntry mnuEdit;  ///< Element 1 of the array mnuTools
+  MenuEntry mnuUndo;
+  MenuEntry mnuRedo;
   MenuEntry mnuOptions;
   MenuEntry mnuTools;  ///< Element 2
   MenuEntry mnuCustomCrop;
@@ -46,6 +72,17 @@ struct MainMenus {
   MenuEntry mnuAbout;
   MenuEntry mnuHelp;
   MenuEntry mnuAboutVDL;
+
+ private:
+  static std::vector<std::unique_ptr<MenuEntry>> recentEntries(Frame& window, MenuEntry& menu) {
+    std::vector<std::unique_ptr<MenuEntry>> entries;
+    for (std::size_t i = 0; i < RecentFarms::most; ++i) {
+      entries.push_back(
+          std::make_unique<MenuEntry>(window, "mnuRecent(" + std::to_string(i) + ")", "", &menu));
+      entries.back()->setVisible(false);
+    }
+    return entries;
+  }
 };
 
 }  // namespace verdalis

@@ -7,6 +7,7 @@
 #include "engine/ProgramState.h"
 #include "screens/frmAbout.h"
 #include "screens/frmHelpEff.h"
+#include "screens/frmNotes.h"
 #include "screens/frmOptions.h"
 #include "screens/frmUpdating.h"
 #include "screens/modHelp.h"
@@ -27,6 +28,7 @@ class SecondaryWindows {
   frmHelpEff& helpEff() { return made(helpEff_); }
   frmOptions& options() { return made(options_, state_, services_); }
   frmAbout& about() { return made(about_); }
+  frmNotes& notes() { return made(notes_); }
 
   void closeUpdating() { close(updating_); }
 
@@ -37,6 +39,7 @@ class SecondaryWindows {
     close(helpEff_);
     close(options_);
     close(about_);
+    close(notes_);
   }
 
  private:
@@ -61,6 +64,7 @@ class SecondaryWindows {
   std::unique_ptr<frmHelpEff> helpEff_;
   std::unique_ptr<frmOptions> options_;
   std::unique_ptr<frmAbout> about_;
+  std::unique_ptr<frmNotes> notes_;
 };
 
 }  // namespace verdalis

@@ -3,9 +3,11 @@
 #include <utility>
 
 #include "controls/ask.h"
+#include "data/CustomCropFile.h"
 #include "data/SavedInputs.h"
 #include "data/SavingFolder.h"
 #include "data/StockDefaults.h"
+#include "data/owner.h"
 #include "data/writeFile.h"
 #include "main/SavedInputsControls.h"
 #include "screens/RunScenario.h"
@@ -13,6 +15,7 @@
 #include "screens/wishText.h"
 #include "text/RunTimeError.h"
 #include "text/encoding.h"
+#include "text/quote.h"
 
 namespace verdalis {
 namespace {
@@ -51,6 +54,11 @@ frmMain::frmMain(Desk& desk, Services& services, ProgramState& state, SecondaryW
                   [this] { return services_.clock.now(); }}),
       trendHost(*this, windows, services.eventPump, files.home),
       trends(*this, services, state, trendHost),
+      farmControls(
+          {*this, pneMain, pneIrrigCosts, *tempIrrigationCosts, state, trends, cropFiles, summaryResults}),
+      keeper(desk, farmControls),
+      farms(*this, services, keeper, farmControls, files.state, files.recovers),
+      losses_(desk, keeper, notices),
       services_(services),
       state_(state),
       windows_(windows),
@@ -66,6 +74,8 @@ frmMain::frmMain(Desk& desk, Services& services, ProgramState& state, SecondaryW
   wirePanes();
   wireResults();
   wirePrinting();
+  wireFarms();
+  wireLosses();
 }
 
 void frmMain::touch() {
@@ -87,6 +97,7 @@ void frmMain::load() {
     if (!desk().onRunTimeError) throw;
     desk().onRunTimeError(error);
   }
+  untouched_ = farmControls.read({});
   inputsLoaded_ = loadInputs();
   if (TrendEnabled) TrendNoticeShown = true;
   EnableBatch(TrendEnabled);
@@ -94,6 +105,8 @@ void frmMain::load() {
   trends.pneBatchSetup0.cboCrops.setIndex(0);
   SetMainInfo(strMainInfo);
   pneCustomCrop.fillLists();
+  keeper.start();
+  farms.start();
 }
 
 void frmMain::loadCropRows() {
@@ -116,17 +129,30 @@ void frmMain::loadCropRows() {
   pneMain.InitializeCropFrame();
 }
 
+GeneralInputs frmMain::enteredInputs() const {
+  GeneralInputs inputs;
+  inputs.annualRain = pneMain.txtAnnRain.text();
+  inputs.irrigEff = pneMain.txtEff.text();
+  const int index = pneMain.landSplits.selected();
+  inputs.splitIndex = index < 0 ? "" : std::to_string(index);
+  inputs.totalAcres = pneMain.txtArea.text();
+  inputs.waterAllocation = pneMain.txtMax.text();
+  return inputs;
+}
+
+std::string frmMain::inputsText() const {
+  return savedInputsText(enteredInputs(), *tempIrrigationCosts, cropFiles.cropCollection, TrendEnabled);
+}
+
 void frmMain::saveInputs() {
   if (!files_.savesInputs) return;
-  generalInputs.annualRain = pneMain.txtAnnRain.text();
-  generalInputs.irrigEff = pneMain.txtEff.text();
-  const int index = pneMain.landSplits.selected();
-  generalInputs.splitIndex = index < 0 ? "" : std::to_string(index);
-  generalInputs.totalAcres = pneMain.txtArea.text();
-  generalInputs.waterAllocation = pneMain.txtMax.text();
-  // A file that cannot be written must not stop the run.
-  static_cast<void>(verdalis::saveInputs(files_.inputs, generalInputs, *tempIrrigationCosts,
-                                         cropFiles.cropCollection, TrendEnabled));
+  generalInputs = enteredInputs();
+  const std::string text = inputsText();
+  try {
+    writeFile(files_.inputs, text);
+    farms.inputsSaved(text);
+  } catch (const RunTimeError&) {  // NOLINT(bugprone-empty-catch): it must not stop the run
+  }
 }
 
 bool frmMain::loadInputs() {
@@ -163,6 +189,7 @@ void frmMain::EnableBatch(bool on) {
 }
 
 void frmMain::exit() {
+  if (!farms.mayExit()) return;
   state_.CancelRequested = true;
   windows_.closeAll();
   close();
@@ -171,7 +198,10 @@ void frmMain::exit() {
 void frmMain::wireMenus() {
   menus.mnuExit.onClick.connect([this] { exit(); });
   menus.mnuEnableBatch.onClick.connect([this] { EnableBatch(!menus.mnuEnableBatch.checked()); });
-  menus.mnuFallBatch.onClick.connect([this] { trends.mnuFallBatch_Click(); });
+  menus.mnuFallBatch.onClick.connect([this] {
+    farmControls.foundWith = keeper.document().inputs;
+    trends.mnuFallBatch_Click();
+  });
   menus.mnuSummary.onClick.connect([this] { pneSummary.showSummary(); });
   menus.mnuOptions.onClick.connect([this] { windows_.options().show(); });
   menus.mnuCustomCrop.onClick.connect([this] { pneCustomCrop.open(); });
@@ -277,6 +307,7 @@ void frmMain::Command1_Click() {
     return;
   }
   saveInputs();
+  farmControls.foundWith = keeper.document().inputs;
   BestMix best = RunScenario("");
   if (best.getSize() == 0) return;
   // Seconds since midnight and not the duration of the run: the label has always shown this.
@@ -302,6 +333,120 @@ void frmMain::Command7_Click() {
   }
   loadDefaultPlant(*tempIrrigationCosts);
   pneIrrigCosts.showDefaults();
+}
+
+void frmMain::wireFarms() {
+  for (const Control* control : std::initializer_list<const Control*>{
+           &pneMain.Command1, &pneMain.Command8, &menus.mnuFallBatch, &theResults.cmdBatchThis,
+           &trends.pneBatchSetup1.theBatchResults.theResults.cmdBatchThis,
+           &trends.pneBatchSetup0.cmdBatchIt}) {
+    keeper.ignore(*control);
+  }
+  keeper.ignore("cmdInputCosts");
+  farmControls.tellCaution = [this](const Message& message) {
+    notices.tell({.text = message.text, .about = message.title});
+  };
+  menus.mnuNew.onClick.connect([this] { farms.newFarm(); });
+  menus.mnuOpen.onClick.connect([this] { farms.open(); });
+  for (std::size_t i = 0; i < menus.mnuRecent.size(); ++i)
+    menus.mnuRecent[i]->onClick.connect([this, i] { farms.openRecent(i); });
+  menus.mnuSave.onClick.connect([this] { farms.save(); });
+  menus.mnuSaveAs.onClick.connect([this] { farms.saveAs(); });
+  menus.mnuUndo.onClick.connect([this] { farms.undo(); });
+  menus.mnuRedo.onClick.connect([this] { farms.redo(); });
+  menus.mnuNotes.onClick.connect([this] {
+    const FarmDocument& farm = keeper.document();
+    windows_.notes().show({farm.name, farm.notes, farm.letterhead});
+  });
+  windows_.onCreated.connect([this](Window& window) {
+    auto* const notes = dynamic_cast<frmNotes*>(&window);
+    if (notes == nullptr) return;
+    notes->onApplied.connect([this](const frmNotes::Texts& texts) {
+      keeper.change([&](FarmDocument& farm) {
+        farm.name = texts.name;
+        farm.notes = texts.notes;
+        farm.letterhead = texts.letterhead;
+      });
+    });
+  });
+}
+
+void frmMain::wireLosses() {
+  losses_.undo = [this] { farms.undo(); };
+  const auto crops = [](const UndoStep& step, const std::string& what) {
+    const std::size_t count = cropsReplaced(step);
+    if (count == 0) return std::string();
+    return "Prices, yields and costs of " + std::to_string(count) + (count == 1 ? " crop" : " crops") +
+           " were " + what + ".";
+  };
+  losses_.watch(pneMain.Command7, [crops](const UndoStep& step) {
+    const std::string text = crops(step, "replaced by default values");
+    return text.empty() ? "The irrigation costs were replaced by default values." : text;
+  });
+  for (const Control* control : std::initializer_list<const Control*>{
+           &pneCustomCrop.cmdCustomGrid2, &pneCustomCrop.cmdCustomGrid5, &pneCustomCrop.cmdCustomGrid6}) {
+    losses_.watch(*control, [crops](const UndoStep& step) { return crops(step, "cleared"); });
+  }
+  losses_.watch(trends.pneBatchSetup0.Command10, [](const UndoStep&) {
+    return std::string("The inputs were read again as they were saved before the trend.");
+  });
+  losses_.watchSavedOptions();
+  const std::string cleared = "The values on this page were cleared.";
+  const std::string defaults = "The values on this page were replaced by default values.";
+  losses_.watchPage(pneInputCosts.Command13, pneInputCosts, cleared);
+  losses_.watchPage(pneInputCosts.cmdDefault, pneInputCosts, defaults);
+  losses_.watchPage(pneIrrigCosts.Command4, pneIrrigCosts, cleared);
+  losses_.watchPage(pneIrrigCosts.cmdDefaultIrrigCosts, pneIrrigCosts, defaults);
+}
+
+void frmMain::showMainPane() {
+  state_.TrendMode = false;
+  if (&panes.top() != &pneMain) goHome();
+}
+
+void frmMain::showCosts(const std::string& crop) {
+  const std::shared_ptr<Crop> found = pneMain.findCropByName(crop);
+  if (!found) {
+    showMainPane();
+    return;
+  }
+  if (&panes.top() != &pneInputCosts) showPane(pneInputCosts);
+  pneInputCosts.open(found);
+}
+
+void frmMain::showPlant() {
+  if (&panes.top() != &pneIrrigCosts) showPane(pneIrrigCosts);
+  pneIrrigCosts.open();
+}
+
+bool frmMain::addToLibrary(const std::string& crop, const std::string& text) {
+  const MessageAnswer answer =
+      ask(desk(), services_.messageBox,
+          {"Custom crop",
+           "This farm brings the custom crop " + quoteForMessage(crop) +
+               ", which is not among your crops. Add it to your crops?\nWith No it is used only while "
+               "this farm is open.",
+           MessageKind::question, MessageIcon::question, MessageButtons::yesNo});
+  if (answer != MessageAnswer::yes) return false;
+  try {
+    const std::filesystem::path folder = files_.home / "crops" / "custom";
+    static_cast<void>(makeFolder(folder));
+    writeFile(freeCropPath(folder, crop), text);
+    return true;
+  } catch (const RunTimeError& error) {
+    notices.tell({.text = "The custom crop " + quoteForMessage(crop) + " could not be added. " +
+                          error.what() + " It is used while this farm is open."});
+    return false;
+  }
+}
+
+void frmMain::reloadRows() {
+  try {
+    loadCropRows();
+  } catch (const RunTimeError& error) {
+    notices.tell({.text = error.what(), .about = "crop library"});
+  }
+  pneCustomCrop.fillLists();
 }
 
 void frmMain::goHome() {

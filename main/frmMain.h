@@ -8,13 +8,19 @@
 #include "controls/services.h"
 #include "data/FileReader.h"
 #include "data/GeneralInputs.h"
+#include "document/DocumentKeeper.h"
+#include "document/FarmControls.h"
 #include "engine/BestMix.h"
 #include "engine/ProgramState.h"
 #include "engine/RunHooks.h"
+#include "main/FarmFiles.h"
+#include "main/LossNotices.h"
 #include "main/MainMenus.h"
 #include "main/MainTrendHost.h"
+#include "main/NoticeBar.h"
 #include "main/PaneStack.h"
 #include "main/ProgramFiles.h"
+#include "main/RecoveryBar.h"
 #include "main/SecondaryWindows.h"
 #include "results/Details.h"
 #include "results/ResultPrinter.h"
@@ -42,6 +48,8 @@ class frmMain : public Window {
   bool TrendEnabled = false;      ///< Trend processing is on; saved with the inputs
   bool TrendNoticeShown = false;  ///< The notice about trend processing is not shown again
 
+  NoticeBar notices{*this};     ///< Above the page: what no message box tells
+  RecoveryBar recovery{*this};  ///< In the same place: recovery copies, before the notices
   Label lblMainInfo{*this, "lblMainInfo"};
   MainMenus menus{*this};
   MainPane pneMain;
@@ -60,6 +68,33 @@ class frmMain : public Window {
   TrendScreens trends;  ///< pneBatchSetup(0) and (1)
 
   PaneStack panes;
+
+  FarmControls farmControls;
+  DocumentKeeper keeper;  ///< The document of the farm on screen, and its steps
+  FarmFiles farms;
+
+  /// Whether the present action of the user takes place during a run or beside a message box.
+  [[nodiscard]] bool isRunning() { return desk().isInsideAction(); }
+
+  /// The farm of a first start without saved inputs.
+  [[nodiscard]] const FarmDocument& untouchedFarm() const { return untouched_; }
+
+  /// The text of the saved inputs if they were written now.
+  [[nodiscard]] std::string inputsText() const;
+
+  /// Ends a trend setup, and shows the main pane unless it is on show.
+  void showMainPane();
+
+  /// Opens the production costs of a crop, or the irrigation costs, unless they are on show.
+  void showCosts(const std::string& crop);
+  void showPlant();
+
+  /// Asks whether a custom crop of a farm file is to be added to the library, and adds it.
+  /// \returns whether it is in the library now
+  bool addToLibrary(const std::string& crop, const std::string& text);
+
+  /// Reads the crop library again; a failure is told as a notice.
+  void reloadRows();
 
   /// Loads the window on the first call: reads the crop library and the saved inputs and shows the main pane.
   /// Call it before using the window.
@@ -113,6 +148,12 @@ class frmMain : public Window {
   void goHome();
   void cmdHelp_Click(int index);
 
+  [[nodiscard]] GeneralInputs enteredInputs() const;
+  void wireFarms();
+  void wireLosses();
+
+  LossNotices losses_;
+  FarmDocument untouched_;
   Services& services_;
   ProgramState& state_;
   SecondaryWindows& windows_;

@@ -190,6 +190,15 @@ void IrrigCostsPane::showDefaults() {
   }
 }
 
+void IrrigCostsPane::showStartTexts() {
+  for (const IrrigCostsField& field : fields()) {
+    if (field.box != nullptr) (this->*field.box).setText(std::string(field.row.startText));
+  }
+  cboFuelType.setText(fuelPrompt);
+  showCosts();
+  showInchHint();
+}
+
 void IrrigCostsPane::showCosts() {
   const double waterHorsepower = valueOrZero([this] {
     return (Val(txtPSI.text()) * feetPerPsi + Val(txtLift.text())) * Val(txtGPM.text()) /

@@ -38,6 +38,8 @@ class IrrigCostsPane : public Frame {
  public:
   IrrigCostsPane(Frame& window, Services& services, std::shared_ptr<IrrigationCosts> tempIrrigationCosts);
 
+  static constexpr const char* fuelPrompt = "Select fuel type";  ///< Before a fuel is chosen
+
   TextBox txtGPM{*this, "txtGPM"};
   TextBox txtLift{*this, "txtLift"};
   TextBox txtPSI{*this, "txtPSI"};
@@ -47,7 +49,7 @@ class IrrigCostsPane : public Frame {
   TextBox txtEstHours{*this, "txtEstHours"};
   // Declared after the fields: the pane is cleared in this order, so the subtotal falls to 0 while the fuel
   // is still set.
-  ComboBox cboFuelType{*this, "cboFuelType", ComboBox::Style::freeText, fuelNames(), "Select fuel type"};
+  ComboBox cboFuelType{*this, "cboFuelType", ComboBox::Style::freeText, fuelNames(), fuelPrompt};
   Label lblICosts{*this, "lblICosts"};
   Label lblInchHint{*this, "lblInchHint"};
   Button Command4{*this, "Command4", "Clear all values on this page"};
@@ -71,6 +73,9 @@ class IrrigCostsPane : public Frame {
 
   /// Shows the default values in the fields. The plant does not change.
   void showDefaults();
+
+  /// Shows what the fields contain when the program starts without saved inputs.
+  void showStartTexts();
 
   Event<> onApplied;  ///< The new values are stored in the plant
   Event<> onBack;

@@ -124,7 +124,12 @@ double MainPane::getVolume() {
 
 void MainPane::warnOfCapacity() {
   const auto warning = capacityWarning(*tempIrrigationCosts_, txtArea.text(), txtMax.text());
-  if (warning) ask(desk(), services_.messageBox, *warning);
+  if (!warning) return;
+  if (tellCapacity) {
+    tellCapacity(*warning);
+  } else {
+    ask(desk(), services_.messageBox, *warning);
+  }
 }
 
 void MainPane::unloadRows() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <span>
@@ -89,6 +90,9 @@ class MainPane : public Frame {
 
   /// The crop of the last row with this name, ignoring case; nullptr if there is none.
   [[nodiscard]] std::shared_ptr<Crop> findCropByName(const std::string& name) const;
+
+  /// Tells that the irrigation is above what the plant can pump. Shows a message box if it is not set.
+  std::function<void(const Message&)> tellCapacity;
 
   Event<> onRun;         ///< Command1
   Event<> onIrrigation;  ///< Command8

@@ -29,11 +29,13 @@ const char* iconName(MessageIcon icon) {
   return "none";
 }
 
-constexpr std::array<std::pair<const char*, MessageAnswer>, 4> answerNames{{
+constexpr std::array<std::pair<const char*, MessageAnswer>, 6> answerNames{{
     {"ok", MessageAnswer::ok},
     {"yes", MessageAnswer::yes},
     {"no", MessageAnswer::no},
     {"cancel", MessageAnswer::cancel},
+    {"save", MessageAnswer::save},
+    {"discard", MessageAnswer::discard},
 }};
 
 const char* answerName(MessageAnswer answer) {
@@ -49,6 +51,8 @@ std::vector<MessageAnswer> answersOf(MessageButtons buttons) {
       return {MessageAnswer::yes, MessageAnswer::no};
     case MessageButtons::yesNoCancel:
       return {MessageAnswer::yes, MessageAnswer::no, MessageAnswer::cancel};
+    case MessageButtons::saveDiscardCancel:
+      return {MessageAnswer::save, MessageAnswer::discard, MessageAnswer::cancel};
     case MessageButtons::ok:
       break;
   }

@@ -57,7 +57,7 @@ class ScriptServices : public MessageBoxService,
   int printed_ = 0;                  ///< Number of its documents so far
 };
 
-/// The answer with the name ok, yes, no or cancel.
+/// The answer with the name ok, yes, no, cancel, save or discard.
 [[nodiscard]] std::optional<MessageAnswer> answerNamed(const std::string& name);
 
 }  // namespace verdalis

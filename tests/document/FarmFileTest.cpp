@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "document/farmFile.h"
+#include "document/farmText.h"
 #include "text/RunTimeError.h"
 
 namespace verdalis {

@@ -14,9 +14,6 @@ namespace verdalis {
 /// The version of the format that writeFarm() writes.
 inline constexpr int farmFileVersion = 1;
 
-/// Extension of the names of farm files.
-inline constexpr const char* farmFileExtension = ".verdalis";
-
 /// The text of a farm file. Bytes of texts that are not valid UTF-8 are replaced.
 [[nodiscard]] std::string writeFarm(const FarmDocument& document);
 
