@@ -4,8 +4,10 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <csignal>
+#include <ctime>
 #include <filesystem>
 #include <functional>
 #include <memory>
@@ -129,14 +131,14 @@ TEST_F(Recovery, ACopyThatIsNotRemovedIsAnOrphan) {
 }
 
 TEST_F(Recovery, OrphansComeOldestFirst) {
-  const std::vector<std::pair<const char*, int>> hours{{"three", 3}, {"one", 1}, {"four", 4}, {"two", 2}};
+  const std::vector<std::pair<const char*, time_t>> hours{{"three", 3}, {"one", 1}, {"four", 4}, {"two", 2}};
   for (const auto& [text, hour] : hours) {
     leaveOrphan(text);
     for (const std::string& name : namesWith(".verdalis")) {
       if (folder_.read("state/" + name) != text) continue;
-      const struct timeval time { 3600 * hour, 0 };
-      const struct timeval times[] = {time, time};  // NOLINT(modernize-avoid-c-arrays)
-      ASSERT_EQ(::utimes((state() / name).c_str(), times), 0);
+      const timeval time{3600 * hour, 0};
+      const std::array<timeval, 2> times{time, time};
+      ASSERT_EQ(::utimes((state() / name).c_str(), times.data()), 0);
     }
   }
   EXPECT_EQ(orphanTexts(), (Texts{"one", "two", "three", "four"}));
