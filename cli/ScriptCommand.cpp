@@ -8,13 +8,19 @@
 #include "cli/script/ScriptSession.h"
 #include "cli/textOptions.h"
 #include "data/home.h"
+#include "data/stateFolder.h"
 #include "text/RunTimeError.h"
 
 namespace verdalis {
 namespace {
 
 bool replay(const ScriptRequest& request, std::istream& script, std::ostream& out) {
-  ScriptSession session(request.home ? std::filesystem::path(*request.home) : homeFolder(homePlaces()));
+  std::optional<std::filesystem::path> home;
+  if (request.home) home = *request.home;
+  ProgramFiles files(home ? *home : homeFolder(homePlaces()));
+  files.state = stateFolder(home);
+  files.recovers = request.recovery;
+  ScriptSession session(files);
   const bool allDone = session.replay(script, out);
   if (!out) {
     throw RunTimeError(ErrorNumber::fileNotFound, "The answers cannot be written to standard output.");
@@ -29,6 +35,8 @@ const CLI::App& addScriptCommand(CLI::App& app, ScriptRequest& request) {
       *app.add_subcommand("script", "Replays a session: one command per line, one JSON answer per line");
   addTextOption(command, "--home", "DIR", request.home,
                 "Folder with crops/ and inputs.txt\n(default: the program's own home folder)");
+  command.add_flag("--recovery", request.recovery,
+                   "Copies the unsaved farm after each command, and offers the copies\nof former sessions");
   addTextOption(command, "FILE", "", request.file, "The script; - reads standard input");
   return command;
 }

@@ -13,6 +13,7 @@ namespace verdalis {
 struct ScriptRequest {
   std::optional<std::string> home;  ///< Folder with `crops` and `inputs.txt`
   std::optional<std::string> file;  ///< File of the script; "-" for standard input
+  bool recovery = false;            ///< Copies unsaved farms, and offers the copies of former programs
 };
 
 /// Adds the command `script` to the program. Parsing fills the request, which must outlive `app`.

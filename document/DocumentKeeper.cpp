@@ -170,9 +170,25 @@ void DocumentKeeper::refresh() {
   told();
 }
 
-void DocumentKeeper::commit() {
+UndoStep DocumentKeeper::pendingStep() const {
   Change change = describeChange(*committed_, *now_);
-  UndoStep step{change.name.empty() ? actorName_ : change.name, change.place, change.crop, committed_, now_};
+  return {change.name.empty() ? actorName_ : change.name, change.place, change.crop, committed_, now_};
+}
+
+std::optional<std::string> DocumentKeeper::undoName() const {
+  if (started_ && isPending()) return pendingStep().name;
+  const UndoStep* const step = toUndo();
+  return step == nullptr ? std::nullopt : std::optional(step->name);
+}
+
+std::optional<std::string> DocumentKeeper::redoName() const {
+  if (isPending()) return std::nullopt;
+  const UndoStep* const step = toRedo();
+  return step == nullptr ? std::nullopt : std::optional(step->name);
+}
+
+void DocumentKeeper::commit() {
+  const UndoStep step = pendingStep();
   committed_ = now_;
   history_.add(step);
   told();

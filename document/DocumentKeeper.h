@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <set>
 #include <string>
 
@@ -52,6 +53,10 @@ class DocumentKeeper {
   [[nodiscard]] const UndoStep* toUndo() const;
   [[nodiscard]] const UndoStep* toRedo() const;
 
+  /// The names of these steps; nothing without one. What is being typed in a field counts as a step.
+  [[nodiscard]] std::optional<std::string> undoName() const;
+  [[nodiscard]] std::optional<std::string> redoName() const;
+
   /// Takes back the last step. A field that is being typed in is taken as left first.
   /// \returns the step; its place is empty if there was none.
   std::optional<UndoStep> undo();
@@ -81,6 +86,8 @@ class DocumentKeeper {
   void acting(Control& control);
   void acted();
   void refresh();
+  [[nodiscard]] bool isPending() const { return now_ != committed_ && !ignoring_; }
+  [[nodiscard]] UndoStep pendingStep() const;
   void commit();
   void adopt();
   [[nodiscard]] bool isTypingIn(const Control* control) const;

@@ -28,6 +28,14 @@ std::string timeText(std::chrono::system_clock::time_point time) {
   return text;
 }
 
+/// A text as a caption, in which "&" is written twice.
+std::string asCaption(const std::string& text) {
+  std::string caption;
+  for (const char each : text)
+    caption += each == '&' ? "&&" : std::string(1, each);
+  return caption;
+}
+
 std::string listOf(const std::vector<std::string>& names) {
   std::string text;
   for (std::size_t i = 0; i < names.size(); ++i)
@@ -335,12 +343,12 @@ void FarmFiles::show(const UndoStep& step) {
 void FarmFiles::changed() {
   refreshTitle();
   MainMenus& menus = window_.menus;
-  const auto show = [](MenuEntry& entry, const std::string& verb, const UndoStep* step) {
-    entry.setEnabled(step != nullptr);
-    entry.setCaption(step == nullptr ? verb : verb + " " + step->name);
+  const auto show = [](MenuEntry& entry, const std::string& verb, const std::optional<std::string>& step) {
+    entry.setEnabled(step.has_value());
+    entry.setCaption(step ? verb + " " + asCaption(*step) : verb);
   };
-  show(menus.mnuUndo, "Undo", keeper_.toUndo());
-  show(menus.mnuRedo, "Redo", keeper_.toRedo());
+  show(menus.mnuUndo, "Undo", keeper_.undoName());
+  show(menus.mnuRedo, "Redo", keeper_.redoName());
 }
 
 void FarmFiles::refreshTitle() {
@@ -355,7 +363,7 @@ void FarmFiles::refreshMenus() {
   for (std::size_t i = 0; i < window_.menus.mnuRecent.size(); ++i) {
     MenuEntry& entry = *window_.menus.mnuRecent[i];
     entry.setVisible(i < shownRecent_.size());
-    entry.setCaption(i < shownRecent_.size() ? shownRecent_[i].string() : std::string());
+    entry.setCaption(i < shownRecent_.size() ? asCaption(shownRecent_[i].string()) : std::string());
   }
   window_.menus.mnuOpenRecent.setEnabled(!shownRecent_.empty());
 }

@@ -104,8 +104,8 @@ std::size_t characters(std::string_view text) {
 
 }  // namespace
 
-ScriptSession::ScriptSession(std::filesystem::path home)
-    : services_(platform_.services()), program_(services_, std::move(home)) {
+ScriptSession::ScriptSession(ProgramFiles files)
+    : services_(platform_.services()), program_(services_, files), recovers_(files.recovers) {
   program_.windows.onCreated.connect([this](Window& window) {
     if (auto* updating = dynamic_cast<frmUpdating*>(&window)) watchProgress(*updating);
     if (auto* help = dynamic_cast<frmHelp*>(&window)) {
@@ -138,6 +138,7 @@ nlohmann::ordered_json ScriptSession::execute(std::string_view line) {
   } catch (const ScriptError& error) {
     answer = {{"ok", false}, {"error", error.what()}};
   }
+  if (recovers_ && program_.hasMain() && program_.main().isOpen()) program_.main().farms.recover();
   Json messages = platform_.takeMessages();
   if (!messages.empty()) answer["messages"] = std::move(messages);
   return answer;

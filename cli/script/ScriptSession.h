@@ -15,7 +15,8 @@ namespace verdalis {
 /// their answers.
 class ScriptSession {
  public:
-  explicit ScriptSession(std::filesystem::path home);
+  /// With `ProgramFiles::recovers`, the recovery copy is written after each command.
+  explicit ScriptSession(ProgramFiles files);
 
   /// Executes one command.
   /// \returns its answer; on failure `ok` is false and `error` gives the reason
@@ -49,6 +50,7 @@ class ScriptSession {
   ScriptServices platform_;
   Services services_;
   Program program_;
+  bool recovers_;
   int cancelAfter_ = 0;  ///< Steps of the next progress window before Cancel is pressed; 0: never
 };
 
