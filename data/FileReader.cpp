@@ -122,6 +122,7 @@ YieldTable FileReader::makeYieldArray(std::string_view rainfall, std::string_vie
 bool FileReader::Initialize() {
   fileCollection.clear();
   cropCollection = {};
+  skipped.clear();
   fileDirectory = home_ / "crops";
   fileCollection = filesByName(fileDirectory);
   const std::size_t stockFiles = fileCollection.size();
@@ -139,7 +140,8 @@ bool FileReader::Initialize() {
   for (const fs::path& path : fileCollection) {
     try {
       readCrop(*crop, path);
-    } catch (const RunTimeError&) {
+    } catch (const RunTimeError& fault) {
+      skipped.push_back({path, fault.what()});
       continue;  // not a crop: the next file overwrites what this one left in `crop`
     }
     readSoils(*crop);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -8,6 +9,14 @@
 #include "model/YieldTable.h"
 
 namespace verdalis {
+
+/// A file of the crop library that was skipped.
+struct SkippedCropFile {
+  std::filesystem::path path;
+  std::string reason;  ///< A sentence
+
+  friend bool operator==(const SkippedCropFile&, const SkippedCropFile&) = default;
+};
 
 /// Reads the crop library below the home folder: one file per stock crop in `crops`, the user's own crops in
 /// `crops/custom`, and optional tables by soil in `crops/soils`.
@@ -18,12 +27,12 @@ class FileReader {
   std::filesystem::path fileDirectory;                ///< Folder listed last
   std::vector<std::filesystem::path> fileCollection;  ///< Files in reading order
   CropScenario cropCollection;                        ///< Crops read, with Fallow after the stock crops
+  std::vector<SkippedCropFile> skipped;               ///< Files that are no valid crop files
 
-  /// Reads the library again. A file that is not a valid crop file is skipped without a message. Fallow is
-  /// inserted once as many valid files have been read as there are stock files, so a bad file moves it behind
-  /// a custom crop or drops it.
-  /// \returns true.
-  /// \throws RunTimeError (fileNotFound) if `crops` is missing or cannot be listed.
+  /// Reads the library again. A file that is not a valid crop file is skipped and listed in
+  /// `skipped`. Fallow is inserted once as many valid files have been read as there are stock files, so a bad
+  /// file moves it behind a custom crop or drops it. \returns true. \throws RunTimeError (fileNotFound) if
+  /// `crops` is missing or cannot be listed.
   bool Initialize();
 
   /// The text after the first "=".
