@@ -6,7 +6,6 @@
 #include "data/SavedInputs.h"
 #include "data/SavingFolder.h"
 #include "data/StockDefaults.h"
-#include "data/writeFile.h"
 #include "main/SavedInputsControls.h"
 #include "screens/RunScenario.h"
 #include "screens/modInputTest.h"
@@ -39,7 +38,10 @@ frmMain::frmMain(Desk& desk, Services& services, ProgramState& state, SecondaryW
       pneIrrigCosts(*this, services, tempIrrigationCosts),
       theResults(pneResults, "theResults", services, state),
       theDetails(pneDetails, "theDetails", state),
-      pneSummary(*this, services, summaryResults, {[this] { return pneMain.txtAnnRain.text(); }, writeFile}),
+      pneSummary(
+          *this, services, summaryResults,
+          {[this] { return pneMain.txtAnnRain.text(); },
+           [this](const std::filesystem::path& path, std::string_view bytes) { saveTable(path, bytes); }}),
       pneCustomCrop(*this, services, files.home / "crops" / "custom"),
       thePrinter(services.printer,
                  {[this] {
@@ -48,13 +50,25 @@ frmMain::frmMain(Desk& desk, Services& services, ProgramState& state, SecondaryW
                         pneMain.txtMax.text(),  state_.cs.toString(),  wishTexts(pneMain.wishes),
                         pneMain.mixes};
                   },
-                  [this] { return services_.clock.now(); }}),
+                  [this] { return services_.clock.now(); },
+                  [this](const std::string& reason) { tellUnprinted(reason); }}),
       trendHost(*this, windows, services.eventPump, files.home),
       trends(*this, services, state, trendHost),
+      inputsKeeper(files.inputs, notices,
+                   {[this](const std::string& name) {
+                      const CropRecord* const row = rowNamed(name);
+                      return row == nullptr ? nullptr : row->Crop;
+                    },
+                    [this](const Crop& crop) {
+                      for (const auto& row : pneMain.cr) {
+                        if (row->Crop.get() == &crop) row->refresh();
+                      }
+                    }}),
       services_(services),
       state_(state),
       windows_(windows),
-      files_(std::move(files)) {
+      files_(std::move(files)),
+      customCropNotices_(pneCustomCrop, notices, inputsKeeper) {
   setCaption(defaultTitle);
   for (Frame* pane : std::initializer_list<Frame*>{&pneMain, &pneInputCosts, &pneIrrigCosts, &pneResults,
                                                    &pneDetails, &pneSummary, &pneCustomCrop,
@@ -66,6 +80,7 @@ frmMain::frmMain(Desk& desk, Services& services, ProgramState& state, SecondaryW
   wirePanes();
   wireResults();
   wirePrinting();
+  wireNotices();
 }
 
 void frmMain::touch() {
@@ -88,6 +103,7 @@ void frmMain::load() {
     desk().onRunTimeError(error);
   }
   inputsLoaded_ = loadInputs();
+  inputsKeeper.offerKept();
   if (TrendEnabled) TrendNoticeShown = true;
   EnableBatch(TrendEnabled);
   state_.FineFactor = 10;
@@ -100,6 +116,7 @@ void frmMain::loadCropRows() {
   pneMain.unloadRows();
   try {
     cropFiles.Initialize();
+    tellSkippedCrops();
   } catch (const RunTimeError&) {
     pneMain.InitializeCropFrame();  // for the one row that is left
     throw;
@@ -125,8 +142,8 @@ void frmMain::saveInputs() {
   generalInputs.totalAcres = pneMain.txtArea.text();
   generalInputs.waterAllocation = pneMain.txtMax.text();
   // A file that cannot be written must not stop the run.
-  static_cast<void>(verdalis::saveInputs(files_.inputs, generalInputs, *tempIrrigationCosts,
-                                         cropFiles.cropCollection, TrendEnabled));
+  inputsKeeper.save(
+      savedInputsText(generalInputs, *tempIrrigationCosts, cropFiles.cropCollection, TrendEnabled));
 }
 
 bool frmMain::loadInputs() {
@@ -202,7 +219,7 @@ void frmMain::wirePanes() {
   pneIrrigCosts.areaText = [this] { return pneMain.txtArea.text(); };
   trends.pneBatchSetup0.onHelp.connect(help);
   pneCustomCrop.onHelp.connect(help);
-  pneCustomCrop.loadCropRows = [this] { loadCropRows(); };
+  pneCustomCrop.loadCropRows = [this] { reloadCropRows(); };
   pneCustomCrop.onShowPane.connect([this] { showPane(pneCustomCrop); });
   // Unlike goHome(), this keeps the text of the information band.
   pneCustomCrop.onBackHome.connect([this] { showPane(pneMain); });

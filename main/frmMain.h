@@ -1,7 +1,9 @@
 #pragma once
 
+#include <filesystem>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "controls/displays.h"
@@ -11,10 +13,14 @@
 #include "engine/BestMix.h"
 #include "engine/ProgramState.h"
 #include "engine/RunHooks.h"
+#include "main/CustomCropNotices.h"
 #include "main/MainMenus.h"
 #include "main/MainTrendHost.h"
+#include "main/NoticeBar.h"
 #include "main/PaneStack.h"
 #include "main/ProgramFiles.h"
+#include "main/RecoveryBar.h"
+#include "main/SavedInputsKeeper.h"
 #include "main/SecondaryWindows.h"
 #include "results/Details.h"
 #include "results/ResultPrinter.h"
@@ -44,6 +50,8 @@ class frmMain : public Window {
 
   Label lblMainInfo{*this, "lblMainInfo"};
   MainMenus menus{*this};
+  NoticeBar notices{*this};     ///< Above the page: what no message box tells
+  RecoveryBar recovery{*this};  ///< In the same place: recovery copies, before the notices
   MainPane pneMain;
   InputCostsPane pneInputCosts;
   IrrigCostsPane pneIrrigCosts;
@@ -60,6 +68,8 @@ class frmMain : public Window {
   TrendScreens trends;  ///< pneBatchSetup(0) and (1)
 
   PaneStack panes;
+
+  SavedInputsKeeper inputsKeeper;  ///< Writes the saved inputs
 
   /// Loads the window on the first call: reads the crop library and the saved inputs and shows the main pane.
   /// Call it before using the window.
@@ -107,6 +117,12 @@ class frmMain : public Window {
   void wireResults();
   void wireOptions(Results& results);
   void wirePrinting();
+  void wireNotices();
+  void tellSkippedCrops();
+  void tellUnprinted(const std::string& reason);
+  void reloadCropRows();
+  void saveTable(const std::filesystem::path& path, std::string_view bytes);
+  [[nodiscard]] CropRecord* rowNamed(const std::string& crop) const;
   void Command1_Click();
   void Command7_Click();
   void goBack();
@@ -119,6 +135,8 @@ class frmMain : public Window {
   ProgramFiles files_;
   bool loaded_ = false;
   bool inputsLoaded_ = false;
+  CustomCropNotices customCropNotices_;
+  std::vector<SkippedCropFile> toldSkipped_;
 };
 
 }  // namespace verdalis
