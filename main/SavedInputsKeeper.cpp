@@ -133,8 +133,9 @@ void SavedInputsKeeper::tellLeftOut(const Blocks& added, const std::string& keep
   });
   offered_.insert(offered_.end(), added.begin(), added.end());
   const std::string names = namesOf(offered_);
-  std::string text = "The saved inputs no longer hold the price, yield and costs of " + names +
-                     ", because the crop files are damaged or away. ";
+  std::string text = "The saved inputs no longer hold the price, yield and costs of " + names + ", because " +
+                     (offered_.size() == 1 ? "its crop file is" : "their crop files are") +
+                     " damaged or away. ";
   if (keepingFault.empty()) {
     text += "The former inputs are kept in " + keptFile().string() +
             ". When the crops are in the list again, Restore puts their values back.";

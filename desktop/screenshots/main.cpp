@@ -53,11 +53,10 @@ void photographBars(Desktop& desktop, const Photographer& camera) {
                      .action = [] {}});
   camera.take(window, QStringLiteral("notice"));
   main.notices.tell(
-      {.text =
-           "The saved inputs no longer hold the price, yield and costs of Oats, because the crop files are "
-           "damaged or away. The former inputs are kept in "
-           "/home/farmer/.local/share/verdalis/inputs.txt.before. "
-           "When the crops are in the list again, Restore puts their values back.",
+      {.text = "The saved inputs no longer hold the price, yield and costs of Oats, because its crop file is "
+               "damaged or away. The former inputs are kept in "
+               "/home/farmer/.local/share/verdalis/inputs.txt.before. "
+               "When the crops are in the list again, Restore puts their values back.",
        .actionCaption = "Restore",
        .action = [] {}});
   window->resize(1024, 700);

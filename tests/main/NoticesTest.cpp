@@ -256,7 +256,7 @@ TEST_F(Notices, ADamagedCropKeepsItsValuesBesideTheInputs) {
   run();
   EXPECT_THAT(blockNames(inputs()), Not(::testing::Contains("Oats")));
   EXPECT_EQ(before(), saved);
-  EXPECT_THAT(shown(), AllOf(HasSubstr("price, yield and costs of Oats"),
+  EXPECT_THAT(shown(), AllOf(HasSubstr("price, yield and costs of Oats, because its crop file is damaged"),
                              HasSubstr((home() / "inputs.txt.before").string()), HasSubstr("Restore")));
   EXPECT_EQ(bar().cmdNotice.caption(), "Restore");
   EXPECT_TRUE(bar().cmdNotice.isReachable());
