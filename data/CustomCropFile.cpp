@@ -109,6 +109,15 @@ std::vector<CustomCropEntry> findCustomCrops(const fs::path& folder) {
   return crops;
 }
 
+std::optional<FormerCustomCrop> formerCustomCrop(const fs::path& path) {
+  try {
+    std::string bytes = readBytes(path);
+    return FormerCustomCrop{path, nameIn(path).value_or(path.filename().string()), std::move(bytes)};
+  } catch (const RunTimeError&) {
+    return std::nullopt;
+  }
+}
+
 CustomCropContents readCustomCrop(const fs::path& path) {
   CustomCropContents contents;
   std::string text;

@@ -14,6 +14,13 @@ struct CustomCropEntry {
   std::string name;
 };
 
+/// The file of a custom crop as it was before it was replaced or deleted.
+struct FormerCustomCrop {
+  std::filesystem::path path;
+  std::string name;  ///< The crop's name in the file, or the name of the file
+  std::string bytes;
+};
+
 /// The parts of a crop file that the editor loads. A part missing from the file is empty.
 struct CustomCropContents {
   std::optional<std::string> name;
@@ -44,6 +51,9 @@ struct CustomCropItems {
 /// The custom crops in a folder, sorted by file name. A file without a name in its first line is skipped. A
 /// missing folder has no crops.
 [[nodiscard]] std::vector<CustomCropEntry> findCustomCrops(const std::filesystem::path& folder);
+
+/// A crop file as it is now; nothing if there is none or it cannot be read.
+[[nodiscard]] std::optional<FormerCustomCrop> formerCustomCrop(const std::filesystem::path& path);
 
 /// Reads a crop file as far as possible. Does not fail.
 [[nodiscard]] CustomCropContents readCustomCrop(const std::filesystem::path& path);

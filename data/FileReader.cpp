@@ -148,6 +148,7 @@ bool FileReader::Initialize() {
   cropCollection = {};
   texts_.clear();
   ownTexts_.clear();
+  skipped.clear();
   fileDirectory = home_ / "crops";
   fileCollection = filesByName(fileDirectory);
   const std::size_t stockFiles = fileCollection.size();
@@ -168,7 +169,8 @@ bool FileReader::Initialize() {
       text = std::make_shared<const std::string>(readFile(path));
       crop->Custom = fs::absolute(path).string().find("custom") != std::string::npos;
       readCrop(*crop, *text);
-    } catch (const RunTimeError&) {
+    } catch (const RunTimeError& fault) {
+      skipped.push_back({path, fault.what()});
       continue;  // not a crop: the next file overwrites what this one left in `crop`
     }
     readSoils(*crop);

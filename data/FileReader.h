@@ -13,6 +13,14 @@
 
 namespace verdalis {
 
+/// A file of the crop library that was skipped.
+struct SkippedCropFile {
+  std::filesystem::path path;
+  std::string reason;  ///< A sentence
+
+  friend bool operator==(const SkippedCropFile&, const SkippedCropFile&) = default;
+};
+
 /// Reads the crop library below the home folder: one file per stock crop in `crops`, the user's own crops in
 /// `crops/custom`, and optional tables by soil in `crops/soils`.
 class FileReader {
@@ -22,6 +30,7 @@ class FileReader {
   std::filesystem::path fileDirectory;                ///< Folder listed last
   std::vector<std::filesystem::path> fileCollection;  ///< Files in reading order
   CropScenario cropCollection;                        ///< Crops read, with Fallow after the stock crops
+  std::vector<SkippedCropFile> skipped;               ///< Files that are no valid crop files
 
   /// A custom crop of an open farm, which need not be in the library.
   struct FarmCrop {
@@ -47,9 +56,9 @@ class FileReader {
   /// Whether a text is a crop file.
   [[nodiscard]] static bool isCropFile(std::string_view text);
 
-  /// Reads the library again. A file that is not a valid crop file is skipped without a message. Fallow is
-  /// inserted once as many valid files have been read as there are stock files, so a bad file moves it behind
-  /// a custom crop or drops it.
+  /// Reads the library again. A file that is not a valid crop file is skipped and listed in `skipped`. Fallow
+  /// is inserted once as many valid files have been read as there are stock files, so a bad file moves it
+  /// behind a custom crop or drops it.
   /// \returns true.
   /// \throws RunTimeError (fileNotFound) if `crops` is missing or cannot be listed.
   bool Initialize();

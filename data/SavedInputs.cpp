@@ -4,8 +4,10 @@
 #include <string_view>
 #include <vector>
 
+#include "data/SavedCropBlocks.h"
 #include "data/readFile.h"
 #include "data/writeFile.h"
+#include "model/CropKind.h"
 #include "model/savedFields.h"
 #include "text/RunTimeError.h"
 #include "text/numbers.h"
@@ -15,40 +17,10 @@ namespace {
 
 constexpr std::string_view trendToken = "batch_enabled";
 
-/// Splits the file into values.
-class ValueReader {
- public:
-  explicit ValueReader(std::string_view text) : rest_(text) {}
-
-  [[nodiscard]] bool atEnd() const { return rest_.empty(); }
-
-  std::string_view next() {
-    if (rest_.empty()) throw RunTimeError(ErrorNumber::invalidCall, "The saved inputs end too early.");
-    const std::size_t start = rest_.find_first_not_of(" \t");
-    rest_.remove_prefix(start == std::string_view::npos ? rest_.size() : start);
-    const std::size_t end = rest_.find_first_of(",\r\n");
-    const std::string_view value = rest_.substr(0, end);
-    if (end == std::string_view::npos) {
-      rest_ = {};
-    } else {
-      rest_.remove_prefix(end + (rest_.substr(end, 2) == "\r\n" ? 2 : 1));
-    }
-    return value;
-  }
-
-  template <class Owner>
-  void read(Owner& owner, std::span<const SavedField<Owner>> fields) {
-    for (const SavedField<Owner>& field : fields)
-      field.read(owner, next());
-  }
-
- private:
-  std::string_view rest_;
-};
-
-void readCropBlock(ValueReader& values, Crop& crop) {
-  values.read(crop, cropFields());
-  values.read(crop.inputCosts, costFields());
+template <class Owner>
+void read(SavedValueReader& values, Owner& owner, std::span<const SavedField<Owner>> fields) {
+  for (const SavedField<Owner>& field : fields)
+    field.read(owner, values.next());
 }
 
 /// The row for a crop block: the first row of that crop name not filled yet, so that two crops of the same
@@ -79,14 +51,14 @@ void putPlantIntoControls(const IrrigationCosts& plant, InputControls& controls)
 }
 
 void readInto(std::string_view text, SavedInputsTarget& target) {
-  ValueReader values(text);
+  SavedValueReader values(text);
   GeneralInputs& general = target.generalInputs();
   for (std::string* field : {&general.splitIndex, &general.totalAcres, &general.waterAllocation,
                              &general.irrigEff, &general.annualRain}) {
     *field = values.next();
   }
   IrrigationCosts& plant = target.tempIrrigationCosts();
-  values.read(plant, plantFields());
+  read(values, plant, plantFields());
   general.setData(target);
   putPlantIntoControls(plant, target);
 
@@ -96,13 +68,39 @@ void readInto(std::string_view text, SavedInputsTarget& target) {
     if (token == trendToken) {
       target.setTrendEnabled();
     } else if (Crop* crop = rowFor(token, target.rowCrops(), filled)) {
-      readCropBlock(values, *crop);
+      readSavedCrop(values, *crop);
     }
   }
   target.refreshRows();
 }
 
 }  // namespace
+
+void readSavedCrop(SavedValueReader& values, Crop& crop) {
+  read(values, crop, cropFields());
+  read(values, crop.inputCosts, costFields());
+}
+
+std::optional<std::string> savedNameCaution(const std::string& name) {
+  constexpr const char* lost = " so its price, yield and costs will not be there at the next start. ";
+  if (name.find_first_of(" \t\r\n") == 0) {
+    return "The name begins with a blank. The saved inputs leave out blanks at the beginning of a name," +
+           std::string(lost) + "Begin the name with a letter.";
+  }
+  if (name == cropName(CropKind::fallow)) {
+    return "Fallow is the name of land without a crop: a crop of this name yields nothing, and the saved "
+           "inputs mix it up with that land. Choose another name.";
+  }
+  if (name == trendToken) {
+    return "In the saved inputs, batch_enabled does not begin a crop but turns on trend processing," +
+           std::string(lost) + "Choose another name.";
+  }
+  if (name.find(',') != std::string::npos) {
+    return "The name contains a comma. In the saved inputs a comma ends a name," + std::string(lost) +
+           "Choose a name without one.";
+  }
+  return std::nullopt;
+}
 
 std::string savedInputsText(const GeneralInputs& general, const IrrigationCosts& plant,
                             const CropScenario& cropCollection, bool trendEnabled) {

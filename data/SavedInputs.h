@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <string>
 
 #include "data/GeneralInputs.h"
@@ -40,5 +41,9 @@ bool saveInputs(const std::filesystem::path& file, const GeneralInputs& general,
 /// \returns whether the whole file was read. A missing file changes nothing. If the file is cut short, or a
 /// number is too large, the values read so far are kept and the rows are not refreshed.
 bool loadInputs(const std::filesystem::path& file, SavedInputsTarget& target);
+
+/// What a crop of this name loses when the saved inputs are read again, and what to do; nothing for a name
+/// that comes back as it is.
+[[nodiscard]] std::optional<std::string> savedNameCaution(const std::string& name);
 
 }  // namespace verdalis

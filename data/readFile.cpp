@@ -2,14 +2,13 @@
 
 #include <fstream>
 #include <system_error>
-#include <utility>
 
 #include "text/RunTimeError.h"
 #include "text/encoding.h"
 
 namespace verdalis {
 
-std::string readFile(const std::filesystem::path& path) {
+std::string readBytes(const std::filesystem::path& path) {
   const auto fail = [&] {
     throw RunTimeError(ErrorNumber::fileNotFound, "The file " + path.string() + " cannot be read.");
   };
@@ -22,7 +21,11 @@ std::string readFile(const std::filesystem::path& path) {
   file.read(bytes.data(), static_cast<std::streamsize>(size));
   if (file.bad() || !file.is_open()) fail();
   bytes.resize(static_cast<std::size_t>(file.gcount()));  // the file may have shrunk in the meantime
-  return decodeText(std::move(bytes));
+  return bytes;
+}
+
+std::string readFile(const std::filesystem::path& path) {
+  return decodeText(readBytes(path));
 }
 
 std::string_view LineReader::next() {

@@ -18,6 +18,7 @@
 #include "desktop/DetailsView.h"
 #include "desktop/Keys.h"
 #include "desktop/MainPaneView.h"
+#include "desktop/NoticeView.h"
 #include "desktop/ResultViews.h"
 #include "desktop/SummaryView.h"
 #include "desktop/TrendViews.h"
@@ -55,6 +56,8 @@ MainWindow::MainWindow(frmMain& window, Binder& binder, std::function<void(const
   info->setWordWrap(true);
   bandLayout->addWidget(binder_.bind(window_.lblMainInfo, info, tr("Information")));
   layout->addWidget(band);
+  layout->addWidget(noticeView(window_.notices, binder_));
+  layout->addWidget(recoveryView(window_.recovery, binder_));
   stack_ = new QStackedWidget;
   layout->addWidget(stack_, 1);
   setCentralWidget(centre);
@@ -75,6 +78,7 @@ MainWindow::MainWindow(frmMain& window, Binder& binder, std::function<void(const
   connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { bringIntoSight(now); });
   auto* help = new QShortcut(QKeySequence(Qt::Key_F1), this);
   connect(help, &QShortcut::activated, this, &MainWindow::showHelpOfFocus);
+  addBarKeys();
   restorePlace();
   binder_.widget(window_.pneMain.txtArea)->setFocus();  // the first thing that a farm needs
   binder_.bindWindow(window_, this);
@@ -124,6 +128,30 @@ void MainWindow::addPane(Frame& pane, QWidget* page, const char* topic) {
   assignKeys(page, QLatin1String(menuLetters));
   stack_->addWidget(page);
   binder_.alsoWatch(pane, [this] { showTopPane(); });
+}
+
+/// F6 moves the focus into the bar above the page. Esc closes a notice on the main pane; on all others it
+/// leads back.
+void MainWindow::addBarKeys() {
+  const auto enabledWith = [this](QShortcut* shortcut, Frame& bar) {
+    binder_.alsoWatch(bar, [shortcut, &bar] { shortcut->setEnabled(bar.visible()); });
+  };
+  const auto reachBy = [&](Frame& bar, std::initializer_list<Button*> buttons) {
+    auto* shortcut = new QShortcut(QKeySequence(Qt::Key_F6), this);
+    connect(shortcut, &QShortcut::activated, this, [this, buttons = std::vector<Button*>(buttons)] {
+      for (const Button* button : buttons) {
+        if (button->visible()) return binder_.widget(*button)->setFocus(Qt::ShortcutFocusReason);
+      }
+    });
+    for (const Button* button : buttons)
+      binder_.widget(*button)->setAccessibleDescription(shortcut->key().toString());
+    enabledWith(shortcut, bar);
+  };
+  reachBy(window_.notices, {&window_.notices.cmdNotice, &window_.notices.cmdNoticeClose});
+  reachBy(window_.recovery, {&window_.recovery.cmdRestore, &window_.recovery.cmdDiscardRecovery});
+  auto* close = new QShortcut(QKeySequence(Qt::Key_Escape), binder_.widget(window_.pneMain));
+  connect(close, &QShortcut::activated, this, [this] { window_.notices.dismiss(); });
+  enabledWith(close, window_.notices);
 }
 
 void MainWindow::showTopPane() {

@@ -10,7 +10,8 @@ class QStackedWidget;
 
 namespace verdalis::desktop {
 
-/// The main window: the menu bar, the information band and the pane on top of the others.
+/// The main window: the menu bar, the information band, the bar of the notices and the pane on top of the
+/// others.
 class MainWindow : public QMainWindow {
   Q_OBJECT
 
@@ -29,6 +30,7 @@ class MainWindow : public QMainWindow {
  private:
   void addMenus();
   void addPane(Frame& pane, QWidget* page, const char* topic);
+  void addBarKeys();
   void showTopPane();
   void bringIntoSight(QWidget* focus) const;
   void showHelpOfFocus();

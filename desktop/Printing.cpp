@@ -1,6 +1,7 @@
 #include "desktop/Printing.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QFont>
@@ -69,8 +70,8 @@ bool isDevice(const QString& file) {
   return std::filesystem::is_other(std::filesystem::status(programText(file), error));
 }
 
-RunTimeError cannotPrint() {
-  return {ErrorNumber::fileNotFound, "The report cannot be printed."};
+RunTimeError cannotPrint(const std::string& text) {
+  return {ErrorNumber::fileNotFound, text};
 }
 
 }  // namespace
@@ -102,34 +103,36 @@ std::unique_ptr<PageSurface> Printing::beginDocument() {
 
 void Printing::draw(const PageLayout& layout) {
   const QString file = printer_->outputFileName();
-  if (file_.empty() || isDevice(file)) {
-    paint(layout);
+  if (file_.empty()) {
+    paint(layout, "The printer " + programText(printer_->printerName()) + " does not take the report.");
+    return;
+  }
+  if (isDevice(file)) {
+    paint(layout, "The file " + programText(file) + " cannot be written.");
     return;
   }
   // Qt writes into a file piece by piece. The report is replaced completely or not at all.
   const QTemporaryDir work;
+  const std::string fault = "The file " + programText(file) + " cannot be written: the report cannot be " +
+                            "prepared in " + programText(QDir::tempPath()) + ", which may be full.";
   const QString suffix = QFileInfo(file).suffix();  // decides the format
   const QString copy =
       work.filePath(suffix.isEmpty() ? QStringLiteral("report") : QStringLiteral("report.") + suffix);
   printer_->setOutputFileName(copy);
-  paint(layout);
+  paint(layout, fault);
   QFile painted(copy);
-  if (!painted.open(QIODevice::ReadOnly)) throw cannotPrint();
+  if (!painted.open(QIODevice::ReadOnly)) throw cannotPrint(fault);
   const QByteArray bytes = painted.readAll();
   // Qt does not report a full disk.
   if (printer_->outputFormat() == QPrinter::PdfFormat && !bytes.trimmed().endsWith("%%EOF"))
-    throw cannotPrint();
-  try {
-    writeFile(programText(file), std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
-  } catch (const RunTimeError&) {
-    throw cannotPrint();
-  }
+    throw cannotPrint(fault);
+  writeFile(programText(file), std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
 }
 
-void Printing::paint(const PageLayout& layout) {
+void Printing::paint(const PageLayout& layout, const std::string& fault) {
   printer_->setFullPage(true);
   QPainter painter;
-  if (!painter.begin(printer_.get())) throw cannotPrint();
+  if (!painter.begin(printer_.get())) throw cannotPrint(fault);
   painter.scale(printer_->resolution() / pointsPerInch, printer_->resolution() / pointsPerInch);
   int page = 0;
   for (const PlacedText& text : layout.texts()) {
@@ -138,7 +141,7 @@ void Printing::paint(const PageLayout& layout) {
     painter.setFont(fontOf(text.font));
     painter.drawText(QPointF(text.x, text.y), qText(text.text));
   }
-  if (!painter.end()) throw cannotPrint();
+  if (!painter.end()) throw cannotPrint(fault);
 }
 
 }  // namespace verdalis::desktop

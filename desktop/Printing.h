@@ -26,7 +26,9 @@ class Printing {
 
  private:
   void draw(const PageLayout& layout);
-  void paint(const PageLayout& layout);
+
+  /// \throws RunTimeError with the text `fault`
+  void paint(const PageLayout& layout, const std::string& fault);
 
   std::unique_ptr<QPrinter> printer_;
   std::unique_ptr<FontMetrics> metrics_;

@@ -82,6 +82,12 @@ QString styleSheet(Scheme scheme) {
                                max-height: 18px; padding: 0; color: @muted; }
     QPushButton[role="help"]:focus { padding: 0; color: @brand; }
     QFrame[role="tint"] { background: @activeRow; border-radius: 4px; }
+    QFrame[role="notice"] { background: @caution; border: none; border-bottom: 1px solid @cautionLine; }
+    QFrame[role="recovery"] { background: @activeRow; border: none; border-bottom: 1px solid @line; }
+    QPushButton[role="close"] { background: transparent; border: 1px solid transparent; border-radius: 5px;
+                                padding: 4px 9px; }
+    QPushButton[role="close"]:hover { border-color: @cautionLine; }
+    QPushButton[role="close"]:focus { border: 2px solid @brand; padding: 3px 8px; }
     QFrame#footer { background: @card; border: none; border-top: 1px solid @line; }
     QTableWidget { background: @base; gridline-color: @line; border: 1px solid @line; border-radius: 4px;
                    selection-background-color: @brand; selection-color: @brandText; }
@@ -105,6 +111,8 @@ QString styleSheet(Scheme scheme) {
   put("muted", colours.muted);
   put("warning", colours.warning);
   put("activeRow", colours.activeRow);
+  put("caution", colours.caution);
+  put("cautionLine", colours.cautionLine);
   return sheet;
 }
 
@@ -177,11 +185,13 @@ QPalette palette(Scheme scheme) {
 
 Accents accents(Scheme scheme) {
   if (scheme == Scheme::dark) {
-    return {QColor(0x7CC48A), QColor(0x10210F), QColor(0x232926), QColor(0x3D4641), QColor(0xA3ADA6),
-            QColor(0xFF8A70), QColor(0x2B332E), QColor(0x5E8F5A), QColor(0x6FB3D9)};
+    return {QColor(0x7CC48A), QColor(0x10210F), QColor(0x232926), QColor(0x3D4641),
+            QColor(0xA3ADA6), QColor(0xFF8A70), QColor(0x2B332E), QColor(0x5E8F5A),
+            QColor(0x6FB3D9), QColor(0x3A3219), QColor(0x66572A)};
   }
-  return {QColor(0x2E6B3A), QColor(0xFFFFFF), QColor(0xFFFFFF), QColor(0xD3D9D2), QColor(0x5C665F),
-          QColor(0xC0392B), QColor(0xF3F3F3), QColor(0x8DB87C), QColor(0x2F7FB0)};
+  return {QColor(0x2E6B3A), QColor(0xFFFFFF), QColor(0xFFFFFF), QColor(0xD3D9D2),
+          QColor(0x5C665F), QColor(0xC0392B), QColor(0xF3F3F3), QColor(0x8DB87C),
+          QColor(0x2F7FB0), QColor(0xFDF3D8), QColor(0xE6CF94)};
 }
 
 void applyTheme(QApplication& application, Scheme scheme) {

@@ -55,6 +55,8 @@ struct Accents {
   QColor activeRow;  ///< Background of a ticked crop
   QColor field;      ///< Land in a land split picture
   QColor water;
+  QColor caution;      ///< Background of a notice
+  QColor cautionLine;  ///< Border of a notice
 };
 [[nodiscard]] Accents accents(Scheme scheme);
 

@@ -255,6 +255,7 @@ void FarmFiles::bringCrops(const FarmDocument& document, bool mayAsk) {
       continue;
     }
     farmCrops.push_back({crop->name, crop->text});
+    if (!text) window_.inputsKeeper.passingCrops.insert(crop->name);
   }
   if (written || farmCrops != library.farmCrops) {
     library.farmCrops = std::move(farmCrops);

@@ -42,7 +42,10 @@ frmMain::frmMain(Desk& desk, Services& services, ProgramState& state, SecondaryW
       pneIrrigCosts(*this, services, tempIrrigationCosts),
       theResults(pneResults, "theResults", services, state),
       theDetails(pneDetails, "theDetails", state),
-      pneSummary(*this, services, summaryResults, {[this] { return pneMain.txtAnnRain.text(); }, writeFile}),
+      pneSummary(
+          *this, services, summaryResults,
+          {[this] { return pneMain.txtAnnRain.text(); },
+           [this](const std::filesystem::path& path, std::string_view bytes) { saveTable(path, bytes); }}),
       pneCustomCrop(*this, services, files.home / "crops" / "custom"),
       thePrinter(services.printer,
                  {[this] {
@@ -51,9 +54,20 @@ frmMain::frmMain(Desk& desk, Services& services, ProgramState& state, SecondaryW
                         pneMain.txtMax.text(),  state_.cs.toString(),  wishTexts(pneMain.wishes),
                         pneMain.mixes};
                   },
-                  [this] { return services_.clock.now(); }}),
+                  [this] { return services_.clock.now(); },
+                  [this](const std::string& reason) { tellUnprinted(reason); }}),
       trendHost(*this, windows, services.eventPump, files.home),
       trends(*this, services, state, trendHost),
+      inputsKeeper(files.inputs, notices,
+                   {[this](const std::string& name) {
+                      const CropRecord* const row = rowNamed(name);
+                      return row == nullptr ? nullptr : row->Crop;
+                    },
+                    [this](const Crop& crop) {
+                      for (const auto& row : pneMain.cr) {
+                        if (row->Crop.get() == &crop) row->refresh();
+                      }
+                    }}),
       farmControls(
           {*this, pneMain, pneIrrigCosts, *tempIrrigationCosts, state, trends, cropFiles, summaryResults}),
       keeper(desk, farmControls),
@@ -62,7 +76,8 @@ frmMain::frmMain(Desk& desk, Services& services, ProgramState& state, SecondaryW
       services_(services),
       state_(state),
       windows_(windows),
-      files_(std::move(files)) {
+      files_(std::move(files)),
+      customCropNotices_(pneCustomCrop, notices, inputsKeeper) {
   setCaption(defaultTitle);
   for (Frame* pane : std::initializer_list<Frame*>{&pneMain, &pneInputCosts, &pneIrrigCosts, &pneResults,
                                                    &pneDetails, &pneSummary, &pneCustomCrop,
@@ -74,6 +89,7 @@ frmMain::frmMain(Desk& desk, Services& services, ProgramState& state, SecondaryW
   wirePanes();
   wireResults();
   wirePrinting();
+  wireNotices();
   wireFarms();
   wireLosses();
 }
@@ -99,12 +115,14 @@ void frmMain::load() {
   }
   untouched_ = farmControls.read({});
   inputsLoaded_ = loadInputs();
+  inputsKeeper.offerKept();
   if (TrendEnabled) TrendNoticeShown = true;
   EnableBatch(TrendEnabled);
   state_.FineFactor = 10;
   trends.pneBatchSetup0.cboCrops.setIndex(0);
   SetMainInfo(strMainInfo);
   pneCustomCrop.fillLists();
+  untouched_.trend = farmControls.read({}).trend;
   keeper.start();
   farms.start();
 }
@@ -113,6 +131,7 @@ void frmMain::loadCropRows() {
   pneMain.unloadRows();
   try {
     cropFiles.Initialize();
+    tellSkippedCrops();
   } catch (const RunTimeError&) {
     pneMain.InitializeCropFrame();  // for the one row that is left
     throw;
@@ -148,11 +167,8 @@ void frmMain::saveInputs() {
   if (!files_.savesInputs) return;
   generalInputs = enteredInputs();
   const std::string text = inputsText();
-  try {
-    writeFile(files_.inputs, text);
-    farms.inputsSaved(text);
-  } catch (const RunTimeError&) {  // NOLINT(bugprone-empty-catch): it must not stop the run
-  }
+  // A file that cannot be written must not stop the run.
+  if (inputsKeeper.save(text)) farms.inputsSaved(text);
 }
 
 bool frmMain::loadInputs() {
@@ -232,7 +248,7 @@ void frmMain::wirePanes() {
   pneIrrigCosts.areaText = [this] { return pneMain.txtArea.text(); };
   trends.pneBatchSetup0.onHelp.connect(help);
   pneCustomCrop.onHelp.connect(help);
-  pneCustomCrop.loadCropRows = [this] { loadCropRows(); };
+  pneCustomCrop.loadCropRows = [this] { reloadCropRows(); };
   pneCustomCrop.onShowPane.connect([this] { showPane(pneCustomCrop); });
   // Unlike goHome(), this keeps the text of the information band.
   pneCustomCrop.onBackHome.connect([this] { showPane(pneMain); });
@@ -346,6 +362,13 @@ void frmMain::wireFarms() {
   farmControls.tellCaution = [this](const Message& message) {
     notices.tell({.text = message.text, .about = message.title});
   };
+  pneCustomCrop.onDeleted.connect(
+      [this](const FormerCustomCrop& crop) { farmControls.deletedCrops.insert(crop.entry.name); });
+  pneCustomCrop.onSaved.connect([this](const CustomCropEntry& crop) {
+    farmControls.deletedCrops.erase(crop.name);
+    // What is saved in the editor is meant to be used, also where the farm has brought its own table.
+    std::erase_if(cropFiles.farmCrops, [&](const auto& own) { return own.name == crop.name; });
+  });
   menus.mnuNew.onClick.connect([this] { farms.newFarm(); });
   menus.mnuOpen.onClick.connect([this] { farms.open(); });
   for (std::size_t i = 0; i < menus.mnuRecent.size(); ++i)
@@ -442,11 +465,11 @@ bool frmMain::addToLibrary(const std::string& crop, const std::string& text) {
 
 void frmMain::reloadRows() {
   try {
-    loadCropRows();
-  } catch (const RunTimeError& error) {
-    notices.tell({.text = error.what(), .about = "crop library"});
+    reloadCropRows();
+  } catch (const RunTimeError&) {  // NOLINT(bugprone-empty-catch): a notice tells it
   }
-  pneCustomCrop.fillLists();
+  pneCustomCrop.scanCustomCrops();
+  pneCustomCrop.listCustomCrops();
 }
 
 void frmMain::goHome() {

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <filesystem>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "controls/displays.h"
@@ -13,6 +15,7 @@
 #include "engine/BestMix.h"
 #include "engine/ProgramState.h"
 #include "engine/RunHooks.h"
+#include "main/CustomCropNotices.h"
 #include "main/FarmFiles.h"
 #include "main/LossNotices.h"
 #include "main/MainMenus.h"
@@ -21,6 +24,7 @@
 #include "main/PaneStack.h"
 #include "main/ProgramFiles.h"
 #include "main/RecoveryBar.h"
+#include "main/SavedInputsKeeper.h"
 #include "main/SecondaryWindows.h"
 #include "results/Details.h"
 #include "results/ResultPrinter.h"
@@ -48,10 +52,10 @@ class frmMain : public Window {
   bool TrendEnabled = false;      ///< Trend processing is on; saved with the inputs
   bool TrendNoticeShown = false;  ///< The notice about trend processing is not shown again
 
-  NoticeBar notices{*this};     ///< Above the page: what no message box tells
-  RecoveryBar recovery{*this};  ///< In the same place: recovery copies, before the notices
   Label lblMainInfo{*this, "lblMainInfo"};
   MainMenus menus{*this};
+  NoticeBar notices{*this};     ///< Above the page: what no message box tells
+  RecoveryBar recovery{*this};  ///< In the same place: recovery copies, before the notices
   MainPane pneMain;
   InputCostsPane pneInputCosts;
   IrrigCostsPane pneIrrigCosts;
@@ -69,6 +73,7 @@ class frmMain : public Window {
 
   PaneStack panes;
 
+  SavedInputsKeeper inputsKeeper;  ///< Writes the saved inputs
   FarmControls farmControls;
   DocumentKeeper keeper;  ///< The document of the farm on screen, and its steps
   FarmFiles farms;
@@ -142,6 +147,12 @@ class frmMain : public Window {
   void wireResults();
   void wireOptions(Results& results);
   void wirePrinting();
+  void wireNotices();
+  void tellSkippedCrops();
+  void tellUnprinted(const std::string& reason);
+  void reloadCropRows();
+  void saveTable(const std::filesystem::path& path, std::string_view bytes);
+  [[nodiscard]] CropRecord* rowNamed(const std::string& crop) const;
   void Command1_Click();
   void Command7_Click();
   void goBack();
@@ -160,6 +171,8 @@ class frmMain : public Window {
   ProgramFiles files_;
   bool loaded_ = false;
   bool inputsLoaded_ = false;
+  CustomCropNotices customCropNotices_;
+  std::vector<SkippedCropFile> toldSkipped_;
 };
 
 }  // namespace verdalis

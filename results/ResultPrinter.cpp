@@ -160,9 +160,10 @@ void ResultPrinter::print(void (ResultPrinter::*write)(PageSurface&) const) cons
       if (page == nullptr) return;
       (this->*write)(*page);
     }
-  } catch (const std::exception&) {
-    // The report stops without a message: a printer reports its own errors, and an unfinished document is not
-    // printed.
+  } catch (const std::exception& error) {
+    // The report stops without a message box: a printer reports its own errors, and an unfinished document is
+    // not printed.
+    if (sources_.failed) sources_.failed(error.what());
   }
 }
 

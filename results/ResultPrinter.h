@@ -22,10 +22,14 @@ struct ReportedFarm {
   bool mixes = false;                    ///< The options are the best of their mixes
 };
 
-/// Provides the report texts that do not come from the options, when a report is printed.
+/// Provides the report texts that do not come from the options, when a report is printed, and is told when
+/// that fails.
 struct ReportSources {
   std::function<ReportedFarm()> farm;
   std::function<ClockTime()> now;
+
+  /// A report could not be printed; called with the reason, a sentence. May be empty.
+  std::function<void(const std::string&)> failed = {};
 };
 
 /// Prints the results report and the details report of a field. It holds copies of what it prints until they
@@ -37,7 +41,8 @@ class ResultPrinter {
   ResultPrinter(PrinterService& printer, ReportSources sources);
 
   /// Asks for the printer and the number of copies, then prints the options; each copy is a separate
-  /// document. Cancelling the dialog and any failure end the report without a message.
+  /// document. Cancelling the dialog ends the report without a message. A failure ends it too, and is only
+  /// told by ReportSources::failed.
   void printResults() const;
 
   /// As printResults(), but prints the details of the field.

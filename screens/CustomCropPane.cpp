@@ -100,7 +100,9 @@ CustomCropPane::CustomCropPane(Frame& window, Services& services, std::filesyste
 }
 
 void CustomCropPane::wire() {
-  cboCustomGrid[0].onClick.connect([this] { loadCustomCrop(cboCustomGrid[0].index()); });
+  cboCustomGrid[0].onClick.connect([this] {
+    if (!listing_) loadCustomCrop(cboCustomGrid[0].index());
+  });
   cboCustomGrid[5].onClick.connect([this] { loadDefaultTable(); });
   txtCustom.onKey.connect([this] { customAltered = true; });
   dgCustom.onCharacter.connect([this](const std::string& character) { typeIntoGrid(dgCustom, character); });
@@ -208,8 +210,8 @@ void CustomCropPane::loadDefaultTable() {
 }
 
 void CustomCropPane::save() {
-  const std::optional<std::filesystem::path> path = pathToSave();
-  if (!path) return;
+  const std::optional<Target> target = pathToSave();
+  if (!target) return;
   if (txtCustom.text().empty() || dgCustom.cell(1, 1).empty()) {
     ask(desk(), services_.messageBox,
         {"Not enough information",
@@ -217,7 +219,7 @@ void CustomCropPane::save() {
          MessageKind::refusal, MessageIcon::exclamation});
     return;
   }
-  leaveOutIfFailing([&] { write(*path); });
+  writeAndTell(*target);
   ask(desk(), services_.messageBox,
       {"Saved", "The custom crop has been saved.", MessageKind::notice, MessageIcon::information});
   reloadRows();
@@ -225,9 +227,9 @@ void CustomCropPane::save() {
 }
 
 /// \returns nothing if the user cancels.
-std::optional<std::filesystem::path> CustomCropPane::pathToSave() {
+std::optional<CustomCropPane::Target> CustomCropPane::pathToSave() {
   const CustomCropEntry* const crop = selectedCrop();
-  if (crop != nullptr && crop->name == txtCustom.text()) return crop->path;
+  if (crop != nullptr && crop->name == txtCustom.text()) return Target{crop->path, true};
   if (crop != nullptr) {
     const MessageAnswer answer =
         ask(desk(), services_.messageBox,
@@ -236,10 +238,10 @@ std::optional<std::filesystem::path> CustomCropPane::pathToSave() {
              "create a new custom crop.",
              MessageKind::question, MessageIcon::question, MessageButtons::yesNoCancel});
     // No keeps the file name and writes the new crop name into the first line of the file.
-    if (answer == MessageAnswer::no) return crop->path;
+    if (answer == MessageAnswer::no) return Target{crop->path, true};
     if (answer != MessageAnswer::yes) return std::nullopt;
   }
-  return customCropPath(folder_, txtCustom.text());
+  return Target{customCropPath(folder_, txtCustom.text())};
 }
 
 void CustomCropPane::write(const std::filesystem::path& path) {
@@ -248,6 +250,50 @@ void CustomCropPane::write(const std::filesystem::path& path) {
   writeFile(path,
             customCropText({txtCustom.text(), cboCustomGrid[4].text(), cboCustomGrid[1].text(),
                             cboCustomGrid[2].text(), cboCustomGrid[3].text(), customGridValues(dgCustom)}));
+}
+
+void CustomCropPane::writeAndTell(const Target& target) {
+  const CustomCropEntry saved{target.path, txtCustom.text()};
+  const std::optional<FormerCustomCrop> former = formerCustomCrop(saved.path);
+  try {
+    write(saved.path);
+  } catch (const RunTimeError& error) {
+    onSaveFailed(saved, error.what());
+    return;
+  }
+  onSaved(saved);
+  const std::optional<FormerCustomCrop> now = formerCustomCrop(saved.path);
+  if (!former || !now || former->bytes == now->bytes) return;
+  if (!target.selectedFile) {
+    onReplaced(*former, *now);
+  } else if (former->name != now->name) {
+    onRenamed(former->name);
+  }
+}
+
+void CustomCropPane::restore(const FormerCustomCrop& crop,
+                             const std::optional<FormerCustomCrop>& replacedBy) {
+  const std::optional<FormerCustomCrop> now = formerCustomCrop(crop.path);
+  static_cast<void>(makeFolder(folder_));
+  writeFile(crop.path, crop.bytes);
+  if (now && now->bytes != crop.bytes && !(replacedBy && now->bytes == replacedBy->bytes))
+    onReplaced(*now, crop);
+  listAgain();
+  reloadRows();
+}
+
+/// Fills the list of saved crops, with the same one selected, and leaves the editor as it is.
+void CustomCropPane::listAgain() {
+  const CustomCropEntry* const crop = selectedCrop();
+  const std::filesystem::path selected = crop == nullptr ? std::filesystem::path() : crop->path;
+  scanCustomCrops();
+  listing_ = true;
+  listCustomCrops();
+  for (std::size_t i = 0; i < CustomCropList.size(); ++i) {
+    if (CustomCropList[i].path == selected) cboCustomGrid[0].setIndex(static_cast<int>(i) + 1);
+  }
+  listing_ = false;
+  cmdCustomGrid6.setVisible(cboCustomGrid[0].index() > 0);
 }
 
 void CustomCropPane::copyGrid() {
@@ -298,9 +344,16 @@ void CustomCropPane::deleteCrop() {
                                     MessageIcon::question, MessageButtons::yesNoCancel});
   if (answer != MessageAnswer::yes) return;
   // Write protection of the file does not prevent this; only the permissions of its folder matter.
-  std::error_code ignored;
-  std::filesystem::remove(crop->path, ignored);
+  const CustomCropEntry deleted = *crop;
+  const std::optional<FormerCustomCrop> former = formerCustomCrop(deleted.path);
+  std::error_code error;
+  std::filesystem::remove(deleted.path, error);
   open();
+  if (error) {
+    onDeleteFailed(deleted, error.message());
+  } else if (former) {
+    onDeleted(*former);
+  }
   ask(desk(), services_.messageBox,
       {"Crop deleted", "Custom crop deleted", MessageKind::notice, MessageIcon::exclamation});
 }

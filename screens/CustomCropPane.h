@@ -31,7 +31,7 @@ struct CustomCropField {
 /// and net irrigation. Each saved crop is a file in the custom folder of the crop library.
 ///
 /// A step that fails (a file that cannot be read, written or deleted) is skipped. The next steps follow,
-/// including the message of success. This is intended.
+/// including the message of success. This is intended; the events below tell what really happened.
 class CustomCropPane : public Frame {
  public:
   /// `folder` contains the custom crops. It need not exist.
@@ -89,13 +89,37 @@ class CustomCropPane : public Frame {
   Event<> onBackHome;
   Event<int> onHelp;
 
+  Event<const CustomCropEntry&> onSaved;
+  Event<const CustomCropEntry&, const std::string&> onSaveFailed;    ///< With the reason, a sentence
+  Event<const CustomCropEntry&, const std::string&> onDeleteFailed;  ///< With the reason
+  Event<const FormerCustomCrop&> onDeleted;
+
+  /// A crop has been saved into the file of another one, or of one that was there before, without being asked
+  /// to replace it. The second is the crop that the file holds now.
+  Event<const FormerCustomCrop&, const FormerCustomCrop&> onReplaced;
+
+  /// A crop has been saved into its old file under a new name. Told with the old name.
+  Event<const std::string&> onRenamed;
+
+  /// Writes a file back, lists the crops again and reads the crop library again. What is typed in the editor
+  /// stays. If the file holds anything but `replacedBy` meanwhile, raises onReplaced for that.
+  /// \throws RunTimeError if the file cannot be written
+  void restore(const FormerCustomCrop& crop, const std::optional<FormerCustomCrop>& replacedBy);
+
  private:
   void wire();
   void setGridSize();
   void loadDefaultTable();
   void save();
-  [[nodiscard]] std::optional<std::filesystem::path> pathToSave();
+  /// Where a crop is saved: in the file of the selected crop, if the user chose that, or under its own name.
+  struct Target {
+    std::filesystem::path path;
+    bool selectedFile = false;
+  };
+  [[nodiscard]] std::optional<Target> pathToSave();
   void write(const std::filesystem::path& path);
+  void writeAndTell(const Target& target);
+  void listAgain();
   void copyGrid();
   void pasteGrid();
   void goHome();
@@ -105,6 +129,7 @@ class CustomCropPane : public Frame {
 
   Services& services_;
   std::filesystem::path folder_;
+  bool listing_ = false;  ///< The list of saved crops changes without a choice by the user
 };
 
 }  // namespace verdalis

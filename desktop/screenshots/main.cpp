@@ -43,6 +43,33 @@ void typeFarm(MainPane& pane) {
     pane.cr[row]->chkCrop.click();
 }
 
+void photographBars(Desktop& desktop, const Photographer& camera) {
+  MainWindow* window = desktop.mainWindow();
+  frmMain& main = desktop.program().main();
+  main.notices.tell({.text =
+                         "The custom crop Oats has been deleted: "
+                         "/home/farmer/.local/share/verdalis/crops/custom/Oats.txt. Restore brings it back.",
+                     .actionCaption = "Restore",
+                     .action = [] {}});
+  camera.take(window, QStringLiteral("notice"));
+  main.notices.tell(
+      {.text = "The saved inputs no longer hold the price, yield and costs of Oats, because its crop file is "
+               "damaged or away. The former inputs are kept in "
+               "/home/farmer/.local/share/verdalis/inputs.txt.before. "
+               "When the crops are in the list again, Restore puts their values back.",
+       .actionCaption = "Restore",
+       .action = [] {}});
+  window->resize(1024, 700);
+  camera.take(window, QStringLiteral("notices"));
+  main.recovery.offer(
+      "The farm Home Place was not saved: Nov 22, 2026, 10:14.", [] {}, [] {});
+  camera.take(window, QStringLiteral("recovery"));
+  main.recovery.cmdDiscardRecovery.click();
+  main.notices.dismiss();
+  main.notices.dismiss();
+  window->resize(1180, 820);
+}
+
 void photograph(Desktop& desktop, const Photographer& camera) {
   camera.take(desktop.binder().widget(desktop.program().welcome), QStringLiteral("welcome"));
   desktop.program().welcome.Command1.click();
@@ -54,6 +81,7 @@ void photograph(Desktop& desktop, const Photographer& camera) {
   window->resize(1024, 700);
   camera.take(window, QStringLiteral("main-small"));
   window->resize(1180, 820);
+  photographBars(desktop, camera);
   main.pneMain.cr[1]->cmdInputCosts.click();
   camera.take(window, QStringLiteral("costs-grain"));
   main.pneInputCosts.cmdCancel.click();

@@ -172,6 +172,23 @@ TEST(FileReader, SkipsABadCustomFile) {
   EXPECT_EQ(library.names(), (Names{"A", "Fallow", "Mine"}));
 }
 
+TEST(FileReader, ListsTheSkippedFilesWithTheirReasons) {
+  const CropLibrary library;
+  library.stock("corn.txt", smallCrop("Corn"));
+  library.stock("half.txt", "CROP=Half\r\n\r\nUNITS=");
+  library.custom("no.txt", "no crop");
+  FileReader reader = library.read();
+  ASSERT_EQ(reader.skipped.size(), 2U);
+  EXPECT_EQ(reader.skipped[0].path, library.home() / "crops/half.txt");
+  EXPECT_EQ(reader.skipped[0].reason, "The file ends too early.");
+  EXPECT_EQ(reader.skipped[1].path, library.home() / "crops/custom/no.txt");
+  EXPECT_EQ(reader.skipped[1].reason, "A line of a crop file has no \"=\".");
+  std::filesystem::remove(reader.skipped[0].path);
+  std::filesystem::remove(reader.skipped[1].path);
+  reader.Initialize();
+  EXPECT_TRUE(reader.skipped.empty());
+}
+
 // A crop is read into the object that a bad file has partly filled; nothing of the bad file may remain.
 TEST(FileReader, ACropAfterABadFileKeepsNothingOfIt) {
   const std::string bad =

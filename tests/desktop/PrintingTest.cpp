@@ -135,6 +135,21 @@ TEST_F(Printing, AFullDiskLeavesNoPartOfAReport) {
   EXPECT_EQ(dialogs, 1);
   EXPECT_FALSE(std::filesystem::exists(home() / "report.pdf"));
   EXPECT_EQ(pane(), "pneResults");
+  const std::string notice = control<Label>("lblNotice").caption();
+  EXPECT_NE(notice.find("could not be printed"), std::string::npos) << notice;
+  EXPECT_NE(notice.find((home() / "report.pdf").string()), std::string::npos) << notice;
+}
+
+TEST_F(Printing, AReportThatCannotReplaceItsFileIsToldInANotice) {
+  startWithOptions();
+  std::filesystem::create_directory(home() / "report-2.pdf");
+  expectDialog(home() / "report.pdf", 2);
+  press("theResults.Command2");
+  EXPECT_TRUE(std::filesystem::exists(home() / "report.pdf"));
+  const std::string notice = control<Label>("lblNotice").caption();
+  EXPECT_NE(notice.find((home() / "report-2.pdf").string() + " cannot be written: Is a directory"),
+            std::string::npos)
+      << notice;
 }
 
 TEST_F(Printing, ACancelledDialogAndAnUnwritablePathEndTheReportSilently) {

@@ -69,6 +69,8 @@ TEST_P(Schemes, EveryAccentIsReadableOnItsBackground) {
     EXPECT_GE(contrast(colours.muted, ground), readable);
   }
   EXPECT_GE(contrast(colours.muted, colours.activeRow), readable);
+  EXPECT_GE(contrast(palette.color(QPalette::WindowText), colours.caution), readable);
+  EXPECT_GE(contrast(colours.muted, colours.caution), readable);
   EXPECT_GE(contrast(colours.warning, palette.color(QPalette::Base)), visible);
 }
 

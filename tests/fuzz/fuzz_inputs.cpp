@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "data/SavedCropBlocks.h"
 #include "data/SavedInputs.h"
 #include "tests/data/PlainInputsReader.h"
 #include "tests/data/PlainTarget.h"
@@ -26,7 +27,17 @@ using testing::TemporaryFolder;
 // Short names, so that the fuzzer finds them sooner. "1" is also a value, and there are two crops "C".
 const std::vector<std::string> names{"C", "1", "C", "Fallow", ""};
 
+void checkBlocks(const std::string& inputs) {
+  const std::vector<SavedCropBlock> blocks = savedCropBlocks(inputs);
+  std::string text;
+  for (const SavedCropBlock& block : blocks)
+    text += block.text();
+  require(savedCropBlocks(text) == blocks, "blocks are found again in their own text");
+  require(missingBlocks(blocks, blocks).empty(), "nothing is missing from the same blocks");
+}
+
 void check(const std::string& bytes) {
+  checkBlocks(decodeText(bytes));
   static const TemporaryFolder folder("fuzz");
   const auto file = folder.write("inputs.txt", bytes);
   PlainTarget expected(names);
@@ -40,6 +51,7 @@ void check(const std::string& bytes) {
   std::string text = target.general.writeData() + "\r\n" + target.plant.writeData() + "\r\n";
   for (const auto& crop : target.rows)
     text += crop->writeData() + "\r\n";
+  require(savedCropBlocks(text).size() == names.size(), "every crop has a block");
   PlainTarget again(names);
   require(PlainInputsReader(text, again).read(), "saved inputs can be read");
   require(contentOf(again.plant) == contentOf(target.plant), "the plant is loaded as it was saved");
