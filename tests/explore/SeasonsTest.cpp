@@ -10,11 +10,11 @@
 #include <string>
 #include <vector>
 
-#include "engine/CandidateBuilder.h"
 #include "engine/evaluateScenario.h"
-#include "engine/meetsWishes.h"
 #include "explore/seasons.h"
 #include "tests/explore/SmallFarm.h"
+#include "tests/reference/PlainEvaluator.h"
+#include "tests/reference/PlainPlans.h"
 
 namespace verdalis {
 namespace {
@@ -45,8 +45,8 @@ std::vector<PlainSeasonPlan> allPlans(const Farm& farm, const std::vector<Season
     changed.takeRain(seasons[season].rain);
     const Scenario scenario = scenarioOf(changed);
     std::size_t place = 0;
-    const auto take = [&](FieldCollection& candidate) {
-      if (!meetsWishes(farm.wishes, wishedFields(candidate, scenario.efficiency))) return;
+    reference::forEachCandidate(scenario, [&](FieldCollection& candidate) {
+      if (!reference::meetsAll(reference::plainPlan(candidate, scenario.efficiency), farm.wishes)) return;
       if (season == 0) {
         plans.emplace_back();
         for (const auto& field : candidate) {
@@ -56,29 +56,7 @@ std::vector<PlainSeasonPlan> allPlans(const Farm& farm, const std::vector<Season
       }
       PlainSeasonPlan& plan = plans.at(place++);
       plan.profits.push_back(profitAndYields(candidate, scenario.efficiency, plan.yields.emplace_back()));
-    };
-    const SearchInputs inputs = scenario.searchInputs();
-    CandidateBuilder builder(inputs);
-    std::vector<std::size_t> crops;
-    for (long split = 1; split <= scenario.depths.Count(); ++split) {
-      for (std::uint64_t combination = 0; combination < scenario.combinations.Count(); ++combination) {
-        scenario.combinations.positions(combination, crops);
-        take(builder.build(scenario.depths.Item(split), crops));
-      }
-    }
-    for (std::size_t i = 0; farm.noSplit && i < scenario.combinations.crops().size(); ++i) {
-      auto field = std::make_shared<Field>();
-      *field->theCrop = scenario.combinations.crops()[i]->Copy();
-      field->acres = scenario.acres;
-      field->annualRain = scenario.rain;
-      field->Depth = field->theCrop->cropType == "Fallow" ? 0 : scenario.netVolume / scenario.acres;
-      double depth = field->Depth;
-      field->theCrop->setYield(depth, scenario.rain);
-      *field->irrigCosts = scenario.plant.Copy();
-      FieldCollection candidate;
-      candidate.Add(field);
-      take(candidate);
-    }
+    });
   }
   for (PlainSeasonPlan& plan : plans) {
     double sum = 0;

@@ -118,4 +118,33 @@ std::optional<BestMix> evaluateLiterally(const SearchInputs& inputs,
                    });
 }
 
+FieldCollection undividedCandidate(const Crop& crop, double acres, double netVolume,
+                                   const SearchInputs& inputs) {
+  auto field = std::make_shared<Field>();
+  *field->theCrop = crop.Copy();
+  *field->irrigCosts = inputs.irrigationCosts.Copy();
+  field->acres = acres;
+  field->annualRain = inputs.rain;
+  field->Depth = crop.cropType == "Fallow" ? 0 : netVolume / acres;
+  double depth = field->Depth;
+  field->theCrop->setYield(depth, inputs.rain);
+  FieldCollection candidate;
+  candidate.Add(std::move(field));
+  return candidate;
+}
+
+void forEachCandidate(const Scenario& scenario, const std::function<void(FieldCollection&)>& take) {
+  const SearchInputs inputs = scenario.searchInputs();
+  ReusedCandidate candidate(inputs);
+  for (const Split& depths : inputs.depths) {
+    for (std::uint64_t combination = 0; combination < inputs.combinations.Count(); ++combination)
+      take(candidate.build(depths, combination));
+  }
+  if (!scenario.noSplit) return;
+  for (const auto& crop : inputs.combinations.crops()) {
+    FieldCollection undivided = undividedCandidate(*crop, scenario.acres, scenario.netVolume, inputs);
+    take(undivided);
+  }
+}
+
 }  // namespace verdalis::reference

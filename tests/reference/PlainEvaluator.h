@@ -1,11 +1,13 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <vector>
 
 #include "engine/BestMix.h"
 #include "engine/ProgramState.h"
 #include "engine/RunHooks.h"
+#include "engine/Scenario.h"
 #include "engine/SearchInputs.h"
 #include "model/CropScenario.h"
 
@@ -20,5 +22,15 @@ namespace verdalis::reference {
 [[nodiscard]] std::optional<BestMix> evaluateLiterally(const SearchInputs& inputs,
                                                        const std::vector<CropScenario>& combinations,
                                                        ProgramState& state, RunHooks& hooks);
+
+/// A crop on the whole farm, which gets all the water. Not priced.
+/// \param netVolume net water of the farm, acre-inches.
+[[nodiscard]] FieldCollection undividedCandidate(const Crop& crop, double acres, double netVolume,
+                                                 const SearchInputs& inputs);
+
+/// Calls `take` with every candidate of a scenario in the order of submission, whatever its wishes: those of
+/// the fields, then with `noSplit` each crop on the undivided farm. Pricing is left to `take`, which may
+/// change the candidate but must copy it to keep it.
+void forEachCandidate(const Scenario& scenario, const std::function<void(FieldCollection&)>& take);
 
 }  // namespace verdalis::reference
