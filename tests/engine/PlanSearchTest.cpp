@@ -11,9 +11,11 @@
 #include <vector>
 
 #include "engine/PlanSearch.h"
+#include "tests/reference/PlainEvaluator.h"
 #include "tests/reference/PlainPlans.h"
 #include "tests/reference/RandomFarm.h"
 #include "tests/support/Plant.h"
+#include "text/RunTimeError.h"
 
 namespace verdalis {
 namespace {
@@ -242,6 +244,70 @@ INSTANTIATE_TEST_SUITE_P(All, PlanSearchOn,
                                            FarmKind::equalGains, FarmKind::equalGainsNoPlant,
                                            FarmKind::linearYields, FarmKind::fewCandidates),
                          [](const auto& test) { return std::string(name(test.param)); });
+
+/// The profits of all candidates that meet the wishes, season by season.
+/// \throws RunTimeError for the first that cannot be priced
+std::vector<std::vector<double>> plainProfits(const PlanQuestion& question) {
+  std::vector<std::vector<double>> profits;
+  for (const SearchInputs& inputs : question.seasons) {
+    std::vector<double>& own = profits.emplace_back();
+    reference::forEachCandidate(inputs, question.wishes, [&](FieldCollection& candidate) {
+      own.push_back(candidate.getProfit(inputs.efficiency));
+    });
+  }
+  return profits;
+}
+
+TEST(PlanSearch, FaultyFarmsFailAtTheSameCandidateAsAFullEnumeration) {
+  std::size_t failed = 0;
+  std::size_t ranked = 0;
+  for (std::uint64_t seed = firstSeed(); seed < firstSeed() + 1500; ++seed) {
+    SCOPED_TRACE("farm " + std::to_string(seed));
+    const RandomFarm farm(FarmKind::faulty, seed, 200);
+    const ScopedEfficiency efficiency(farm.efficiency());
+    Random random(seed);
+    const Years years(farm, 1 + random.below(3), random);
+    PlanQuestion asked{years.inputs(), {}, randomWishes(farm, random, 4), false, 3};
+    asked.weights.assign(asked.seasons.size(), 1);
+
+    std::string expected;
+    std::vector<double> averages;
+    try {
+      const std::vector<std::vector<double>> profits = plainProfits(asked);
+      for (std::size_t i = 0; i < profits.front().size(); ++i) {
+        PlainPlan plan;
+        for (const std::vector<double>& season : profits)
+          plan.profits.push_back(season[i]);
+        averages.push_back(reference::averageOf(plan, asked.weights));
+      }
+      std::sort(averages.rbegin(), averages.rend());
+      if (averages.size() > asked.places) averages.resize(asked.places);
+    } catch (const RunTimeError& error) {
+      expected = error.what();
+    }
+
+    ProgramState state;
+    RunHooks hooks;
+    RunPulse pulse(state, hooks);
+    PlanSearch search(asked, pulse);
+    std::string told;
+    std::vector<double> found;
+    try {
+      ASSERT_TRUE(search.price());
+      const auto kept = search.best();
+      ASSERT_TRUE(kept);
+      for (const KeptCandidate& candidate : *kept)
+        found.push_back(candidate.profit);
+    } catch (const RunTimeError& error) {
+      told = error.what();
+    }
+    ASSERT_EQ(told, expected);
+    ASSERT_EQ(found, averages);
+    ++(expected.empty() ? ranked : failed);
+  }
+  EXPECT_GT(failed, 100U);
+  EXPECT_GT(ranked, 100U);
+}
 
 }  // namespace
 }  // namespace verdalis

@@ -119,7 +119,6 @@ Scenario scenarioOf(const RandomFarm& farm, std::vector<Wish> wishes, bool noSpl
 std::vector<BestMix::Option> allOptions(const Scenario& scenario) {
   std::vector<BestMix::Option> options;
   reference::forEachCandidate(scenario, [&](FieldCollection& candidate) {
-    if (!reference::meetsAll(reference::plainPlan(candidate, scenario.efficiency), scenario.wishes)) return;
     static_cast<void>(candidate.getProfit(scenario.efficiency));
     options.push_back(std::make_shared<FieldCollection>(candidate.Copy()));
   });

@@ -28,9 +28,14 @@ namespace verdalis::reference {
 [[nodiscard]] FieldCollection undividedCandidate(const Crop& crop, double acres, double netVolume,
                                                  const SearchInputs& inputs);
 
-/// Calls `take` with every candidate of a scenario in the order of submission, whatever its wishes: those of
-/// the fields, then with `noSplit` each crop on the undivided farm. Pricing is left to `take`, which may
-/// change the candidate but must copy it to keep it.
-void forEachCandidate(const Scenario& scenario, const std::function<void(FieldCollection&)>& take);
+/// Takes a candidate with its yields, not priced. It may change the candidate, and must copy it to keep it.
+using TakeCandidate = std::function<void(FieldCollection& candidate)>;
+
+/// Passes on every candidate of the fields that meets the wishes, in the order of submission.
+/// \throws RunTimeError if one of them has no yield
+void forEachCandidate(const SearchInputs& inputs, const std::vector<Wish>& wishes, const TakeCandidate& take);
+
+/// The same with the wishes of a scenario. With `noSplit`, each crop on the undivided farm follows.
+void forEachCandidate(const Scenario& scenario, const TakeCandidate& take);
 
 }  // namespace verdalis::reference
