@@ -88,14 +88,7 @@ void applyWishes(const FarmRequest& request, TypedFarm& farm) {
   if (request.mixes) farm.keepMixes();
   if (request.wishes.empty()) return;
   requireReady(farm.inputs());  // wishes refer to fields and crops
-  const WishContext context = farm.wishContext();
-  for (const std::string& wish : request.wishes) {
-    try {
-      farm.makeWish(readWish(wish, context));
-    } catch (const std::invalid_argument& error) {
-      throw Refusal("--wish " + quoteForMessage(wish) + ": " + error.what());
-    }
-  }
+  farm.makeWishes(readWishes("--wish", request.wishes, farm.wishContext()));
 }
 
 }  // namespace
