@@ -1,7 +1,6 @@
 #include "cli/FarmOptions.h"
 
 #include <algorithm>
-#include <stdexcept>
 #include <utility>
 
 #include "cli/farmTexts.h"
@@ -14,16 +13,6 @@
 
 namespace verdalis {
 namespace {
-
-/// Applies an option. A refusal begins with the option as typed.
-template <class Step>
-void applyOption(const std::string& option, const std::string& value, Step step) {
-  try {
-    step();
-  } catch (const Refusal& refusal) {
-    throw Refusal(option + " " + quoteForMessage(value) + ": " + refusal.what());
-  }
-}
 
 std::size_t cropRow(TypedFarm& farm, std::string_view name) {
   if (const std::optional<std::size_t> row = farm.findRow(name)) return *row;
