@@ -150,11 +150,7 @@ class ExploreSeasons : public ExploreQuestion {
 
   void answer(const ExploreCall& call, std::ostream& out) override {
     const std::vector<Season> seasons = texts_.empty() ? usualSeasons(call.farm.rain) : readSeasons(texts_);
-    call.hooks.showProgress("Exploring Seasons");
-    call.hooks.setProgress(1, "seasons");
-    std::optional<SeasonsResult> found = exploreSeasons(call.farm, seasons, call.state, call.hooks);
-    call.hooks.closeProgress();
-    const SeasonsResult result = answered(std::move(found));
+    const SeasonsResult result = answered(exploreSeasons(call.farm, seasons, call.state, call.hooks));
     if (call.format == "json") {
       writeJson(out, call.farm, result);
     } else if (call.format == "csv") {

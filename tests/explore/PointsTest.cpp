@@ -9,6 +9,7 @@
 #include "explore/inputs.h"
 #include "explore/water.h"
 #include "tests/explore/SmallFarm.h"
+#include "tests/explore/Steps.h"
 #include "text/RunTimeError.h"
 
 // Questions that solve many points. Each point must be the best plan of a farm with that input, for any
@@ -18,27 +19,11 @@ namespace verdalis {
 namespace {
 
 using testing::smallFarm;
+using testing::Steps;
 using testing::twoCropFarm;
 using Kind = FarmInput::Kind;
 
 constexpr unsigned manyJobs = 5;
-
-/// Counts the steps, and cancels at a given step.
-class Steps : public RunHooks {
- public:
-  explicit Steps(ProgramState& state, int cancelAt = -1) : state_(state), cancelAt_(cancelAt) {}
-  void setProgress(double steps, const std::string& /*description*/) override { announced = steps; }
-  void update() override {
-    if (++done == cancelAt_) state_.CancelRequested = true;
-  }
-
-  double announced = 0;
-  int done = 0;
-
- private:
-  ProgramState& state_;
-  int cancelAt_;
-};
 
 std::string numberOf(std::size_t point) {
   return "point " + std::to_string(point);

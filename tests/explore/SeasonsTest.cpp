@@ -13,6 +13,7 @@
 #include "engine/evaluateScenario.h"
 #include "explore/seasons.h"
 #include "tests/explore/SmallFarm.h"
+#include "tests/explore/Steps.h"
 #include "tests/reference/PlainEvaluator.h"
 
 namespace verdalis {
@@ -191,6 +192,22 @@ TEST(ExploreSeasons, UsualSeasonsAreLimitedToTheYieldTables) {
   EXPECT_EQ(rains(20.5), (std::vector<double>{17.5, 20.5, 21}));
   EXPECT_EQ(usualSeasons(16)[1].weight, 2);
   EXPECT_EQ(usualSeasons(16)[0].name, "dry");
+}
+
+TEST(ExploreSeasons, ProgressReachesItsEnd) {
+  ProgramState state;
+  testing::Steps hooks(state);
+  ASSERT_TRUE(exploreSeasons(twoCropFarm(), usualSeasons(16), state, hooks));
+  EXPECT_GT(hooks.announced, 3);
+  EXPECT_EQ(hooks.done, hooks.announced);
+}
+
+TEST(ExploreSeasons, ACancelAtAnyStepGivesNoResult) {
+  for (int step = 1; step <= 5; ++step) {
+    ProgramState state;
+    testing::Steps hooks(state, step);
+    EXPECT_FALSE(exploreSeasons(twoCropFarm(), usualSeasons(16), state, hooks)) << step;
+  }
 }
 
 TEST(ExploreSeasons, ACancelGivesNoResult) {
