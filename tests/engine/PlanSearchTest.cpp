@@ -10,10 +10,14 @@
 #include <string>
 #include <vector>
 
+#include "engine/Farm.h"
+#include "engine/MakingSplits.h"
 #include "engine/PlanSearch.h"
+#include "model/LandDivision.h"
 #include "tests/reference/PlainEvaluator.h"
 #include "tests/reference/PlainPlans.h"
 #include "tests/reference/RandomFarm.h"
+#include "tests/support/Crops.h"
 #include "tests/support/Plant.h"
 #include "text/RunTimeError.h"
 
@@ -79,7 +83,8 @@ Wish randomWish(const RandomFarm& farm, Random& random) {
   return wish;
 }
 
-/// The farm in several years with different rain, and so with different yields.
+/// The farm in several years with different rain, and so with different yields. In some years prices are far
+/// higher, and so are rounding errors.
 class Years {
  public:
   Years(const RandomFarm& farm, std::size_t count, Random& random) : farm_(farm) {
@@ -87,9 +92,11 @@ class Years {
     for (std::size_t year = 0; year < count; ++year) {
       const double rain =
           year == 0 ? inputs.rain : std::clamp(inputs.rain + random.between(-4, 4), 11.0, 21.0);
+      const double priceRise = year > 0 && random.below(4) == 0 ? 3e4 : 1;
       CropScenario crops;
       for (const auto& crop : farm.crops()) {
         crops.Add(std::make_shared<Crop>(crop->Copy()));
+        crops.Item(crops.Count())->price *= priceRise;
         if (year > 0) crops.Item(crops.Count())->setNormal(crop->maxYield, rain);
       }
       combinations_.push_back(std::make_unique<CropCombinations>(crops, inputs.landSplit.Count()));
@@ -244,6 +251,53 @@ INSTANTIATE_TEST_SUITE_P(All, PlanSearchOn,
                                            FarmKind::equalGains, FarmKind::equalGainsNoPlant,
                                            FarmKind::linearYields, FarmKind::fewCandidates),
                          [](const auto& test) { return std::string(name(test.param)); });
+
+/// A farm whose crops differ in their names. Many of them cost and return the same.
+Scenario farmWithNamedTwins(Random& random) {
+  Farm farm;
+  farm.acres = 100;
+  farm.division = landDivision(random.below(landDivisions().size()));
+  farm.efficiency = 85;
+  farm.plant = testing::defaultPlant();
+  farm.factor = static_cast<std::int16_t>(1 + random.below(3));
+  const std::size_t crops = 2 + random.below(farm.division.Count() > 3 ? 3 : 5);
+  for (std::size_t i = 0; i < crops; ++i) {
+    Crop crop = testing::namedCrop("Crop " + std::to_string(i));
+    crop.setYieldTable(
+        testing::tableThrough({{0, std::vector<double>(11, 10)}, {20, std::vector<double>(11, 60)}}));
+    crop.maxYield = 60;
+    crop.price = static_cast<double>(2 + random.below(2));
+    farm.crops.Add(std::make_shared<Crop>(std::move(crop)));
+  }
+  farm.takeWater(static_cast<double>(random.below(12)));
+  farm.takeRain(16);
+  return scenarioOf(farm);
+}
+
+TEST(PlanSearch, TwinsOfDifferentNamesMakeDifferentMixes) {
+  const std::vector<std::vector<Wish>> wishes{{},
+                                              {{Wish::Kind::cropsAtLeast, "", 0, 2}},
+                                              {{Wish::Kind::cropsAtMost, "", 0, 2}},
+                                              {{Wish::Kind::acresAtMost, "Crop 1", 0, 50}}};
+  for (std::uint64_t seed = firstSeed(); seed < firstSeed() + 400; ++seed) {
+    SCOPED_TRACE("farm " + std::to_string(seed));
+    Random random(seed);
+    const Scenario scenario = farmWithNamedTwins(random);
+    const SearchInputs inputs = scenario.searchInputs();
+    const PlanQuestion asked{
+        {inputs}, {}, wishes[random.below(wishes.size())], random.below(4) != 0, 1 + random.below(20)};
+    ProgramState state;
+    RunHooks hooks;
+    RunPulse pulse(state, hooks);
+    PlanSearch search(asked, pulse);
+    ASSERT_TRUE(search.price());
+    const auto kept = search.best();
+    ASSERT_TRUE(kept);
+    const std::vector<PlainPlan> plans = reference::allPlans({inputs});
+    const auto ranking = reference::rankPlans(plans, {}, asked.wishes, asked.mixes);
+    ASSERT_EQ(textsOf(*kept, inputs.combinations), textsOf(plans, ranking, {}, asked.places));
+  }
+}
 
 /// The profits of all candidates that meet the wishes, season by season.
 /// \throws RunTimeError for the first that cannot be priced
