@@ -205,16 +205,15 @@ TEST_P(WishesOn, EvaluationsRankTheUndividedFarmLikeAFullEnumeration) {
         for (std::size_t set = 0; set < std::size_t{1} << scenario.wishes.size(); ++set) {
           Scenario relaxed = scenario;
           relaxed.wishes.clear();
-          for (std::size_t i = 0; i < scenario.wishes.size(); ++i) {
-            if ((set >> i & 1U) == 0) relaxed.wishes.push_back(scenario.wishes[i]);
-          }
-          if (scenario.wishes.size() - relaxed.wishes.size() != given) continue;
+          std::vector<Wish> without;
+          for (std::size_t i = 0; i < scenario.wishes.size(); ++i)
+            ((set >> i & 1U) == 0 ? relaxed.wishes : without).push_back(scenario.wishes[i]);
+          if (without.size() != given) continue;
           const auto left = allOptions(relaxed);
           if (left.empty()) continue;
           ++sets;
           EXPECT_TRUE(std::any_of(relaxations->begin(), relaxations->end(), [&](const Relaxation& found) {
-            return found.without.size() == given &&
-                   found.profit == left.front()->getProfit(scenario.efficiency);
+            return found.without == without && found.profit == left.front()->getProfit(scenario.efficiency);
           }));
         }
       }
