@@ -158,6 +158,37 @@ TEST(ExploreSeasons, RanksByAverageAndFindsTheSafestLikeAFullEnumeration) {
   }
 }
 
+TEST(ExploreSeasons, EqualPlansAreDuplicatesIfTheyLookAlikeInEverySeason) {
+  // Two rows that earn nothing on one field.
+  const auto optionsOf = [](const std::string& secondName, double secondYieldInWetYears) {
+    Farm farm;
+    farm.acres = 100;
+    farm.division = landDivision(5);
+    farm.efficiency = 100;
+    farm.plant.active = false;
+    for (int row = 0; row < 2; ++row) {
+      Crop crop = testing::namedCrop(row == 0 ? "Clover" : secondName);
+      const std::vector<double> yields(11, 10);
+      YieldTable table = testing::tableThrough({{0, yields}, {20, yields}});
+      if (row == 1) table.setCell(12, 18, secondYieldInWetYears);
+      crop.setYieldTable(table);
+      crop.maxYield = 10;
+      farm.crops.Add(std::make_shared<Crop>(crop));
+    }
+    farm.factor = 1;
+    farm.size = 2;
+    farm.takeWater(12);
+    farm.takeRain(12);
+    ProgramState state;
+    RunHooks hooks;
+    const auto result = exploreSeasons(farm, {{"dry", 12, 1}, {"wet", 18, 1}}, state, hooks);
+    return result ? result->options.size() : 0;
+  };
+  EXPECT_EQ(optionsOf("Clover", 10), 1U);
+  EXPECT_EQ(optionsOf("Clover", 4), 2U);
+  EXPECT_EQ(optionsOf("Vetch", 10), 2U);
+}
+
 TEST(ExploreSeasons, IdenticalSeasonsGiveTheRankingOfAnEvaluation) {
   for (std::uint64_t seed = 0; seed < 100; ++seed) {
     const Farm farm = smallFarm(seed);
