@@ -361,6 +361,20 @@ TEST(SwitchPrices, APlanThatIsBestOnlyAtAnEndHasNoSegment) {
   }
 }
 
+TEST(SwitchPrices, APlanThatIsBetterAtAnEndByARoundingErrorHasNoSegment) {
+  const Farm atFrom = farmOfRows({{2, std::nextafter(500, 501), 0}, {50, 500, 0}});
+  const Range range{{FarmInput::Kind::price, "Corn"}, 0, 10};
+  const auto first = segmentsOf(atFrom, range);
+  ASSERT_EQ(first.size(), 1U);
+  EXPECT_EQ(first[0].fields[0].yield, 50);
+  EXPECT_EQ(first[0].profitFrom, bestAt(atFrom, range, 0).profit);
+  const Farm atTo = farmOfRows({{50, 500, 0}, {100, 3e-13, 0}});
+  const auto last = segmentsOf(atTo, range);
+  ASSERT_EQ(last.size(), 1U);
+  EXPECT_EQ(last[0].fields[0].yield, 50);
+  EXPECT_EQ(last[0].profitTo, bestAt(atTo, range, 10).profit);
+}
+
 TEST(SwitchPrices, LinesAreOneIfTheyAreNowhereFartherApartThanABillionthOfAThousandth) {
   // The second row earns more above $5, by half of `more` of the profit at $10.
   const auto rowsApart = [](double more) {
