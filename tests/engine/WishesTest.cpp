@@ -187,6 +187,7 @@ TEST_P(WishesOn, EvaluationsRankTheUndividedFarmLikeAFullEnumeration) {
       RunHooks hooks;
       auto best = evaluateScenario(scenario, state, hooks);
       ASSERT_TRUE(best);
+      EXPECT_EQ(best->LowEnd, best->Copy().returnCollection(false).back()->getProfit(scenario.efficiency));
       std::vector<BestMix::Option> plain = allOptions(scenario);
       if (scenario.mixes) plain = oneOfEachMix(plain);
       const auto size = static_cast<std::size_t>(scenario.size);
