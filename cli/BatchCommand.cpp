@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <iostream>
 #include <memory>
-#include <stdexcept>
 #include <thread>
 #include <utility>
 
@@ -68,14 +67,7 @@ void requireReadable(const std::vector<std::string>& wishes, const CropNames& li
   WishContext widest{library, library, 0};
   for (const LandDivision& division : landDivisions())
     widest.fields = std::max(widest.fields, division.percentages.size());
-  std::vector<Wish> all;
-  for (const std::string& text : wishes) {
-    try {
-      addWish(all, readWish(text, widest));
-    } catch (const std::invalid_argument& fault) {
-      throw Refusal("--wish " + quoteForMessage(text) + ": " + fault.what());
-    }
-  }
+  static_cast<void>(readWishes("--wish", wishes, widest));
 }
 
 BatchBase makeBase(const BatchRequest& request, TypedFarm& farm) {

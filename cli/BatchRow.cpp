@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <optional>
-#include <stdexcept>
 #include <string_view>
 
 #include "cli/FarmOptions.h"
@@ -61,7 +60,7 @@ class RowTyping {
     for (const std::size_t row : ticked_)
       inputs_.cr.at(row).isActive = true;
     requireReady(inputs_);
-    readWishes();
+    takeWishes();
     return {readFarm(inputs_, base_.library, plant_, factor_), std::move(warnings_)};
   }
 
@@ -188,7 +187,7 @@ class RowTyping {
   }
 
   /// Reads the wishes of the row. They depend on its crops and land split.
-  void readWishes() {
+  void takeWishes() {
     inputs_.wishes.clear();
     if (wishes_.empty()) return;
     WishContext context{base_.names, {}, 0};
@@ -196,13 +195,7 @@ class RowTyping {
       if (inputs_.cr[row].isActive) context.chosen.push_back(base_.names[row]);
     }
     context.fields = getLandSplit(inputs_.Option1).getSplits().size();
-    for (const std::string& text : wishes_) {
-      try {
-        addWish(inputs_.wishes, readWish(text, context));
-      } catch (const std::invalid_argument& fault) {
-        throw Refusal("wish " + quoteForMessage(text) + ": " + fault.what());
-      }
-    }
+    inputs_.wishes = readWishes("wish", wishes_, context);
   }
 
   const BatchBase& base_;

@@ -5,6 +5,7 @@
 #include <iterator>
 #include <utility>
 
+#include "cli/textOptions.h"
 #include "engine/BestMix.h"
 #include "explore/water.h"
 #include "screens/IrrigCostsPane.h"
@@ -37,10 +38,6 @@ constexpr std::string_view unitOf(Kind kind) {
 
 constexpr std::string_view inputForms = "water, rain, efficiency, fuel, price CROP or max-yield CROP";
 constexpr std::string_view blanks = " \t";
-
-[[noreturn]] void refuse(const std::string& option, const std::string& text, const std::string& why) {
-  throw Refusal(option + " " + quoteForMessage(text) + ": " + why);
-}
 
 std::string_view trimmed(std::string_view text) {
   const std::size_t first = text.find_first_not_of(blanks);
@@ -104,6 +101,33 @@ Limit limitOf(const Rows& rows, std::string_view control, RowOf rowOf) {
   return found == rows.end() ? Limit() : rowOf(*found).limit;
 }
 
+/// \throws Refusal without the name of the option
+void requireAbove(double from, double to) {
+  if (!(from < to)) throw Refusal("The last value must be above the first.");
+}
+
+/// \throws Refusal without the name of the option
+void requireAccepted(const FarmInput& input, double value, const Farm& farm) {
+  const InputBounds bounds = inputBounds(input, farm);
+  if (bounds.least && value < *bounds.least)
+    throw Refusal("The " + inputName(input) + " must be at least " + generalText(*bounds.least) + ".");
+  if (bounds.most && value > *bounds.most)
+    throw Refusal("The " + inputName(input) + " must be at most " + generalText(*bounds.most) + ".");
+  if (input.kind == Kind::water && !isWater(farm, value))
+    throw Refusal("Acres times inches must be at least 1 ac-in.");
+}
+
+/// \throws Refusal without the name of the option
+std::size_t countOf(const std::string& text) {
+  const double values = numberOf(text);
+  if (values < 2 || values > static_cast<double>(mostPoints) ||
+      values != static_cast<double>(static_cast<std::size_t>(values))) {
+    throw Refusal("The number of values must be a whole number from 2 to " +
+                  formatNumber(static_cast<double>(mostPoints), "###,###") + ".");
+  }
+  return static_cast<std::size_t>(values);
+}
+
 InputBounds upTo(std::optional<double> most) {
   if (!most) return {};
   return {0, most};
@@ -124,17 +148,16 @@ std::string inputTitle(const FarmInput& input) {
 }
 
 FarmInput readInput(const std::string& option, const std::string& text, const Farm& farm) {
-  try {
-    return inputOf(trimmed(text), farm);
-  } catch (const Refusal& refusal) {
-    refuse(option, text, refusal.what());
-  }
+  return applyOption(option, text, [&] { return inputOf(trimmed(text), farm); });
+}
+
+double numberOf(const std::string& text) {
+  if (!isNumeric(text) || text.find(',') != std::string::npos) throw Refusal("Please enter a valid number");
+  return toDouble(text);
 }
 
 double readNumber(const std::string& option, const std::string& text) {
-  if (!isNumeric(text) || text.find(',') != std::string::npos)
-    refuse(option, text, "Please enter a valid number");
-  return toDouble(text);
+  return applyOption(option, text, [&] { return numberOf(text); });
 }
 
 std::vector<double> ValueRange::values() const {
@@ -144,35 +167,29 @@ std::vector<double> ValueRange::values() const {
 ValueRange readRange(const std::string& fromOption, const std::string& from, const std::string& toOption,
                      const std::string& to, const std::string& countOption, const std::string& count) {
   ValueRange range{readNumber(fromOption, from), readNumber(toOption, to), 0};
-  if (!(range.from < range.to)) refuse(toOption, to, "The last value must be above the first.");
-  const double values = readNumber(countOption, count);
-  if (values < 2 || values > static_cast<double>(mostPoints) ||
-      values != static_cast<double>(static_cast<std::size_t>(values))) {
-    refuse(countOption, count,
-           "The number of values must be a whole number from 2 to " +
-               formatNumber(static_cast<double>(mostPoints), "###,###") + ".");
-  }
-  range.count = static_cast<std::size_t>(values);
+  applyOption(toOption, to, [&] { requireAbove(range.from, range.to); });
+  range.count = applyOption(countOption, count, [&] { return countOf(count); });
   return range;
 }
 
 InputRange readInputRange(const std::string& option, const std::string& text, const Farm& farm) {
-  constexpr std::string_view form = "The form is INPUT=FROM:TO:N.";
-  // The name of a crop may contain "=", a range cannot.
-  const std::size_t sign = text.rfind('=');
-  if (sign == std::string::npos) refuse(option, text, std::string(form));
-  const std::string range = text.substr(sign + 1);
-  const std::size_t first = range.find(':');
-  const std::size_t second = first == std::string::npos ? first : range.find(':', first + 1);
-  if (second == std::string::npos || range.find(':', second + 1) != std::string::npos)
-    refuse(option, text, std::string(form));
-  InputRange result;
-  result.input = readInput(option, text.substr(0, sign), farm);
-  result.range = readRange(option, range.substr(0, first), option,
-                           range.substr(first + 1, second - first - 1), option, range.substr(second + 1));
-  requireAccepted(option, result.input, result.range.from, farm);
-  requireAccepted(option, result.input, result.range.to, farm);
-  return result;
+  return applyOption(option, text, [&] {
+    // The name of a crop may contain "=", a range cannot.
+    const std::size_t sign = text.rfind('=');
+    const std::size_t first = sign == std::string::npos ? sign : text.find(':', sign);
+    const std::size_t second = first == std::string::npos ? first : text.find(':', first + 1);
+    if (second == std::string::npos || text.find(':', second + 1) != std::string::npos)
+      throw Refusal("The form is INPUT=FROM:TO:N.");
+    InputRange result;
+    result.input = inputOf(trimmed(std::string_view(text).substr(0, sign)), farm);
+    result.range.from = numberOf(text.substr(sign + 1, first - sign - 1));
+    result.range.to = numberOf(text.substr(first + 1, second - first - 1));
+    requireAbove(result.range.from, result.range.to);
+    result.range.count = countOf(text.substr(second + 1));
+    requireAccepted(result.input, result.range.from, farm);
+    requireAccepted(result.input, result.range.to, farm);
+    return result;
+  });
 }
 
 InputBounds inputBounds(const FarmInput& input, const Farm& farm) {
@@ -195,18 +212,9 @@ InputBounds inputBounds(const FarmInput& input, const Farm& farm) {
   return upTo(stock != nullptr ? std::optional(stock->limits.maxYield) : std::nullopt);
 }
 
-void requireAccepted(const std::string& option, const FarmInput& input, double value, const Farm& farm) {
-  const InputBounds bounds = inputBounds(input, farm);
-  const std::string name = inputName(input);
-  if (bounds.least && value < *bounds.least)
-    refuse(option, generalText(value),
-           "The " + name + " must be at least " + generalText(*bounds.least) + ".");
-  if (bounds.most && value > *bounds.most)
-    refuse(option, generalText(value), "The " + name + " must be at most " + generalText(*bounds.most) + ".");
-  if (input.kind != Kind::water) return;
-  if (!isWater(farm, value)) {
-    refuse(option, generalText(value), "Acres times inches must be at least 1 ac-in.");
-  }
+void requireAccepted(const std::string& option, const std::string& text, const FarmInput& input, double value,
+                     const Farm& farm) {
+  applyOption(option, text, [&] { requireAccepted(input, value, farm); });
 }
 
 }  // namespace verdalis

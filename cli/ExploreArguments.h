@@ -30,6 +30,9 @@ inline constexpr std::size_t mostPoints = 100000;
 
 /// Reads a plain number.
 /// \throws Refusal for any other text
+[[nodiscard]] double numberOf(const std::string& text);
+
+/// The same for the text of an option, which begins the message.
 [[nodiscard]] double readNumber(const std::string& option, const std::string& text);
 
 /// Evenly spaced values between two bounds.
@@ -55,15 +58,16 @@ struct InputRange {
 };
 
 /// Reads INPUT=FROM:TO:N. The main window must accept the values for the input.
-/// \throws Refusal for any other text
+/// \throws Refusal, which begins with the option and the whole text, for any other text
 [[nodiscard]] InputRange readInputRange(const std::string& option, const std::string& text, const Farm& farm);
 
 /// The bounds that the main window sets for an input.
 [[nodiscard]] InputBounds inputBounds(const FarmInput& input, const Farm& farm);
 
-/// Checks a value of an input. `option` begins the message.
+/// Checks a value of an input. The option and its text begin the message.
 /// \throws Refusal for a value that the main window would refuse, and for water whose volume rounds to 0
 /// \throws RunTimeError (overflow) if the volume of water is too large
-void requireAccepted(const std::string& option, const FarmInput& input, double value, const Farm& farm);
+void requireAccepted(const std::string& option, const std::string& text, const FarmInput& input, double value,
+                     const Farm& farm);
 
 }  // namespace verdalis

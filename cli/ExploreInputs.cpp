@@ -1,6 +1,8 @@
 #include <nlohmann/json.hpp>
 #include <optional>
 #include <ostream>
+#include <string>
+#include <string_view>
 
 #include "cli/CsvWriter.h"
 #include "cli/ExploreArguments.h"
@@ -9,12 +11,12 @@
 #include "cli/TextTable.h"
 #include "cli/textOptions.h"
 #include "explore/inputs.h"
-#include "text/numbers.h"
+#include "text/quote.h"
 
 namespace verdalis {
 namespace {
 
-constexpr double usualPercent = 10;
+constexpr std::string_view usualPercent = "10";
 
 void writeJson(std::ostream& out, const Farm& farm, const InputsResult& result) {
   JsonStream json(out);
@@ -89,11 +91,12 @@ class ExploreInputs : public ExploreQuestion {
   }
 
   void answer(const ExploreCall& call, std::ostream& out) override {
-    const double percent = by_ ? readNumber("--by", *by_) : usualPercent;
+    const std::string by = by_.value_or(std::string(usualPercent));
+    const double percent = readNumber("--by", by);
     if (!(percent > 0 && percent < 100))
-      throw Refusal("--by " + generalText(percent) + ": The percentage must be above 0 and below 100.");
+      throw Refusal("--by " + quoteForMessage(by) + ": The percentage must be above 0 and below 100.");
     const double leastWater = call.farm.grossDepth * (1 - percent / 100);
-    requireAccepted("--by", {FarmInput::Kind::water, {}}, leastWater, call.farm);
+    requireAccepted("--by", by, {FarmInput::Kind::water, {}}, leastWater, call.farm);
     const auto boundsOf = [&](const FarmInput& input) { return inputBounds(input, call.farm); };
     const std::optional<InputsResult> found =
         exploreInputs(call.farm, percent, boundsOf, call.state, call.hooks);

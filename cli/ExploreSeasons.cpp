@@ -18,26 +18,24 @@ namespace {
 constexpr std::size_t leastSeasons = 2;
 constexpr std::size_t mostSeasons = 9;
 
+/// \throws Refusal without the name of the option
 Season readSeason(const std::string& text) {
-  const auto refuse = [&](const std::string& why) {
-    throw Refusal("--season " + quoteForMessage(text) + ": " + why);
-  };
   const std::size_t last = text.rfind(':');
   const std::size_t first =
       last == std::string::npos || last == 0 ? std::string::npos : text.rfind(':', last - 1);
-  if (first == std::string::npos || first == 0) refuse("The form is NAME:RAIN:WEIGHT.");
+  if (first == std::string::npos || first == 0) throw Refusal("The form is NAME:RAIN:WEIGHT.");
   Season season;
   season.name = text.substr(0, first);
-  season.rain = readNumber("--season", text.substr(first + 1, last - first - 1));
-  season.weight = readNumber("--season", text.substr(last + 1));
-  if (!(season.weight > 0)) refuse("The weight must be above 0.");
+  season.rain = numberOf(text.substr(first + 1, last - first - 1));
+  season.weight = numberOf(text.substr(last + 1));
+  if (!(season.weight > 0)) throw Refusal("The weight must be above 0.");
   return season;
 }
 
 std::vector<Season> readSeasons(const std::vector<std::string>& texts) {
   std::vector<Season> seasons;
   for (const std::string& text : texts) {
-    seasons.push_back(readSeason(text));
+    seasons.push_back(applyOption("--season", text, [&] { return readSeason(text); }));
     const auto same = std::find_if(seasons.begin(), seasons.end(),
                                    [&](const Season& season) { return season.name == seasons.back().name; });
     if (same != seasons.end() - 1)
@@ -152,11 +150,7 @@ class ExploreSeasons : public ExploreQuestion {
 
   void answer(const ExploreCall& call, std::ostream& out) override {
     const std::vector<Season> seasons = texts_.empty() ? usualSeasons(call.farm.rain) : readSeasons(texts_);
-    call.hooks.showProgress("Exploring Seasons");
-    call.hooks.setProgress(1, "seasons");
-    std::optional<SeasonsResult> found = exploreSeasons(call.farm, seasons, call.state, call.hooks);
-    call.hooks.closeProgress();
-    const SeasonsResult result = answered(std::move(found));
+    const SeasonsResult result = answered(exploreSeasons(call.farm, seasons, call.state, call.hooks));
     if (call.format == "json") {
       writeJson(out, call.farm, result);
     } else if (call.format == "csv") {

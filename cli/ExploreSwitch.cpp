@@ -91,8 +91,8 @@ class ExploreSwitch : public ExploreQuestion {
     if (!(asked.from < asked.to)) {
       throw Refusal("--to " + quoteForMessage(*to_) + ": The last value must be above the first.");
     }
-    requireAccepted("--from", asked.input, asked.from, farm);
-    requireAccepted("--to", asked.input, asked.to, farm);
+    requireAccepted("--from", *from_, asked.input, asked.from, farm);
+    requireAccepted("--to", *to_, asked.input, asked.to, farm);
     return asked;
   }
 

@@ -138,8 +138,8 @@ class ExploreWater : public ExploreQuestion {
       throw Refusal("A range of amounts requires --from A, --to B and --steps N.");
     const ValueRange range = readRange("--from", *from_, "--to", *to_, "--steps", *steps_);
     const FarmInput water{FarmInput::Kind::water, {}};
-    requireAccepted("--from", water, range.from, farm);
-    requireAccepted("--to", water, range.to, farm);
+    requireAccepted("--from", *from_, water, range.from, farm);
+    requireAccepted("--to", *to_, water, range.to, farm);
     return range.values();
   }
 

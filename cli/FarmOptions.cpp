@@ -1,7 +1,6 @@
 #include "cli/FarmOptions.h"
 
 #include <algorithm>
-#include <stdexcept>
 #include <utility>
 
 #include "cli/farmTexts.h"
@@ -14,16 +13,6 @@
 
 namespace verdalis {
 namespace {
-
-/// Applies an option. A refusal begins with the option as typed.
-template <class Step>
-void applyOption(const std::string& option, const std::string& value, Step step) {
-  try {
-    step();
-  } catch (const Refusal& refusal) {
-    throw Refusal(option + " " + quoteForMessage(value) + ": " + refusal.what());
-  }
-}
 
 std::size_t cropRow(TypedFarm& farm, std::string_view name) {
   if (const std::optional<std::size_t> row = farm.findRow(name)) return *row;
@@ -88,14 +77,7 @@ void applyWishes(const FarmRequest& request, TypedFarm& farm) {
   if (request.mixes) farm.keepMixes();
   if (request.wishes.empty()) return;
   requireReady(farm.inputs());  // wishes refer to fields and crops
-  const WishContext context = farm.wishContext();
-  for (const std::string& wish : request.wishes) {
-    try {
-      farm.makeWish(readWish(wish, context));
-    } catch (const std::invalid_argument& error) {
-      throw Refusal("--wish " + quoteForMessage(wish) + ": " + error.what());
-    }
-  }
+  farm.makeWishes(readWishes("--wish", request.wishes, farm.wishContext()));
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "cli/Messages.h"
@@ -61,9 +62,7 @@ class TypedFarm {
   /// \throws RunTimeError (invalidCall) if no land split is chosen
   [[nodiscard]] WishContext wishContext();
 
-  /// Adds a wish.
-  /// \throws std::invalid_argument if there are too many
-  void makeWish(const Wish& wish) { addWish(mainPane().wishes, wish); }
+  void makeWishes(std::vector<Wish> wishes) { mainPane().wishes = std::move(wishes); }
 
   void keepMixes() { mainPane().mixes = true; }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <stdexcept>
 
 #include "cli/Messages.h"
 #include "model/LandDivision.h"
@@ -69,6 +70,19 @@ std::string unknownCrop(const CropNames& crops, std::string_view name) {
     text += (i == 0 ? " The crops are " : ", ") + quoteForMessage(crops[i]);
   }
   return text + (crops.empty() ? " The library is empty." : ".");
+}
+
+std::vector<Wish> readWishes(const std::string& option, const std::vector<std::string>& texts,
+                             const WishContext& context) {
+  std::vector<Wish> wishes;
+  for (const std::string& text : texts) {
+    try {
+      addWish(wishes, readWish(text, context));
+    } catch (const std::invalid_argument& error) {
+      throw Refusal(option + " " + quoteForMessage(text) + ": " + error.what());
+    }
+  }
+  return wishes;
 }
 
 }  // namespace verdalis

@@ -5,6 +5,9 @@
 #include <string>
 #include <vector>
 
+#include "cli/Messages.h"
+#include "text/quote.h"
+
 namespace verdalis {
 
 // Options whose value is a text exactly as typed. The conversions of the library would treat an empty text or
@@ -17,5 +20,15 @@ void addTextOption(CLI::App& app, const std::string& name, const std::string& pl
 /// Adds an option that may be given several times, each time with one value.
 void addTextOption(CLI::App& app, const std::string& name, const std::string& placeholder,
                    std::vector<std::string>& target, const std::string& description);
+
+/// Returns what `step` makes of the text of an option. A refusal then begins with the option as typed.
+template <class Step>
+auto applyOption(const std::string& option, const std::string& text, Step step) {
+  try {
+    return step();
+  } catch (const Refusal& refusal) {
+    throw Refusal(option + " " + quoteForMessage(text) + ": " + refusal.what());
+  }
+}
 
 }  // namespace verdalis

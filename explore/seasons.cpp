@@ -18,6 +18,9 @@ constexpr double rainStep = 3;    ///< Inches between the default seasons
 constexpr double leastRain = 11;  ///< Inches; lowest rain of the yield tables
 constexpr double mostRain = 21;   ///< Inches; highest rain of the yield tables
 
+/// Steps of the progress after the best plans of the seasons: pricing, the ranking, the safest plan.
+constexpr std::size_t searchSteps = 3;
+
 /// A plan with the data for comparing it.
 struct RankedPlan {
   SeasonPlan plan;
@@ -60,14 +63,17 @@ class SeasonSearch {
   SeasonSearch(const SeasonFarms& farms, const std::vector<Season>& seasons, RunPulse& pulse)
       : farms_(farms), question_(makeQuestion(farms, seasons)), search_(question_, pulse) {}
 
-  /// Runs the search.
+  /// Runs the search, in `searchSteps` steps.
   /// \returns false after a cancel.
-  [[nodiscard]] bool run(const std::vector<double>& bestProfits, SeasonsResult& result) {
+  [[nodiscard]] bool run(const std::vector<double>& bestProfits, SeasonsResult& result, RunHooks& hooks) {
     if (!search_.price()) return false;
+    hooks.update();
     const auto kept = search_.best();
     if (!kept) return false;
+    hooks.update();
     const auto safest = search_.safest(bestProfits);
     if (!safest) return false;
+    hooks.update();
     std::vector<RankedPlan> ranking;
     for (const KeptCandidate& candidate : *kept)
       ranking.push_back(planOf(candidate, bestProfits));
@@ -193,16 +199,20 @@ std::optional<SeasonsResult> exploreSeasons(const Farm& farm, const std::vector<
                                             ProgramState& state, RunHooks& hooks) {
   const SeasonFarms farms(farm, seasons);
   SeasonsResult result;
+  hooks.showProgress("Exploring Seasons");
+  hooks.setProgress(static_cast<double>(seasons.size() + searchSteps), "");
   std::vector<double> bestProfits;
   for (std::size_t season = 0; season < seasons.size(); ++season) {
     std::optional<Plan> best = bestPlan(farms.farm(season), state, hooks);
     if (!best) return std::nullopt;
     bestProfits.push_back(best->profit);
     result.seasons.push_back({seasons[season], std::move(*best)});
+    hooks.update();
   }
   RunPulse pulse(state, hooks);
   SeasonSearch search(farms, seasons, pulse);
-  if (!search.run(bestProfits, result)) return std::nullopt;
+  if (!search.run(bestProfits, result, hooks) || state.CancelRequested) return std::nullopt;
+  hooks.closeProgress();
   return result;
 }
 

@@ -43,7 +43,7 @@ struct SeasonsResult {
 [[nodiscard]] std::vector<Season> usualSeasons(double rain);
 
 /// Finds the plans with the best average over the seasons, and the safest plan, exactly, among all
-/// candidates.
+/// candidates. Shows its progress.
 /// \returns nothing after a cancel.
 /// \throws NoPlan, RunTimeError as the evaluation of a season does
 [[nodiscard]] std::optional<SeasonsResult> exploreSeasons(const Farm& farm,

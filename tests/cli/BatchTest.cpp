@@ -254,6 +254,26 @@ TEST(Batch, InvalidOptionsAreRefused) {
   EXPECT_EQ(runCli({"batch", home.path(), "--home", home.path()}).exitCode, 2) << "a folder";
 }
 
+TEST(Batch, WishesAreRefusedWithTheSameWordsAsByEvaluate) {
+  const SmallHome home;
+  const Args farm{"--crop", "Plain", "--split", "5"};
+  const auto refusal = [&](const std::string& wish) {
+    Args with = farm;
+    with.insert(with.end(), {"--wish", wish});
+    return home.evaluate(with).err;
+  };
+  Args unreadable = farm;
+  unreadable.insert(unreadable.end(), {"--wish", "more money"});
+  EXPECT_EQ(small(home, unreadable, "name\nA\n").err, refusal("more money"));
+  for (const std::string wish :
+       {"more money", "Rice at least 1 acre", "Half at least 1 acre", "field 2 is Plain"}) {
+    const CliResult row = small(home, farm, "wish\n" + wish + "\n");
+    EXPECT_EQ(row.exitCode, 1) << wish;
+    const std::string why = refusal(wish);
+    EXPECT_NE(row.err.find(why.substr(why.find("wish "))), std::string::npos) << row.err << why;
+  }
+}
+
 TEST(Batch, AnOutputThatCannotBeWrittenIsReported) {
   const SmallHome home;
   const CliResult result = small(home, {"--output", home.path() + "/none/x.csv"}, "name\nA\n");

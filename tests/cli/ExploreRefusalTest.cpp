@@ -89,6 +89,28 @@ TEST(ExploreRefusal, AMapRequiresTwoDifferentValidInputs) {
                   "Fallow has no maximum yield"));
 }
 
+TEST(ExploreRefusal, TheMessageNamesTheOptionAsTyped) {
+  const StockHome home;
+  const auto map = [&](const std::string& x) {
+    return refused(home, {"explore", "map"}, {"--x", x, "--y", "water=3:4:2"});
+  };
+  for (const char* text :
+       {"rain=twelve:13:2", "rain=12:thirteen:2", "rain=12:13:two", "rain=13:12:2", "rain=12:13:1",
+        "water=0.00:4:2", "efficiency=90:100.50:2", "price Corn=-1.0:2:2", "sun=1:2:2"}) {
+    EXPECT_TRUE(has(map(text), "--x \"" + std::string(text) + "\": ")) << map(text);
+  }
+  const auto seasons = [&](const std::string& season) {
+    return refused(home, {"explore", "seasons"}, {"--season", season, "--season", "wet:13:1"});
+  };
+  for (const char* text : {"dry:x:1", "dry:12:heavy", "dry:12:0.0"})
+    EXPECT_TRUE(has(seasons(text), "--season \"" + std::string(text) + "\": ")) << seasons(text);
+  EXPECT_TRUE(has(refused(home, {"explore", "water"}, {"--from", "0.00", "--to", "4", "--steps", "2"}),
+                  "--from \"0.00\": "));
+  const Args little{"--set", "txtArea=1", "--set", "txtMax=1", "--by", "99.0"};
+  EXPECT_TRUE(has(refused(home, {"explore", "inputs"}, little), "--by \"99.0\": "));
+  EXPECT_TRUE(has(refused(home, {"explore", "inputs"}, {"--by", "100.0"}), "--by \"100.0\": "));
+}
+
 TEST(ExploreRefusal, ValuesMustBeInTheRangesOfTheWindow) {
   const StockHome home;
   const auto x = [&](const std::string& text) {

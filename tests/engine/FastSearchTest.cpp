@@ -44,16 +44,7 @@ std::vector<std::string> bytesOf(const std::vector<BestMix::Option>& options) {
 void submitUndivided(const RandomFarm& farm, BestMix& best) {
   const SearchInputs inputs = farm.inputs();
   for (const auto& crop : farm.crops()) {
-    auto field = std::make_shared<Field>();
-    field->theCrop = std::make_shared<Crop>(crop->Copy());
-    field->acres = farm.acres();
-    field->annualRain = inputs.rain;
-    field->Depth = crop->cropType == "Fallow" ? 0 : farm.netVolume() / farm.acres();
-    double depth = field->Depth;
-    field->theCrop->setYield(depth, inputs.rain);
-    field->irrigCosts = std::make_shared<IrrigationCosts>(inputs.irrigationCosts);
-    FieldCollection candidate;
-    candidate.Add(std::move(field));
+    FieldCollection candidate = reference::undividedCandidate(*crop, farm.acres(), farm.netVolume(), inputs);
     best.submit(candidate);
   }
 }

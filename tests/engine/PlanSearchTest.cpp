@@ -10,10 +10,16 @@
 #include <string>
 #include <vector>
 
+#include "engine/Farm.h"
+#include "engine/MakingSplits.h"
 #include "engine/PlanSearch.h"
+#include "model/LandDivision.h"
+#include "tests/reference/PlainEvaluator.h"
 #include "tests/reference/PlainPlans.h"
 #include "tests/reference/RandomFarm.h"
+#include "tests/support/Crops.h"
 #include "tests/support/Plant.h"
+#include "text/RunTimeError.h"
 
 namespace verdalis {
 namespace {
@@ -77,7 +83,8 @@ Wish randomWish(const RandomFarm& farm, Random& random) {
   return wish;
 }
 
-/// The farm in several years with different rain, and so with different yields.
+/// The farm in several years with different rain, and so with different yields. In some years prices are far
+/// higher, and so are rounding errors.
 class Years {
  public:
   Years(const RandomFarm& farm, std::size_t count, Random& random) : farm_(farm) {
@@ -85,9 +92,11 @@ class Years {
     for (std::size_t year = 0; year < count; ++year) {
       const double rain =
           year == 0 ? inputs.rain : std::clamp(inputs.rain + random.between(-4, 4), 11.0, 21.0);
+      const double priceRise = year > 0 && random.below(4) == 0 ? 3e4 : 1;
       CropScenario crops;
       for (const auto& crop : farm.crops()) {
         crops.Add(std::make_shared<Crop>(crop->Copy()));
+        crops.Item(crops.Count())->price *= priceRise;
         if (year > 0) crops.Item(crops.Count())->setNormal(crop->maxYield, rain);
       }
       combinations_.push_back(std::make_unique<CropCombinations>(crops, inputs.landSplit.Count()));
@@ -242,6 +251,117 @@ INSTANTIATE_TEST_SUITE_P(All, PlanSearchOn,
                                            FarmKind::equalGains, FarmKind::equalGainsNoPlant,
                                            FarmKind::linearYields, FarmKind::fewCandidates),
                          [](const auto& test) { return std::string(name(test.param)); });
+
+/// A farm whose crops differ in their names. Many of them cost and return the same.
+Scenario farmWithNamedTwins(Random& random) {
+  Farm farm;
+  farm.acres = 100;
+  farm.division = landDivision(random.below(landDivisions().size()));
+  farm.efficiency = 85;
+  farm.plant = testing::defaultPlant();
+  farm.factor = static_cast<std::int16_t>(1 + random.below(3));
+  const std::size_t crops = 2 + random.below(farm.division.Count() > 3 ? 3 : 5);
+  for (std::size_t i = 0; i < crops; ++i) {
+    Crop crop = testing::namedCrop("Crop " + std::to_string(i));
+    crop.setYieldTable(
+        testing::tableThrough({{0, std::vector<double>(11, 10)}, {20, std::vector<double>(11, 60)}}));
+    crop.maxYield = 60;
+    crop.price = static_cast<double>(2 + random.below(2));
+    farm.crops.Add(std::make_shared<Crop>(std::move(crop)));
+  }
+  farm.takeWater(static_cast<double>(random.below(12)));
+  farm.takeRain(16);
+  return scenarioOf(farm);
+}
+
+TEST(PlanSearch, TwinsOfDifferentNamesMakeDifferentMixes) {
+  const std::vector<std::vector<Wish>> wishes{{},
+                                              {{Wish::Kind::cropsAtLeast, "", 0, 2}},
+                                              {{Wish::Kind::cropsAtMost, "", 0, 2}},
+                                              {{Wish::Kind::acresAtMost, "Crop 1", 0, 50}}};
+  for (std::uint64_t seed = firstSeed(); seed < firstSeed() + 400; ++seed) {
+    SCOPED_TRACE("farm " + std::to_string(seed));
+    Random random(seed);
+    const Scenario scenario = farmWithNamedTwins(random);
+    const SearchInputs inputs = scenario.searchInputs();
+    const PlanQuestion asked{
+        {inputs}, {}, wishes[random.below(wishes.size())], random.below(4) != 0, 1 + random.below(20)};
+    ProgramState state;
+    RunHooks hooks;
+    RunPulse pulse(state, hooks);
+    PlanSearch search(asked, pulse);
+    ASSERT_TRUE(search.price());
+    const auto kept = search.best();
+    ASSERT_TRUE(kept);
+    const std::vector<PlainPlan> plans = reference::allPlans({inputs});
+    const auto ranking = reference::rankPlans(plans, {}, asked.wishes, asked.mixes);
+    ASSERT_EQ(textsOf(*kept, inputs.combinations), textsOf(plans, ranking, {}, asked.places));
+  }
+}
+
+/// The profits of all candidates that meet the wishes, season by season.
+/// \throws RunTimeError for the first that cannot be priced
+std::vector<std::vector<double>> plainProfits(const PlanQuestion& question) {
+  std::vector<std::vector<double>> profits;
+  for (const SearchInputs& inputs : question.seasons) {
+    std::vector<double>& own = profits.emplace_back();
+    reference::forEachCandidate(inputs, question.wishes, [&](FieldCollection& candidate) {
+      own.push_back(candidate.getProfit(inputs.efficiency));
+    });
+  }
+  return profits;
+}
+
+TEST(PlanSearch, FaultyFarmsFailAtTheSameCandidateAsAFullEnumeration) {
+  std::size_t failed = 0;
+  std::size_t ranked = 0;
+  for (std::uint64_t seed = firstSeed(); seed < firstSeed() + 1500; ++seed) {
+    SCOPED_TRACE("farm " + std::to_string(seed));
+    const RandomFarm farm(FarmKind::faulty, seed, 200);
+    const ScopedEfficiency efficiency(farm.efficiency());
+    Random random(seed);
+    const Years years(farm, 1 + random.below(3), random);
+    PlanQuestion asked{years.inputs(), {}, randomWishes(farm, random, 4), false, 3};
+    asked.weights.assign(asked.seasons.size(), 1);
+
+    std::string expected;
+    std::vector<double> averages;
+    try {
+      const std::vector<std::vector<double>> profits = plainProfits(asked);
+      for (std::size_t i = 0; i < profits.front().size(); ++i) {
+        PlainPlan plan;
+        for (const std::vector<double>& season : profits)
+          plan.profits.push_back(season[i]);
+        averages.push_back(reference::averageOf(plan, asked.weights));
+      }
+      std::sort(averages.rbegin(), averages.rend());
+      if (averages.size() > asked.places) averages.resize(asked.places);
+    } catch (const RunTimeError& error) {
+      expected = error.what();
+    }
+
+    ProgramState state;
+    RunHooks hooks;
+    RunPulse pulse(state, hooks);
+    PlanSearch search(asked, pulse);
+    std::string told;
+    std::vector<double> found;
+    try {
+      ASSERT_TRUE(search.price());
+      const auto kept = search.best();
+      ASSERT_TRUE(kept);
+      for (const KeptCandidate& candidate : *kept)
+        found.push_back(candidate.profit);
+    } catch (const RunTimeError& error) {
+      told = error.what();
+    }
+    ASSERT_EQ(told, expected);
+    ASSERT_EQ(found, averages);
+    ++(expected.empty() ? ranked : failed);
+  }
+  EXPECT_GT(failed, 100U);
+  EXPECT_GT(ranked, 100U);
+}
 
 }  // namespace
 }  // namespace verdalis

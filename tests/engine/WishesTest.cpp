@@ -9,12 +9,11 @@
 #include <utility>
 #include <vector>
 
-#include "engine/CandidateBuilder.h"
 #include "engine/WaterPaths.h"
 #include "engine/evaluateScenario.h"
 #include "engine/meetsWishes.h"
 #include "engine/relaxWishes.h"
-#include "tests/reference/OptionBytes.h"
+#include "tests/reference/PlainEvaluator.h"
 #include "tests/reference/PlainPlans.h"
 #include "tests/reference/RandomFarm.h"
 #include "tests/support/Plant.h"
@@ -23,7 +22,6 @@ namespace verdalis {
 namespace {
 
 using reference::FarmKind;
-using reference::PlainPlan;
 using reference::RandomFarm;
 using testing::ScopedEfficiency;
 
@@ -117,40 +115,13 @@ Scenario scenarioOf(const RandomFarm& farm, std::vector<Wish> wishes, bool noSpl
           inputs.size,  noSplit,          std::move(wishes),   mixes};
 }
 
-/// All candidates that meet the wishes, including those of the undivided farm, in the order of submission.
+/// All candidates that meet the wishes, including those of the undivided farm, best first.
 std::vector<BestMix::Option> allOptions(const Scenario& scenario) {
   std::vector<BestMix::Option> options;
-  const auto take = [&](FieldCollection& candidate) {
-    PlainPlan plan;
-    for (const auto& field : candidate)
-      plan.fields.push_back({field->acres, field->theCrop->cropType, field->Depth / scenario.efficiency});
-    if (!reference::meetsAll(plan, scenario.wishes)) return;
+  reference::forEachCandidate(scenario, [&](FieldCollection& candidate) {
     static_cast<void>(candidate.getProfit(scenario.efficiency));
     options.push_back(std::make_shared<FieldCollection>(candidate.Copy()));
-  };
-  const SearchInputs inputs = scenario.searchInputs();
-  CandidateBuilder builder(inputs);
-  std::vector<std::size_t> crops;
-  for (long split = 1; split <= scenario.depths.Count(); ++split) {
-    for (std::uint64_t combination = 0; combination < scenario.combinations.Count(); ++combination) {
-      scenario.combinations.positions(combination, crops);
-      take(builder.build(scenario.depths.Item(split), crops));
-    }
-  }
-  const auto plant = std::make_shared<IrrigationCosts>(scenario.plant.Copy());
-  for (std::size_t i = 0; scenario.noSplit && i < scenario.combinations.crops().size(); ++i) {
-    auto field = std::make_shared<Field>();
-    *field->theCrop = scenario.combinations.crops()[i]->Copy();
-    field->acres = scenario.acres;
-    field->annualRain = scenario.rain;
-    field->Depth = field->theCrop->cropType == "Fallow" ? 0 : scenario.netVolume / scenario.acres;
-    double depth = field->Depth;
-    field->theCrop->setYield(depth, scenario.rain);
-    *field->irrigCosts = plant->Copy();
-    FieldCollection candidate;
-    candidate.Add(field);
-    take(candidate);
-  }
+  });
   std::reverse(options.begin(), options.end());
   std::stable_sort(options.begin(), options.end(), [&](const auto& a, const auto& b) {
     return a->getProfit(scenario.efficiency) > b->getProfit(scenario.efficiency);
@@ -216,6 +187,7 @@ TEST_P(WishesOn, EvaluationsRankTheUndividedFarmLikeAFullEnumeration) {
       RunHooks hooks;
       auto best = evaluateScenario(scenario, state, hooks);
       ASSERT_TRUE(best);
+      EXPECT_EQ(best->LowEnd, best->Copy().returnCollection(false).back()->getProfit(scenario.efficiency));
       std::vector<BestMix::Option> plain = allOptions(scenario);
       if (scenario.mixes) plain = oneOfEachMix(plain);
       const auto size = static_cast<std::size_t>(scenario.size);
@@ -234,16 +206,15 @@ TEST_P(WishesOn, EvaluationsRankTheUndividedFarmLikeAFullEnumeration) {
         for (std::size_t set = 0; set < std::size_t{1} << scenario.wishes.size(); ++set) {
           Scenario relaxed = scenario;
           relaxed.wishes.clear();
-          for (std::size_t i = 0; i < scenario.wishes.size(); ++i) {
-            if ((set >> i & 1U) == 0) relaxed.wishes.push_back(scenario.wishes[i]);
-          }
-          if (scenario.wishes.size() - relaxed.wishes.size() != given) continue;
+          std::vector<Wish> without;
+          for (std::size_t i = 0; i < scenario.wishes.size(); ++i)
+            ((set >> i & 1U) == 0 ? relaxed.wishes : without).push_back(scenario.wishes[i]);
+          if (without.size() != given) continue;
           const auto left = allOptions(relaxed);
           if (left.empty()) continue;
           ++sets;
           EXPECT_TRUE(std::any_of(relaxations->begin(), relaxations->end(), [&](const Relaxation& found) {
-            return found.without.size() == given &&
-                   found.profit == left.front()->getProfit(scenario.efficiency);
+            return found.without == without && found.profit == left.front()->getProfit(scenario.efficiency);
           }));
         }
       }

@@ -9,6 +9,7 @@
 #include "explore/inputs.h"
 #include "explore/water.h"
 #include "tests/explore/SmallFarm.h"
+#include "tests/explore/Steps.h"
 #include "text/RunTimeError.h"
 
 // Questions that solve many points. Each point must be the best plan of a farm with that input, for any
@@ -18,27 +19,11 @@ namespace verdalis {
 namespace {
 
 using testing::smallFarm;
+using testing::Steps;
 using testing::twoCropFarm;
 using Kind = FarmInput::Kind;
 
 constexpr unsigned manyJobs = 5;
-
-/// Counts the steps, and cancels at a given step.
-class Steps : public RunHooks {
- public:
-  explicit Steps(ProgramState& state, int cancelAt = -1) : state_(state), cancelAt_(cancelAt) {}
-  void setProgress(double steps, const std::string& /*description*/) override { announced = steps; }
-  void update() override {
-    if (++done == cancelAt_) state_.CancelRequested = true;
-  }
-
-  double announced = 0;
-  int done = 0;
-
- private:
-  ProgramState& state_;
-  int cancelAt_;
-};
 
 std::string numberOf(std::size_t point) {
   return "point " + std::to_string(point);
@@ -60,6 +45,15 @@ Plan planAt(const Farm& farm, const FarmInput& input, double value) {
   ProgramState state;
   RunHooks hooks;
   return bestPlan(withInput(farm, input, value), state, hooks).value();
+}
+
+TEST(EvenValues, AreCalculatedFromTheirNumber) {
+  const std::vector<double> values = evenValues(0.1, 0.7, 8);
+  ASSERT_EQ(values.size(), 8U);
+  for (std::size_t i = 0; i + 1 < 8; ++i)
+    EXPECT_EQ(values[i], 0.1 + (0.7 - 0.1) * static_cast<double>(i) / 7);
+  for (std::size_t count = 2; count < 200; ++count)
+    EXPECT_EQ(evenValues(0.1, 0.7, count).back(), 0.7);
 }
 
 TEST(BestPlans, DoNotDependOnTheNumberOfThreads) {
@@ -133,6 +127,7 @@ TEST(BestPlans, AnExceptionInTheHooksEndsTheSearch) {
 TEST(ExploreWater, DefaultAmountsDoNotRoundToZero) {
   Farm farm = twoCropFarm();
   EXPECT_EQ(usualAmounts(farm).size(), 20);
+  EXPECT_EQ(usualAmounts(farm).front(), 1.2);
   EXPECT_EQ(usualAmounts(farm).back(), 24);
   farm.acres = 0.3;
   farm.takeWater(4);
@@ -151,6 +146,43 @@ TEST(ExploreWater, MostIsTheFirstOfEqualHighestPoints) {
   ASSERT_TRUE(result);
   EXPECT_EQ(result->most, 1);
   EXPECT_EQ(hooks.announced, hooks.done);
+}
+
+TEST(ExploreWater, NextAndLastInchAreDifferencesOfBestProfitsPerAcre) {
+  for (const double gross : {12.0, 2.25, 1.0, 0.75, 0.25}) {
+    SCOPED_TRACE(gross);
+    Farm farm = twoCropFarm();
+    farm.takeWater(gross);
+    ProgramState state;
+    RunHooks hooks;
+    const auto result = exploreWater(farm, {3, 5}, state, hooks);
+    ASSERT_TRUE(result);
+    const auto bestWith = [&](double inches) { return planAt(farm, {Kind::water, {}}, inches).profit; };
+    EXPECT_EQ(result->now.gross, gross);
+    EXPECT_EQ(result->now.best.profit, bestWith(gross));
+    EXPECT_EQ(result->nextInch, (bestWith(gross + 1) - bestWith(gross)) / farm.acres);
+    ASSERT_EQ(result->lastInch.has_value(), gross > 1) << "the rest must be water";
+    if (gross > 1) {
+      EXPECT_EQ(*result->lastInch, (bestWith(gross) - bestWith(gross - 1)) / farm.acres);
+    }
+    ASSERT_EQ(result->points.size(), 2U);
+    EXPECT_EQ(result->points[0].best.profit, bestWith(3));
+    EXPECT_EQ(result->points[1].best.profit, bestWith(5));
+  }
+}
+
+TEST(ExploreWater, AFarmWithoutPlansLacksNoWish) {
+  Farm farm = twoCropFarm();
+  farm.crops = CropScenario();
+  ProgramState state;
+  RunHooks hooks;
+  try {
+    static_cast<void>(exploreWater(farm, {3, 5}, state, hooks));
+    ADD_FAILURE() << "there is no crop";
+  } catch (const NoPlan& noPlan) {
+    EXPECT_FALSE(noPlan.hasWishes());
+    EXPECT_EQ(noPlan.where(), "water 12");
+  }
 }
 
 TEST(ExploreWater, LastInchIsEmptyIfAWishRequiresIt) {
@@ -203,9 +235,65 @@ TEST(ExploreInputs, EachChangedValueGivesTheBestPlanOfThatFarm) {
     for (const InputEffect& effect : result->inputs) {
       EXPECT_EQ(effect.profitLow, planAt(farm, effect.input, effect.low).profit);
       EXPECT_EQ(effect.profitHigh, planAt(farm, effect.input, effect.high).profit);
+      const auto mixAt = [&](double value) { return mixOf(planAt(farm, effect.input, value)); };
+      EXPECT_EQ(effect.changesPlan,
+                mixAt(effect.low) != mixOf(result->now) || mixAt(effect.high) != mixOf(result->now));
+      EXPECT_EQ(effect.now, valueOf(farm, effect.input));
+      if (effect.input.kind != Kind::rain) {
+        EXPECT_NEAR(effect.low, effect.now * 0.925, 1e-9 * effect.now);
+      }
+      if (effect.input.kind != Kind::rain && effect.input.kind != Kind::efficiency) {
+        EXPECT_NEAR(effect.high, effect.now * 1.075, 1e-9 * effect.now);
+      }
       EXPECT_LE(effect.low, effect.high);
       EXPECT_TRUE(effect.input.kind != Kind::efficiency || effect.high <= 90);
       EXPECT_TRUE(effect.input.kind != Kind::rain || effect.low >= 11);
+    }
+  }
+}
+
+TEST(ExploreInputs, AreSortedByTheLargerChange) {
+  ProgramState state;
+  RunHooks hooks;
+  // The last inputs only gain or only lose.
+  const auto bounds = [](const FarmInput& input) {
+    if (input == FarmInput{Kind::price, "Corn"}) return InputBounds{6.52, {}};
+    if (input == FarmInput{Kind::price, "Wheat"}) return InputBounds{{}, 6.2};
+    if (input.kind == Kind::water) return InputBounds{{}, 12};
+    return InputBounds{};
+  };
+  const auto result = exploreInputs(twoCropFarm(), 30, bounds, state, hooks);
+  ASSERT_TRUE(result);
+  std::vector<double> changes;
+  for (const InputEffect& effect : result->inputs) {
+    changes.push_back(std::max(std::fabs(effect.profitLow - result->now.profit),
+                               std::fabs(effect.profitHigh - result->now.profit)));
+    if (effect.input == FarmInput{Kind::price, "Corn"}) {
+      EXPECT_EQ(effect.low, 6.52);
+    }
+    if (effect.input.kind == Kind::water) {
+      EXPECT_EQ(effect.high, 12);
+    }
+    if (effect.input.kind == Kind::rain) {
+      EXPECT_EQ(effect.high, 16 * 1.3);
+    }
+  }
+  EXPECT_TRUE(std::is_sorted(changes.rbegin(), changes.rend()));
+}
+
+TEST(ExploreInputs, RainIsHeldWithinTheYieldTables) {
+  Farm farm = twoCropFarm();
+  for (const double rain : {12.0, 20.0}) {
+    farm.takeRain(rain);
+    ProgramState state;
+    RunHooks hooks;
+    const auto result = exploreInputs(
+        farm, 30, [](const FarmInput&) { return InputBounds(); }, state, hooks);
+    ASSERT_TRUE(result);
+    for (const InputEffect& effect : result->inputs) {
+      if (effect.input.kind != Kind::rain) continue;
+      EXPECT_EQ(effect.low, std::max(11.0, rain - rain * 30 / 100));
+      EXPECT_EQ(effect.high, std::min(21.0, rain + rain * 30 / 100));
     }
   }
 }
@@ -232,7 +320,7 @@ TEST(ExploreInputs, EqualChangesKeepTheOrderOfTheInputs) {
 
 TEST(ExploreMap, EachPointIsTheBestPlanAndEachMixIsListedOnce) {
   const Farm farm = twoCropFarm();
-  const MapAxis x{{Kind::price, "Corn"}, evenValues(2, 8, 4)};
+  const MapAxis x{{Kind::price, "Corn"}, evenValues(0, 9, 4)};
   const MapAxis y{{Kind::rain, {}}, evenValues(12, 20, 3)};
   ProgramState state;
   Steps hooks(state);
@@ -252,8 +340,25 @@ TEST(ExploreMap, EachPointIsTheBestPlanAndEachMixIsListedOnce) {
     if (mix == newest) ++newest;
   }
   EXPECT_EQ(newest, map->mixes.size());
+  EXPECT_GE(newest, 2U);
   for (std::size_t i = 0; i < map->mixes.size(); ++i)
     EXPECT_EQ(std::count(map->mixes.begin(), map->mixes.end(), map->mixes[i]), 1);
+}
+
+TEST(ExploreMap, APointWithoutAPlanIsNamedByBothInputs) {
+  Farm farm = twoCropFarm();
+  farm.wishes = {{Wish::Kind::depthAtLeast, "", 1, 30}};
+  const MapAxis x{{Kind::price, "Corn"}, {4, 5, 6}};
+  const MapAxis y{{Kind::water, {}}, {12, 7}};  // 28 inches at most on a quarter of the farm
+  ProgramState state;
+  RunHooks hooks;
+  try {
+    static_cast<void>(exploreMap(farm, x, y, state, hooks));
+    ADD_FAILURE() << "7 inches are not enough";
+  } catch (const NoPlan& noPlan) {
+    EXPECT_TRUE(noPlan.hasWishes());
+    EXPECT_EQ(noPlan.where(), "price Corn 4, water 7");
+  }
 }
 
 TEST(ExploreMap, YieldAndRainCanBeEitherAxis) {

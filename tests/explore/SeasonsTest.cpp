@@ -10,11 +10,11 @@
 #include <string>
 #include <vector>
 
-#include "engine/CandidateBuilder.h"
 #include "engine/evaluateScenario.h"
-#include "engine/meetsWishes.h"
 #include "explore/seasons.h"
 #include "tests/explore/SmallFarm.h"
+#include "tests/explore/Steps.h"
+#include "tests/reference/PlainEvaluator.h"
 
 namespace verdalis {
 namespace {
@@ -45,8 +45,7 @@ std::vector<PlainSeasonPlan> allPlans(const Farm& farm, const std::vector<Season
     changed.takeRain(seasons[season].rain);
     const Scenario scenario = scenarioOf(changed);
     std::size_t place = 0;
-    const auto take = [&](FieldCollection& candidate) {
-      if (!meetsWishes(farm.wishes, wishedFields(candidate, scenario.efficiency))) return;
+    reference::forEachCandidate(scenario, [&](FieldCollection& candidate) {
       if (season == 0) {
         plans.emplace_back();
         for (const auto& field : candidate) {
@@ -56,29 +55,7 @@ std::vector<PlainSeasonPlan> allPlans(const Farm& farm, const std::vector<Season
       }
       PlainSeasonPlan& plan = plans.at(place++);
       plan.profits.push_back(profitAndYields(candidate, scenario.efficiency, plan.yields.emplace_back()));
-    };
-    const SearchInputs inputs = scenario.searchInputs();
-    CandidateBuilder builder(inputs);
-    std::vector<std::size_t> crops;
-    for (long split = 1; split <= scenario.depths.Count(); ++split) {
-      for (std::uint64_t combination = 0; combination < scenario.combinations.Count(); ++combination) {
-        scenario.combinations.positions(combination, crops);
-        take(builder.build(scenario.depths.Item(split), crops));
-      }
-    }
-    for (std::size_t i = 0; farm.noSplit && i < scenario.combinations.crops().size(); ++i) {
-      auto field = std::make_shared<Field>();
-      *field->theCrop = scenario.combinations.crops()[i]->Copy();
-      field->acres = scenario.acres;
-      field->annualRain = scenario.rain;
-      field->Depth = field->theCrop->cropType == "Fallow" ? 0 : scenario.netVolume / scenario.acres;
-      double depth = field->Depth;
-      field->theCrop->setYield(depth, scenario.rain);
-      *field->irrigCosts = scenario.plant.Copy();
-      FieldCollection candidate;
-      candidate.Add(field);
-      take(candidate);
-    }
+    });
   }
   for (PlainSeasonPlan& plan : plans) {
     double sum = 0;
@@ -181,6 +158,37 @@ TEST(ExploreSeasons, RanksByAverageAndFindsTheSafestLikeAFullEnumeration) {
   }
 }
 
+TEST(ExploreSeasons, EqualPlansAreDuplicatesIfTheyLookAlikeInEverySeason) {
+  // Two rows that earn nothing on one field.
+  const auto optionsOf = [](const std::string& secondName, double secondYieldInWetYears) {
+    Farm farm;
+    farm.acres = 100;
+    farm.division = landDivision(5);
+    farm.efficiency = 100;
+    farm.plant.active = false;
+    for (int row = 0; row < 2; ++row) {
+      Crop crop = testing::namedCrop(row == 0 ? "Clover" : secondName);
+      const std::vector<double> yields(11, 10);
+      YieldTable table = testing::tableThrough({{0, yields}, {20, yields}});
+      if (row == 1) table.setCell(12, 18, secondYieldInWetYears);
+      crop.setYieldTable(table);
+      crop.maxYield = 10;
+      farm.crops.Add(std::make_shared<Crop>(crop));
+    }
+    farm.factor = 1;
+    farm.size = 2;
+    farm.takeWater(12);
+    farm.takeRain(12);
+    ProgramState state;
+    RunHooks hooks;
+    const auto result = exploreSeasons(farm, {{"dry", 12, 1}, {"wet", 18, 1}}, state, hooks);
+    return result ? result->options.size() : 0;
+  };
+  EXPECT_EQ(optionsOf("Clover", 10), 1U);
+  EXPECT_EQ(optionsOf("Clover", 4), 2U);
+  EXPECT_EQ(optionsOf("Vetch", 10), 2U);
+}
+
 TEST(ExploreSeasons, IdenticalSeasonsGiveTheRankingOfAnEvaluation) {
   for (std::uint64_t seed = 0; seed < 100; ++seed) {
     const Farm farm = smallFarm(seed);
@@ -215,6 +223,22 @@ TEST(ExploreSeasons, UsualSeasonsAreLimitedToTheYieldTables) {
   EXPECT_EQ(rains(20.5), (std::vector<double>{17.5, 20.5, 21}));
   EXPECT_EQ(usualSeasons(16)[1].weight, 2);
   EXPECT_EQ(usualSeasons(16)[0].name, "dry");
+}
+
+TEST(ExploreSeasons, ProgressReachesItsEnd) {
+  ProgramState state;
+  testing::Steps hooks(state);
+  ASSERT_TRUE(exploreSeasons(twoCropFarm(), usualSeasons(16), state, hooks));
+  EXPECT_GT(hooks.announced, 3);
+  EXPECT_EQ(hooks.done, hooks.announced);
+}
+
+TEST(ExploreSeasons, ACancelAtAnyStepGivesNoResult) {
+  for (int step = 1; step <= 5; ++step) {
+    ProgramState state;
+    testing::Steps hooks(state, step);
+    EXPECT_FALSE(exploreSeasons(twoCropFarm(), usualSeasons(16), state, hooks)) << step;
+  }
 }
 
 TEST(ExploreSeasons, ACancelGivesNoResult) {

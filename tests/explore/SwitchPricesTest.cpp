@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <memory>
 #include <optional>
 #include <random>
 #include <string>
@@ -300,6 +301,96 @@ TEST(SwitchPrices, PricesPlansOfAFarmWithoutCosts) {
   farm.plant = {};
   farm.noSplit = true;
   EXPECT_FALSE(segmentsOf(farm, {{FarmInput::Kind::price, "Corn"}, 0, 10}).empty());
+}
+
+/// A row of Corn with the same yield for any water.
+struct Row {
+  double yield;
+  double returns;  ///< Dollars per acre besides the sales
+  double costs;    ///< Dollars per acre
+};
+
+/// One field of 100 acres. The profit of a row is a line in the price of Corn.
+Farm farmOfRows(const std::vector<Row>& rows) {
+  Farm farm;
+  farm.acres = 100;
+  farm.division = landDivision(5);
+  farm.efficiency = 100;
+  farm.plant.active = false;
+  for (const Row& row : rows) {
+    Crop crop = testing::namedCrop("Corn");
+    crop.setYieldTable(testing::tableOf(11, {std::vector<double>(11, row.yield)}));
+    crop.maxYield = row.yield;
+    crop.inputCosts.Returns = row.returns;
+    crop.inputCosts.MiscCost = row.costs;
+    farm.crops.Add(std::make_shared<Crop>(crop));
+  }
+  farm.factor = 1;
+  farm.size = 5;
+  farm.takeWater(12);
+  farm.takeRain(16);
+  return farm;
+}
+
+std::vector<double> endsOf(const std::vector<SwitchSegment>& segments) {
+  std::vector<double> ends;
+  for (const SwitchSegment& segment : segments)
+    ends.push_back(segment.to);
+  return ends;
+}
+
+TEST(SwitchPrices, APlanThatIsBestOnlyAtAnEndHasNoSegment) {
+  // In both orders, so that either of two equal plans is found first.
+  for (const bool turned : {false, true}) {
+    std::vector<Row> atTo{{2, 798, 0}, {50, 500, 0}, {100, 0, 0}};    // the last two are equal at $10
+    std::vector<Row> atFrom{{2, 500, 0}, {50, 500, 0}, {100, 0, 0}};  // the first two are equal at $0
+    if (turned) {
+      std::reverse(atTo.begin(), atTo.end());
+      std::reverse(atFrom.begin(), atFrom.end());
+    }
+    const auto left = segmentsOf(farmOfRows(atTo), {{FarmInput::Kind::price, "Corn"}, 0, 10});
+    ASSERT_EQ(left.size(), 2U);
+    EXPECT_NEAR(left[0].to, 298.0 / 48, 1e-9);
+    EXPECT_EQ(left[0].fields[0].yield, 2);
+    EXPECT_EQ(left[1].fields[0].yield, 50);
+    const auto right = segmentsOf(farmOfRows(atFrom), {{FarmInput::Kind::price, "Corn"}, 0, 20});
+    ASSERT_EQ(right.size(), 2U);
+    EXPECT_NEAR(right[0].to, 10, 1e-9);
+    EXPECT_EQ(right[0].fields[0].yield, 50);
+    EXPECT_EQ(right[1].fields[0].yield, 100);
+  }
+}
+
+TEST(SwitchPrices, APlanThatIsBetterAtAnEndByARoundingErrorHasNoSegment) {
+  const Farm atFrom = farmOfRows({{2, std::nextafter(500, 501), 0}, {50, 500, 0}});
+  const Range range{{FarmInput::Kind::price, "Corn"}, 0, 10};
+  const auto first = segmentsOf(atFrom, range);
+  ASSERT_EQ(first.size(), 1U);
+  EXPECT_EQ(first[0].fields[0].yield, 50);
+  EXPECT_EQ(first[0].profitFrom, bestAt(atFrom, range, 0).profit);
+  const Farm atTo = farmOfRows({{50, 500, 0}, {100, 3e-13, 0}});
+  const auto last = segmentsOf(atTo, range);
+  ASSERT_EQ(last.size(), 1U);
+  EXPECT_EQ(last[0].fields[0].yield, 50);
+  EXPECT_EQ(last[0].profitTo, bestAt(atTo, range, 10).profit);
+}
+
+TEST(SwitchPrices, LinesAreOneIfTheyAreNowhereFartherApartThanABillionthOfAThousandth) {
+  // The second row earns more above $5, by half of `more` of the profit at $10.
+  const auto rowsApart = [](double more) {
+    return farmOfRows({{100, 0, 0}, {100 * (1 + more), 0, 5 * 100 * more}});
+  };
+  const Range range{{FarmInput::Kind::price, "Corn"}, 0, 10};
+  for (const double more : {1e-4, 1e-7, 1e-9, 1e-11}) {
+    const std::vector<double> ends = endsOf(segmentsOf(rowsApart(more), range));
+    ASSERT_EQ(ends.size(), 2U) << more;
+    EXPECT_NEAR(ends[0], 5, std::max(sharp * 10, 1e-14 / more)) << more;
+  }
+  const Farm farm = rowsApart(2e-13);
+  const std::vector<SwitchSegment> segments = segmentsOf(farm, range);
+  ASSERT_EQ(segments.size(), 1U);
+  EXPECT_EQ(segments[0].profitFrom, bestAt(farm, range, range.from).profit);
+  EXPECT_EQ(segments[0].profitTo, bestAt(farm, range, range.to).profit);
 }
 
 TEST(SwitchPrices, ACancelGivesNoResult) {

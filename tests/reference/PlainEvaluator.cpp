@@ -6,9 +6,38 @@
 #include <utility>
 
 #include "model/EfficiencyFraction.h"
+#include "tests/reference/PlainPlans.h"
 
 namespace verdalis::reference {
 namespace {
+
+void setYields(FieldCollection& candidate, const SearchInputs& inputs) {
+  for (const auto& field : candidate) {
+    double depth = field->Depth;
+    field->theCrop->setYield(depth, inputs.rain);
+  }
+}
+
+/// A crop on the whole farm, without a yield.
+FieldCollection plantUndivided(const Crop& crop, double acres, double netVolume, const SearchInputs& inputs) {
+  auto field = std::make_shared<Field>();
+  *field->theCrop = crop.Copy();
+  *field->irrigCosts = inputs.irrigationCosts.Copy();
+  field->acres = acres;
+  field->annualRain = inputs.rain;
+  field->Depth = crop.cropType == "Fallow" ? 0 : netVolume / acres;
+  FieldCollection candidate;
+  candidate.Add(std::move(field));
+  return candidate;
+}
+
+/// Takes a candidate if it meets the wishes. The others need not have a yield.
+void takeIfWished(FieldCollection& candidate, const SearchInputs& inputs, const std::vector<Wish>& wishes,
+                  const TakeCandidate& take) {
+  if (!meetsAll(plainPlan(candidate, inputs.efficiency), wishes)) return;
+  setYields(candidate, inputs);
+  take(candidate);
+}
 
 /// The single candidate used for every pair. Its objects are created once and overwritten completely.
 class ReusedCandidate {
@@ -23,6 +52,12 @@ class ReusedCandidate {
   }
 
   FieldCollection& build(const Split& depths, std::uint64_t combination) {
+    setYields(plant(depths, combination), inputs_);
+    return candidate_;
+  }
+
+  /// The candidate without yields.
+  FieldCollection& plant(const Split& depths, std::uint64_t combination) {
     inputs_.combinations.positions(combination, crops_);
     candidate_.TotalCost = 0;
     for (std::size_t k = 0; k < candidate_.mCol.size(); ++k) {
@@ -33,8 +68,6 @@ class ReusedCandidate {
       field.Depth = crop.cropType == "Fallow" ? 0 : depths.getSplits()[k];
       field.TotalCost = 0;
       field.TotalReturn = 0;
-      double depth = field.Depth;
-      crop.setYield(depth, inputs_.rain);
     }
     return candidate_;
   }
@@ -116,6 +149,32 @@ std::optional<BestMix> evaluateLiterally(const SearchInputs& inputs,
                          inputs, depths, combinations[static_cast<std::size_t>(combination)]);
                      best.submit(candidate);
                    });
+}
+
+FieldCollection undividedCandidate(const Crop& crop, double acres, double netVolume,
+                                   const SearchInputs& inputs) {
+  FieldCollection candidate = plantUndivided(crop, acres, netVolume, inputs);
+  setYields(candidate, inputs);
+  return candidate;
+}
+
+void forEachCandidate(const SearchInputs& inputs, const std::vector<Wish>& wishes,
+                      const TakeCandidate& take) {
+  ReusedCandidate candidate(inputs);
+  for (const Split& depths : inputs.depths) {
+    for (std::uint64_t combination = 0; combination < inputs.combinations.Count(); ++combination)
+      takeIfWished(candidate.plant(depths, combination), inputs, wishes, take);
+  }
+}
+
+void forEachCandidate(const Scenario& scenario, const TakeCandidate& take) {
+  const SearchInputs inputs = scenario.searchInputs();
+  forEachCandidate(inputs, scenario.wishes, take);
+  if (!scenario.noSplit) return;
+  for (const auto& crop : inputs.combinations.crops()) {
+    FieldCollection undivided = plantUndivided(*crop, scenario.acres, scenario.netVolume, inputs);
+    takeIfWished(undivided, inputs, scenario.wishes, take);
+  }
 }
 
 }  // namespace verdalis::reference

@@ -53,6 +53,13 @@ std::vector<PlainPlan> allPlans(const std::vector<SearchInputs>& seasons) {
   return plans;
 }
 
+PlainPlan plainPlan(const FieldCollection& candidate, double efficiency) {
+  PlainPlan plan;
+  for (const auto& field : candidate)
+    plan.fields.push_back({field->acres, field->theCrop->cropType, field->Depth / efficiency});
+  return plan;
+}
+
 bool meets(const PlainPlan& plan, const Wish& wish) {
   const auto atLeast = [&](double value) {
     return value >= wish.amount || value >= wish.amount * (1 - 1e-9);

@@ -7,6 +7,7 @@
 
 #include "engine/SearchInputs.h"
 #include "engine/Wish.h"
+#include "model/FieldCollection.h"
 
 namespace verdalis::reference {
 
@@ -26,6 +27,10 @@ struct PlainPlan {
 /// All candidates in the order of submission, priced by the model. All seasons share the depths, and the
 /// crops at each position.
 [[nodiscard]] std::vector<PlainPlan> allPlans(const std::vector<SearchInputs>& seasons);
+
+/// The fields of a candidate, without profits and place.
+/// \param efficiency irrigation efficiency as a fraction.
+[[nodiscard]] PlainPlan plainPlan(const FieldCollection& candidate, double efficiency);
 
 [[nodiscard]] bool meets(const PlainPlan& plan, const Wish& wish);
 [[nodiscard]] bool meetsAll(const PlainPlan& plan, const std::vector<Wish>& wishes);
