@@ -138,7 +138,7 @@ void Control::act(const std::function<void()>& action, bool takesFocus) {
     if (takesFocus) {
       desk.enter(*this, true);
     } else {
-      desk.activate(dynamic_cast<Window*>(&window()));
+      desk.activateWindowOf(*this);
     }
   };
   desk.run(std::cref(leavePrevious));  // a reference needs no memory of its own
@@ -199,9 +199,15 @@ void Desk::activate(Window* window) {
   if (before != nullptr && before->isOpen()) before->onDeactivate();
 }
 
+void Desk::activateWindowOf(Control& control) {
+  Frame& window = control.window();
+  // Almost every action stays in the active window, and comparing is faster than casting.
+  if (&window != active_) activate(dynamic_cast<Window*>(&window));
+}
+
 void Desk::enter(Control& control, bool acting) {
   const Life::Watch here(control.life());
-  activate(dynamic_cast<Window*>(&control.window()));
+  activateWindowOf(control);
   if (here.expired() || focus_ == &control) return;
   Control* const before = std::exchange(focus_, &control);
   control.focused();
