@@ -12,8 +12,8 @@ namespace {
 Control* findBelow(const Frame& frame, std::string_view name) {
   for (Control* control : frame.controls()) {
     if (control->name() == name) return control;
-    auto* inner = dynamic_cast<Frame*>(control);
-    if (inner == nullptr) continue;
+    if (control->kind() != ControlKind::Frame) continue;
+    auto* inner = static_cast<Frame*>(control);
     if (inner->scope() == Frame::Scope::transparent) {
       if (Control* found = findBelow(*inner, name)) return found;
     } else if (name.size() > inner->name().size() && name.starts_with(inner->name()) &&
