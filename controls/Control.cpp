@@ -12,8 +12,8 @@ namespace {
 Control* findBelow(const Frame& frame, std::string_view name) {
   for (Control* control : frame.controls()) {
     if (control->name() == name) return control;
-    auto* inner = dynamic_cast<Frame*>(control);
-    if (inner == nullptr) continue;
+    if (control->kind() != ControlKind::Frame) continue;
+    auto* inner = static_cast<Frame*>(control);
     if (inner->scope() == Frame::Scope::transparent) {
       if (Control* found = findBelow(*inner, name)) return found;
     } else if (name.size() > inner->name().size() && name.starts_with(inner->name()) &&
@@ -138,7 +138,7 @@ void Control::act(const std::function<void()>& action, bool takesFocus) {
     if (takesFocus) {
       desk.enter(*this, true);
     } else {
-      desk.activate(dynamic_cast<Window*>(&window()));
+      desk.activateWindowOf(*this);
     }
   };
   const auto carryOut = [&] {
@@ -207,9 +207,15 @@ void Desk::activate(Window* window) {
   if (before != nullptr && before->isOpen()) before->onDeactivate();
 }
 
+void Desk::activateWindowOf(Control& control) {
+  Frame& window = control.window();
+  // Almost every action stays in the active window, and comparing is faster than casting.
+  if (&window != active_) activate(dynamic_cast<Window*>(&window));
+}
+
 void Desk::enter(Control& control, bool acting) {
   const Life::Watch here(control.life());
-  activate(dynamic_cast<Window*>(&control.window()));
+  activateWindowOf(control);
   if (here.expired() || focus_ == &control) return;
   Control* const before = std::exchange(focus_, &control);
   control.focused();

@@ -220,6 +220,8 @@ class Desk {
   friend class Control;
   friend class Window;
 
+  void activateWindowOf(Control& control);
+
   /// `acting`: the user does something with the control and does not only move the focus there.
   void enter(Control& control, bool acting);
   void leave(Control& control);

@@ -4,9 +4,9 @@
 #include <cassert>
 #include <cstddef>
 #include <functional>
+#include <list>
 #include <memory>
 #include <utility>
-#include <vector>
 
 namespace verdalis {
 
@@ -50,8 +50,8 @@ class Event {
   Event& operator=(const Event&) = delete;
   ~Event() {
     if (!list_) return;
-    for (const std::unique_ptr<Entry>& entry : list_->entries)
-      entry->disconnect();
+    for (Entry& entry : list_->entries)
+      entry.disconnect();
     // While the event is raised, the list is still in use; the last call that uses it destroys it.
     if (list_->calls > 0) list_->itself = std::move(list_);
   }
@@ -70,7 +70,7 @@ class Event {
   /// Whether a listener is connected.
   [[nodiscard]] bool isHeard() const {
     return list_ && std::any_of(list_->entries.begin(), list_->entries.end(),
-                                [](const std::unique_ptr<Entry>& entry) { return entry->isConnected(); });
+                                [](const Entry& entry) { return entry.isConnected(); });
   }
 
   /// Raises the event.
@@ -78,9 +78,9 @@ class Event {
     if (!list_) return;
     const Call call(*list_);
     // Listeners connected meanwhile are behind these.
-    for (std::size_t i = 0, count = call.list.entries.size(); i < count; ++i) {
-      const Entry& entry = *call.list.entries[i];
-      if (entry.isConnected()) entry.listener(arguments...);
+    auto entry = call.list.entries.begin();
+    for (std::size_t left = call.list.entries.size(); left > 0; --left, ++entry) {
+      if (entry->isConnected()) entry->listener(arguments...);
     }
   }
 
@@ -98,7 +98,7 @@ class Event {
   };
 
   struct List {
-    std::vector<std::unique_ptr<Entry>> entries;
+    std::list<Entry> entries;
     std::size_t calls = 0;         ///< That go through the entries now
     std::unique_ptr<List> itself;  ///< Set if the event is destroyed during a call
   };
@@ -119,11 +119,9 @@ class Event {
     assert(listener);
     if (!list_) list_ = std::make_unique<List>();
     if (list_->calls == 0) {
-      std::erase_if(list_->entries,
-                    [](const std::unique_ptr<Entry>& entry) { return !entry->isConnected(); });
+      std::erase_if(list_->entries, [](const Entry& entry) { return !entry.isConnected(); });
     }
-    list_->entries.push_back(std::make_unique<Entry>(Entry{std::move(listener), true, nullptr}));
-    return *list_->entries.back();
+    return list_->entries.emplace_back(Entry{std::move(listener), true, nullptr});
   }
 
   std::unique_ptr<List> list_;

@@ -16,8 +16,9 @@ ProductionCosts inputCosts::price(double acres, double yield, const Crop& crop, 
   }
   ProductionCosts result;
   // Forage is decided by the units, not the name: a custom crop in tons has a stand life too.
-  result.stand = crop.isForage() && AlfalfaStand == 0.0 ? Number(1) : AlfalfaStand;
-  const double standLife = crop.isForage() ? static_cast<double>(result.stand) : 1;
+  const bool forage = crop.isForage();
+  result.stand = forage && AlfalfaStand == 0.0 ? Number(1) : AlfalfaStand;
+  const double standLife = forage ? static_cast<double>(result.stand) : 1;
   const NutrientRates rates = nutrientRates(cropKind(crop.cropType));
 
   result.nitrogen = NOptimal ? rates.nitrogen * yield : NitrogenApplied;
@@ -44,8 +45,9 @@ ProductionCosts inputCosts::price(double acres, double yield, const Crop& crop, 
   return result;
 }
 
-double inputCosts::getCosts(double acres, double yield, const Crop& crop, double& grossDepth,
-                            double efficiency) {
+// Flat: reading the rates from the memory of a result that was just written would take longer than the sums.
+[[gnu::flatten]] double inputCosts::getCosts(double acres, double yield, const Crop& crop, double& grossDepth,
+                                             double efficiency) {
   const ProductionCosts priced = price(acres, yield, crop, grossDepth, efficiency);
   if (!UseBatch) grossDepth *= efficiency;
   NPerAcre = priced.nitrogen;
