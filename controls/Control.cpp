@@ -144,7 +144,7 @@ void Control::act(const std::function<void()>& action, bool takesFocus) {
   const auto carryOut = [&] {
     desk.run(std::cref(leavePrevious));  // a reference needs no memory of its own
     if (here.expired()) return;
-    if (desk.actions_ == 1) desk.onActing(*this);
+    (desk.actions_ == 1 ? desk.onActing : desk.onActingInside)(*this);
     if (!here.expired()) desk.run(action);
   };
   desk.act(std::cref(carryOut));

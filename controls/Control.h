@@ -175,6 +175,9 @@ class Desk {
   /// Not raised for actions inside another one, such as a click on "Cancel" during a run.
   Event<Control&> onActing;
 
+  /// The same for an action inside another one.
+  Event<Control&> onActingInside;
+
   /// An action of the user has ended, or the focus has moved. Not raised for actions inside another one.
   Event<> onActed;
 

@@ -17,6 +17,18 @@ std::string nameOf(const Control& control) {
   return caption.empty() ? "Changes" : shownCaption(caption);
 }
 
+bool takesInput(const Control& control) {
+  switch (control.kind()) {
+    case ControlKind::TextBox:
+    case ControlKind::ComboBox:
+    case ControlKind::CheckBox:
+    case ControlKind::OptionButton:
+      return true;
+    default:
+      return false;
+  }
+}
+
 bool isField(const Control& control) {
   if (control.kind() == ControlKind::TextBox) return true;
   const auto* const combo = dynamic_cast<const ComboBox*>(&control);
@@ -27,6 +39,8 @@ bool isField(const Control& control) {
 
 DocumentKeeper::DocumentKeeper(Desk& desk, FarmControls& controls) : desk_(desk), controls_(controls) {
   desk.onActing.connect([this](Control& control) { acting(control); });
+  // What the user enters during a run is a step, together with what the run changes.
+  desk.onActingInside.connect([this](Control& control) { ignoring_ = ignoring_ && !takesInput(control); });
   desk.onActed.connect([this] { acted(); });
 }
 

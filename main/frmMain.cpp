@@ -363,7 +363,7 @@ void frmMain::wireFarms() {
     notices.tell({.text = message.text, .about = message.title});
   };
   pneCustomCrop.onDeleted.connect(
-      [this](const FormerCustomCrop& crop) { farmControls.deletedCrops.insert(crop.entry.name); });
+      [this](const FormerCustomCrop& crop) { farmControls.deletedCrops.insert(crop.name); });
   pneCustomCrop.onSaved.connect([this](const CustomCropEntry& crop) {
     farmControls.deletedCrops.erase(crop.name);
     // What is saved in the editor is meant to be used, also where the farm has brought its own table.

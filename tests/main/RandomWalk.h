@@ -27,6 +27,9 @@ class RandomWalk {
   /// \returns whether that led to the main pane.
   [[nodiscard]] bool findsHome();
 
+  [[nodiscard]] bool hasEnded() const { return running_.program->ended(); }
+  [[nodiscard]] frmMain& main() { return running_.program->main(); }
+
   /// The last actions.
   [[nodiscard]] std::string story() const;
 
