@@ -164,8 +164,10 @@ QWidget* noticeView(NoticeBar& notices, Binder& binder) {
   const BarParts parts = makeBar("notice", notices.lblNotice, notices.lblNoticeCount, {}, binder,
                                  [&notices] { notices.dismiss(); });
   QPushButton* action = addButton(parts, notices.cmdNotice, binder);
-  binder.alsoWatch(notices.cmdNotice,
-                   [&notices, action] { action->setAccessibleName(plain(notices.cmdNotice.caption())); });
+  binder.alsoWatch(notices.cmdNotice, [&notices, action] {
+    const QString caption = plain(notices.cmdNotice.caption());
+    action->setAccessibleName(caption.isEmpty() ? QObject::tr("Act on this notice") : caption);
+  });
   QPushButton* close = addButton(parts, notices.cmdNoticeClose, binder, QObject::tr("Close this notice"));
   setRole(close, "close");
   close->setToolTip(QObject::tr("Close this notice"));
