@@ -147,9 +147,11 @@ void DocumentKeeper::finishTyping() {
 
 void DocumentKeeper::acting(Control& control) {
   if (!started_) return;
-  refresh();
-  // The same field goes on being typed in.
-  if (now_ != committed_ && !(isTypingIn(&control) && &control == actor_)) commit();
+  const bool goesOn = &control == actor_ && isTypingIn(&control);
+  if (!goesOn) {
+    refresh();  // leaving the control before may have changed something
+    if (now_ != committed_) commit();
+  }
   actor_ = &control;
   actorName_ = nameOf(control);
   ignoring_ = ignored_.contains(&control) || ignoredNames_.contains(control.name());

@@ -73,6 +73,9 @@ class DocumentKeeper {
   /// Actions with controls of this name make no step.
   void ignore(const std::string& name) { ignoredNames_.insert(name); }
 
+  /// Whether something is entered that is no step yet, because a field is being typed in.
+  [[nodiscard]] bool isPending() const { return now_ != committed_ && !ignoring_; }
+
   /// Takes what is being typed as a step now.
   void finishTyping();
 
@@ -86,7 +89,6 @@ class DocumentKeeper {
   void acting(Control& control);
   void acted();
   void refresh();
-  [[nodiscard]] bool isPending() const { return now_ != committed_ && !ignoring_; }
   [[nodiscard]] UndoStep pendingStep() const;
   void commit();
   void adopt();

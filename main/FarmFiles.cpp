@@ -354,7 +354,9 @@ void FarmFiles::changed() {
 
 void FarmFiles::refreshTitle() {
   const std::string name = farmName();
-  const std::string mark = isUnsaved() ? "*" : "";
+  // While a field is being typed in, the answer costs too much to be worked out with each key.
+  if (!(marked_ && keeper_.isPending())) marked_ = isUnsaved();
+  const std::string mark = marked_ ? "*" : "";
   window_.setCaption(name.empty() ? defaultTitle + mark : name + mark + " - " + defaultTitle);
 }
 

@@ -111,6 +111,7 @@ class FarmFiles {
   std::string savedInputs_;  ///< Of a farm without a file: what `inputs.txt` would be without a change
   SharedDocument copied_;    ///< In the recovery copy; nullptr if there is none
   bool toldCopyFault_ = false;
+  bool marked_ = false;  ///< The title has the mark of unsaved changes
 };
 
 }  // namespace verdalis
