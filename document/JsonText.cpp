@@ -13,6 +13,26 @@ namespace {
 constexpr std::string_view blanks = " \t\r\n";
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
+// Plain loops, because most blanks and numbers are a few characters long.
+
+constexpr bool isBlank(char c) {
+  return c == ' ' || c == '\n' || c == '\r' || c == '\t';
+}
+
+/// The position of the value behind the one that ends at `at`.
+std::size_t beginOfNext(std::string_view text, std::size_t at) {
+  while (at < text.size() && (isBlank(text[at]) || text[at] == ',' || text[at] == ':'))
+    ++at;
+  return at;
+}
+
+/// The position behind a number or a word, in valid JSON.
+std::size_t endOfWord(std::string_view text, std::size_t at) {
+  while (at < text.size() && !isBlank(text[at]) && text[at] != ',' && text[at] != '}' && text[at] != ']')
+    ++at;
+  return at;
+}
+
 /// The position behind a string that begins at `begin`, in valid JSON.
 std::size_t endOfString(std::string_view text, std::size_t begin) {
   std::size_t at = begin + 1;
@@ -130,7 +150,7 @@ class JsonIndexer : public nlohmann::json::json_sax_t {
  private:
   /// Adds the value that begins next.
   void add() {
-    position_ = std::min(text_.find_first_not_of(" \t\r\n,:", position_), text_.size());
+    position_ = beginOfNext(text_, position_);
     const auto next = static_cast<std::uint32_t>(entries_.size() + 1);
     entries_.push_back({static_cast<std::uint32_t>(position_), next});
   }
@@ -145,7 +165,7 @@ class JsonIndexer : public nlohmann::json::json_sax_t {
   /// The reading may be one character further than the end of a number.
   bool plain() {
     add();
-    position_ = std::min(text_.find_first_of(" \t\r\n,]}", position_), text_.size());
+    position_ = endOfWord(text_, position_);
     return true;
   }
 
@@ -201,7 +221,7 @@ std::string_view JsonValue::raw() const {
   if (isText()) {
     end = endOfString(text, begin);
   } else if (!isObject() && !isList()) {
-    end = std::min(text.find_first_of(" \t\r\n,:]}", begin), text.size());
+    end = endOfWord(text, begin);
   } else {
     std::size_t depth = 0;
     do {
@@ -231,7 +251,7 @@ std::string JsonValue::compact() const {
       result += from.substr(at, end - at);
       at = end;
     } else {
-      if (blanks.find(from[at]) == std::string_view::npos) result += from[at];
+      if (!isBlank(from[at])) result += from[at];
       ++at;
     }
   }
