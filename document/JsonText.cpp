@@ -41,7 +41,14 @@ std::size_t endOfString(std::string_view text, std::size_t begin) {
   return at + 1;
 }
 
-/// Reads characters and tells how far the reading has come.
+/// How far a text has been read.
+struct Progress {
+  const char* behind = nullptr;  ///< Behind the last character
+  std::size_t skipped = 0;       ///< Characters that were not handed on
+};
+
+/// The characters of a text for the library. Of line ends and tabs in succession only the first and the last
+/// are handed on: before it tells an error, the library would spell out millions of them one by one.
 class Reading {
  public:
   // NOLINTBEGIN(readability-identifier-naming): names that the standard library asks for
@@ -52,19 +59,30 @@ class Reading {
   using reference = const char&;
   // NOLINTEND(readability-identifier-naming)
 
-  Reading(const char* at, const char** reached) : at_(at), reached_(reached) {}
+  Reading(const char* at, const char* end, Progress& progress) : at_(at), end_(end), progress_(&progress) {}
 
-  reference operator*() const { return *at_; }
+  reference operator*() {
+    if (isBreak(*at_) && broken_) {
+      for (; at_ + 1 != end_ && isBreak(at_[1]); ++at_)
+        ++progress_->skipped;
+    }
+    broken_ = isBreak(*at_);
+    return *at_;
+  }
   Reading& operator++() {
-    *reached_ = ++at_;
+    progress_->behind = ++at_;
     return *this;
   }
   friend bool operator==(const Reading& a, const Reading& b) { return a.at_ == b.at_; }
   friend bool operator!=(const Reading& a, const Reading& b) { return a.at_ != b.at_; }
 
  private:
+  static bool isBreak(char c) { return c == '\n' || c == '\r' || c == '\t'; }
+
   const char* at_;
-  const char** reached_;
+  const char* end_;
+  Progress* progress_;
+  bool broken_ = false;  ///< Whether the last character was a line end or a tab
 };
 
 constexpr std::string_view signs = "{}[],:";
@@ -117,13 +135,12 @@ class JsonIndexer : public nlohmann::json::json_sax_t {
  public:
   JsonIndexer(std::string_view text, std::vector<JsonText::Entry>& entries)
       : text_(text),
-        reached_(text.data()),
         entries_(entries),
         position_(text.starts_with(byteOrderMark) ? byteOrderMark.size() : 0) {}
 
   void run() {
-    nlohmann::json::sax_parse(Reading(text_.data(), &reached_),
-                              Reading(text_.data() + text_.size(), &reached_), this);
+    const char* const end = text_.data() + text_.size();
+    nlohmann::json::sax_parse(Reading(text_.data(), end, progress_), Reading(end, end, progress_), this);
     // The library takes a zero byte for the end.
     const std::size_t rest = text_.find_first_not_of(blanks, position_);
     if (rest != std::string_view::npos) fail(rest, {}, {});
@@ -144,7 +161,7 @@ class JsonIndexer : public nlohmann::json::json_sax_t {
 
   bool parse_error(std::size_t read, const std::string& token,
                    const nlohmann::detail::exception& error) override {
-    fail(read == 0 ? 0 : read - 1, error.what(), token);
+    fail(progress_.skipped + (read == 0 ? 0 : read - 1), error.what(), token);
   }
 
  private:
@@ -158,7 +175,7 @@ class JsonIndexer : public nlohmann::json::json_sax_t {
   /// The reading is behind the last character of a text or a bracket.
   bool whole() {
     add();
-    position_ = static_cast<std::size_t>(reached_ - text_.data());
+    position_ = static_cast<std::size_t>(progress_.behind - text_.data());
     return true;
   }
 
@@ -178,7 +195,7 @@ class JsonIndexer : public nlohmann::json::json_sax_t {
   }
 
   bool close() {
-    position_ = static_cast<std::size_t>(reached_ - text_.data());
+    position_ = static_cast<std::size_t>(progress_.behind - text_.data());
     entries_[open_.back()].next = static_cast<std::uint32_t>(entries_.size());
     open_.pop_back();
     return true;
@@ -191,7 +208,7 @@ class JsonIndexer : public nlohmann::json::json_sax_t {
   }
 
   std::string_view text_;
-  const char* reached_;
+  Progress progress_;
   std::vector<JsonText::Entry>& entries_;
   std::vector<std::size_t> open_;  ///< The lists and objects around the reading
   std::size_t position_;           ///< Behind the last value that was added, or behind the byte order mark

@@ -432,7 +432,8 @@ void readHead(ObjectReader& in) {
            " of the format, and this program, Verdalis " + versionNumber() + ", reads up to version " +
            std::to_string(farmFileVersion) + ". Open it with a newer Verdalis.");
   }
-  in.pass("program");
+  std::string program;
+  in.read("program", program);
 }
 
 JsonText parse(std::string_view text) {

@@ -3,7 +3,6 @@
 #include <rapidcheck/gtest.h>
 
 #include <algorithm>
-#include <functional>
 #include <nlohmann/json.hpp>
 #include <optional>
 #include <set>
@@ -12,6 +11,7 @@
 #include "document/farmFile.h"
 #include "tests/document/arbitraryDocument.h"
 #include "tests/document/fullDocument.h"
+#include "tests/document/jsonPlaces.h"
 #include "text/RunTimeError.h"
 #include "text/version.h"
 
@@ -20,6 +20,7 @@ namespace {
 
 using Tree = nlohmann::ordered_json;
 using testing::documentWithEverything;
+using testing::forEachPlace;
 using ::testing::HasSubstr;
 using ::testing::StartsWith;
 
@@ -195,23 +196,6 @@ std::set<std::string, std::less<>> nullableKeys() {
     });
   }
   return keys;
-}
-
-/// Calls `action` with the place of each value that the format describes.
-void forEachPlace(const Tree& value, const Tree::json_pointer& place,
-                  const std::function<void(const Tree::json_pointer&)>& action) {
-  const auto visit = [&](const Tree::json_pointer& inner, const Tree& child) {
-    action(inner);
-    forEachPlace(child, inner, action);
-  };
-  if (value.is_object()) {
-    for (const auto& [key, child] : value.items()) {
-      if (!key.starts_with("x-") && key != "program" && key != "format") visit(place / key, child);
-    }
-  } else if (value.is_array()) {
-    for (std::size_t i = 0; i < value.size(); ++i)
-      visit(place / i, value[i]);
-  }
 }
 
 TEST(FarmFileDamage, AValueOfTheWrongKindIsRefusedWithItsLineAndKey) {

@@ -109,6 +109,10 @@ TEST(JsonText, FaultsHaveTheirLine) {
   expectFault("[1,\n2\n3]", 3);
   expectFault("[1,\n2,\n]", 3);
   expectFault("[\"a\nb\"]", 1);
+  expectFault("[\"a\n\n\n\nb\"]", 1);
+  expectFault("[1\n\n\n\n\n2]", 6);
+  expectFault("[1 2\n\n\n\n\n]", 1);
+  expectFault("[1,\r\n\t\r\n\t \r\n\r\n\t\"\n\n\"]", 5);
   expectFault("{}\n\n{}", 3);
   expectFault("[1]\n" + std::string(1, '\0'), 2);
   expectFault("\xEF\xBB\xBF\xEF\xBB\xBF[]", 1);
