@@ -8,7 +8,7 @@
 
 namespace verdalis {
 
-/// Builds JSON text in UTF-8 with indents of two spaces. Writing into a text is several times faster than
+/// Builds JSON text in UTF-8 with indents of two spaces. Writing into a text takes a third of the time of
 /// building a tree of values first.
 class JsonBuilder {
  public:
