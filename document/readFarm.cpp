@@ -13,7 +13,7 @@
 
 #include "document/JsonText.h"
 #include "document/documentKeys.h"
-#include "document/farmFile.h"
+#include "document/farmText.h"
 #include "model/LandDivision.h"
 #include "text/RunTimeError.h"
 #include "text/quote.h"

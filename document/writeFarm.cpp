@@ -3,7 +3,7 @@
 
 #include "document/JsonBuilder.h"
 #include "document/documentKeys.h"
-#include "document/farmFile.h"
+#include "document/farmText.h"
 #include "text/version.h"
 
 namespace verdalis {

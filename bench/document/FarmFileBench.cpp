@@ -4,7 +4,7 @@
 #include <string>
 
 #include "document/documentKeys.h"
-#include "document/farmFile.h"
+#include "document/farmText.h"
 
 // A farm file with 100 saved options of four fields, each found under its own inputs with six chosen crops.
 // Writing and reading it together must stay within 30 ms: it is saved a second after each change.

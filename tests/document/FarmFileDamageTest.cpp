@@ -8,7 +8,7 @@
 #include <set>
 
 #include "document/documentKeys.h"
-#include "document/farmFile.h"
+#include "document/farmText.h"
 #include "tests/document/arbitraryDocument.h"
 #include "tests/document/fullDocument.h"
 #include "tests/document/jsonPlaces.h"

@@ -5,7 +5,7 @@
 #include <set>
 
 #include "document/documentKeys.h"
-#include "document/farmFile.h"
+#include "document/farmText.h"
 #include "tests/document/fullDocument.h"
 
 // Each key of the format alone, with the member that it sets. All other members have their defaults.

@@ -15,7 +15,7 @@
 #include <valijson/schema_parser.hpp>
 #include <valijson/validator.hpp>
 
-#include "document/farmFile.h"
+#include "document/farmText.h"
 #include "tests/document/arbitraryDocument.h"
 #include "tests/document/fullDocument.h"
 #include "tests/document/jsonPlaces.h"

@@ -6,7 +6,7 @@
 #include <fstream>
 #include <iterator>
 
-#include "document/farmFile.h"
+#include "document/farmText.h"
 #include "tests/document/arbitraryDocument.h"
 #include "tests/document/fullDocument.h"
 #include "text/RunTimeError.h"

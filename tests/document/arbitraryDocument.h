@@ -15,7 +15,7 @@
 
 #include "document/FarmDocument.h"
 #include "document/documentKeys.h"
-#include "document/farmFile.h"
+#include "document/farmText.h"
 
 namespace verdalis::testing {
 

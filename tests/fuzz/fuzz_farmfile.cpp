@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "document/farmFile.h"
+#include "document/farmText.h"
 #include "tests/fuzz/Fuzzing.h"
 #include "text/RunTimeError.h"
 

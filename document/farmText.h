@@ -21,18 +21,15 @@ inline constexpr int farmFileVersion = 1;
 /// Maximum size of a farm file in bytes.
 inline constexpr std::size_t maxFarmFileSize = std::size_t{64} << 20U;
 
-/// Extension of the names of farm files.
-inline constexpr const char* farmFileExtension = ".verdalis";
-
 /// The text of a farm file. Bytes of texts that are not valid UTF-8 are replaced, and a number that is
 /// infinite or NaN, which no input and no result is, becomes 0.
 [[nodiscard]] std::string writeFarm(const FarmDocument& document);
 
 /// Reads the text of a farm file. A byte order mark at the beginning and line ends of CR LF are accepted. A
-/// key that is missing gives the default of its member; a key that is not known is kept. \throws RunTimeError
-/// (invalidCall) for a text that is no farm file, that belongs to a newer version, that is too large, or that
-/// is damaged: it is no JSON, or it has a value of the wrong kind, one that no control can hold, or a key
-/// that stands twice in its object. The message names the line and the reason.
+/// key that is missing gives the default of its member; a key that is not known is kept.
+/// \throws RunTimeError (invalidCall) for a text that is no farm file, that belongs to a newer version, that
+/// is too large, or that is damaged: it is no JSON, or it has a value of the wrong kind, one that no control
+/// can hold, or a key that stands twice in its object. The message names the line and the reason.
 [[nodiscard]] FarmDocument readFarm(std::string_view text);
 
 /// The text of the inputs of a saved option, for comparing and testing.
