@@ -45,7 +45,8 @@ bool operator==(const SavedOptionField& a, const SavedOptionField& b) {
   const auto rest = [](const SavedOptionField& field) {
     return std::tie(field.crop, field.acres, field.depth, field.rain, field.price, field.maxYield,
                     field.normalFactor, field.yield, field.soil, field.units, field.costs, field.returns,
-                    field.trendedCosts, field.trendedIrrigation, field.unknown);
+                    field.trendedCosts, field.trendedIrrigation, field.unknown, field.unknownOwnCosts,
+                    field.unknownOwnPlant);
   };
   return rest(a) == rest(b) && sameIfAny(a.ownCosts, b.ownCosts, sameCosts) &&
          sameIfAny(a.ownPlant, b.ownPlant, samePlant);

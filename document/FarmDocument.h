@@ -160,6 +160,8 @@ struct SavedOptionField {
   std::optional<inputCosts> ownCosts;       ///< Where they are not those of the option's inputs
   std::optional<IrrigationCosts> ownPlant;  ///< Likewise
   UnknownKeys unknown;
+  UnknownKeys unknownOwnCosts;
+  UnknownKeys unknownOwnPlant;
 
   friend bool operator==(const SavedOptionField& a, const SavedOptionField& b);
 };

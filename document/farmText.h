@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -11,16 +12,24 @@ namespace verdalis {
 // end at the end. Reading a written file and writing it again gives the same bytes.
 // docs/farm-file.schema.json describes version 1.
 
+/// The value of the key `format` in every farm file.
+inline constexpr std::string_view farmFileFormat = "verdalis-farm";
+
 /// The version of the format that writeFarm() writes.
 inline constexpr int farmFileVersion = 1;
 
-/// The text of a farm file. Bytes of texts that are not valid UTF-8 are replaced.
+/// Maximum size of a farm file in bytes.
+inline constexpr std::size_t maxFarmFileSize = std::size_t{64} << 20U;
+
+/// The text of a farm file. Bytes of texts that are not valid UTF-8 are replaced, and a number that is
+/// infinite or NaN, which no input and no result is, becomes 0.
 [[nodiscard]] std::string writeFarm(const FarmDocument& document);
 
-/// Reads the text of a farm file.
-/// \throws RunTimeError (invalidCall) for a text that is no farm file, that belongs to a newer version, or
-/// that is damaged: it has a value of the wrong kind, or one that no control can hold. The message names the
-/// line and the reason.
+/// Reads the text of a farm file. A byte order mark at the beginning and line ends of CR LF are accepted. A
+/// key that is missing gives the default of its member; a key that is not known is kept.
+/// \throws RunTimeError (invalidCall) for a text that is no farm file, that belongs to a newer version, that
+/// is too large, or that is damaged: it is no JSON, or it has a value of the wrong kind, one that no control
+/// can hold, or a key that stands twice in its object. The message names the line and the reason.
 [[nodiscard]] FarmDocument readFarm(std::string_view text);
 
 /// The text of the inputs of a saved option, for comparing and testing.

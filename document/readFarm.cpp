@@ -1,122 +1,137 @@
 #include <algorithm>
 #include <cmath>
-#include <cstdint>
+#include <cstddef>
 #include <limits>
-#include <nlohmann/json.hpp>
+#include <numeric>
+#include <optional>
+#include <span>
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <utility>
 #include <vector>
 
+#include "document/JsonText.h"
 #include "document/documentKeys.h"
 #include "document/farmText.h"
-#include "document/jsonLines.h"
 #include "model/LandDivision.h"
 #include "text/RunTimeError.h"
-#include "text/encoding.h"
 #include "text/quote.h"
 #include "text/version.h"
 
 namespace verdalis {
 namespace {
 
-// Sorted keys, because an object with very many keys in insertion order would take hours.
-using Parsed = nlohmann::json;
-using Path = std::vector<JsonStep>;
-
-/// Nesting that no farm file reaches. Deeper text could exhaust the stack.
-constexpr std::size_t deepestNesting = 64;
-
 /// Most fields that an option can have.
 constexpr std::size_t mostFields = 4;
+
+/// Most values with which a trend makes an option.
+constexpr std::size_t mostOptionTrends = 2;
+
+/// Most processes of a trend.
+constexpr std::size_t mostProcesses = 2;
+
+/// Most seasons of a farm.
+constexpr std::size_t mostSeasons = 9;
+
+/// Most objects in a file: more than a file of the largest size has if the program wrote it. A file of very
+/// many empty objects would take many times its size in memory.
+constexpr std::size_t mostObjects = 500'000;
 
 [[noreturn]] void refuse(const std::string& message) {
   throw RunTimeError(ErrorNumber::invalidCall, message);
 }
 
-/// The text being read, for messages.
-class Source {
- public:
-  explicit Source(std::string_view text) : text_(text) {}
-
-  [[noreturn]] void damaged(const Path& path, const std::string& reason) const {
-    refuse("The farm file is damaged at line " + std::to_string(lineOf(text_, path)) + ": " + reason);
-  }
-
- private:
-  std::string_view text_;
-};
+[[noreturn]] void refuseDamaged(std::size_t line, const std::string& reason) {
+  refuse("The farm file is damaged at line " + std::to_string(line) + ": " + reason);
+}
 
 /// Reads the keys of an object. A key that is missing keeps the value that the target has.
 class ObjectReader {
  public:
-  ObjectReader(const Source& source, const Parsed& value, Path path)
-      : source_(source), value_(value), path_(std::move(path)) {
-    if (!value.is_object()) damaged("Here must be an object in braces.");
+  /// \param objects counts the objects of the file.
+  ObjectReader(const JsonValue& object, std::size_t& objects) : object_(object), objects_(objects) {
+    if (!object.isObject()) refuseDamaged(object.line(), "Here must be an object, in braces.");
+    if (++objects_ > mostObjects)
+      refuseDamaged(object.line(), "The file has more entries than a farm can have.");
+    for (JsonValue key = object.inside(); key != object.end(); key = key.next().next())
+      members_.push_back({key, false});
   }
 
   void read(std::string_view key, std::string& target) {
-    const Parsed* const value = take(key);
-    if (value == nullptr) return;
-    if (!value->is_string()) damaged(key, "must be a text.");
-    target = value->get_ref<const std::string&>();
+    const auto value = take(key);
+    if (!value) return;
+    if (!value->isText()) damaged(key, *value, "must be a text in quotation marks.");
+    target = value->text();
   }
 
   void read(std::string_view key, bool& target) {
-    const Parsed* const value = take(key);
-    if (value == nullptr) return;
-    if (!value->is_boolean()) damaged(key, "must be true or false.");
-    target = value->get<bool>();
+    const auto value = take(key);
+    if (!value) return;
+    if (!value->isBoolean()) damaged(key, *value, "must be true or false.");
+    target = value->boolean();
   }
 
   void read(std::string_view key, double& target) {
-    if (const Parsed* const value = take(key)) target = number(key, *value);
+    if (const auto value = take(key)) target = number(key, *value);
   }
 
   void read(std::string_view key, Number& target) {
-    const Parsed* const value = take(key);
-    if (value == nullptr) return;
-    if (value->is_null()) {
+    const auto value = take(key);
+    if (!value) return;
+    if (value->isNull()) {
       target.clear();
     } else {
-      target = number(key, *value);
+      target = number(key, *value, "must be a number or null.");
     }
   }
 
   void read(std::string_view key, std::optional<double>& target) {
-    if (const Parsed* const value = take(key)) target = number(key, *value);
+    if (const auto value = take(key)) target = number(key, *value);
   }
 
   /// A number of at least 0, such as acres or inches.
   void readAmount(std::string_view key, double& target) {
-    read(key, target);
-    if (target < 0) damaged(key, "must not be below 0.");
+    const auto value = take(key);
+    if (!value) return;
+    target = number(key, *value);
+    if (target < 0) damaged(key, *value, "must not be below 0.");
   }
 
-  void readWhole(std::string_view key, std::int64_t& target, std::int64_t lowest, std::int64_t highest) {
-    const Parsed* const value = take(key);
-    if (value == nullptr) return;
-    const double given = number(key, *value);
-    if (given != std::trunc(given) || given < static_cast<double>(lowest) ||
-        given > static_cast<double>(highest)) {
-      damaged(key, "must be a whole number from " + std::to_string(lowest) + " to " +
-                       std::to_string(highest) + ".");
-    }
-    target = static_cast<std::int64_t>(given);
+  /// A number above 0.
+  void readPositive(std::string_view key, double& target) {
+    const auto value = take(key);
+    if (!value) return;
+    target = number(key, *value);
+    if (target <= 0) damaged(key, *value, "must be above 0.");
+  }
+
+  /// A whole number within limits, both of which can be reached.
+  template <class Whole>
+  void readWhole(std::string_view key, Whole& target, int lowest, int highest) {
+    if (const auto value = take(key)) target = static_cast<Whole>(whole(key, *value, "", lowest, highest));
+  }
+
+  /// Likewise; null stands for nothing.
+  void readWhole(std::string_view key, std::optional<std::size_t>& target, int lowest, int highest) {
+    const auto value = take(key);
+    if (!value || value->isNull()) return;
+    target = static_cast<std::size_t>(whole(key, *value, "null or ", lowest, highest));
   }
 
   /// The index of a name in a list of names.
   void readName(std::string_view key, std::size_t& target, std::span<const std::string_view> names) {
-    const Parsed* const value = take(key);
-    if (value == nullptr) return;
-    const auto found = !value->is_string()
-                           ? names.end()
-                           : std::find(names.begin(), names.end(), value->get_ref<const std::string&>());
+    const auto value = take(key);
+    if (!value) return;
+    const auto found =
+        !value->isText() ? names.end() : std::find_if(names.begin(), names.end(), [&](std::string_view name) {
+          return value->textIs(name);
+        });
     if (found == names.end()) {
       std::string list;
       for (const std::string_view name : names)
-        list += (list.empty() ? "" : ", ") + std::string(name);
-      damaged(key, "must be one of " + list + ".");
+        list += (list.empty() ? "" : ", ") + quoteForMessage(name);
+      damaged(key, *value, "must be one of " + list + ".");
     }
     target = static_cast<std::size_t>(found - names.begin());
   }
@@ -130,67 +145,116 @@ class ObjectReader {
   /// Reads an object; nothing if the key is missing.
   template <class Read>
   void readObject(std::string_view key, Read readInto) {
-    const Parsed* const value = take(key);
-    if (value == nullptr) return;
-    ObjectReader reader(source_, *value, pathOf(key));
+    const auto value = take(key);
+    if (!value) return;
+    ObjectReader reader(*value, objects_);
     readInto(reader);
   }
 
   /// Reads a list of objects.
   template <class Read>
   void readList(std::string_view key, std::size_t most, Read readItem) {
-    const Parsed* const value = take(key);
-    if (value == nullptr) return;
-    if (!value->is_array()) damaged(key, "must be a list in brackets.");
-    if (value->size() > most) damaged(key, "has more than " + std::to_string(most) + " entries.");
-    for (std::size_t i = 0; i < value->size(); ++i) {
-      Path path = pathOf(key);
-      path.push_back({"", i, true});
-      ObjectReader reader(source_, (*value)[i], std::move(path));
+    const auto value = take(key);
+    if (!value) return;
+    if (!value->isList()) damaged(key, *value, "must be a list in brackets.");
+    std::size_t count = 0;
+    for (JsonValue item = value->inside(); item != value->end(); item = item.next()) {
+      if (++count > most)
+        refuseDamaged(item.line(),
+                      quoteForMessage(key) + " has more than " + std::to_string(most) + " entries.");
+      ObjectReader reader(item, objects_);
       readItem(reader);
     }
   }
 
   void pass(std::string_view key) { take(key); }
 
-  /// The keys that have not been read.
-  [[nodiscard]] UnknownKeys unknown() const {
-    UnknownKeys rest;
-    for (const auto& [key, value] : value_.items()) {
-      if (std::find(taken_.begin(), taken_.end(), key) == taken_.end()) rest.emplace_back(key, value.dump());
+  /// The value of a key, for looking at it before it is read.
+  [[nodiscard]] std::optional<JsonValue> find(std::string_view key) const {
+    for (const Member& member : members_) {
+      if (member.key.textIs(key)) return member.key.next();
     }
+    return std::nullopt;
+  }
+
+  /// The keys that have not been read, in their order. This is called last, and refuses a key that stands
+  /// twice.
+  [[nodiscard]] UnknownKeys unknown() const {
+    std::vector<JsonValue> left;
+    for (const Member& member : members_) {
+      if (!member.taken) left.push_back(member.key);
+    }
+    UnknownKeys rest;
+    rest.reserve(left.size());
+    for (const JsonValue& key : left) {
+      rest.emplace_back(key.text(), key.next().compact());
+      if (std::find(read_.begin(), read_.end(), rest.back().first) != read_.end()) refuseTwice(key);
+    }
+    std::vector<std::size_t> order(rest.size());
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    std::sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
+      return std::tie(rest[a].first, a) < std::tie(rest[b].first, b);
+    });
+    const auto twice = std::adjacent_find(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
+      return rest[a].first == rest[b].first;
+    });
+    if (twice != order.end()) refuseTwice(left[*std::next(twice)]);
     return rest;
   }
 
-  [[noreturn]] void damaged(const std::string& reason) const { source_.damaged(path_, reason); }
-  [[noreturn]] void damaged(std::string_view key, const std::string& reason) const {
-    source_.damaged(pathOf(key), quoteForMessage(key) + " " + reason);
-  }
+  /// The line on which the object begins.
+  [[nodiscard]] std::size_t line() const { return object_.line(); }
 
  private:
-  const Parsed* take(std::string_view key) {
-    taken_.push_back(key);
-    const auto found = value_.find(key);
-    return found == value_.end() ? nullptr : &*found;
+  struct Member {
+    JsonValue key;
+    bool taken;
+  };
+
+  [[noreturn]] static void damaged(std::string_view key, const JsonValue& value, const std::string& reason) {
+    refuseDamaged(value.line(), quoteForMessage(key) + " " + reason);
   }
 
-  [[nodiscard]] double number(std::string_view key, const Parsed& value) const {
-    if (!value.is_number()) damaged(key, "must be a number.");
-    const auto number = value.get<double>();
-    if (!std::isfinite(number)) damaged(key, "is too large a number.");
-    return number;
+  [[noreturn]] static void refuseTwice(const JsonValue& key) {
+    refuseDamaged(key.line(), quoteForMessage(key.text()) + " stands here for the second time.");
   }
 
-  [[nodiscard]] Path pathOf(std::string_view key) const {
-    Path path = path_;
-    path.push_back({std::string(key), 0, false});
-    return path;
+  /// The value of a key. Keys are usually in the order in which they are read, so the search starts behind
+  /// the last one.
+  std::optional<JsonValue> take(std::string_view key) {
+    read_.push_back(key);
+    for (std::size_t i = 0; i < members_.size(); ++i) {
+      Member& member = members_[(last_ + i) % members_.size()];
+      if (member.taken || !member.key.textIs(key)) continue;
+      member.taken = true;
+      last_ += i + 1;
+      return member.key.next();
+    }
+    return std::nullopt;
   }
 
-  const Source& source_;
-  const Parsed& value_;
-  Path path_;
-  std::vector<std::string_view> taken_;
+  [[nodiscard]] static double number(std::string_view key, const JsonValue& value,
+                                     const std::string& otherwise = "must be a number.") {
+    if (!value.isNumber()) damaged(key, value, otherwise);
+    return value.number();
+  }
+
+  [[nodiscard]] static int whole(std::string_view key, const JsonValue& value, const std::string& orElse,
+                                 int lowest, int highest) {
+    const double given = value.isNumber() ? value.number() : 0.5;
+    if (given != std::trunc(given) || given < lowest || given > highest) {
+      damaged(key, value,
+              "must be " + orElse + "a whole number from " + std::to_string(lowest) + " to " +
+                  std::to_string(highest) + ".");
+    }
+    return static_cast<int>(given);
+  }
+
+  JsonValue object_;
+  std::size_t& objects_;
+  std::vector<Member> members_;
+  std::vector<std::string_view> read_;  ///< The keys that were asked for
+  std::size_t last_ = 0;
 };
 
 void read(ObjectReader& in, DocumentFarm& farm) {
@@ -202,15 +266,7 @@ void read(ObjectReader& in, DocumentFarm& farm) {
   in.read("noSplit", farm.noSplit);
   in.read("fallowNegatives", farm.fallowNegatives);
   in.read("txtSize", farm.txtSize);
-  Number split;
-  in.read("split", split);
-  if (!split.isEmpty()) {
-    const double index = split;
-    const auto count = static_cast<double>(landDivisions().size());
-    if (index != std::trunc(index) || index < 0 || index >= count)
-      in.damaged("split", "must be null or a whole number from 0 to 5.");
-    farm.split = static_cast<std::size_t>(index);
-  }
+  in.readWhole("split", farm.split, 0, static_cast<int>(landDivisions().size()) - 1);
   farm.unknown = in.unknown();
 }
 
@@ -235,23 +291,21 @@ void read(ObjectReader& in, DocumentCrop& crop) {
 
 void read(ObjectReader& in, DocumentOptions& options) {
   in.read("keep", options.keep);
-  std::int64_t factor = options.factor;
-  in.readWhole("factor", factor, 1, 100);
-  options.factor = static_cast<std::int16_t>(factor);
+  in.readWhole("factor", options.factor, 1, 100);
   in.read("mixes", options.mixes);
   options.unknown = in.unknown();
 }
 
 void read(ObjectReader& in, DocumentWish& entry) {
+  if (!in.find("kind")) refuseDamaged(in.line(), "A wish has no \"kind\".");
   std::size_t kind = 0;
   in.readName("kind", kind, wishKinds);
   Wish& wish = entry.wish;
   wish.kind = static_cast<Wish::Kind>(kind);
   if (namesCrop(wish.kind)) in.read("crop", wish.crop);
   if (namesField(wish.kind)) {
-    std::int64_t field = 1;
-    in.readWhole("field", field, 1, mostFields);
-    wish.field = static_cast<std::size_t>(field);
+    wish.field = 1;
+    in.readWhole("field", wish.field, 1, mostFields);
   }
   if (hasAmount(wish.kind)) in.readAmount("amount", wish.amount);
   entry.unknown = in.unknown();
@@ -261,8 +315,7 @@ void read(ObjectReader& in, DocumentSeason& season) {
   in.read("name", season.name);
   in.read("rain", season.rain);
   season.weight = 1;
-  in.read("weight", season.weight);
-  if (season.weight <= 0) in.damaged("weight", "must be above 0.");
+  in.readPositive("weight", season.weight);
   season.unknown = in.unknown();
 }
 
@@ -300,10 +353,14 @@ void read(ObjectReader& in, SavedOptionField& field) {
   in.read("return", field.returns);
   in.read("trendedProductionCosts", field.trendedCosts);
   in.read("trendedIrrigationCosts", field.trendedIrrigation);
-  in.readObject("ownCosts",
-                [&](ObjectReader& costs) { costs.readKeys(costKeys(), field.ownCosts.emplace()); });
-  in.readObject("ownPlant",
-                [&](ObjectReader& plant) { plant.readKeys(plantKeys(), field.ownPlant.emplace()); });
+  in.readObject("ownCosts", [&](ObjectReader& costs) {
+    costs.readKeys(costKeys(), field.ownCosts.emplace());
+    field.unknownOwnCosts = costs.unknown();
+  });
+  in.readObject("ownPlant", [&](ObjectReader& plant) {
+    plant.readKeys(plantKeys(), field.ownPlant.emplace());
+    field.unknownOwnPlant = plant.unknown();
+  });
   field.unknown = in.unknown();
 }
 
@@ -346,7 +403,7 @@ void read(ObjectReader& in, SavedOption& saved) {
   in.readObject("option", [&](ObjectReader& option) {
     option.read("costs", saved.costs);
     readInto(option, "fields", saved.fields, mostFields);
-    readInto(option, "trend", saved.trend);
+    readInto(option, "trend", saved.trend, mostOptionTrends);
     saved.unknownOption = option.unknown();
   });
   in.readObject("inputs", [&](ObjectReader& inputs) {
@@ -356,88 +413,58 @@ void read(ObjectReader& in, SavedOption& saved) {
   saved.unknown = in.unknown();
 }
 
-/// Notes where and why a text is no JSON.
-class FaultFinder : public Parsed::json_sax_t {
- public:
-  std::size_t position = 0;
-  std::string reason;
-
-  bool null() override { return true; }
-  bool boolean(bool) override { return true; }
-  bool number_integer(number_integer_t) override { return true; }
-  bool number_unsigned(number_unsigned_t) override { return true; }
-  bool number_float(number_float_t, const string_t&) override { return true; }
-  bool string(string_t&) override { return true; }
-  bool binary(binary_t&) override { return true; }
-  bool start_object(std::size_t) override { return true; }
-  bool key(string_t&) override { return true; }
-  bool end_object() override { return true; }
-  bool start_array(std::size_t) override { return true; }
-  bool end_array() override { return true; }
-  bool parse_error(std::size_t where, const std::string& token,
-                   const nlohmann::detail::exception& error) override {
-    position = where;
-    const std::string_view said = error.what();
-    if (said.find("invalid UTF-8") != std::string_view::npos || !isUtf8(token)) {
-      reason = "A text is not UTF-8.";
-    } else if (said.find("out_of_range") != std::string_view::npos) {
-      reason = "A number is too large.";
-    } else if (said.find("unexpected end of input") != std::string_view::npos) {
-      reason = "The file ends too early.";
-    } else {
-      reason = "Unexpected " + quoteForMessage(token) + ".";
-    }
-    return false;
-  }
-};
-
-[[noreturn]] void refuseText(std::string_view text) {
-  FaultFinder finder;
-  Parsed::sax_parse(text, &finder);
-  const std::string_view before = text.substr(0, std::min(finder.position, text.size()));
-  refuse("The farm file is damaged at line " +
-         std::to_string(1 + std::count(before.begin(), before.end(), '\n')) + ": " + finder.reason);
-}
-
-Parsed parse(std::string_view text) {
-  if (isNestedDeeper(text, deepestNesting))
-    refuse("The farm file is damaged: its lists and objects are nested too deeply.");
-  Parsed value = Parsed::parse(text, nullptr, false);
-  if (value.is_discarded()) refuseText(text);
-  return value;
+/// The object of the file.
+JsonValue objectOf(const JsonText& json) {
+  if (!json.root().isObject()) refuse("This is not a farm file.");
+  return json.root();
 }
 
 /// Checks the format and the version.
 void readHead(ObjectReader& in) {
-  std::string format;
-  in.read("format", format);
-  if (format != "verdalis-farm") refuse("This is not a farm file.");
-  std::int64_t version = 0;
-  in.readWhole("version", version, 1, std::numeric_limits<std::int32_t>::max());
-  if (version == 0) in.damaged("The version of the format is missing.");
+  const auto format = in.find("format");
+  if (!format || !format->isText() || !format->textIs(farmFileFormat)) refuse("This is not a farm file.");
+  in.pass("format");
+  if (!in.find("version")) refuseDamaged(in.line(), "The \"version\" of the format is missing.");
+  int version = 0;
+  in.readWhole("version", version, 1, std::numeric_limits<int>::max());
   if (version > farmFileVersion) {
     refuse("This farm file has version " + std::to_string(version) +
            " of the format, and this program, Verdalis " + versionNumber() + ", reads up to version " +
            std::to_string(farmFileVersion) + ". Open it with a newer Verdalis.");
   }
-  in.pass("program");
+  std::string program;
+  in.read("program", program);
+}
+
+JsonText parse(std::string_view text) {
+  if (text.size() > maxFarmFileSize)
+    refuse("The farm file is too large: farm files have up to " + std::to_string(maxFarmFileSize >> 20U) +
+           " MB.");
+  // Anything else that is not JSON is a damaged farm file.
+  const std::size_t begin = text.find_first_not_of(" \t\r\n\xEF\xBB\xBF");
+  if (begin == std::string_view::npos) refuse("This is not a farm file: it is empty.");
+  if (text[begin] != '{') refuse("This is not a farm file: it does not begin with a brace.");
+  try {
+    return JsonText(text);
+  } catch (const JsonFault& fault) {
+    refuseDamaged(fault.line(), fault.what());
+  }
 }
 
 }  // namespace
 
 FarmDocument readFarm(std::string_view text) {
-  const Parsed value = parse(text);
-  const Source source(text);
-  if (!value.is_object()) refuse("This is not a farm file.");
-  ObjectReader in(source, value, {});
+  const JsonText json = parse(text);
+  std::size_t objects = 0;
+  ObjectReader in(objectOf(json), objects);
   readHead(in);
   FarmDocument document;
   in.read("name", document.name);
   in.read("notes", document.notes);
   in.read("letterhead", document.letterhead);
   readInputs(in, document.inputs);
-  readInto(in, "seasons", document.seasons, 9);
-  readInto(in, "trend", document.trend, 2);
+  readInto(in, "seasons", document.seasons, mostSeasons);
+  readInto(in, "trend", document.trend, mostProcesses);
   readInto(in, "saved", document.saved);
   readInto(in, "customCrops", document.customCrops);
   document.unknown = in.unknown();

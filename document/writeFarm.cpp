@@ -1,199 +1,246 @@
+#include <span>
 #include <string>
-#include <string_view>
-#include <utility>
 
+#include "document/JsonBuilder.h"
 #include "document/documentKeys.h"
 #include "document/farmText.h"
-#include "document/jsonNumber.h"
 #include "text/version.h"
 
 namespace verdalis {
 namespace {
 
-void putUnknown(Json& object, const UnknownKeys& unknown) {
-  for (const auto& [key, value] : unknown)
-    object[key] = Json::parse(value);
+/// Ends an object with the keys that the program does not know.
+void end(JsonBuilder& out, const UnknownKeys& unknown) {
+  for (const auto& [key, value] : unknown) {
+    out.key(key);
+    out.json(value);
+  }
+  out.endObject();
+}
+
+void putIfAny(JsonBuilder& out, std::string_view key, const std::optional<double>& value) {
+  if (value) out.put(key, *value);
 }
 
 template <class Owner>
-Json ofKeys(std::span<const DocumentKey<Owner>> keys, const Owner& owner) {
-  struct ToJson {
-    Json operator()(double value) const { return jsonNumber(value); }
-    Json operator()(bool value) const { return value; }
-    Json operator()(const std::string& value) const { return value; }
-    Json operator()(const Number& value) const {
-      return value.isEmpty() ? Json(nullptr) : jsonNumber(static_cast<double>(value));
+void putKeys(JsonBuilder& out, std::span<const DocumentKey<Owner>> keys, const Owner& owner) {
+  struct PutValue {
+    JsonBuilder& out;
+    void operator()(double value) const { out.value(value); }
+    void operator()(bool value) const { out.value(value); }
+    void operator()(const std::string& value) const { out.value(value); }
+    void operator()(const Number& value) const {
+      if (value.isEmpty()) {
+        out.null();
+      } else {
+        out.value(static_cast<double>(value));
+      }
     }
   };
-  Json object = Json::object();
-  for (const DocumentKey<Owner>& each : keys)
-    object.push_back({std::string(each.key), each.field.visit(owner, ToJson())});
-  return object;
+  for (const DocumentKey<Owner>& each : keys) {
+    out.key(each.key);
+    each.field.visit(owner, PutValue{out});
+  }
 }
 
-Json toJson(const DocumentFarm& farm) {
-  Json object = {{"txtArea", farm.txtArea},       {"txtMax", farm.txtMax},
-                 {"txtAnnRain", farm.txtAnnRain}, {"txtEff", farm.txtEff},
-                 {"txtSoil", farm.txtSoil},       {"split", nullptr},
-                 {"noSplit", farm.noSplit},       {"fallowNegatives", farm.fallowNegatives},
-                 {"txtSize", farm.txtSize}};
-  if (farm.split) object["split"] = *farm.split;
-  putUnknown(object, farm.unknown);
-  return object;
+void write(JsonBuilder& out, const DocumentFarm& farm) {
+  out.beginObject();
+  out.put("txtArea", farm.txtArea);
+  out.put("txtMax", farm.txtMax);
+  out.put("txtAnnRain", farm.txtAnnRain);
+  out.put("txtEff", farm.txtEff);
+  out.put("txtSoil", farm.txtSoil);
+  out.key("split");
+  if (farm.split) {
+    out.value(static_cast<double>(*farm.split));
+  } else {
+    out.null();
+  }
+  out.put("noSplit", farm.noSplit);
+  out.put("fallowNegatives", farm.fallowNegatives);
+  out.put("txtSize", farm.txtSize);
+  end(out, farm.unknown);
 }
 
-Json toJson(const DocumentPlant& plant) {
-  Json object = ofKeys(plantKeys(), plant.plant);
-  putUnknown(object, plant.unknown);
-  return object;
+void write(JsonBuilder& out, const DocumentPlant& plant) {
+  out.beginObject();
+  putKeys(out, plantKeys(), plant.plant);
+  end(out, plant.unknown);
 }
 
-Json toJson(const DocumentCrop& crop) {
-  Json object = {{"name", crop.name}, {"chosen", crop.chosen}, {"price", crop.price}};
-  if (crop.priceInForce) object["priceInForce"] = jsonNumber(*crop.priceInForce);
-  object["maxYield"] = crop.maxYield;
-  if (crop.maxYieldInForce) object["maxYieldInForce"] = jsonNumber(*crop.maxYieldInForce);
-  Json costs = ofKeys(costKeys(), crop.costs);
-  putUnknown(costs, crop.unknownCosts);
-  object["costs"] = std::move(costs);
-  putUnknown(object, crop.unknown);
-  return object;
+void write(JsonBuilder& out, const DocumentCrop& crop) {
+  out.beginObject();
+  out.put("name", crop.name);
+  out.put("chosen", crop.chosen);
+  out.put("price", crop.price);
+  putIfAny(out, "priceInForce", crop.priceInForce);
+  out.put("maxYield", crop.maxYield);
+  putIfAny(out, "maxYieldInForce", crop.maxYieldInForce);
+  out.key("costs");
+  out.beginObject();
+  putKeys(out, costKeys(), crop.costs);
+  end(out, crop.unknownCosts);
+  end(out, crop.unknown);
 }
 
-Json toJson(const DocumentOptions& options) {
-  Json object = {{"keep", options.keep}, {"factor", options.factor}};
-  if (options.mixes) object["mixes"] = true;
-  putUnknown(object, options.unknown);
-  return object;
+void write(JsonBuilder& out, const DocumentOptions& options) {
+  out.beginObject();
+  out.put("keep", options.keep);
+  out.put("factor", static_cast<double>(options.factor));
+  if (options.mixes) out.put("mixes", true);
+  end(out, options.unknown);
 }
 
-Json toJson(const DocumentWish& entry) {
+void write(JsonBuilder& out, const DocumentWish& entry) {
   const Wish& wish = entry.wish;
-  Json object = {{"kind", wishKinds.at(static_cast<std::size_t>(wish.kind))}};
-  if (namesCrop(wish.kind)) object["crop"] = wish.crop;
-  if (namesField(wish.kind)) object["field"] = wish.field;
-  if (hasAmount(wish.kind)) object["amount"] = jsonNumber(wish.amount);
-  putUnknown(object, entry.unknown);
-  return object;
+  out.beginObject();
+  out.put("kind", wishKinds.at(static_cast<std::size_t>(wish.kind)));
+  if (namesCrop(wish.kind)) out.put("crop", wish.crop);
+  if (namesField(wish.kind)) out.put("field", static_cast<double>(wish.field));
+  if (hasAmount(wish.kind)) out.put("amount", wish.amount);
+  end(out, entry.unknown);
 }
 
-Json toJson(const DocumentSeason& season) {
-  Json object = {
-      {"name", season.name}, {"rain", jsonNumber(season.rain)}, {"weight", jsonNumber(season.weight)}};
-  putUnknown(object, season.unknown);
-  return object;
+void write(JsonBuilder& out, const DocumentSeason& season) {
+  out.beginObject();
+  out.put("name", season.name);
+  out.put("rain", season.rain);
+  out.put("weight", season.weight);
+  end(out, season.unknown);
 }
 
-Json toJson(const DocumentProcess& process) {
-  Json object = {{"crop", process.crop},
-                 {"variable", trendVariableNames.at(process.variable)},
-                 {"values", trendValueKinds.at(process.values)},
-                 {"minimum", process.minimum},
-                 {"maximum", process.maximum},
-                 {"steps", process.steps},
-                 {"list", process.list},
-                 {"file", process.file},
-                 {"shown", process.shown}};
-  putUnknown(object, process.unknown);
-  return object;
+void write(JsonBuilder& out, const DocumentProcess& process) {
+  out.beginObject();
+  out.put("crop", process.crop);
+  out.put("variable", trendVariableNames.at(process.variable));
+  out.put("values", trendValueKinds.at(process.values));
+  out.put("minimum", process.minimum);
+  out.put("maximum", process.maximum);
+  out.put("steps", process.steps);
+  out.put("list", process.list);
+  out.put("file", process.file);
+  out.put("shown", process.shown);
+  end(out, process.unknown);
 }
 
-Json toJson(const EmbeddedCrop& crop) {
-  Json object = {{"name", crop.name}, {"text", crop.text}};
-  putUnknown(object, crop.unknown);
-  return object;
+void write(JsonBuilder& out, const EmbeddedCrop& crop) {
+  out.beginObject();
+  out.put("name", crop.name);
+  out.put("text", crop.text);
+  end(out, crop.unknown);
 }
 
-Json toJson(const SavedOptionField& field) {
-  Json object = {{"crop", field.crop},
-                 {"acres", jsonNumber(field.acres)},
-                 {"netDepth", jsonNumber(field.depth)},
-                 {"rain", jsonNumber(field.rain)},
-                 {"price", jsonNumber(field.price)},
-                 {"maxYield", jsonNumber(field.maxYield)},
-                 {"normalFactor", jsonNumber(field.normalFactor)},
-                 {"yield", jsonNumber(field.yield)},
-                 {"units", field.units},
-                 {"soil", field.soil},
-                 {"costs", jsonNumber(field.costs)},
-                 {"return", jsonNumber(field.returns)}};
-  if (field.trendedCosts) object["trendedProductionCosts"] = jsonNumber(*field.trendedCosts);
-  if (field.trendedIrrigation) object["trendedIrrigationCosts"] = jsonNumber(*field.trendedIrrigation);
-  if (field.ownCosts) object["ownCosts"] = ofKeys(costKeys(), *field.ownCosts);
-  if (field.ownPlant) object["ownPlant"] = ofKeys(plantKeys(), *field.ownPlant);
-  putUnknown(object, field.unknown);
-  return object;
+void write(JsonBuilder& out, const SavedOptionField& field) {
+  out.beginObject();
+  out.put("crop", field.crop);
+  out.put("acres", field.acres);
+  out.put("netDepth", field.depth);
+  out.put("rain", field.rain);
+  out.put("price", field.price);
+  out.put("maxYield", field.maxYield);
+  out.put("normalFactor", field.normalFactor);
+  out.put("yield", field.yield);
+  out.put("units", field.units);
+  out.put("soil", field.soil);
+  out.put("costs", field.costs);
+  out.put("return", field.returns);
+  putIfAny(out, "trendedProductionCosts", field.trendedCosts);
+  putIfAny(out, "trendedIrrigationCosts", field.trendedIrrigation);
+  if (field.ownCosts) {
+    out.key("ownCosts");
+    out.beginObject();
+    putKeys(out, costKeys(), *field.ownCosts);
+    end(out, field.unknownOwnCosts);
+  }
+  if (field.ownPlant) {
+    out.key("ownPlant");
+    out.beginObject();
+    putKeys(out, plantKeys(), *field.ownPlant);
+    end(out, field.unknownOwnPlant);
+  }
+  end(out, field.unknown);
 }
 
-Json toJson(const SavedOptionTrend& trend) {
-  Json object = {{"variable", trend.variable},
-                 {"value", jsonNumber(trend.value)},
-                 {"before", trend.before},
-                 {"after", trend.after}};
-  putUnknown(object, trend.unknown);
-  return object;
+void write(JsonBuilder& out, const SavedOptionTrend& trend) {
+  out.beginObject();
+  out.put("variable", trend.variable);
+  out.put("value", trend.value);
+  out.put("before", trend.before);
+  out.put("after", trend.after);
+  end(out, trend.unknown);
 }
 
-Json toJson(const SavedOption& saved);
+void write(JsonBuilder& out, const SavedOption& saved);
 
 template <class List>
-Json listOf(const List& values) {
-  Json list = Json::array();
+void putList(JsonBuilder& out, std::string_view key, const List& values) {
+  out.key(key);
+  out.beginList();
   for (const auto& value : values) {
     if constexpr (requires { *value; }) {
-      list.push_back(toJson(*value));
+      write(out, *value);
     } else {
-      list.push_back(toJson(value));
+      write(out, value);
     }
   }
-  return list;
+  out.endList();
 }
 
-void putInputs(Json& object, const FarmInputs& inputs) {
-  object["farm"] = toJson(inputs.farm);
-  object["plant"] = toJson(inputs.plant);
-  object["crops"] = listOf(inputs.crops);
-  object["options"] = toJson(inputs.options);
-  object["wishes"] = listOf(inputs.wishes);
+void putInputs(JsonBuilder& out, const FarmInputs& inputs) {
+  out.key("farm");
+  write(out, inputs.farm);
+  out.key("plant");
+  write(out, inputs.plant);
+  putList(out, "crops", inputs.crops);
+  out.key("options");
+  write(out, inputs.options);
+  putList(out, "wishes", inputs.wishes);
 }
 
-Json toJson(const FarmInputs& inputs) {
-  Json object = Json::object();
-  putInputs(object, inputs);
-  putUnknown(object, inputs.unknown);
-  return object;
+void write(JsonBuilder& out, const FarmInputs& inputs) {
+  out.beginObject();
+  putInputs(out, inputs);
+  end(out, inputs.unknown);
 }
 
-Json toJson(const SavedOption& saved) {
-  Json option = {{"costs", jsonNumber(saved.costs)}, {"fields", listOf(saved.fields)}};
-  if (!saved.trend.empty()) option["trend"] = listOf(saved.trend);
-  putUnknown(option, saved.unknownOption);
-  Json object = {{"name", saved.name}, {"option", std::move(option)}, {"inputs", toJson(saved.inputs)}};
-  putUnknown(object, saved.unknown);
-  return object;
-}
-
-std::string textOf(const Json& object) {
-  return object.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
+void write(JsonBuilder& out, const SavedOption& saved) {
+  out.beginObject();
+  out.put("name", saved.name);
+  out.key("option");
+  out.beginObject();
+  out.put("costs", saved.costs);
+  putList(out, "fields", saved.fields);
+  if (!saved.trend.empty()) putList(out, "trend", saved.trend);
+  end(out, saved.unknownOption);
+  out.key("inputs");
+  write(out, saved.inputs);
+  end(out, saved.unknown);
 }
 
 }  // namespace
 
 std::string writeFarm(const FarmDocument& document) {
-  Json object = {{"format", "verdalis-farm"},  {"version", farmFileVersion},
-                 {"program", versionNumber()}, {"name", document.name},
-                 {"notes", document.notes},    {"letterhead", document.letterhead}};
-  putInputs(object, document.inputs);
-  object["seasons"] = listOf(document.seasons);
-  object["trend"] = listOf(document.trend);
-  object["saved"] = listOf(document.saved);
-  object["customCrops"] = listOf(document.customCrops);
-  putUnknown(object, document.unknown);
-  return textOf(object);
+  JsonBuilder out;
+  out.beginObject();
+  out.put("format", farmFileFormat);
+  out.put("version", static_cast<double>(farmFileVersion));
+  out.put("program", versionNumber());
+  out.put("name", document.name);
+  out.put("notes", document.notes);
+  out.put("letterhead", document.letterhead);
+  putInputs(out, document.inputs);
+  putList(out, "seasons", document.seasons);
+  putList(out, "trend", document.trend);
+  putList(out, "saved", document.saved);
+  putList(out, "customCrops", document.customCrops);
+  end(out, document.unknown);
+  return out.take();
 }
 
 std::string writeInputs(const FarmInputs& inputs) {
-  return textOf(toJson(inputs));
+  JsonBuilder out;
+  write(out, inputs);
+  return out.take();
 }
 
 }  // namespace verdalis
