@@ -184,6 +184,11 @@ Accents accents(Scheme scheme) {
           QColor(0xC0392B), QColor(0xF3F3F3), QColor(0x8DB87C), QColor(0x2F7FB0)};
 }
 
+QColor textColor(QRgb color, Scheme scheme) {
+  const QColor own(color);
+  return scheme == Scheme::dark ? QColor::fromHslF(own.hslHueF(), 0.6F, 0.72F) : own;
+}
+
 void applyTheme(QApplication& application, Scheme scheme) {
   QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
   QApplication::setPalette(palette(scheme));

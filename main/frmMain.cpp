@@ -40,6 +40,11 @@ frmMain::frmMain(Desk& desk, Services& services, ProgramState& state, SecondaryW
       theResults(pneResults, "theResults", services, state),
       theDetails(pneDetails, "theDetails", state),
       pneSummary(*this, services, summaryResults, {[this] { return pneMain.txtAnnRain.text(); }, writeFile}),
+      pneCompare(*this, services,
+                 [this]() -> const SharedList<SavedOption>& {
+                   static const SharedList<SavedOption> none;
+                   return savedForCompare ? savedForCompare() : none;
+                 }),
       pneCustomCrop(*this, services, files.home / "crops" / "custom"),
       thePrinter(services.printer,
                  {[this] {
@@ -57,7 +62,7 @@ frmMain::frmMain(Desk& desk, Services& services, ProgramState& state, SecondaryW
       files_(std::move(files)) {
   setCaption(defaultTitle);
   for (Frame* pane : std::initializer_list<Frame*>{&pneMain, &pneInputCosts, &pneIrrigCosts, &pneResults,
-                                                   &pneDetails, &pneSummary, &pneCustomCrop,
+                                                   &pneDetails, &pneSummary, &pneCompare, &pneCustomCrop,
                                                    &trends.pneBatchSetup0, &trends.pneBatchSetup1}) {
     panes.addPane(*pane);
   }
@@ -220,6 +225,9 @@ void frmMain::wireResults() {
   });
   pneSummary.onShowPane.connect([this] { showPane(pneSummary); });
   pneSummary.onBack.connect([this] { goBack(); });
+  pneSummary.onCompare.connect([this] { pneCompare.open(); });
+  pneCompare.onShowPane.connect([this] { panes.showPassing(pneCompare); });
+  pneCompare.onBack.connect([this] { goBack(); });
 }
 
 void frmMain::wireOptions(Results& results) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -11,6 +12,7 @@
 #include "engine/BestMix.h"
 #include "engine/ProgramState.h"
 #include "engine/RunHooks.h"
+#include "main/ComparePane.h"
 #include "main/MainMenus.h"
 #include "main/MainTrendHost.h"
 #include "main/PaneStack.h"
@@ -53,6 +55,11 @@ class frmMain : public Window {
   Details theDetails;
   SummaryPane::SavedOptions summaryResults;  ///< Saved options
   SummaryPane pneSummary;
+
+  /// The saved options that pneCompare shows. None until it is set.
+  std::function<const SharedList<SavedOption>&()> savedForCompare;
+
+  ComparePane pneCompare;
   CustomCropPane pneCustomCrop;
   ResultPrinter thePrinter;  ///< Holds the options of the last run and the last shown field
 

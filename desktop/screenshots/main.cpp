@@ -43,6 +43,40 @@ void typeFarm(MainPane& pane) {
     pane.cr[row]->chkCrop.click();
 }
 
+/// The options saved in the window, with the inputs of the main pane and less water for each further one.
+SharedList<SavedOption> savedOptions(const frmMain& main) {
+  SharedList<SavedOption> list;
+  int water = 14;
+  for (const auto& option : main.summaryResults) {
+    SavedOption saved;
+    for (const auto& field : *option) {
+      SavedOptionField& copy = saved.fields.emplace_back();
+      copy.crop = field->theCrop->cropType;
+      copy.acres = field->acres;
+      copy.depth = field->Depth;
+      copy.price = field->theCrop->price;
+      copy.yield = field->theCrop->Yield;
+      copy.units = field->theCrop->cropUnits;
+      copy.costs = field->getCosts();
+      copy.returns = field->getReturn();
+      saved.costs += copy.costs;
+    }
+    saved.inputs.farm.txtArea = main.pneMain.txtArea.text();
+    saved.inputs.farm.txtMax = std::to_string(water--);
+    saved.inputs.farm.txtEff = main.pneMain.txtEff.text();
+    saved.inputs.farm.split = 3;
+    DocumentCrop corn;
+    corn.name = "Corn";
+    corn.chosen = true;
+    corn.price = list.empty() ? "6.52" : "6.10";
+    corn.costs.HarvestExceedRate = list.empty() ? 0.22 : 0.25;
+    saved.inputs.crops.add(corn);
+    if (list.size() == 1) saved.name = "Ninety percent of the water that the district has told us to expect";
+    list.add(std::move(saved));
+  }
+  return list;
+}
+
 void photograph(Desktop& desktop, const Photographer& camera) {
   camera.take(desktop.binder().widget(desktop.program().welcome), QStringLiteral("welcome"));
   desktop.program().welcome.Command1.click();
@@ -69,7 +103,7 @@ void photograph(Desktop& desktop, const Photographer& camera) {
   main.theResults.rh[0].cmdDetails.click();
   camera.take(window, QStringLiteral("details"));
   main.theDetails.Command3.click();
-  for (int i = 0; i < 2; ++i) {
+  for (int i = 0; i < 4; ++i) {
     QTimer::singleShot(0, [] {
       if (QWidget* box = QApplication::activeModalWidget()) box->close();
     });
@@ -78,6 +112,11 @@ void photograph(Desktop& desktop, const Photographer& camera) {
   }
   main.menus.mnuSummary.click();
   camera.take(window, QStringLiteral("summary"));
+  const SharedList<SavedOption> saved = savedOptions(main);
+  main.savedForCompare = [&saved]() -> const SharedList<SavedOption>& { return saved; };
+  main.pneSummary.cmdCompare.click();
+  camera.take(window, QStringLiteral("compare"));
+  main.savedForCompare = nullptr;
   main.menus.mnuCustomCrop.click();
   main.pneCustomCrop.cboCustomGrid[5].pick(0);
   camera.take(window, QStringLiteral("custom-crop"));
