@@ -89,7 +89,7 @@ std::string headOf(std::string_view label) {
 /// A label with its unit in brackets, unless it names the unit itself. What is counted "per" something is
 /// money.
 std::string headOf(std::string_view label, std::string_view unit) {
-  const std::string head = headOf(label);
+  std::string head = headOf(label);
   if (unit.empty() || head.find(unit) != std::string::npos) return head;
   return head + (unit.front() == '/' ? " ($ " : " (") + std::string(unit) + ")";
 }
