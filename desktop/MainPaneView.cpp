@@ -215,8 +215,9 @@ QWidget* MainPaneView::plantCard() {
 }
 
 void MainPaneView::fillFooter(QHBoxLayout* line) {
-  auto* keep = fixedLabel(tr("Options to keep:"));
-  auto* keepField = binder_.bind(pane_.txtArraySize, numberField(5), tr("Options to keep"));
+  const QString keepCaption = QString::fromLatin1(MainPane::keepCaption);
+  auto* keep = fixedLabel(keepCaption + QLatin1Char(':'));
+  auto* keepField = binder_.bind(pane_.txtArraySize, numberField(5), keepCaption);
   keep->setBuddy(keepField);
   line->addWidget(keep);
   line->addWidget(keepField);

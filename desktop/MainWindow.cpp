@@ -13,6 +13,7 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
+#include "desktop/CompareView.h"
 #include "desktop/CostViews.h"
 #include "desktop/CustomCropView.h"
 #include "desktop/DetailsView.h"
@@ -69,6 +70,7 @@ MainWindow::MainWindow(frmMain& window, Binder& binder, std::function<void(const
           "results.htm");
   addPane(window_.pneDetails, detailsView(window_.theDetails, binder_), "details.htm");
   addPane(window_.pneSummary, summaryView(window_.pneSummary, binder_), "summary.htm");
+  addPane(window_.pneCompare, compareView(window_.pneCompare, binder_), "summary.htm#compare");
   addPane(window_.pneCustomCrop, customCropView(window_.pneCustomCrop, binder_), "customcrops.htm");
   TrendScreens& trends = window_.trends;
   addPane(trends.pneBatchSetup0, batchSetupView(trends.pneBatchSetup0, binder_), "batchoption.htm");

@@ -18,7 +18,7 @@ namespace {
 /// a dark background.
 void showHeadsAndColours(const Grid& grid, QTableWidget* table) {
   const QSignalBlocker quiet(table);
-  const bool dark = schemeOf(table->palette()) == Scheme::dark;
+  const Scheme scheme = schemeOf(table->palette());
   QStringList rows;
   QStringList columns;
   for (int row = 0; row < grid.rows(); ++row)
@@ -33,8 +33,7 @@ void showHeadsAndColours(const Grid& grid, QTableWidget* table) {
     for (int column = 1; column < grid.columns(); ++column) {
       const auto colour = grid.color(row, column);
       if (!colour) continue;
-      const QColor own(static_cast<QRgb>(*colour));
-      table->item(row, column)->setForeground(dark ? QColor::fromHslF(own.hslHueF(), 0.6F, 0.72F) : own);
+      table->item(row, column)->setForeground(textColor(*colour, scheme));
       table->item(row, column)->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
     }
   }
@@ -102,6 +101,7 @@ QWidget* summaryView(SummaryPane& pane, Binder& binder) {
   buttons->addWidget(binder.bind(pane.cmdCancel, new QPushButton));
   buttons->addStretch();
   buttons->addWidget(binder.bind(pane.cmdExcelSave, new QPushButton));
+  buttons->addWidget(binder.bind(pane.cmdCompare, new QPushButton));
   addShortcut(binder, view, QKeySequence(Qt::Key_Escape), pane.cmdCancel);
   return view;
 }

@@ -194,6 +194,11 @@ Accents accents(Scheme scheme) {
           QColor(0x2F7FB0), QColor(0xFDF3D8), QColor(0xE6CF94)};
 }
 
+QColor textColor(QRgb color, Scheme scheme) {
+  const QColor own(color);
+  return scheme == Scheme::dark ? QColor::fromHslF(own.hslHueF(), 0.6F, 0.72F) : own;
+}
+
 void applyTheme(QApplication& application, Scheme scheme) {
   QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
   QApplication::setPalette(palette(scheme));

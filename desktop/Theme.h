@@ -60,4 +60,7 @@ struct Accents {
 };
 [[nodiscard]] Accents accents(Scheme scheme);
 
+/// A text colour of the program (0xRRGGBB, meant for a light background) for a scheme: lighter on a dark one.
+[[nodiscard]] QColor textColor(QRgb color, Scheme scheme);
+
 }  // namespace verdalis::desktop

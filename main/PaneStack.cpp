@@ -16,7 +16,22 @@ void PaneStack::addPane(Frame& pane) {
 }
 
 void PaneStack::showPane(Frame& pane) {
+  if (passing_) paneStack_.pop_back();
+  // Returning from a passing pane is not a new visit of the pane below it.
+  const bool returns = passing_ && !paneStack_.empty() && paneStack_.back() == &pane;
+  passing_ = false;
+  if (!returns) paneStack_.push_back(&pane);
+  bringForward(pane);
+}
+
+void PaneStack::showPassing(Frame& pane) {
+  if (passing_) paneStack_.pop_back();
+  passing_ = true;
   paneStack_.push_back(&pane);
+  bringForward(pane);
+}
+
+void PaneStack::bringForward(Frame& pane) {
   pane.setVisible(true);
   for (Frame* other : panes_) {
     other->setCovered(other != &pane);

@@ -9,6 +9,7 @@
 #include "data/StockDefaults.h"
 #include "data/owner.h"
 #include "data/writeFile.h"
+#include "document/savedOption.h"
 #include "main/SavedInputsControls.h"
 #include "screens/RunScenario.h"
 #include "screens/modInputTest.h"
@@ -46,6 +47,8 @@ frmMain::frmMain(Desk& desk, Services& services, ProgramState& state, SecondaryW
           *this, services, summaryResults,
           {[this] { return pneMain.txtAnnRain.text(); },
            [this](const std::filesystem::path& path, std::string_view bytes) { saveTable(path, bytes); }}),
+      savedForCompare([this]() -> const SharedList<SavedOption>& { return keeper.document().saved; }),
+      pneCompare(*this, services, [this]() -> const SharedList<SavedOption>& { return savedForCompare(); }),
       pneCustomCrop(*this, services, files.home / "crops" / "custom"),
       thePrinter(services.printer,
                  {[this] {
@@ -80,7 +83,7 @@ frmMain::frmMain(Desk& desk, Services& services, ProgramState& state, SecondaryW
       customCropNotices_(pneCustomCrop, notices, inputsKeeper) {
   setCaption(defaultTitle);
   for (Frame* pane : std::initializer_list<Frame*>{&pneMain, &pneInputCosts, &pneIrrigCosts, &pneResults,
-                                                   &pneDetails, &pneSummary, &pneCustomCrop,
+                                                   &pneDetails, &pneSummary, &pneCompare, &pneCustomCrop,
                                                    &trends.pneBatchSetup0, &trends.pneBatchSetup1}) {
     panes.addPane(*pane);
   }
@@ -266,6 +269,9 @@ void frmMain::wireResults() {
   });
   pneSummary.onShowPane.connect([this] { showPane(pneSummary); });
   pneSummary.onBack.connect([this] { goBack(); });
+  pneSummary.onCompare.connect([this] { pneCompare.open(); });
+  pneCompare.onShowPane.connect([this] { panes.showPassing(pneCompare); });
+  pneCompare.onBack.connect([this] { goBack(); });
 }
 
 void frmMain::wireOptions(Results& results) {
@@ -359,6 +365,9 @@ void frmMain::wireFarms() {
     keeper.ignore(*control);
   }
   keeper.ignore("cmdInputCosts");
+  pneCompare.optionToPrice = [this](const SavedOption& saved) -> FieldCollection& {
+    return *optionOf(saved, cropFiles.cropCollection);
+  };
   farmControls.tellCaution = [this](const Message& message) {
     notices.tell({.text = message.text, .about = message.title});
   };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -15,6 +16,7 @@
 #include "engine/BestMix.h"
 #include "engine/ProgramState.h"
 #include "engine/RunHooks.h"
+#include "main/ComparePane.h"
 #include "main/CustomCropNotices.h"
 #include "main/FarmFiles.h"
 #include "main/LossNotices.h"
@@ -65,6 +67,11 @@ class frmMain : public Window {
   Details theDetails;
   SummaryPane::SavedOptions summaryResults;  ///< Saved options
   SummaryPane pneSummary;
+
+  /// The saved options that pneCompare shows: those of the document.
+  std::function<const SharedList<SavedOption>&()> savedForCompare;
+
+  ComparePane pneCompare;
   CustomCropPane pneCustomCrop;
   ResultPrinter thePrinter;  ///< Holds the options of the last run and the last shown field
 

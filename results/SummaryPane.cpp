@@ -57,6 +57,8 @@ SummaryPane::SummaryPane(Frame& container, Services& services, SavedOptions& sum
   setCaption("Summary of Saved Options");
   fgsummary.onClick.connect([this] { removeClicked(); });
   cmdExcelSave.onClick.connect([this] { saveTable(); });
+  cmdCompare.setVisible(false);
+  cmdCompare.onClick.connect([this] { onCompare(); });
   cmdCancel.onClick.connect([this] { onBack(); });
 }
 
@@ -66,6 +68,7 @@ void SummaryPane::showSummary() {
 }
 
 void SummaryPane::build() {
+  cmdCompare.setVisible(!summaryResults_.empty());
   if (summaryResults_.empty()) {
     fgsummary.setVisible(false);
     Label59.setCaption(

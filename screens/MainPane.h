@@ -38,7 +38,8 @@ class MainPane : public Frame {
       *this, "txtSoil", ComboBox::Style::freeText, {"Silt Loam", "Fine Sand", "Loamy Sand"}, "Silt Loam"};
   OptionGroup landSplits;
   std::vector<std::unique_ptr<OptionButton>> Option1;
-  CheckBox chkNoSplit{*this, "chkNoSplit", "Evaluate no land split scenario"};
+  static constexpr const char* noSplitCaption = "Evaluate no land split scenario";
+  CheckBox chkNoSplit{*this, "chkNoSplit", noSplitCaption};
   CheckBox Check1{*this, "Check1", "Turn land splits with negative returns into fallow"};
   Button Command8{*this, "Command8", "Enter Irrigation Information"};
   Button Command7{*this, "Command7", "Load Default Values"};
@@ -49,6 +50,7 @@ class MainPane : public Frame {
   std::vector<std::unique_ptr<CropRecord>> cr;  ///< Element 0 always exists and survives reloads
   Button Command1{*this, "Command1", "Generate Output"};
   Label lblNumber{*this, "lblNumber"};
+  static constexpr const char* keepCaption = "Options to keep";
   TextBox txtArraySize{*this, "txtArraySize", "100"};
   TextBox txtSize{*this, "txtSize"};                           ///< Without effect
   Button cmdReturn{*this, "cmdReturn", "Largest Return ($)"};  ///< Without effect

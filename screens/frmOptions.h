@@ -16,7 +16,8 @@ class frmOptions : public Window {
   static constexpr const char* heading = "Options";
 
   Label Label1{*this, "Label1"};  ///< The explanation
-  Label Label2{*this, "Label2", "Irrigation Iteration Factor"};
+  static constexpr const char* factorCaption = "Irrigation Iteration Factor";
+  Label Label2{*this, "Label2", factorCaption};
   TextBox txtFineFactor{*this, "txtFineFactor", "10"};
   Button cmdApply{*this, "cmdApply", "Apply"};
   Button cmdCancel{*this, "cmdCancel", "Cancel"};

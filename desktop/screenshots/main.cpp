@@ -97,7 +97,7 @@ void photograph(Desktop& desktop, const Photographer& camera) {
   main.theResults.rh[0].cmdDetails.click();
   camera.take(window, QStringLiteral("details"));
   main.theDetails.Command3.click();
-  for (int i = 0; i < 2; ++i) {
+  for (int i = 0; i < 4; ++i) {
     QTimer::singleShot(0, [] {
       if (QWidget* box = QApplication::activeModalWidget()) box->close();
     });
@@ -106,6 +106,8 @@ void photograph(Desktop& desktop, const Photographer& camera) {
   }
   main.menus.mnuSummary.click();
   camera.take(window, QStringLiteral("summary"));
+  main.pneSummary.cmdCompare.click();
+  camera.take(window, QStringLiteral("compare"));
   main.menus.mnuCustomCrop.click();
   main.pneCustomCrop.cboCustomGrid[5].pick(0);
   camera.take(window, QStringLiteral("custom-crop"));

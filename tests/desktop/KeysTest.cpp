@@ -98,8 +98,9 @@ TEST_F(Keys, EveryControlOfEveryPaneHasAKey) {
   for (Frame* pane :
        {static_cast<Frame*>(&main.pneMain), static_cast<Frame*>(&main.pneInputCosts),
         static_cast<Frame*>(&main.pneIrrigCosts), &main.pneResults, &main.pneDetails,
-        static_cast<Frame*>(&main.pneSummary), static_cast<Frame*>(&main.pneCustomCrop),
-        static_cast<Frame*>(&main.trends.pneBatchSetup0), static_cast<Frame*>(&main.trends.pneBatchSetup1)}) {
+        static_cast<Frame*>(&main.pneSummary), static_cast<Frame*>(&main.pneCompare),
+        static_cast<Frame*>(&main.pneCustomCrop), static_cast<Frame*>(&main.trends.pneBatchSetup0),
+        static_cast<Frame*>(&main.trends.pneBatchSetup1)}) {
     SCOPED_TRACE(pane->name());
     QWidget* page = desktop().binder().widget(*pane);
     ASSERT_NE(page, nullptr);

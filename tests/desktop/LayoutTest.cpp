@@ -9,6 +9,7 @@
 
 #include "desktop/Theme.h"
 #include "tests/desktop/RunningDesktop.h"
+#include "tests/support/SavedOptions.h"
 
 namespace verdalis::testing {
 namespace {
@@ -46,6 +47,16 @@ class Layout : public RunningDesktop {
     press("theDetails.Command3");
     expectBox();
     press("theResults.cmdSaveResult");
+    saved_ = {};
+    for (int i = 0; i < 8; ++i) {
+      saved_.add(
+          savedEarning(100 * i, savedInputs(), i == 3 ? "An option with a name that is rather long" : ""));
+    }
+    program().main().savedForCompare = [this]() -> const SharedList<SavedOption>& { return saved_; };
+    program().main().pneSummary.showSummary();
+    shown("pneSummary");
+    press("cmdCompare");
+    shown("pneCompare");
     choose(program().main().menus.mnuCustomCrop);
     control<ComboBox>("cboCustomGrid(5)").pick(0);
     shown("pneCustomCrop");
@@ -126,6 +137,9 @@ class Layout : public RunningDesktop {
     }
     EXPECT_EQ(window()->size(), window()->minimumSize()) << pane;
   }
+
+ private:
+  SharedList<SavedOption> saved_;
 };
 
 TEST_F(Layout, TabStopsOnlyAtControls) {
