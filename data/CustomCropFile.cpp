@@ -5,6 +5,7 @@
 
 #include "data/FileReader.h"
 #include "data/listFiles.h"
+#include "data/readBytes.h"
 #include "data/readFile.h"
 #include "model/YieldUnit.h"
 #include "text/RunTimeError.h"

@@ -11,11 +11,6 @@ namespace verdalis {
 /// below the memory of any machine.
 inline constexpr std::uintmax_t maxFileSize = 64U << 20U;
 
-/// Reads the bytes of a file.
-/// \throws RunTimeError (fileNotFound) if it is missing, cannot be read, has more than maxFileSize bytes, or
-/// is not a regular file: reading a pipe or a device could block for ever.
-[[nodiscard]] std::string readBytes(const std::filesystem::path& path);
-
 /// Reads a file as UTF-8 text (see decodeText).
 /// \throws RunTimeError as readBytes()
 [[nodiscard]] std::string readFile(const std::filesystem::path& path);

@@ -189,10 +189,12 @@ std::vector<DocumentProcess> FarmControls::readTrend(const std::vector<DocumentP
   const std::size_t count = std::max<std::size_t>(trend.ProcessCollection.size(), 1);
   const auto shown = static_cast<std::size_t>(std::max<std::int16_t>(trend.CurrentProcess, 0));
   std::vector<DocumentProcess> processes(count);
-  for (std::size_t i = 0; i < count; ++i) {
+  // Further processes of a farm file wait for a setup that they can be shown in.
+  if (!parts_.state.TrendMode && before.size() > count) processes = before;
+  for (std::size_t i = 0; i < processes.size(); ++i) {
     DocumentProcess& process = processes[i];
     if (i < before.size()) process.unknown = before[i].unknown;
-    process.shown = i == std::min(shown, count - 1);
+    if (processes.size() == count) process.shown = i == std::min(shown, count - 1);
     if (process.shown) {
       process.crop = pane.cboCrops.text();
       process.variable = static_cast<std::size_t>(BatchSetupPane::getSelectedIndex(pane.batchVariables));
@@ -204,6 +206,7 @@ std::vector<DocumentProcess> FarmControls::readTrend(const std::vector<DocumentP
       process.file = pane.lblBatchFile.caption();
       continue;
     }
+    if (processes.size() > count) continue;
     const BatchProcess& other = trend.ProcessCollection[i];
     const auto row = static_cast<std::size_t>(std::max(other.cropIndex, 0.0));
     if (row < parts_.main.cr.size() && parts_.main.cr[row]->Crop)

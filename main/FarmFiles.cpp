@@ -43,6 +43,12 @@ std::string listOf(const std::vector<std::string>& names) {
   return text;
 }
 
+/// Whether a crop is chosen or has values other than 0.
+bool isEntered(const DocumentCrop& crop) {
+  const auto isZero = [](const std::string& text) { return text.find_first_not_of("0.") == std::string::npos; };
+  return crop.chosen || !isZero(crop.price) || !isZero(crop.maxYield) || !sameCosts(crop.costs, {});
+}
+
 /// The name by which messages and the title call a farm.
 std::string nameOf(const FarmDocument& document, const std::optional<fs::path>& path) {
   if (!document.name.empty()) return document.name;
@@ -277,6 +283,7 @@ void FarmFiles::bringCrops(const FarmDocument& document, bool mayAsk) {
 void FarmFiles::tellMissingCrops(const FarmDocument& document) {
   std::vector<std::string> missing;
   for (const auto& crop : document.inputs.crops) {
+    if (!isEntered(*crop)) continue;
     const auto& library = window_.cropFiles.cropCollection;
     const bool known = std::any_of(library.begin(), library.end(),
                                    [&](const auto& each) { return each->cropType == crop->name; });

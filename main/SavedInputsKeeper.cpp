@@ -6,6 +6,7 @@
 #include <system_error>
 #include <utility>
 
+#include "data/readBytes.h"
 #include "data/readFile.h"
 #include "data/writeFile.h"
 #include "text/RunTimeError.h"
