@@ -1,6 +1,5 @@
 #include "cli/JsonWriter.h"
 
-#include <cmath>
 #include <nlohmann/json.hpp>
 #include <ostream>
 #include <string>
@@ -48,13 +47,6 @@ void writeSteps(JsonStream& json, const Explanation& explanation) {
 }
 
 }  // namespace
-
-Json jsonNumber(double value) {
-  constexpr double exact = 1e15;
-  const bool whole = std::fabs(value) < exact && value == std::trunc(value);
-  if (whole && !(value == 0 && std::signbit(value))) return static_cast<std::int64_t>(value);
-  return value;
-}
 
 Json toJson(const OptionResult& option) {
   Json fields = Json::array();

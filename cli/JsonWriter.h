@@ -1,19 +1,13 @@
 #pragma once
 
 #include <iosfwd>
-#include <nlohmann/json_fwd.hpp>
 #include <string_view>
 #include <vector>
 
 #include "cli/EvaluationResult.h"
+#include "document/jsonNumber.h"
 
 namespace verdalis {
-
-/// JSON that keeps its keys in insertion order.
-using Json = nlohmann::ordered_json;
-
-/// A number that reads back as the same 64-bit float. A whole number is written without a decimal point.
-[[nodiscard]] Json jsonNumber(double value);
 
 /// The object of an option.
 [[nodiscard]] Json toJson(const OptionResult& option);
