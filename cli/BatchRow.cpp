@@ -4,6 +4,7 @@
 #include <optional>
 #include <stdexcept>
 #include <string_view>
+#include <vector>
 
 #include "cli/FarmOptions.h"
 #include "model/LandDivision.h"
@@ -46,6 +47,7 @@ class RowTyping {
         inputs_(base.inputs),
         factor_(base.factor),
         plant_(base.plant),
+        farmCrops_(base.farmCrops),
         ticked_(base.crops),
         wishes_(base.wishes) {}
 
@@ -102,6 +104,7 @@ class RowTyping {
         return;
       case Kind::tick:
         inputs_.cr.at(column.index).isActive = onOrOff(text);
+        std::erase(farmCrops_, column.index);
         return;
       default:
         setOption(column, text);
@@ -142,6 +145,7 @@ class RowTyping {
         plant_.cost = Val(text);
         return;
       default:
+        inputs_.wishes.clear();
         wishes_ = listOf(text);
     }
   }
@@ -179,6 +183,8 @@ class RowTyping {
   }
 
   void chooseCrops(const std::string& text) {
+    for (const std::size_t row : farmCrops_)
+      inputs_.cr.at(row).isActive = false;
     ticked_.clear();
     for (const std::string& name : listOf(text)) {
       const std::optional<std::size_t> row = findCrop(base_.names, name);
@@ -189,13 +195,13 @@ class RowTyping {
 
   /// Reads the wishes of the row. They depend on its crops and land split.
   void readWishes() {
-    inputs_.wishes.clear();
-    if (wishes_.empty()) return;
+    if (inputs_.wishes.empty() && wishes_.empty()) return;
     WishContext context{base_.names, {}, 0};
     for (std::size_t row = 0; row < inputs_.cr.size() && row < base_.names.size(); ++row) {
       if (inputs_.cr[row].isActive) context.chosen.push_back(base_.names[row]);
     }
     context.fields = getLandSplit(inputs_.Option1).getSplits().size();
+    requireFitting(inputs_.wishes, context);
     for (const std::string& text : wishes_) {
       try {
         addWish(inputs_.wishes, readWish(text, context));
@@ -209,6 +215,7 @@ class RowTyping {
   ScenarioInputs inputs_;
   std::int16_t factor_;
   IrrigationCosts plant_;
+  std::vector<std::size_t> farmCrops_;  ///< Without those that a cell has set
   std::vector<std::size_t> ticked_;
   std::vector<std::string> wishes_;
   std::vector<std::string> warnings_;
