@@ -77,6 +77,7 @@ BatchBase makeBase(const BatchRequest& request, TypedFarm& farm) {
   base.library = farm.library();
   base.names = farm.cropNames();
   base.plant = farm.plant();
+  base.farmCrops = farm.farmRows();
   base.crops = cropRows(request.farm.crops, base.names);
   requireReadable(request.farm.wishes, base.names);
   base.wishes = request.farm.wishes;
@@ -96,7 +97,8 @@ const CLI::App& addBatchCommand(CLI::App& app, BatchRequest& request) {
   addTextOption(command, "FARMS", "", request.table,
                 "CSV table whose header row names what each column sets;\n- reads standard input");
   addFarmOptions(command, request.farm);
-  command.get_option("--keep")->description("Number of options to keep per farm (default: 1)");
+  command.get_option("--keep")->description(
+      "Number of options to keep per farm\n(default: 1, also with --farm)");
   addMixesOption(command, request.farm);
   command.add_option("--format", request.format, "csv or json (default: csv)")
       ->type_name("FORMAT")

@@ -2,7 +2,10 @@
 
 #include <algorithm>
 #include <optional>
+#include <stdexcept>
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "cli/FarmOptions.h"
 #include "model/LandDivision.h"
@@ -45,6 +48,7 @@ class RowTyping {
         inputs_(base.inputs),
         factor_(base.factor),
         plant_(base.plant),
+        farmCrops_(base.farmCrops),
         ticked_(base.crops),
         wishes_(base.wishes) {}
 
@@ -101,6 +105,7 @@ class RowTyping {
         return;
       case Kind::tick:
         inputs_.cr.at(column.index).isActive = onOrOff(text);
+        std::erase(farmCrops_, column.index);
         return;
       default:
         setOption(column, text);
@@ -141,6 +146,7 @@ class RowTyping {
         plant_.cost = Val(text);
         return;
       default:
+        inputs_.wishes.clear();
         wishes_ = listOf(text);
     }
   }
@@ -178,6 +184,8 @@ class RowTyping {
   }
 
   void chooseCrops(const std::string& text) {
+    for (const std::size_t row : farmCrops_)
+      inputs_.cr.at(row).isActive = false;
     ticked_.clear();
     for (const std::string& name : listOf(text)) {
       const std::optional<std::size_t> row = findCrop(base_.names, name);
@@ -188,20 +196,26 @@ class RowTyping {
 
   /// Reads the wishes of the row. They depend on its crops and land split.
   void takeWishes() {
-    inputs_.wishes.clear();
-    if (wishes_.empty()) return;
+    if (inputs_.wishes.empty() && wishes_.empty()) return;
     WishContext context{base_.names, {}, 0};
     for (std::size_t row = 0; row < inputs_.cr.size() && row < base_.names.size(); ++row) {
       if (inputs_.cr[row].isActive) context.chosen.push_back(base_.names[row]);
     }
     context.fields = getLandSplit(inputs_.Option1).getSplits().size();
-    inputs_.wishes = readWishes("wish", wishes_, context);
+    requireFitting(inputs_.wishes, context);
+    try {
+      for (const Wish& wish : readWishes("wish", wishes_, context))
+        addWish(inputs_.wishes, wish);
+    } catch (const std::invalid_argument& fault) {
+      throw Refusal(std::string("wish: ") + fault.what());
+    }
   }
 
   const BatchBase& base_;
   ScenarioInputs inputs_;
   std::int16_t factor_;
   IrrigationCosts plant_;
+  std::vector<std::size_t> farmCrops_;  ///< Without those that a cell has set
   std::vector<std::size_t> ticked_;
   std::vector<std::string> wishes_;
   std::vector<std::string> warnings_;

@@ -16,11 +16,15 @@ namespace verdalis {
 /// The farm before a row of the table is applied, as set by the options of the command line. It is not
 /// changed, so several rows can be applied to it in parallel.
 struct BatchBase {
-  ScenarioInputs inputs;  ///< Without the crops and wishes from the options
+  /// Without the crops and wishes from the options, but with those of the farm file.
+  ScenarioInputs inputs;
   std::int16_t factor = 0;
   CropScenario library;
   CropNames names;  ///< Of the library
   IrrigationCosts plant;
+
+  /// The rows that the farm file has ticked. A row of the table with crops unticks them.
+  std::vector<std::size_t> farmCrops;
   std::vector<std::size_t> crops;   ///< Rows to tick, for rows of the table without crops
   std::vector<std::string> wishes;  ///< For rows of the table without wishes
 };

@@ -30,7 +30,7 @@ EvaluationResult runFarm(const EvaluateRequest& request, Reports& reports, Messa
   const std::optional<FieldPlace> place = placeToExplain(request);
   const Interrupt interrupt;
   const std::unique_ptr<TypedFarm> farm = makeFarm(request.farm, messages);
-  requireReady(farm->inputs());
+  requireReady(request.farm, *farm);
 
   Progress progress(asTerminal(messages.stream()), farm->state());
   const double start = Progress::secondsNow();

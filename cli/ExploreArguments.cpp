@@ -135,12 +135,14 @@ InputBounds upTo(std::optional<double> most) {
 
 }  // namespace
 
-Farm exploredFarm(const FarmRequest& request, Messages& messages) {
+ExploredFarm exploredFarm(const FarmRequest& request, Messages& messages) {
   const std::unique_ptr<TypedFarm> typed = makeFarm(request, messages);
-  requireReady(typed->inputs());
-  Farm farm = typed->farm();
-  BestMix().setSize(farm.size);  // fails for a size of 0, as an evaluation does
-  return farm;
+  requireReady(request, *typed);
+  ExploredFarm explored{typed->farm(), {}};
+  BestMix().setSize(explored.farm.size);  // fails for a size of 0, as an evaluation does
+  for (const DocumentSeason& season : typed->document().seasons)
+    explored.seasons.push_back({season.name, season.rain, season.weight});
+  return explored;
 }
 
 std::string inputTitle(const FarmInput& input) {

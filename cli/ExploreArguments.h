@@ -9,16 +9,23 @@
 #include "engine/Farm.h"
 #include "explore/FarmInput.h"
 #include "explore/inputs.h"
+#include "explore/seasons.h"
 
 namespace verdalis {
 
 /// Maximum number of points of one result.
 inline constexpr std::size_t mostPoints = 100000;
 
+/// A farm that questions are asked about.
+struct ExploredFarm {
+  Farm farm;
+  std::vector<Season> seasons;  ///< Of its farm file
+};
+
 /// The farm of the request as numbers.
 /// \throws Refusal if `evaluate` would refuse it
 /// \throws RunTimeError for numbers that give no valid farm
-[[nodiscard]] Farm exploredFarm(const FarmRequest& request, Messages& messages);
+[[nodiscard]] ExploredFarm exploredFarm(const FarmRequest& request, Messages& messages);
 
 /// The name of an input with its unit, for a table.
 [[nodiscard]] std::string inputTitle(const FarmInput& input);

@@ -62,12 +62,14 @@ void ExploreCommand::answer(ExploreQuestion& question, std::ostream& out, Messag
   text.exceptions(std::ios::badbit);  // out of memory
   {
     const Interrupt interrupt;
-    const Farm farm = exploredFarm(request_.farm, messages);
+    const ExploredFarm explored = exploredFarm(request_.farm, messages);
+    const Farm& farm = explored.farm;
     ProgramState state;
     Progress progress(asTerminal(messages.stream()), state);
     if (request_.format == "table") writeWishes(text, farm);
     try {
-      question.answer({farm, request_.format, !request_.output && isTerminal(out), state, progress}, text);
+      const bool onTerminal = !request_.output && isTerminal(out);
+      question.answer({farm, explored.seasons, request_.format, onTerminal, state, progress}, text);
     } catch (const NoPlan& noPlan) {
       if (request_.format == "json")
         deliver(noPlanJson(farm.wishes, noPlan.relaxations()), request_.output, out);

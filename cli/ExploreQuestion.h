@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include "cli/Interrupt.h"
 #include "cli/JsonWriter.h"
@@ -14,16 +15,18 @@
 #include "engine/Farm.h"
 #include "engine/ProgramState.h"
 #include "engine/RunHooks.h"
+#include "explore/seasons.h"
 
 namespace verdalis {
 
 /// The farm of a question and the way to answer it.
 struct ExploreCall {
   const Farm& farm;
-  std::string_view format;  ///< "table", "csv" or "json"
-  bool onTerminal = false;  ///< The output is a terminal, so the answer may include a drawing
-  ProgramState& state;      ///< Requests a cancel
-  RunHooks& hooks;          ///< Receives the progress
+  const std::vector<Season>& seasons;  ///< Of the farm file; those that a question uses by default
+  std::string_view format;             ///< "table", "csv" or "json"
+  bool onTerminal = false;             ///< The output is a terminal, so the answer may include a drawing
+  ProgramState& state;                 ///< Requests a cancel
+  RunHooks& hooks;                     ///< Receives the progress
 };
 
 /// A question of `explore`, such as "water", with its own options.

@@ -2,6 +2,7 @@
 #include <nlohmann/json.hpp>
 #include <optional>
 #include <ostream>
+#include <utility>
 
 #include "cli/CsvWriter.h"
 #include "cli/ExploreArguments.h"
@@ -32,19 +33,33 @@ Season readSeason(const std::string& text) {
   return season;
 }
 
+/// Adds a season. `origin` begins the message for a name that another one has.
+void addSeason(std::vector<Season>& seasons, Season season, const std::string& origin) {
+  const bool repeated = std::any_of(seasons.begin(), seasons.end(),
+                                    [&](const Season& other) { return other.name == season.name; });
+  if (repeated) throw Refusal(origin + ": There is already a season with this name.");
+  seasons.push_back(std::move(season));
+}
+
 std::vector<Season> readSeasons(const std::vector<std::string>& texts) {
   std::vector<Season> seasons;
   for (const std::string& text : texts) {
-    seasons.push_back(applyOption("--season", text, [&] { return readSeason(text); }));
-    const auto same = std::find_if(seasons.begin(), seasons.end(),
-                                   [&](const Season& season) { return season.name == seasons.back().name; });
-    if (same != seasons.end() - 1)
-      throw Refusal("--season " + quoteForMessage(text) + ": There is already a season with this name.");
+    addSeason(seasons, applyOption("--season", text, [&] { return readSeason(text); }),
+              "--season " + quoteForMessage(text));
   }
   if (seasons.size() < leastSeasons || seasons.size() > mostSeasons) {
     throw Refusal("There are " + std::to_string(leastSeasons) + " to " + std::to_string(mostSeasons) +
                   " seasons (--season NAME:RAIN:WEIGHT), not " + std::to_string(seasons.size()) + ".");
   }
+  return seasons;
+}
+
+/// The seasons of a farm file; the usual ones if it has fewer than two.
+std::vector<Season> seasonsOfFarm(const ExploreCall& call) {
+  if (call.seasons.size() < leastSeasons) return usualSeasons(call.farm.rain);
+  std::vector<Season> seasons;
+  for (const Season& season : call.seasons)
+    addSeason(seasons, season, "The season " + quoteForMessage(season.name) + " of the farm file");
   return seasons;
 }
 
@@ -143,13 +158,14 @@ class ExploreSeasons : public ExploreQuestion {
   }
 
   void addOptions(CLI::App& command) override {
-    addTextOption(command, "--season", "NAME:RAIN:WEIGHT", texts_,
-                  "A season with its rain in inches and its weight\n(default: dry, normal and wet, 3 inches "
-                  "apart, with weights 1, 2 and 1)");
+    addTextOption(
+        command, "--season", "NAME:RAIN:WEIGHT", texts_,
+        "A season with its rain in inches and its weight\n(default: those of the farm file, else dry, "
+        "normal and wet,\n3 inches apart, with weights 1, 2 and 1)");
   }
 
   void answer(const ExploreCall& call, std::ostream& out) override {
-    const std::vector<Season> seasons = texts_.empty() ? usualSeasons(call.farm.rain) : readSeasons(texts_);
+    const std::vector<Season> seasons = texts_.empty() ? seasonsOfFarm(call) : readSeasons(texts_);
     const SeasonsResult result = answered(exploreSeasons(call.farm, seasons, call.state, call.hooks));
     if (call.format == "json") {
       writeJson(out, call.farm, result);

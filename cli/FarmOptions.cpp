@@ -5,8 +5,10 @@
 
 #include "cli/farmTexts.h"
 #include "cli/textOptions.h"
+#include "data/farmFile.h"
 #include "data/home.h"
 #include "data/readFile.h"
+#include "document/farmText.h"
 #include "text/RunTimeError.h"
 #include "text/numbers.h"
 #include "text/quote.h"
@@ -42,6 +44,7 @@ std::int16_t iterationFactor(const std::string& text, Messages& messages) {
 
 ProgramFiles filesOf(const FarmRequest& request) {
   ProgramFiles files(request.home ? std::filesystem::path(*request.home) : homeFolder(homePlaces()));
+  if (request.farmFile) files.inputs.clear();  // the farm file takes the place of all saved inputs
   if (!request.inputs) return files;
   files.inputs = *request.inputs;
   try {
@@ -50,6 +53,22 @@ ProgramFiles filesOf(const FarmRequest& request) {
     throw Refusal(std::string("--inputs: ") + error.what());
   }
   return files;
+}
+
+/// Reads the farm file of a request.
+/// \throws Refusal for a file that cannot be read or is no intact farm file
+FarmDocument openFarmFile(const std::string& file) {
+  FarmFile read;
+  try {
+    read = readFarmFile(file);
+  } catch (const RunTimeError& error) {
+    throw Refusal(std::string("--farm: ") + error.what());
+  }
+  try {
+    return readFarm(read.text);
+  } catch (const RunTimeError& error) {
+    throw Refusal("--farm: The file " + file + ": " + error.what());
+  }
 }
 
 void applyToRows(const FarmRequest& request, TypedFarm& farm) {
@@ -87,6 +106,10 @@ void addFarmOptions(CLI::App& command, FarmRequest& request) {
                 "Folder with crops/ and inputs.txt\n(default: the program's own home folder)");
   addTextOption(command, "--inputs", "FILE", request.inputs,
                 "Saved inputs file to read instead of inputs.txt in the home folder");
+  addTextOption(
+      command, "--farm", "FILE", request.farmFile,
+      "Farm file to read instead of saved inputs, not beside --inputs.\nThe options below then change it, in "
+      "this order: --crop, --no-split\nand --wish add to it, all others replace what it says");
   command.add_flag("--defaults", request.defaults, "Then load the default prices, yields, costs and plant");
   addTextOption(
       command, "--set", "CONTROL=TEXT", request.sets,
@@ -98,9 +121,11 @@ void addFarmOptions(CLI::App& command, FarmRequest& request) {
   addTextOption(command, "--split", "N", request.split, "The land split:\n" + landSplitNames("\n"));
   addTextOption(command, "--crop", "NAME", request.crops, "A crop to include");
   command.add_flag("--no-split", request.noSplit, "Also evaluate each crop on the undivided farm");
-  addTextOption(command, "--keep", "N", request.keep, "Number of options to keep (default: 100)");
+  addTextOption(command, "--keep", "N", request.keep,
+                "Number of options to keep\n(default: that of the farm file, else 100)");
   addTextOption(command, "--factor", "N", request.factor,
-                "Irrigation iteration factor: number of water steps\nbetween 0 and 100 % (default: 10)");
+                "Irrigation iteration factor: number of water steps\nbetween 0 and 100 % (default: that of "
+                "the farm file, else 10)");
   addTextOption(
       command, "--wish", "TEXT", request.wishes,
       "A wish that every plan must meet, such as\n\"Corn at least 40 acres\", \"field 1 is not Corn\",\n"
@@ -112,11 +137,16 @@ void addMixesOption(CLI::App& command, FarmRequest& request) {
 }
 
 std::unique_ptr<TypedFarm> makeFarm(const FarmRequest& request, Messages& messages) {
+  if (request.farmFile && request.inputs)
+    throw Refusal("--farm: A farm file takes the place of saved inputs, so --inputs cannot be given too.");
+  const std::optional<FarmDocument> document =
+      request.farmFile ? std::optional(openFarmFile(*request.farmFile)) : std::nullopt;
   auto farm = std::make_unique<TypedFarm>(filesOf(request), messages);
   if (request.inputs && !farm->inputsLoaded()) {
     messages.tell("The file " + *request.inputs +
                   " ends too early or contains an invalid value. The values before it are used.");
   }
+  if (document) farm->open(*document);
   if (request.defaults) farm->loadDefaultValues();
   for (const std::string& set : request.sets) {
     applyOption("--set", set, [&] {
@@ -168,6 +198,27 @@ void requireReady(const ScenarioInputs& inputs) {
       std::any_of(inputs.cr.begin(), inputs.cr.end(), [](const CropRowInput& row) { return row.isActive; }),
       "a crop (--crop NAME)");
   throw Refusal("Please enter all of the necessary information before continuing! Missing: " + missing + ".");
+}
+
+void requireReady(const FarmRequest& request, TypedFarm& farm) {
+  const ScenarioInputs inputs = farm.inputs();
+  requireReady(inputs);
+  if (request.farmFile) requireFitting(inputs.wishes, farm.wishContext());
+}
+
+void requireFitting(const std::vector<Wish>& wishes, const WishContext& context) {
+  for (const Wish& wish : wishes) {
+    const std::string text = wishText(wish);
+    WishContext known = context;
+    // A crop that is missing is in no plan, so a wish for little or none of it is met.
+    if (wish.kind == Wish::Kind::acresAtMost || wish.kind == Wish::Kind::fieldIsNot)
+      known.library.push_back(wish.crop);
+    try {
+      static_cast<void>(readWish(text, known));
+    } catch (const std::invalid_argument& error) {
+      throw Refusal("The wish " + quoteForMessage(text) + " of the farm file: " + error.what());
+    }
+  }
 }
 
 }  // namespace verdalis

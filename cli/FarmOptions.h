@@ -14,8 +14,9 @@ namespace verdalis {
 
 /// The options that describe a farm: texts as typed, in the order in which they are applied.
 struct FarmRequest {
-  std::optional<std::string> home;    ///< Folder with `crops` and `inputs.txt`
-  std::optional<std::string> inputs;  ///< Saved inputs file instead of the one in the home folder
+  std::optional<std::string> home;      ///< Folder with `crops` and `inputs.txt`
+  std::optional<std::string> inputs;    ///< Saved inputs file instead of the one in the home folder
+  std::optional<std::string> farmFile;  ///< Farm file instead of any saved inputs
   bool defaults = false;
   std::vector<std::string> sets;       ///< "CONTROL=TEXT"
   std::vector<std::string> prices;     ///< "CROP=TEXT"
@@ -45,5 +46,14 @@ void addMixesOption(CLI::App& command, FarmRequest& request);
 /// Checks that a farm is complete.
 /// \throws Refusal that names everything that is missing
 void requireReady(const ScenarioInputs& inputs);
+
+/// Checks that the farm of a request is complete, and that the wishes of its farm file fit the chosen crops
+/// and the land split.
+/// \throws Refusal that names what is missing, or the wish
+void requireReady(const FarmRequest& request, TypedFarm& farm);
+
+/// Checks that the wishes of a farm file fit the crops and fields of a run.
+/// \throws Refusal that names the wish
+void requireFitting(const std::vector<Wish>& wishes, const WishContext& context);
 
 }  // namespace verdalis

@@ -303,7 +303,7 @@ class TrendRun {
 
 Findings findTrend(const TrendArguments& request, std::size_t number, Reports& reports, Messages& messages) {
   const std::unique_ptr<TypedFarm> typed = makeFarm(request.farm, messages);
-  requireReady(typed->inputs());
+  requireReady(request.farm, *typed);
   Progress progress(asTerminal(messages.stream()), typed->state());
   TrendRun run(request, *typed, progress, messages);
   return number == 0 ? run.runVariable() : run.runFixed(number, reports);

@@ -75,6 +75,22 @@ TypedFarm::TypedFarm(ProgramFiles files, Messages& messages)
   program_.desk.onRunTimeError = nullptr;
 }
 
+void TypedFarm::open(const FarmDocument& document) {
+  main().farms.takeUp(document);
+  farmRows_.clear();
+  for (std::size_t row = 0; row < mainPane().cr.size(); ++row) {
+    if (mainPane().cr[row]->isActive()) farmRows_.push_back(row);
+  }
+  const std::vector<Notice>& notices = main().notices.all();  // the newest first
+  for (auto notice = notices.rbegin(); notice != notices.rend(); ++notice)
+    messages_.tell(notice->text);
+}
+
+const FarmDocument& TypedFarm::document() {
+  main().keeper.finishTyping();  // some options set a value without a control
+  return main().keeper.document();
+}
+
 Control& TypedFarm::control(const std::string& name) {
   Control* const control = program_.desk.find(name);
   if (control == nullptr || &control->window() != &main()) {

@@ -9,6 +9,7 @@
 
 #include "cli/Messages.h"
 #include "cli/TerminalServices.h"
+#include "document/FarmDocument.h"
 #include "engine/Farm.h"
 #include "engine/RunHooks.h"
 #include "main/Program.h"
@@ -26,6 +27,16 @@ class TypedFarm {
   /// Starts the program after the welcome window. If the crop library cannot be read, this is reported, and
   /// there are no crops.
   TypedFarm(ProgramFiles files, Messages& messages);
+
+  /// Puts a farm in place of the present one. Custom crops that it brings are used, but the library is not
+  /// written. What the user should know, such as a crop that is missing, is reported.
+  void open(const FarmDocument& document);
+
+  /// The rows that the farm of open() has ticked.
+  [[nodiscard]] const std::vector<std::size_t>& farmRows() const { return farmRows_; }
+
+  /// The farm with everything that was entered. Parts that have no control are those of open().
+  [[nodiscard]] const FarmDocument& document();
 
   /// Clicks "Load Default Values".
   void loadDefaultValues() { mainPane().Command7.click(); }
@@ -105,6 +116,7 @@ class TypedFarm {
   TerminalServices platform_;
   Services services_;
   Program program_;
+  std::vector<std::size_t> farmRows_;
 };
 
 }  // namespace verdalis

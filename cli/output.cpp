@@ -5,6 +5,7 @@
 #include <ostream>
 
 #include "cli/Interrupt.h"
+#include "data/farmFile.h"
 #include "data/writeFile.h"
 #include "text/RunTimeError.h"
 
@@ -48,6 +49,15 @@ void deliverToFile(const std::string& bytes, const std::string& file) {
   } else {
     const Interrupt untilWritten;  // a Ctrl+C now would leave an unfinished file next to the old one
     writeFile(file, bytes);
+  }
+}
+
+void deliverFarm(const std::string& text, const std::optional<std::string>& file, std::ostream& out) {
+  if (!file || isDevice(*file)) {
+    deliver(text, file, out);
+  } else {
+    const Interrupt untilWritten;
+    writeFarmFile(*file, text);
   }
 }
 

@@ -18,6 +18,9 @@ void deliver(const std::string& text, const std::optional<std::string>& file, st
 /// Like deliver(), always to a file.
 void deliverToFile(const std::string& bytes, const std::string& file);
 
+/// Like deliver(), for a farm file. Nothing is left beside it if the program is killed.
+void deliverFarm(const std::string& text, const std::optional<std::string>& file, std::ostream& out);
+
 /// A result that is written piece by piece. A file is replaced completely at the end, or not at all.
 class ResultStream {
  public:

@@ -8,6 +8,7 @@
 #include "cli/BatchCommand.h"
 #include "cli/EvaluateCommand.h"
 #include "cli/ExploreCommand.h"
+#include "cli/FarmCommand.h"
 #include "cli/Messages.h"
 #include "cli/ScriptCommand.h"
 #include "cli/TrendCommand.h"
@@ -49,6 +50,8 @@ int dispatch(const std::vector<std::string>& args, std::istream& in, std::ostrea
   ExploreCommand exploreCommand(app);
   BatchRequest batchRequest;
   const CLI::App& batchCommand = addBatchCommand(app, batchRequest);
+  FarmFileRequest farmRequest;
+  const CLI::App& farmCommand = addFarmCommand(app, farmRequest);
   ScriptRequest scriptRequest;
   const CLI::App& scriptCommand = addScriptCommand(app, scriptRequest);
   setCommon(app, exitCodes);
@@ -64,6 +67,7 @@ int dispatch(const std::vector<std::string>& args, std::istream& in, std::ostrea
   if (trendCommand.parsed()) trend(trendRequest, out, messages);
   if (exploreCommand.command().parsed()) exploreCommand.run(out, messages);
   if (batchCommand.parsed() && !batch(batchRequest, in, out, messages)) return failed;
+  if (farmCommand.parsed()) writeFarmOf(farmRequest, out, messages);
   if (scriptCommand.parsed() && !replayScript(scriptRequest, in, out)) return failed;
   return done;
 }

@@ -257,7 +257,14 @@ SharedList<EmbeddedCrop> FarmControls::readCustomCrops(const FarmDocument& docum
     }
     return nullptr;
   };
-  SharedList<EmbeddedCrop> crops;
+  // Where the library lacks them, their order is that of their rows, which decides between equal plans. So a
+  // new one stands as its row does here, whenever it was chosen.
+  const auto rowOf = [&](const std::string& name) {
+    return std::find_if(library.cropCollection.begin(), library.cropCollection.end(),
+                        [&](const auto& crop) { return crop->cropType == name; }) -
+           library.cropCollection.begin();
+  };
+  std::vector<SharedList<EmbeddedCrop>::Item> items;
   std::set<std::string> done;
   for (const auto& crop : before) {
     const bool ofFarm = library.isFarmCrop(crop->name);
@@ -265,18 +272,24 @@ SharedList<EmbeddedCrop> FarmControls::readCustomCrops(const FarmDocument& docum
     done.insert(crop->name);
     const auto text = current(crop->name);
     if (!text || *text == crop->text) {
-      crops.add(crop);
+      items.push_back(crop);
     } else {
-      crops.add({crop->name, *text, crop->unknown});
+      items.push_back(std::make_shared<const EmbeddedCrop>(EmbeddedCrop{crop->name, *text, crop->unknown}));
     }
   }
   for (const auto& crop : document.inputs.crops) {
     if (!crop->chosen || done.contains(crop->name)) continue;
     if (const auto text = current(crop->name)) {
-      crops.add({crop->name, *text, {}});
+      const auto next = std::find_if(items.begin(), items.end(), [&](const auto& other) {
+        return current(other->name) && rowOf(other->name) > rowOf(crop->name);
+      });
+      items.insert(next, std::make_shared<const EmbeddedCrop>(EmbeddedCrop{crop->name, *text, {}}));
       done.insert(crop->name);
     }
   }
+  SharedList<EmbeddedCrop> crops;
+  for (auto& item : items)
+    crops.add(std::move(item));
   return crops;
 }
 

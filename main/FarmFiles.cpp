@@ -45,7 +45,9 @@ std::string listOf(const std::vector<std::string>& names) {
 
 /// Whether a crop is chosen or has values other than 0.
 bool isEntered(const DocumentCrop& crop) {
-  const auto isZero = [](const std::string& text) { return text.find_first_not_of("0.") == std::string::npos; };
+  const auto isZero = [](const std::string& text) {
+    return text.find_first_not_of("0.") == std::string::npos;
+  };
   return crop.chosen || !isZero(crop.price) || !isZero(crop.maxYield) || !sameCosts(crop.costs, {});
 }
 

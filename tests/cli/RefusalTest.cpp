@@ -252,7 +252,7 @@ TEST(Help, IsWrittenToStandardOutput) {
   }
   const std::string help = runCli({"evaluate", "--help"}).out;
   for (const char* option :
-       {"--home", "--inputs", "--defaults", "--set", "--price", "--max-yield", "--split", "--crop",
+       {"--home", "--inputs", "--farm", "--defaults", "--set", "--price", "--max-yield", "--split", "--crop",
         "--no-split", "--keep", "--factor", "--format", "--output", "--version"}) {
     EXPECT_NE(help.find(option), std::string::npos) << option;
   }
