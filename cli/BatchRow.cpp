@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <optional>
-#include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "cli/FarmOptions.h"
@@ -203,12 +203,7 @@ class RowTyping {
     }
     context.fields = getLandSplit(inputs_.Option1).getSplits().size();
     requireFitting(inputs_.wishes, context);
-    try {
-      for (const Wish& wish : readWishes("wish", wishes_, context))
-        addWish(inputs_.wishes, wish);
-    } catch (const std::invalid_argument& fault) {
-      throw Refusal(std::string("wish: ") + fault.what());
-    }
+    inputs_.wishes = readWishes("wish", wishes_, context, std::move(inputs_.wishes));
   }
 
   const BatchBase& base_;

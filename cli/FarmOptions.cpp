@@ -96,7 +96,7 @@ void applyWishes(const FarmRequest& request, TypedFarm& farm) {
   if (request.mixes) farm.keepMixes();
   if (request.wishes.empty()) return;
   requireReady(farm.inputs());  // wishes refer to fields and crops
-  farm.makeWishes(readWishes("--wish", request.wishes, farm.wishContext()));
+  farm.makeWishes(readWishes("--wish", request.wishes, farm.wishContext(), farm.mainPane().wishes));
 }
 
 }  // namespace

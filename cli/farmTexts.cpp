@@ -73,8 +73,7 @@ std::string unknownCrop(const CropNames& crops, std::string_view name) {
 }
 
 std::vector<Wish> readWishes(const std::string& option, const std::vector<std::string>& texts,
-                             const WishContext& context) {
-  std::vector<Wish> wishes;
+                             const WishContext& context, std::vector<Wish> wishes) {
   for (const std::string& text : texts) {
     try {
       addWish(wishes, readWish(text, context));

@@ -42,9 +42,9 @@ void requireNumber(const std::string& text);
 /// The message for an unknown crop name. It lists the crops.
 [[nodiscard]] std::string unknownCrop(const CropNames& names, std::string_view name);
 
-/// Reads wishes, each once. A refusal begins with `option`, such as "--wish", and the wish as typed.
-/// \throws Refusal for a wish that cannot be read, and for too many
+/// Reads wishes and adds them to `wishes`, each once. A refusal begins with `option`, such as "--wish", and
+/// the wish as typed. \throws Refusal for a wish that cannot be read, and for too many
 [[nodiscard]] std::vector<Wish> readWishes(const std::string& option, const std::vector<std::string>& texts,
-                                           const WishContext& context);
+                                           const WishContext& context, std::vector<Wish> wishes = {});
 
 }  // namespace verdalis
