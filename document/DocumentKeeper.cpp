@@ -85,9 +85,7 @@ void DocumentKeeper::replace(const FarmDocument& document, const std::string& na
   finishTyping();
   put(std::make_shared<const FarmDocument>(document));
   if (*now_ == *committed_) return;
-  const std::string actor = std::exchange(actorName_, name);
-  commit();
-  actorName_ = actor;
+  commit(name);
 }
 
 const UndoStep* DocumentKeeper::toUndo() const {
@@ -203,8 +201,9 @@ std::optional<std::string> DocumentKeeper::redoName() const {
   return step == nullptr ? std::nullopt : std::optional(step->name);
 }
 
-void DocumentKeeper::commit() {
-  const UndoStep step = pendingStep();
+void DocumentKeeper::commit(const std::string& name) {
+  UndoStep step = pendingStep();
+  if (!name.empty()) step.name = name;
   committed_ = now_;
   history_.add(step);
   told();

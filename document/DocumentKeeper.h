@@ -90,7 +90,7 @@ class DocumentKeeper {
   void acted();
   void refresh();
   [[nodiscard]] UndoStep pendingStep() const;
-  void commit();
+  void commit(const std::string& name = {});
   void adopt();
   [[nodiscard]] bool isTypingIn(const Control* control) const;
   [[nodiscard]] bool isAvailable(const UndoStep* step) const;

@@ -25,6 +25,15 @@ bool sameCosts(const inputCosts& a, const inputCosts& b) {
   return same(costFields(), a, b);
 }
 
+bool enteredAlike(const inputCosts& a, const inputCosts& b) {
+  const auto entered = [](inputCosts costs) {
+    if (costs.SeedOptimal) costs.SeedRate = 0;
+    if (costs.AlfalfaStand == 0.0) costs.AlfalfaStand = 1;
+    return costs;
+  };
+  return sameCosts(entered(a), entered(b));
+}
+
 bool samePlant(const IrrigationCosts& a, const IrrigationCosts& b) {
   return same(plantFields(), a, b);
 }

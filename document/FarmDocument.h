@@ -221,6 +221,10 @@ struct FarmDocument {
 /// Whether two crops have the same production costs.
 [[nodiscard]] bool sameCosts(const inputCosts& a, const inputCosts& b);
 
+/// Whether the same production costs were entered. Runs write an optimal seeding rate and a missing life of
+/// stand into a crop, without effect on its costs.
+[[nodiscard]] bool enteredAlike(const inputCosts& a, const inputCosts& b);
+
 /// Whether two plants are described by the same numbers.
 [[nodiscard]] bool samePlant(const IrrigationCosts& a, const IrrigationCosts& b);
 

@@ -21,15 +21,6 @@ const DocumentCrop* find(const FarmInputs& inputs, const std::string& crop) {
   return nullptr;
 }
 
-/// Whether both give the same costs. Pricing writes an optimal seeding rate and a missing life of stand back,
-/// without effect on the costs.
-bool priceAlike(const inputCosts& priced, const inputCosts& entered) {
-  inputCosts written = entered;
-  if (entered.SeedOptimal) written.SeedRate = priced.SeedRate;
-  if (entered.AlfalfaStand == 0.0 && priced.AlfalfaStand == 1.0) written.AlfalfaStand = priced.AlfalfaStand;
-  return sameCosts(priced, written);
-}
-
 SavedOptionField saveField(const Field& field, const FarmInputs& inputs) {
   const Crop& crop = *field.theCrop;
   SavedOptionField saved;
@@ -48,7 +39,7 @@ SavedOptionField saveField(const Field& field, const FarmInputs& inputs) {
   if (crop.inputCosts.UseBatch) saved.trendedCosts = crop.inputCosts.BatchGeneralCosts;
   if (field.irrigCosts->UseBatch) saved.trendedIrrigation = field.irrigCosts->BatchIrrigationCosts;
   const DocumentCrop* const entered = find(inputs, crop.cropType);
-  if (entered == nullptr || !priceAlike(crop.inputCosts, entered->costs)) saved.ownCosts = crop.inputCosts;
+  if (entered == nullptr || !enteredAlike(crop.inputCosts, entered->costs)) saved.ownCosts = crop.inputCosts;
   if (!samePlant(*field.irrigCosts, inputs.plant.plant)) saved.ownPlant = *field.irrigCosts;
   return saved;
 }

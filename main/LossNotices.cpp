@@ -90,12 +90,19 @@ void putTexts(const std::vector<std::pair<Control*, std::string>>& texts) {
 
 }  // namespace
 
+bool plantReplaced(const UndoStep& step) {
+  const IrrigationCosts& before = step.before->inputs.plant.plant;
+  return !samePlant(before, step.after->inputs.plant.plant) && !samePlant(before, IrrigationCosts());
+}
+
 std::size_t cropsReplaced(const UndoStep& step) {
   const DocumentCrop blank;
   std::size_t count = 0;
   for (const auto& crop : step.before->inputs.crops) {
     const DocumentCrop* const after = find(step.after->inputs.crops, crop->name);
-    if (after != nullptr && *after == *crop) continue;
+    const bool same = after != nullptr && after->price == crop->price && after->maxYield == crop->maxYield &&
+                      after->chosen == crop->chosen && enteredAlike(after->costs, crop->costs);
+    if (same) continue;
     const bool entered = !crop->price.empty() || !crop->maxYield.empty() || crop->chosen ||
                          !sameCosts(crop->costs, blank.costs);
     if (entered) ++count;

@@ -60,4 +60,7 @@ class LossNotices {
 /// Number of crops for which the step has replaced something that was entered.
 [[nodiscard]] std::size_t cropsReplaced(const UndoStep& step);
 
+/// Whether the step has replaced an irrigation plant that was entered.
+[[nodiscard]] bool plantReplaced(const UndoStep& step);
+
 }  // namespace verdalis

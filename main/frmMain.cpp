@@ -413,7 +413,8 @@ void frmMain::wireLosses() {
   };
   losses_.watch(pneMain.Command7, [crops](const UndoStep& step) {
     const std::string text = crops(step, "replaced by default values");
-    return text.empty() ? "The irrigation costs were replaced by default values." : text;
+    if (!text.empty() || !plantReplaced(step)) return text;
+    return std::string("The irrigation costs were replaced by default values.");
   });
   for (const Control* control : std::initializer_list<const Control*>{
            &pneCustomCrop.cmdCustomGrid2, &pneCustomCrop.cmdCustomGrid5, &pneCustomCrop.cmdCustomGrid6}) {

@@ -59,8 +59,9 @@ TEST_F(FarmFilesTest, ASavedFarmComesBackAsItWas) {
   type("cr(1).txtPrice", "6.665");
   press("Command1");
   press("theResults.cmdSaveResult");
+  EXPECT_EQ(fakes.messageBox.take().size(), 1U);  // of the saved option
   const FarmDocument before = main_->keeper.document();
-  const fs::path file = saveAs("north");
+  saveAs("north");
   ASSERT_TRUE(fs::exists(home() / "north.verdalis"));
   const std::string bytes = folder.read("north.verdalis");
   choose("mnuNew");
@@ -244,7 +245,7 @@ TEST_F(FarmFilesTest, UndoLeadsToTheCostPaneOfAnApply) {
   EXPECT_EQ(caption("mnuUndo"), "Undo Costs of Corn");
   choose("mnuUndo");
   EXPECT_EQ(&main_->panes.top(), &main_->pneInputCosts);
-  EXPECT_EQ(text("txtHerbicide"), "0");
+  EXPECT_EQ(text("txtHerbicide"), "0.00");
   press("cmdCancel(1)");
   press("Command8");
   type("txtGPM", "700");
