@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <vector>
@@ -134,6 +135,9 @@ class frmMain : public Window {
 
   /// Cancels running evaluations and closes all windows.
   void exit();
+
+  /// User action: open a farm file that was dropped on the window, or named at the start of the program.
+  void openFarm(const std::filesystem::path& path);
 
  private:
   void load();
