@@ -37,6 +37,9 @@ void Desktop::showSecondary(Window& window) {
   if (auto* options = dynamic_cast<frmOptions*>(&window)) {
     static_cast<void>(optionsWindow(*options, binder_, main_.get()));
   }
+  if (auto* notes = dynamic_cast<frmNotes*>(&window)) {
+    static_cast<void>(notesWindow(*notes, binder_, main_.get()));
+  }
   if (auto* efficiencies = dynamic_cast<frmHelpEff*>(&window)) {
     static_cast<void>(efficiencyWindow(*efficiencies, binder_, main_.get()));
   }

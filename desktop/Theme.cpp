@@ -51,6 +51,9 @@ QString styleSheet(Scheme scheme) {
                            min-height: 1.3em; selection-background-color: @brand; selection-color: @brandText; }
     QLineEdit:focus, QComboBox:focus { border: 2px solid @brand; padding: 3px 5px; }
     QLineEdit:disabled, QComboBox:disabled { background: @window; color: @disabled; border-color: @line; }
+    QPlainTextEdit { background: @base; border: 1px solid @line; border-radius: 4px; padding: 3px 4px;
+                     selection-background-color: @brand; selection-color: @brandText; }
+    QPlainTextEdit:focus { border: 2px solid @brand; padding: 2px 3px; }
     QLineEdit[failed="true"] { border: 2px solid @warning; padding: 3px 5px; }
     QComboBox::drop-down { border: none; width: 24px; }
     QComboBox::down-arrow { image: url(:/icons/arrow-@scheme.svg); width: 12px; height: 8px; }
