@@ -90,6 +90,7 @@ QString styleSheet(Scheme scheme) {
                    selection-background-color: @brand; selection-color: @brandText; }
     QScrollArea { border: none; background: transparent; }
     QMenuBar { background: @window; }
+    QMenu::separator { height: 1px; background: @line; margin: 4px 8px; }
   )");
   const auto put = [&](const char* name, const QColor& colour) {
     sheet.replace(QLatin1Char('@') + QLatin1String(name) + QLatin1Char(';'),
@@ -175,6 +176,8 @@ QPalette palette(Scheme scheme) {
   for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
     result.setColor(QPalette::Disabled, role, disabled);
   }
+  // Menus draw the text of a disabled entry in this colour too, one pixel aside. It is to be invisible.
+  result.setColor(QPalette::Disabled, QPalette::Light, base);
   return result;
 }
 
