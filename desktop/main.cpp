@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <system_error>
 
 #include "data/home.h"
 #include "data/stateFolder.h"
@@ -29,6 +30,13 @@ QString helpFolder() {
     if (QDir(folder).exists()) return folder;
   }
   return QStringLiteral(VERDALIS_SOURCE_HELP);
+}
+
+/// The path as it is if the working directory is gone.
+std::filesystem::path absolutePath(const std::filesystem::path& path) {
+  std::error_code error;
+  const std::filesystem::path absolute = std::filesystem::absolute(path, error);
+  return error ? path : absolute;
 }
 
 /// Finds the folder for recovery copies and recent farms.
@@ -74,7 +82,7 @@ int main(int argc, char** argv) {
     if (parser.isSet(home)) homeOption = desktop::programText(parser.value(home));
     std::optional<std::filesystem::path> farm;
     if (!parser.positionalArguments().isEmpty())
-      farm = std::filesystem::absolute(desktop::programText(parser.positionalArguments().constFirst()));
+      farm = absolutePath(desktop::programText(parser.positionalArguments().constFirst()));
     ProgramFiles files(homeOption ? *homeOption : homeFolder(homePlaces()));
     const std::string fault = findState(files, homeOption);
     desktop::Desktop program(files, helpFolder(), farm);
