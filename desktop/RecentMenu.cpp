@@ -21,7 +21,7 @@ QMenu* addRecentMenu(QMenu* file, MainMenus& menus, Binder& binder) {
     MenuEntry& entry = *menus.mnuRecent[i];
     QAction* action = binder.bind(entry, recent->addAction(QString()));
     binder.alsoWatch(entry, [recent, action, &entry, number = QString::number(i + 1)] {
-      const QString path = qText(entry.caption());  // the path as it is, which may contain "&"
+      const QString path = qText(shownCaption(entry.caption()));
       QString shown = recent->fontMetrics().elidedText(path, Qt::ElideMiddle, scaled(mostWidth));
       action->setText(QLatin1Char('&') + number + QLatin1Char(' ') +
                       shown.replace(QLatin1Char('&'), QLatin1String("&&")));
