@@ -65,7 +65,7 @@ start() {
 
 # Moves the focus to the main window of a program; there is no window manager to do it.
 has_focus() {
-  window=$(xdotool search --onlyvisible --pid "$1" --name 'plan.*Verdalis' 2>/dev/null | head -n 1)
+  window=$(xdotool search --all --onlyvisible --pid "$1" --name 'plan.*Verdalis' 2>/dev/null | head -n 1)
   [ -n "$window" ] || return 1
   xdotool windowfocus "$window" 2>/dev/null || true
   [ "$(xdotool getwindowfocus 2>/dev/null)" = "$window" ]
