@@ -5,11 +5,15 @@
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDragEnterEvent>
 #include <QEvent>
 #include <QFocusEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QMimeData>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
@@ -59,6 +63,24 @@ void show(const OptionButton& control, QRadioButton* widget) {
   widget->setChecked(control.checked());
   if (group != nullptr) group->setExclusive(true);
   showCaption(widget, control.caption());
+}
+
+/// The line that is typed in when a widget has the focus; nullptr if there is none.
+QLineEdit* lineOf(QObject* object) {
+  const auto* list = qobject_cast<QComboBox*>(object);
+  return list != nullptr ? list->lineEdit() : qobject_cast<QLineEdit*>(object);
+}
+
+/// Forgets what was typed before, so that the line takes back only what is typed from now on.
+void beginTyping(QLineEdit* line) {
+  const QSignalBlocker quiet(line);
+  line->setText(line->text());
+}
+
+/// Whether a line cannot do what a key asks for, because nothing was typed in it, or nothing taken back.
+bool hasNothingFor(const QKeyEvent& key, const QLineEdit& line) {
+  if (key.matches(QKeySequence::Undo)) return !line.isUndoAvailable();
+  return key.matches(QKeySequence::Redo) && !line.isRedoAvailable();
 }
 
 bool movesWithTheClick(const QObject* object) {
@@ -153,6 +175,22 @@ QLineEdit* Binder::bind(TextBox& control, QLineEdit* widget, const QString& labe
   return widget;
 }
 
+QPlainTextEdit* Binder::bind(TextBox& control, QPlainTextEdit* widget, const QString& label) {
+  name(control, widget, label);
+  watch(control, [&control, widget] {
+    showState(control, widget);
+    const QString text = qText(control.text());
+    if (widget->toPlainText() == text) return;
+    const QSignalBlocker quiet(widget);
+    widget->setPlainText(text);
+  });
+  connect(widget, &QPlainTextEdit::textChanged, this, [&control, widget] {
+    const std::string text = programText(widget->toPlainText());
+    if (text != control.text()) control.type(text);  // composing a character changes no text yet
+  });
+  return widget;
+}
+
 QComboBox* Binder::bind(ComboBox& control, QComboBox* widget, const QString& label) {
   name(control, widget, label);
   widget->setEditable(control.style() == ComboBox::Style::freeText);
@@ -162,6 +200,7 @@ QComboBox* Binder::bind(ComboBox& control, QComboBox* widget, const QString& lab
     widget->setCompleter(nullptr);  // it would change the case of what is typed
     widget->lineEdit()->setAccessibleName(label);
     widget->lineEdit()->setFocusPolicy(Qt::StrongFocus);
+    widget->lineEdit()->installEventFilter(this);
     connect(widget->lineEdit(), &QLineEdit::textEdited, this,
             [&control](const QString& text) { control.type(programText(text)); });
   }
@@ -307,7 +346,8 @@ void Binder::bindWindow(Window& control, QWidget* widget) {
   name(control, widget, {});
   windows_.insert(widget, &control);
   watch(control, [this, &control, widget] {
-    widget->setWindowTitle(qText(control.caption()));
+    // The toolkit would put its own mark in this place.
+    widget->setWindowTitle(qText(control.caption()).replace(QLatin1String("[*]"), QLatin1String("[*][*]")));
     if (widget->isVisible() == control.isOpen()) return;
     if (!control.isOpen()) {
       widget->close();  // and not hidden alone: a closed window keeps its place
@@ -362,12 +402,26 @@ bool Binder::eventFilter(QObject* object, QEvent* event) {
       return true;
     }
   }
+  if (event->type() == QEvent::ShortcutOverride) {
+    const QLineEdit* line = lineOf(object);
+    if (line != nullptr && hasNothingFor(*static_cast<QKeyEvent*>(event), *line)) {
+      event->ignore();  // the menu takes the key
+      return true;
+    }
+  }
+  if (event->type() == QEvent::DragEnter) {
+    if (lineOf(object) != nullptr && static_cast<QDragEnterEvent*>(event)->mimeData()->hasUrls()) {
+      event->ignore();  // a file is opened by the window, and is no text for a field
+      return true;
+    }
+  }
   if (event->type() == QEvent::FocusOut) {
     if (auto* field = qobject_cast<QLineEdit*>(object)) markFailed(field, false);
   }
   if (event->type() == QEvent::FocusIn) {
     const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
     Control* control = controls_.value(object);
+    if (QLineEdit* line = lineOf(object); line != nullptr && isPersonsMove(reason)) beginTyping(line);
     // A press moves the focus by its click, when the press can still be carried out after a message.
     const bool comesWithClick = reason == Qt::MouseFocusReason && movesWithTheClick(object);
     if (control != nullptr && isPersonsMove(reason) && !comesWithClick) {

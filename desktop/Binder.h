@@ -19,6 +19,7 @@ class QComboBox;
 class QLabel;
 class QLineEdit;
 class QMenu;
+class QPlainTextEdit;
 class QPushButton;
 class QRadioButton;
 class QScrollArea;
@@ -39,6 +40,9 @@ namespace verdalis::desktop {
 /// widget, what a person does with the widget reaches the control. One operation for each kind; none knows
 /// what a control is for.
 ///
+/// A field takes back by itself what a person has typed since it got the focus; with nothing typed, the keys
+/// for undo and redo go to the menu.
+///
 /// Every widget takes its object name from its control, and its accessible name from the caption or from
 /// `label`.
 class Binder : public QObject {
@@ -48,6 +52,7 @@ class Binder : public QObject {
   explicit Binder(Desk& desk, QObject* parent = nullptr);
 
   QLineEdit* bind(TextBox& control, QLineEdit* widget, const QString& label);
+  QPlainTextEdit* bind(TextBox& control, QPlainTextEdit* widget, const QString& label);
   QComboBox* bind(ComboBox& control, QComboBox* widget, const QString& label);
   QCheckBox* bind(CheckBox& control, QCheckBox* widget);
   QRadioButton* bind(OptionButton& control, QRadioButton* widget);

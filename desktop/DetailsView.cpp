@@ -62,8 +62,8 @@ QWidget* totalsCard(Details& details, const Details::Block& block, Binder& binde
 
 QWidget* blockCard(Details& details, const Details::Block& block, Binder& binder) {
   const Card group = card(plain(block.caption));
-  // Small enough for three cards side by side in the smallest window.
-  group.body->setContentsMargins(12, 12, 12, 14);
+  // Small enough for three cards and a scroll bar side by side in the smallest window.
+  group.body->setContentsMargins(10, 12, 10, 14);
   QGridLayout* lines = linesGrid();
   for (const Details::Line& entry : block.lines)
     addLine(lines, details, entry, binder, 1);

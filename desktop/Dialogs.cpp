@@ -4,7 +4,9 @@
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 #include "desktop/Keys.h"
@@ -75,6 +77,52 @@ QWidget* optionsWindow(frmOptions& window, Binder& binder, QWidget* parent) {
   assignKeys(made.widget);
   fitHeight(made.widget, made.widget->width());
   binder.bindWindow(window, made.widget);
+  return made.widget;
+}
+
+QWidget* notesWindow(frmNotes& window, Binder& binder, QWidget* parent) {
+  const Shell made = shell(parent, 560);
+  made.widget->setWindowModality(Qt::WindowModal);  // the texts belong to the farm that is on screen
+  const auto add = [&](Label& label, QWidget* field) {
+    auto* group = new QVBoxLayout;
+    group->setSpacing(4);
+    auto* text = fixedLabel({}, "title");
+    text->setBuddy(field);
+    group->addWidget(binder.bind(label, text));
+    group->addWidget(field);
+    made.body->addLayout(group);
+  };
+  auto* name = binder.bind(window.txtFarmName, new QLineEdit, plain(window.lblFarmName.caption()));
+  add(window.lblFarmName, name);
+  auto* notes = binder.bind(window.txtNotes, new QPlainTextEdit, plain(window.lblNotes.caption()));
+  notes->setTabChangesFocus(true);
+  constexpr int lines = 9;
+  notes->setMinimumHeight(notes->fontMetrics().lineSpacing() * lines + scaled(16));
+  add(window.lblNotes, notes);
+  add(window.lblLetterhead,
+      binder.bind(window.txtLetterhead, new QLineEdit, plain(window.lblLetterhead.caption())));
+  auto* buttons = new QHBoxLayout;
+  buttons->addStretch();
+  auto* cancel = binder.bind(window.cmdCancel, new QPushButton);
+  cancel->setShortcut(QKeySequence(Qt::Key_Escape));
+  buttons->addWidget(cancel);
+  auto* apply = new QPushButton;
+  setRole(apply, "main");
+  buttons->addWidget(binder.bind(window.cmdApply, apply));
+  made.body->addLayout(buttons);
+  // In the notes, Return begins a new line.
+  for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+    QObject::connect(new QShortcut(QKeySequence(key), made.widget), &QShortcut::activated, made.widget,
+                     [cancel, apply] { (cancel->hasFocus() ? cancel : apply)->click(); });
+  }
+  assignKeys(made.widget);
+  fitHeight(made.widget, made.widget->width());
+  binder.bindWindow(window, made.widget);
+  binder.alsoWatch(window, [&window, name] {
+    if (!window.isOpen()) return;
+    name->setFocus(Qt::TabFocusReason);
+    name->selectAll();
+  });
   return made.widget;
 }
 

@@ -5,6 +5,7 @@
 #include "desktop/Page.h"
 #include "screens/frmAbout.h"
 #include "screens/frmHelpEff.h"
+#include "screens/frmNotes.h"
 #include "screens/frmOptions.h"
 
 namespace verdalis::desktop {
@@ -13,6 +14,7 @@ namespace verdalis::desktop {
 // program's logic, and is a child of `parent`.
 
 [[nodiscard]] QWidget* optionsWindow(frmOptions& window, Binder& binder, QWidget* parent);
+[[nodiscard]] QWidget* notesWindow(frmNotes& window, Binder& binder, QWidget* parent);
 [[nodiscard]] QWidget* aboutWindow(frmAbout& window, Binder& binder, QWidget* parent);
 [[nodiscard]] QWidget* efficiencyWindow(frmHelpEff& window, Binder& binder, QWidget* parent);
 

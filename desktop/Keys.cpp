@@ -1,10 +1,12 @@
 #include "desktop/Keys.h"
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
+#include <QPlainTextEdit>
 #include <QSet>
 #include <QShortcut>
 #include <QTableWidget>
@@ -65,6 +67,7 @@ bool takesKey(const QWidget* widget) {
   const bool control = qobject_cast<const QAbstractButton*>(widget) != nullptr ||
                        qobject_cast<const QComboBox*>(widget) != nullptr ||
                        qobject_cast<const QTableWidget*>(widget) != nullptr ||
+                       qobject_cast<const QPlainTextEdit*>(widget) != nullptr ||
                        (qobject_cast<const QLineEdit*>(widget) != nullptr &&
                         qobject_cast<const QComboBox*>(widget->parentWidget()) == nullptr);
   return control && !widget->objectName().isEmpty() &&
@@ -142,8 +145,11 @@ void assignKeys(QWidget* page, const QString& taken) {
 
 void assignKeys(QMenu* menu) {
   QSet<QChar> used;
-  for (QAction* action : menu->actions())
-    action->setText(marked(action->text(), takeBestLetter(action->text(), used)));
+  for (QAction* action : menu->actions()) {
+    const QChar letter = takeBestLetter(action->text(), used);
+    action->setProperty(letterProperty, letter);
+    action->setText(marked(action->text(), letter));
+  }
 }
 
 void addShortcut(Binder& binder, QWidget* view, const QKeySequence& keys, Button& button) {
@@ -158,6 +164,10 @@ void addShortcut(Binder& binder, QWidget* view, const QKeySequence& keys, Button
 void showCaption(QAbstractButton* button, const std::string& caption) {
   const QString wanted = marked(widgetCaption(caption), button->property(letterProperty).toChar());
   if (button->text() != wanted) button->setText(wanted);
+}
+
+void showCaption(QAction* entry, const std::string& caption) {
+  entry->setText(marked(widgetCaption(caption), entry->property(letterProperty).toChar()));
 }
 
 void setHelp(QWidget* widget, const Control* button) {

@@ -4,6 +4,7 @@
 #include <string>
 
 class QAbstractButton;
+class QAction;
 class QMenu;
 class QWidget;
 
@@ -33,6 +34,9 @@ void addShortcut(Binder& binder, QWidget* view, const QKeySequence& keys, Button
 
 /// Shows a caption on a button, with the letter assigned to the button underlined.
 void showCaption(QAbstractButton* button, const std::string& caption);
+
+/// The same for a menu entry.
+void showCaption(QAction* entry, const std::string& caption);
 
 /// Makes F1 on a widget, or inside it, open the help of this "?" button.
 void setHelp(QWidget* widget, const Control* button);

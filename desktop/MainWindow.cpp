@@ -2,17 +2,22 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDragEnterEvent>
 #include <QFrame>
 #include <QLabel>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QSettings>
 #include <QShortcut>
 #include <QStackedWidget>
+#include <QTimer>
+#include <QUrl>
 #include <QVBoxLayout>
 
+#include "data/farmFile.h"
 #include "desktop/CompareView.h"
 #include "desktop/CostViews.h"
 #include "desktop/CustomCropView.h"
@@ -20,6 +25,7 @@
 #include "desktop/Keys.h"
 #include "desktop/MainPaneView.h"
 #include "desktop/NoticeView.h"
+#include "desktop/RecentMenu.h"
 #include "desktop/ResultViews.h"
 #include "desktop/SummaryView.h"
 #include "desktop/TrendViews.h"
@@ -38,11 +44,23 @@ bool takesWork(const QWidget* widget) {
          !widget->objectName().isEmpty() && widget->property("role") != QLatin1String("help");
 }
 
+/// Gives the focus to the first control of a page. The "?" buttons come first for Tab, but nobody opens a
+/// pane for them.
+void focusFirst(QWidget* page) {
+  QWidget* first = page->nextInFocusChain();
+  while (first != page && !(page->isAncestorOf(first) && takesWork(first)))
+    first = first->nextInFocusChain();
+  if (first != page) first->setFocus();
+}
+
 }  // namespace
 
 MainWindow::MainWindow(frmMain& window, Binder& binder, std::function<void(const QString&)> showTopic)
     : window_(window), binder_(binder), showTopic_(std::move(showTopic)) {
   setMinimumSize(smallest);
+  setAcceptDrops(true);
+  acts_ = window.desk().onActing.connectScoped([this](Control&) { acting_ = true; });
+  acted_ = window.desk().onActed.connectScoped([this] { acting_ = false; });
   addMenus();
   auto* centre = new QWidget;
   auto* layout = new QVBoxLayout(centre);
@@ -100,9 +118,27 @@ void MainWindow::addMenus() {
     QAction* action = to->addAction(widgetCaption(entry.caption()));
     action->setShortcut(keys);
     binder_.bind(entry, action);
+    binder_.alsoWatch(entry, [&entry, action] { showCaption(action, entry.caption()); });
+  };
+  // The page on show, and what is on it, may be another one afterwards.
+  const auto addStep = [&](QMenu* to, MenuEntry& entry, const QKeySequence& keys) {
+    add(to, entry, keys);
+    connect(binder_.action(entry), &QAction::triggered, this, &MainWindow::settleFocus, Qt::QueuedConnection);
   };
   MainMenus& menus = window_.menus;
   QMenu* file = menu(menus.mnuFile, tr("&File"));
+  addStep(file, menus.mnuNew, QKeySequence(Qt::CTRL | Qt::Key_N));
+  addStep(file, menus.mnuOpen, QKeySequence(Qt::CTRL | Qt::Key_O));
+  QMenu* recent = addRecentMenu(file, menus, binder_);
+  connect(recent, &QMenu::triggered, this, &MainWindow::settleFocus, Qt::QueuedConnection);
+  // Another program may have opened a farm meanwhile.
+  connect(file, &QMenu::aboutToShow, this, [this] { window_.farms.refreshMenus(); });
+  file->addSeparator();
+  add(file, menus.mnuSave, QKeySequence(Qt::CTRL | Qt::Key_S));
+  add(file, menus.mnuSaveAs, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
+  file->addSeparator();
+  add(file, menus.mnuNotes);
+  file->addSeparator();
   add(file, menus.mnuPrint, QKeySequence::Print);
   file->addSeparator();
   add(file, menus.mnuExit, QKeySequence(Qt::CTRL | Qt::Key_Q));
@@ -112,6 +148,13 @@ void MainWindow::addMenus() {
   QAction* summary = menuBar()->addAction(tr("&Summary Table"));
   binder_.bind(menus.mnuSummary, summary);
   QMenu* edit = menu(menus.mnuEdit, tr("&Edit"));
+  addStep(edit, menus.mnuUndo, QKeySequence(Qt::CTRL | Qt::Key_Z));
+  addStep(edit, menus.mnuRedo, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z));
+  // What has just been typed can be undone too.
+  connect(edit, &QMenu::aboutToShow, this, [this] {
+    if (!acting_) window_.keeper.finishTyping();
+  });
+  edit->addSeparator();
   add(edit, menus.mnuOptions);
   QMenu* tools = menu(menus.mnuTools, tr("&Tools"));
   add(tools, menus.mnuCustomCrop);
@@ -163,12 +206,13 @@ void MainWindow::showTopPane() {
   stack_->setCurrentWidget(page);
   // A page that was in use before has the focus where it was.
   const QWidget* last = page->focusWidget();
-  if (last != nullptr && takesWork(last)) return;
-  // The "?" buttons come first for Tab, but nobody opens a pane for them.
-  QWidget* first = page->nextInFocusChain();
-  while (first != page && !(page->isAncestorOf(first) && takesWork(first)))
-    first = first->nextInFocusChain();
-  if (first != page) first->setFocus();
+  if (last == nullptr || !takesWork(last)) focusFirst(page);
+}
+
+/// Gives the focus to the page on show if nothing that is on show has it.
+void MainWindow::settleFocus() {
+  const QWidget* focus = focusWidget();
+  if (focus == nullptr || !focus->isVisible() || !focus->isEnabled()) focusFirst(currentPage());
 }
 
 QWidget* MainWindow::currentPage() const {
@@ -202,6 +246,36 @@ void MainWindow::restorePlace() {
 void MainWindow::closeEvent(QCloseEvent* event) {
   QSettings().setValue(QStringLiteral("place"), saveGeometry());
   QMainWindow::closeEvent(event);
+}
+
+void MainWindow::openFarm(const std::filesystem::path& path) {
+  window_.openFarm(path);
+  settleFocus();
+}
+
+/// The first farm file among dragged files; empty if there is none, or if it cannot be opened now.
+QString MainWindow::farmIn(const QMimeData* dragged) const {
+  if (acting_ || QApplication::activeModalWidget() != nullptr) return {};
+  const QLatin1String extension(farmFileExtension.data(), static_cast<qsizetype>(farmFileExtension.size()));
+  for (const QUrl& url : dragged->urls()) {
+    if (url.isLocalFile() && url.toLocalFile().endsWith(extension, Qt::CaseInsensitive))
+      return url.toLocalFile();
+  }
+  return {};
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+  event->setDropAction(Qt::CopyAction);
+  event->setAccepted(!farmIn(event->mimeData()).isEmpty());
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+  const QString farm = farmIn(event->mimeData());
+  if (farm.isEmpty()) return;
+  event->setDropAction(Qt::CopyAction);
+  event->accept();
+  // Behind the event: a question would keep the other program waiting.
+  QTimer::singleShot(0, this, [this, farm] { openFarm(programText(farm)); });
 }
 
 }  // namespace verdalis::desktop

@@ -1,11 +1,13 @@
 #pragma once
 
 #include <QMainWindow>
+#include <filesystem>
 #include <functional>
 
 #include "desktop/Binder.h"
 #include "main/frmMain.h"
 
+class QMimeData;
 class QStackedWidget;
 
 namespace verdalis::desktop {
@@ -24,14 +26,23 @@ class MainWindow : public QMainWindow {
   /// The page of the pane on show.
   [[nodiscard]] QWidget* currentPage() const;
 
+  /// Opens a farm file, as the user's action.
+  void openFarm(const std::filesystem::path& path);
+
  protected:
   void closeEvent(QCloseEvent* event) override;
+
+  // A farm file dropped on the window is opened.
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
 
  private:
   void addMenus();
   void addPane(Frame& pane, QWidget* page, const char* topic);
   void addBarKeys();
   void showTopPane();
+  void settleFocus();
+  [[nodiscard]] QString farmIn(const QMimeData* dragged) const;
   void bringIntoSight(QWidget* focus) const;
   void showHelpOfFocus();
   void restorePlace();
@@ -40,6 +51,9 @@ class MainWindow : public QMainWindow {
   Binder& binder_;
   std::function<void(const QString&)> showTopic_;
   QStackedWidget* stack_;
+  bool acting_ = false;  ///< The user's last action goes on: a run, or a message box
+  Connection acts_;
+  Connection acted_;
 };
 
 }  // namespace verdalis::desktop

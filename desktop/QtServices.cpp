@@ -6,6 +6,7 @@
 #include <QDesktopServices>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QUrl>
 
 #include "desktop/Binder.h"
@@ -76,6 +77,13 @@ MessageAnswer QtServices::show(const Message& message) {
   box.setObjectName(QStringLiteral("messageBox"));
   box.setTextFormat(Qt::PlainText);
   box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  if (message.buttons == MessageButtons::saveDiscardCancel) {
+    box.setStyleSheet(QStringLiteral("QDialogButtonBox { button-layout: 0; }"));  // in this order everywhere
+    box.button(QMessageBox::Save)->setText(QObject::tr("&Save"));
+    box.button(QMessageBox::Discard)->setText(QObject::tr("&Discard"));
+    box.setDefaultButton(QMessageBox::Save);
+    box.setEscapeButton(QMessageBox::Cancel);
+  }
   switch (box.exec()) {
     case QMessageBox::Yes:
       return MessageAnswer::yes;

@@ -51,6 +51,9 @@ QString styleSheet(Scheme scheme) {
                            min-height: 1.3em; selection-background-color: @brand; selection-color: @brandText; }
     QLineEdit:focus, QComboBox:focus { border: 2px solid @brand; padding: 3px 5px; }
     QLineEdit:disabled, QComboBox:disabled { background: @window; color: @disabled; border-color: @line; }
+    QPlainTextEdit { background: @base; border: 1px solid @line; border-radius: 4px; padding: 3px 4px;
+                     selection-background-color: @brand; selection-color: @brandText; }
+    QPlainTextEdit:focus { border: 2px solid @brand; padding: 2px 3px; }
     QLineEdit[failed="true"] { border: 2px solid @warning; padding: 3px 5px; }
     QComboBox::drop-down { border: none; width: 24px; }
     QComboBox::down-arrow { image: url(:/icons/arrow-@scheme.svg); width: 12px; height: 8px; }
@@ -93,6 +96,7 @@ QString styleSheet(Scheme scheme) {
                    selection-background-color: @brand; selection-color: @brandText; }
     QScrollArea { border: none; background: transparent; }
     QMenuBar { background: @window; }
+    QMenu::separator { height: 1px; background: @line; margin: 4px 8px; }
   )");
   const auto put = [&](const char* name, const QColor& colour) {
     sheet.replace(QLatin1Char('@') + QLatin1String(name) + QLatin1Char(';'),
@@ -180,6 +184,8 @@ QPalette palette(Scheme scheme) {
   for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
     result.setColor(QPalette::Disabled, role, disabled);
   }
+  // Menus draw the text of a disabled entry in this colour too, one pixel aside. It is to be invisible.
+  result.setColor(QPalette::Disabled, QPalette::Light, base);
   return result;
 }
 

@@ -4,8 +4,13 @@
 #include <QIcon>
 #include <QLocale>
 #include <QMessageBox>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <system_error>
 
 #include "data/home.h"
+#include "data/stateFolder.h"
 #include "desktop/Binder.h"
 #include "desktop/Desktop.h"
 #include "desktop/Theme.h"
@@ -27,6 +32,25 @@ QString helpFolder() {
   return QStringLiteral(VERDALIS_SOURCE_HELP);
 }
 
+/// The path as it is if the working directory is gone.
+std::filesystem::path absolutePath(const std::filesystem::path& path) {
+  std::error_code error;
+  const std::filesystem::path absolute = std::filesystem::absolute(path, error);
+  return error ? path : absolute;
+}
+
+/// Finds the folder for recovery copies and recent farms.
+/// \returns why there is none; empty if there is one
+std::string findState(ProgramFiles& files, const std::optional<std::filesystem::path>& homeOption) {
+  files.recovers = true;
+  try {
+    files.state = stateFolder(homeOption);
+    return {};
+  } catch (const RunTimeError& error) {
+    return error.what();
+  }
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -34,6 +58,7 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setApplicationName(QStringLiteral("verdalis"));
   QApplication::setApplicationVersion(desktop::qText(versionText()));
+  QGuiApplication::setDesktopFileName(QStringLiteral("verdalis"));
   QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/verdalis.svg")));
   const desktop::Scheme platform = desktop::schemeOf(QApplication::palette());
   desktop::applyTheme(application, desktop::desktopScheme(QApplication::palette()));
@@ -47,13 +72,24 @@ int main(int argc, char** argv) {
                                 QStringLiteral("The folder with crops/ and inputs.txt."),
                                 QStringLiteral("DIR"));
   parser.addOption(home);
+  parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("A farm file to open."),
+                               QStringLiteral("[FILE]"));
   parser.process(application);
+  if (parser.positionalArguments().size() > 1) parser.showHelp(2);
   try {
-    const std::filesystem::path folder = parser.isSet(home)
-                                             ? std::filesystem::path(desktop::programText(parser.value(home)))
-                                             : homeFolder(homePlaces());
     const desktop::SchemeWatcher watcher(application, platform);
-    const desktop::Desktop program(folder, helpFolder());
+    std::optional<std::filesystem::path> homeOption;
+    if (parser.isSet(home)) homeOption = desktop::programText(parser.value(home));
+    std::optional<std::filesystem::path> farm;
+    if (!parser.positionalArguments().isEmpty())
+      farm = absolutePath(desktop::programText(parser.positionalArguments().constFirst()));
+    ProgramFiles files(homeOption ? *homeOption : homeFolder(homePlaces()));
+    const std::string fault = findState(files, homeOption);
+    desktop::Desktop program(files, helpFolder(), farm);
+    if (!fault.empty()) {
+      program.program().onMainCreated.connect(
+          [&fault](frmMain& window) { window.notices.tell({.text = fault}); });
+    }
     return QApplication::exec();
   } catch (const RunTimeError& error) {
     QMessageBox::critical(nullptr, QStringLiteral("Verdalis"), desktop::qText(error.what()));

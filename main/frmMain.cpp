@@ -214,6 +214,10 @@ void frmMain::exit() {
   close();
 }
 
+void frmMain::openFarm(const std::filesystem::path& path) {
+  act([&] { farms.openFile(path); }, false);
+}
+
 void frmMain::wireMenus() {
   menus.mnuExit.onClick.connect([this] { exit(); });
   menus.mnuEnableBatch.onClick.connect([this] { EnableBatch(!menus.mnuEnableBatch.checked()); });

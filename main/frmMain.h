@@ -147,6 +147,9 @@ class frmMain : public Window {
   /// Cancels running evaluations and closes all windows.
   void exit();
 
+  /// User action: open a farm file that was dropped on the window, or named at the start of the program.
+  void openFarm(const std::filesystem::path& path);
+
  private:
   void load();
   void wireMenus();

@@ -4,9 +4,12 @@
 #include <QDir>
 #include <QEventLoop>
 #include <QLocale>
+#include <QMenu>
 #include <QPushButton>
 #include <QTimer>
+#include <filesystem>
 #include <iostream>
+#include <utility>
 
 #include "desktop/Desktop.h"
 #include "desktop/HelpViewer.h"
@@ -169,6 +172,21 @@ void photographSmallWindows(Desktop& desktop, const Photographer& camera) {
   camera.take(desktop.binder().widget(desktop.program().windows.help()), QStringLiteral("note"));
   main.menus.mnuOptions.click();
   camera.take(desktop.binder().widget(desktop.program().windows.options()), QStringLiteral("options"));
+  main.pneMain.txtArea.type("126");
+  main.menus.mnuNotes.click();
+  frmNotes& notes = desktop.program().windows.notes();
+  notes.txtFarmName.type("Home Place");
+  notes.txtNotes.type("Well 3 pumps sand below 600 gpm.\nAsk the landlord about the corner by the road.");
+  notes.txtLetterhead.type("River Valley Farm Advice, (555) 010-0199");
+  camera.take(desktop.binder().widget(notes), QStringLiteral("notes"));
+  notes.cmdApply.click();
+  for (const auto& [entry, name] :
+       {std::pair(&main.menus.mnuFile, "menu-file"), std::pair(&main.menus.mnuEdit, "menu-edit")}) {
+    auto* menu = qobject_cast<QMenu*>(desktop.binder().widget(*entry));
+    menu->popup({});
+    camera.take(menu, QString::fromLatin1(name));
+    menu->close();
+  }
   main.menus.mnuAboutVDL.click();
   camera.take(desktop.binder().widget(desktop.program().windows.about()), QStringLiteral("about"));
   desktop.services().showTopic("index.htm");
@@ -187,7 +205,7 @@ int main(int argc, char** argv) {
     return 2;
   }
   applyTheme(application, arguments[2] == QLatin1String("dark") ? Scheme::dark : Scheme::light);
-  Desktop desktop(programText(arguments[4]), QStringLiteral(VERDALIS_HELP));
+  Desktop desktop(std::filesystem::path(programText(arguments[4])), QStringLiteral(VERDALIS_HELP));
   const Photographer camera(arguments[1], arguments[3]);
   photograph(desktop, camera);
   photographTrends(desktop, camera);

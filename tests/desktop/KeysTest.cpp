@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QShortcut>
 #include <QTableWidget>
@@ -46,7 +47,8 @@ class Keys : public RunningDesktop {
                          qobject_cast<QComboBox*>(widget->parentWidget()) == nullptr;
       const bool kind = field || qobject_cast<QAbstractButton*>(widget) != nullptr ||
                         qobject_cast<QComboBox*>(widget) != nullptr ||
-                        qobject_cast<QTableWidget*>(widget) != nullptr;
+                        qobject_cast<QTableWidget*>(widget) != nullptr ||
+                        qobject_cast<QPlainTextEdit*>(widget) != nullptr;
       const QString name = widget->objectName();
       if (!kind || name.isEmpty() || name.startsWith(QLatin1String("qt_")) ||
           name.startsWith(QLatin1String("cr(")) || name.contains(QLatin1String("rh(")) ||
@@ -116,7 +118,8 @@ TEST_F(Keys, EveryControlOfTheSmallWindowsHasAKey) {
   program().windows.help();
   program().windows.options();
   program().windows.about();
-  for (const char* name : {"frmUpdating", "frmHelp", "frmOptions", "frmAbout"}) {
+  program().windows.notes();
+  for (const char* name : {"frmUpdating", "frmHelp", "frmOptions", "frmAbout", "frmNotes"}) {
     SCOPED_TRACE(name);
     expectKeys(widget(name));
   }

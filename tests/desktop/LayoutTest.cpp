@@ -190,9 +190,10 @@ TEST_F(LargeFont, EverythingFitsInTheSmallWindows) {
   program().windows.help();
   showHelpNote(program().windows.help(), "A note that is so long that it takes more than one line.", "A",
                1725);
-  for (const char* name : {"frmOptions", "frmAbout", "frmHelp"}) {
+  for (const char* name : {"frmOptions", "frmAbout", "frmHelp", "frmNotes"}) {
     if (name == std::string("frmOptions")) choose(program().main().menus.mnuOptions);
     if (name == std::string("frmAbout")) choose(program().main().menus.mnuAboutVDL);
+    if (name == std::string("frmNotes")) choose(program().main().menus.mnuNotes);
     settle(widget(name));
     expectRoomIn(widget(name), name);
   }

@@ -14,6 +14,8 @@
 #include <QTimer>
 #include <filesystem>
 #include <functional>
+#include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -30,7 +32,7 @@ class RunningDesktop : public ::testing::Test {
                           std::filesystem::copy_options::recursive);
     // Closes an unexpected message box, which would block the tests forever.
     QObject::connect(&guard_, &QTimer::timeout, &guard_, [this] {
-      QWidget* box = QApplication::activeModalWidget();
+      QWidget* box = qobject_cast<QDialog*>(QApplication::activeModalWidget());
       if (box == nullptr || box != unanswered_) {
         unanswered_ = box;
         return;
@@ -43,12 +45,24 @@ class RunningDesktop : public ::testing::Test {
     restart();
   }
 
-  /// Restarts the program at the welcome window.
-  void restart() {
+  /// Ends the program without asking, as a crash does, and starts it at the welcome window, or with a farm
+  /// file.
+  void restart(const std::optional<std::filesystem::path>& farm = {}) {
     desktop_.reset();
-    desktop_ =
-        std::make_unique<desktop::Desktop>(folder_.path(), QStringLiteral(VERDALIS_SOURCE_DIR "/help/HTML"));
+    desktop_ = anotherDesktop(farm);
   }
+
+  /// One more program with the same home folder.
+  [[nodiscard]] std::unique_ptr<desktop::Desktop> anotherDesktop(
+      const std::optional<std::filesystem::path>& farm = {}) {
+    ProgramFiles files(folder_.path());
+    if (remembers) files.state = folder_.path() / "recovery";
+    files.recovers = remembers;
+    return std::make_unique<desktop::Desktop>(files, QStringLiteral(VERDALIS_SOURCE_DIR "/help/HTML"), farm);
+  }
+
+  /// Whether a program that is started from now on keeps recent farms and recovery copies.
+  bool remembers = false;
 
   [[nodiscard]] desktop::Desktop& desktop() { return *desktop_; }
   [[nodiscard]] Program& program() { return desktop_->program(); }

@@ -3,6 +3,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 
 #include "controls/Grid.h"
 #include "tests/desktop/RunningDesktop.h"
@@ -23,6 +24,7 @@ class Walk : public RunningDesktop {
   void forEachControl(const std::function<void(Control&)>& visit) {
     program().windows.updating();
     program().windows.help();
+    program().windows.notes();
     for (const Window* window : program().desk.windows())
       forEach(*window, visit);
   }
@@ -83,6 +85,13 @@ TEST_F(Walk, TextsAreSynchronizedBothWays) {
   start();
   forEachControl([&](Control& control) {
     if (auto* box = dynamic_cast<TextBox*>(&control)) {
+      if (auto* lines = qobject_cast<QPlainTextEdit*>(desktop().binder().widget(control))) {
+        box->setText("7.5\n8");
+        EXPECT_EQ(lines->toPlainText(), QStringLiteral("7.5\n8")) << control.path();
+        lines->clear();
+        EXPECT_EQ(box->text(), "") << control.path();
+        return;
+      }
       auto* field = qobject_cast<QLineEdit*>(desktop().binder().widget(control));
       box->setText("7.5");
       EXPECT_EQ(field->text(), QStringLiteral("7.5")) << control.path();
