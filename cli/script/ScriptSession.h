@@ -18,6 +18,9 @@ class ScriptSession {
   /// With `ProgramFiles::recovers`, the recovery copy is written after each command.
   explicit ScriptSession(ProgramFiles files);
 
+  /// A session that remembers nothing beside the home folder.
+  explicit ScriptSession(const std::filesystem::path& home) : ScriptSession(ProgramFiles(home)) {}
+
   /// Executes one command.
   /// \returns its answer; on failure `ok` is false and `error` gives the reason
   [[nodiscard]] nlohmann::ordered_json execute(std::string_view line);

@@ -117,14 +117,39 @@ TEST_F(Navigation, MenusHaveTheirOrderAndTheirStates) {
                       entry->caption() + "\"" + (entry->checked() ? " checked" : "") +
                       (entry->enabled() ? "" : " disabled"));
   }
-  EXPECT_EQ(entries, (Strings{"mnuTools(0) \"File\"", "  mnuPrint \"Print\" disabled", "  mnuExit \"Exit\"",
-                              "mnuLocation \"Location\"", "  mnuPrairia \"Prairia\" checked",
-                              "  mnuTexas \"Texas\" disabled", "mnuSummary \"Summary Table\"",
-                              "mnuTools(1) \"Edit\"", "  mnuOptions \"Options\"", "mnuTools(2) \"Tools\"",
+  EXPECT_EQ(entries, (Strings{"mnuTools(0) \"File\"",
+                              "  mnuNew \"New\"",
+                              "  mnuOpen \"Open...\"",
+                              "  mnuOpenRecent \"Open Recent\" disabled",
+                              "  mnuRecent(0) \"\"",
+                              "  mnuRecent(1) \"\"",
+                              "  mnuRecent(2) \"\"",
+                              "  mnuRecent(3) \"\"",
+                              "  mnuRecent(4) \"\"",
+                              "  mnuRecent(5) \"\"",
+                              "  mnuRecent(6) \"\"",
+                              "  mnuRecent(7) \"\"",
+                              "  mnuRecent(8) \"\"",
+                              "  mnuSave \"Save\"",
+                              "  mnuSaveAs \"Save As...\"",
+                              "  mnuNotes \"Farm Name and Notes...\"",
+                              "  mnuPrint \"Print\" disabled",
+                              "  mnuExit \"Exit\"",
+                              "mnuLocation \"Location\"",
+                              "  mnuPrairia \"Prairia\" checked",
+                              "  mnuTexas \"Texas\" disabled",
+                              "mnuSummary \"Summary Table\"",
+                              "mnuTools(1) \"Edit\"",
+                              "  mnuUndo \"Undo\" disabled",
+                              "  mnuRedo \"Redo\" disabled",
+                              "  mnuOptions \"Options\"",
+                              "mnuTools(2) \"Tools\"",
                               "  mnuCustomCrop \"Manage Custom Crops\"",
                               "  mnuEnableBatch \"Enable Trend Processing\"",
-                              "  mnuFallBatch \"Run a variable trend process\" disabled", "mnuAbout \"Help\"",
-                              "  mnuHelp \"Help\"", "  mnuAboutVDL \"About Verdalis...\""}));
+                              "  mnuFallBatch \"Run a variable trend process\" disabled",
+                              "mnuAbout \"Help\"",
+                              "  mnuHelp \"Help\"",
+                              "  mnuAboutVDL \"About Verdalis...\""}));
 }
 
 TEST_F(Navigation, TheLocationMenuDoesNothing) {
