@@ -327,7 +327,15 @@ void FarmFiles::followRestored() {
   refreshMenus();
 }
 
+/// Shows where a step has happened. A page whose figures cannot be worked out is shown without a message.
 void FarmFiles::show(const UndoStep& step) {
+  try {
+    showPlace(step);
+  } catch (const RunTimeError&) {  // NOLINT(bugprone-empty-catch): told where the numbers were entered
+  }
+}
+
+void FarmFiles::showPlace(const UndoStep& step) {
   switch (step.place) {
     case ChangePlace::costs:
       window_.showCosts(step.crop);

@@ -94,6 +94,7 @@ class FarmFiles {
   void leaveCopy();
   void dropCopy();
   void show(const UndoStep& step);
+  void showPlace(const UndoStep& step);
   void followRestored();
   void refreshTitle();
   void changed();

@@ -70,7 +70,8 @@ TEST(SavedFarm, AMissingInputsFileIsRejectedExceptInTheHomeFolder) {
   const CliResult result = evaluate(home, {"--crop", "Plain", "--inputs", missing});
   EXPECT_EQ(result.exitCode, 2);
   EXPECT_EQ(result.out, "");
-  EXPECT_EQ(result.err, "verdalis-cli: --inputs: The file " + missing + " cannot be read.\n");
+  EXPECT_EQ(result.err,
+            "verdalis-cli: --inputs: The file " + missing + " cannot be read: No such file or directory.\n");
   EXPECT_EQ(home.evaluate({"--crop", "Plain", "--split", "5"}).exitCode, 0);
 }
 
