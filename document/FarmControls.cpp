@@ -89,6 +89,12 @@ DocumentProcess untouchedProcess() {
   return process;
 }
 
+/// The index of the process that the pane shows; the first if none is marked.
+std::size_t shownProcess(const std::vector<DocumentProcess>& trend) {
+  const auto shown = std::find_if(trend.begin(), trend.end(), [](const auto& each) { return each.shown; });
+  return shown == trend.end() ? 0 : static_cast<std::size_t>(shown - trend.begin());
+}
+
 void copyCosts(const inputCosts& from, inputCosts& to) {
   for (const CostField& field : costFields())
     field.copy(from, to);
@@ -186,15 +192,16 @@ std::vector<DocumentWish> FarmControls::readWishes(const std::vector<DocumentWis
 std::vector<DocumentProcess> FarmControls::readTrend(const std::vector<DocumentProcess>& before) const {
   const BatchSetupPane& pane = parts_.trends.pneBatchSetup0;
   const TrendState& trend = parts_.trends.trend;
-  const std::size_t count = std::max<std::size_t>(trend.ProcessCollection.size(), 1);
-  const auto shown = static_cast<std::size_t>(std::max<std::int16_t>(trend.CurrentProcess, 0));
-  std::vector<DocumentProcess> processes(count);
-  // Further processes of a farm file wait for a setup that they can be shown in.
-  if (!parts_.state.TrendMode && before.size() > count) processes = before;
-  for (std::size_t i = 0; i < processes.size(); ++i) {
+  // The list of processes is that of the last setup; it is in force while a setup is open.
+  const bool live = parts_.state.TrendMode || before.empty();
+  const std::size_t count = live ? std::max<std::size_t>(trend.ProcessCollection.size(), 1) : before.size();
+  const std::size_t shown =
+      live ? static_cast<std::size_t>(std::max<std::int16_t>(trend.CurrentProcess, 0)) : shownProcess(before);
+  std::vector<DocumentProcess> processes = before;
+  processes.resize(count);
+  for (std::size_t i = 0; i < count; ++i) {
     DocumentProcess& process = processes[i];
-    if (i < before.size()) process.unknown = before[i].unknown;
-    if (processes.size() == count) process.shown = i == std::min(shown, count - 1);
+    process.shown = i == std::min(shown, count - 1);
     if (process.shown) {
       process.crop = pane.cboCrops.text();
       process.variable = static_cast<std::size_t>(BatchSetupPane::getSelectedIndex(pane.batchVariables));
@@ -206,7 +213,7 @@ std::vector<DocumentProcess> FarmControls::readTrend(const std::vector<DocumentP
       process.file = pane.lblBatchFile.caption();
       continue;
     }
-    if (processes.size() > count) continue;
+    if (!live) continue;
     const BatchProcess& other = trend.ProcessCollection[i];
     const auto row = static_cast<std::size_t>(std::max(other.cropIndex, 0.0));
     if (row < parts_.main.cr.size() && parts_.main.cr[row]->Crop)
@@ -374,14 +381,14 @@ void FarmControls::putOptions(const DocumentOptions& options) {
 
 void FarmControls::putTrend(const std::vector<DocumentProcess>& trend) {
   BatchSetupPane& pane = parts_.trends.pneBatchSetup0;
-  const auto shown = std::find_if(trend.begin(), trend.end(), [](const auto& each) { return each.shown; });
-  if (parts_.state.TrendMode && parts_.trends.trend.SelectedOption->Count() > 0 && shown != trend.end()) {
+  const std::size_t shown = shownProcess(trend);
+  if (parts_.state.TrendMode && parts_.trends.trend.SelectedOption->Count() > 0 && !trend.empty()) {
     std::vector<BatchProcess> processes;
     for (const DocumentProcess& process : trend)
       processes.push_back(processOf(process));
-    pane.putProcesses(std::move(processes), static_cast<std::int16_t>(shown - trend.begin()));
+    pane.putProcesses(std::move(processes), static_cast<std::int16_t>(shown));
   }
-  const DocumentProcess process = shown == trend.end() ? untouchedProcess() : *shown;
+  const DocumentProcess process = trend.empty() ? untouchedProcess() : trend[shown];
   pass([&] { pane.cboCrops.setText(process.crop); });
   pane.batchVariables.select(static_cast<int>(process.variable));
   pass([&] { pane.txtBatchMinimum[0].setText(process.minimum); });

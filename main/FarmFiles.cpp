@@ -333,6 +333,7 @@ void FarmFiles::show(const UndoStep& step) {
     showPlace(step);
   } catch (const RunTimeError&) {  // NOLINT(bugprone-empty-catch): told where the numbers were entered
   }
+  controls_.put(keeper_.document());  // opening a pane of costs has emptied fields with "0"
 }
 
 void FarmFiles::showPlace(const UndoStep& step) {
