@@ -147,8 +147,7 @@ TEST_F(Printing, AReportThatCannotReplaceItsFileIsToldInANotice) {
   press("theResults.Command2");
   EXPECT_TRUE(std::filesystem::exists(home() / "report.pdf"));
   const std::string notice = control<Label>("lblNotice").caption();
-  EXPECT_NE(notice.find((home() / "report-2.pdf").string() + " cannot be written: "),
-            std::string::npos)
+  EXPECT_NE(notice.find((home() / "report-2.pdf").string() + " cannot be written: "), std::string::npos)
       << notice;
 }
 
