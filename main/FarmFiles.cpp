@@ -205,14 +205,17 @@ bool FarmFiles::saveTo(const fs::path& path, bool ownFile) {
   }
   keeper_.markSaved();
   recover();
-  if (recent_) {
-    try {
-      recent_->add(path);
-    } catch (const RunTimeError&) {  // NOLINT(bugprone-empty-catch): only the list is poorer
-    }
+  remember();
+  return true;
+}
+
+/// Puts the open farm file at the top of the recent ones.
+void FarmFiles::remember() {
+  try {
+    if (place_ && recent_) recent_->add(place_->path);
+  } catch (const RunTimeError&) {  // NOLINT(bugprone-empty-catch): only the list is poorer
   }
   refreshMenus();
-  return true;
 }
 
 void FarmFiles::takeUp(const FarmDocument& document) {
@@ -233,13 +236,7 @@ void FarmFiles::take(const FarmDocument& document, std::optional<Place> place) {
   keeper_.start(document);
   savedInputs_ = place_ ? std::string() : inputsText();
   recover();
-  if (place_ && recent_) {
-    try {
-      recent_->add(place_->path);
-    } catch (const RunTimeError&) {  // NOLINT(bugprone-empty-catch): only the list is poorer
-    }
-  }
-  refreshMenus();
+  remember();
 }
 
 /// Makes the custom crops of a farm available.

@@ -91,6 +91,7 @@ class FarmFiles {
   void tell(const std::string& title, const std::string& text);
   void offer(const OrphanCopy& copy);
   void restore(const OrphanCopy& copy);
+  void remember();
   void leaveCopy();
   void dropCopy();
   void show(const UndoStep& step);
