@@ -18,11 +18,14 @@ class TerminalServices : public MessageBoxService,
                          public OpenFileService,
                          public ClockService,
                          public EventPumpService,
-                         public PrinterService {
+                         public PrinterService,
+                         public BackgroundService {
  public:
   explicit TerminalServices(Messages& messages) : messages_(messages) {}
 
-  [[nodiscard]] Services services() { return {*this, *this, *this, *this, *this, *this, *this, *this}; }
+  [[nodiscard]] Services services() {
+    return {*this, *this, *this, *this, *this, *this, *this, *this, *this};
+  }
 
   /// The first message since the last call that refuses an input. These messages are not shown; they end the
   /// command.

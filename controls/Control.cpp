@@ -50,6 +50,10 @@ std::string_view kindName(ControlKind kind) {
       return "ProgressBar";
     case ControlKind::ScrollBar:
       return "ScrollBar";
+    case ControlKind::Table:
+      return "Table";
+    case ControlKind::ChartBox:
+      return "ChartBox";
     case ControlKind::Image:
       break;
   }

@@ -26,7 +26,9 @@ enum class ControlKind {
   Grid,
   ProgressBar,
   ScrollBar,
-  Image
+  Image,
+  Table,
+  ChartBox
 };
 
 /// The name of a kind, such as "TextBox".

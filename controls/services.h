@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -139,6 +140,19 @@ class PrinterService {
   virtual std::unique_ptr<PageSurface> beginDocument() = 0;
 };
 
+/// Runs work that takes long beside the actions of the user.
+class BackgroundService {
+ public:
+  virtual ~BackgroundService() = default;
+
+  /// Runs `work`, which may be on another thread and must not throw or touch a control, and then `done` on
+  /// the calling thread, between two actions. Without another thread both run at once.
+  virtual void run(const std::function<void()>& work, const std::function<void()>& done) {
+    work();
+    done();
+  }
+};
+
 /// All services of the platform.
 struct Services {
   MessageBoxService& messageBox;
@@ -149,6 +163,7 @@ struct Services {
   ClockService& clock;
   EventPumpService& eventPump;
   PrinterService& printer;
+  BackgroundService& background;
 };
 
 }  // namespace verdalis

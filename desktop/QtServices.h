@@ -19,13 +19,16 @@ class QtServices : public MessageBoxService,
                    public OpenFileService,
                    public ClockService,
                    public EventPumpService,
-                   public PrinterService {
+                   public PrinterService,
+                   public BackgroundService {
  public:
   /// \param helpFolder folder of the help topics.
   explicit QtServices(const QString& helpFolder);
   ~QtServices() override;
 
-  [[nodiscard]] Services services() { return {*this, *this, *this, *this, *this, *this, *this, *this}; }
+  [[nodiscard]] Services services() {
+    return {*this, *this, *this, *this, *this, *this, *this, *this, *this};
+  }
 
   /// The help window; created on first use.
   [[nodiscard]] HelpViewer& help();

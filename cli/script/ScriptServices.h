@@ -17,9 +17,12 @@ class ScriptServices : public MessageBoxService,
                        public OpenFileService,
                        public ClockService,
                        public EventPumpService,
-                       public PrinterService {
+                       public PrinterService,
+                       public BackgroundService {
  public:
-  [[nodiscard]] Services services() { return {*this, *this, *this, *this, *this, *this, *this, *this}; }
+  [[nodiscard]] Services services() {
+    return {*this, *this, *this, *this, *this, *this, *this, *this, *this};
+  }
 
   std::deque<MessageAnswer> answers;  ///< For the next message boxes
   std::deque<std::string> choices;    ///< Of the next file choosers; an empty one cancels

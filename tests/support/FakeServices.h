@@ -209,7 +209,9 @@ struct FakeServices {
   FakeClock clock;
   FakeEventPump eventPump;
   FakePrinter printer;
-  Services services{messageBox, fileChooser, clipboard, help, openFile, clock, eventPump, printer};
+  BackgroundService background;
+  Services services{messageBox, fileChooser, clipboard, help,      openFile,
+                    clock,      eventPump,   printer,   background};
 };
 
 }  // namespace verdalis::testing
