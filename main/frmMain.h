@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -14,6 +15,7 @@
 #include "document/DocumentKeeper.h"
 #include "document/FarmControls.h"
 #include "engine/BestMix.h"
+#include "engine/Farm.h"
 #include "engine/ProgramState.h"
 #include "engine/RunHooks.h"
 #include "main/ComparePane.h"
@@ -164,6 +166,8 @@ class frmMain : public Window {
   void saveTable(const std::filesystem::path& path, std::string_view bytes);
   [[nodiscard]] CropRecord* rowNamed(const std::string& crop) const;
   void Command1_Click();
+  [[nodiscard]] std::optional<Farm> enteredFarm() const;
+  [[nodiscard]] double plansOfLastRun() const;
   void Command7_Click();
   void goBack();
   void goHome();
