@@ -96,6 +96,9 @@ frmMain::frmMain(Desk& desk, Services& services, ProgramState& state, SecondaryW
   wireNotices();
   wireFarms();
   wireLosses();
+  desk.onActed.connect([this] {
+    if (pneMain.visible()) pneMain.showHints(state_.FineFactor);
+  });
 }
 
 void frmMain::touch() {
@@ -129,6 +132,7 @@ void frmMain::load() {
   untouched_.trend = farmControls.read({}).trend;
   keeper.start();
   farms.start();
+  pneMain.showHints(state_.FineFactor);
 }
 
 void frmMain::loadCropRows() {
