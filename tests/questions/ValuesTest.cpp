@@ -1,5 +1,3 @@
-#include "questions/values.h"
-
 #include <gtest/gtest.h>
 
 #include <stdexcept>
@@ -7,6 +5,7 @@
 #include <utility>
 
 #include "questions/planText.h"
+#include "questions/values.h"
 #include "tests/explore/SmallFarm.h"
 
 namespace verdalis::testing {
@@ -42,11 +41,17 @@ TEST(QuestionValues, ReadCounts) {
 TEST(QuestionValues, StayWithinTheBoundsOfTheMainWindow) {
   const Farm farm = twoCropFarm();
   using Kind = FarmInput::Kind;
-  EXPECT_EQ(fault([&] { requireValue({Kind::efficiency, {}}, 100.5, farm); }),
+  EXPECT_EQ(fault([&] {
+              requireValue({Kind::efficiency, {}}, 100.5, farm);
+            }),
             "The efficiency must be at most 100.");
-  EXPECT_EQ(fault([&] { requireValue({Kind::price, "Corn"}, -1, farm); }),
+  EXPECT_EQ(fault([&] {
+              requireValue({Kind::price, "Corn"}, -1, farm);
+            }),
             "The price Corn must be at least 0.");
-  EXPECT_EQ(fault([&] { requireValue({Kind::water, {}}, 0.001, farm); }),
+  EXPECT_EQ(fault([&] {
+              requireValue({Kind::water, {}}, 0.001, farm);
+            }),
             "Acres times inches must be at least 1 ac-in.");
   EXPECT_EQ(fault([&] { requireValue({Kind::rain, {}}, 99, farm); }), "");
   EXPECT_EQ(fault([] { requireAbove(2, 2); }), "The last value must be above the first.");
