@@ -237,6 +237,7 @@ void FarmFiles::take(const FarmDocument& document, std::optional<Place> place) {
   savedInputs_ = place_ ? std::string() : inputsText();
   recover();
   remember();
+  onTake();
 }
 
 /// Makes the custom crops of a farm available.
