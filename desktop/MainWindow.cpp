@@ -36,7 +36,7 @@ namespace {
 constexpr QSize smallest(1000, 660);
 constexpr QSize usual(1180, 820);
 constexpr const char* topicProperty = "topic";  // of a page, where nothing on it says more
-constexpr const char* menuLetters = "flseth";   // of the menu bar
+constexpr const char* menuLetters = "flsetgh";  // of the menu bar
 
 /// Whether Tab stops at a widget that is more than a way to the help.
 bool takesWork(const QWidget* widget) {
@@ -160,10 +160,15 @@ void MainWindow::addMenus() {
   add(tools, menus.mnuCustomCrop);
   add(tools, menus.mnuEnableBatch);
   add(tools, menus.mnuFallBatch);
+  QMenu* go = menu(menus.mnuGo, tr("&Go"));
+  int page = Qt::Key_1;
+  for (MenuEntry* entry :
+       {&menus.mnuGoMain, &menus.mnuGoResults, &menus.mnuGoTrend, &menus.mnuGoSummary, &menus.mnuGoCompare})
+    addStep(go, *entry, QKeySequence(Qt::CTRL | static_cast<Qt::Key>(page++)));
   QMenu* help = menu(menus.mnuAbout, tr("&Help"));
   add(help, menus.mnuHelp);
   add(help, menus.mnuAboutVDL);
-  for (QMenu* made : {file, location, edit, tools, help})
+  for (QMenu* made : {file, location, edit, tools, go, help})
     assignKeys(made);
 }
 

@@ -19,6 +19,7 @@
 #include "main/ComparePane.h"
 #include "main/CustomCropNotices.h"
 #include "main/FarmFiles.h"
+#include "main/GoMenu.h"
 #include "main/LossNotices.h"
 #include "main/MainMenus.h"
 #include "main/MainTrendHost.h"
@@ -84,6 +85,7 @@ class frmMain : public Window {
   FarmControls farmControls;
   DocumentKeeper keeper;  ///< The document of the farm on screen, and its steps
   FarmFiles farms;
+  GoMenu go;  ///< Leads from page to page
 
   /// Whether the present action of the user takes place during a run or beside a message box.
   [[nodiscard]] bool isRunning() { return desk().isInsideAction(); }
