@@ -24,6 +24,7 @@
 #include <algorithm>
 
 #include "desktop/Keys.h"
+#include "desktop/TableView.h"
 
 namespace verdalis::desktop {
 namespace {
@@ -85,7 +86,8 @@ bool hasNothingFor(const QKeyEvent& key, const QLineEdit& line) {
 
 bool movesWithTheClick(const QObject* object) {
   return qobject_cast<const QAbstractButton*>(object) != nullptr ||
-         qobject_cast<const QTableWidget*>(object) != nullptr;
+         qobject_cast<const QTableWidget*>(object) != nullptr ||
+         qobject_cast<const TableView*>(object) != nullptr;
 }
 
 bool isPersonsMove(Qt::FocusReason reason) {
@@ -312,6 +314,16 @@ QTableWidget* Binder::bind(Grid& control, QTableWidget* widget, const QString& l
   });
   connect(widget, &QTableWidget::cellClicked, this,
           [&control](int row, int column) { control.clickCell(row, column); });
+  return widget;
+}
+
+TableView* Binder::bind(Table& control, TableView* widget, const QString& label) {
+  name(control, widget, label);
+  widget->setTable(control);
+  watch(control, [&control, widget] {
+    showState(control, widget);
+    widget->follow();
+  });
   return widget;
 }
 

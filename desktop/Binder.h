@@ -9,6 +9,7 @@
 
 #include "controls/Event.h"
 #include "controls/Grid.h"
+#include "controls/Table.h"
 #include "controls/displays.h"
 #include "controls/inputs.h"
 
@@ -28,6 +29,8 @@ class QTableWidget;
 class QWidget;
 
 namespace verdalis::desktop {
+
+class TableView;
 
 /// UTF-8 of the program as text of the toolkit, and back.
 [[nodiscard]] QString qText(const std::string& text);
@@ -61,6 +64,7 @@ class Binder : public QObject {
   QAction* bind(MenuEntry& control, QAction* action);
   QMenu* bind(MenuEntry& control, QMenu* menu);
   QTableWidget* bind(Grid& control, QTableWidget* widget, const QString& label);
+  TableView* bind(Table& control, TableView* widget, const QString& label);
   QScrollBar* bind(ScrollBar& control, QScrollBar* widget, const QString& label);
   QWidget* bind(Image& control, QWidget* widget);
 

@@ -101,6 +101,12 @@ QString styleSheet(Scheme scheme) {
     QFrame#footer { background: @card; border: none; border-top: 1px solid @line; }
     QTableWidget { background: @base; gridline-color: @line; border: 1px solid @line; border-radius: 4px;
                    selection-background-color: @brand; selection-color: @brandText; }
+    QTableView[role="records"] { background: @card; border: none; }
+    QTableView[role="records"] QHeaderView { background: @card; }
+    QTableView[role="records"] QHeaderView::section { background: @card; color: @muted; font-weight: 600;
+                                                      border: none; border-bottom: 1px solid @line;
+                                                      padding: 4px 8px; }
+    QTableView[role="records"] QHeaderView::section:hover { color: @brand; }
     QScrollArea { border: none; background: transparent; }
     QMenuBar { background: @window; }
     QMenu::separator { height: 1px; background: @line; margin: 4px 8px; }
