@@ -96,6 +96,13 @@ QString styleSheet(Scheme scheme) {
     QPushButton[role="link"]:focus { border: 2px solid @brand; border-radius: 5px; padding: 5px 7px; }
     QPushButton[role="link"]:disabled { color: @muted; text-decoration: none; }
     QLabel[role="caution"] { color: @cautionText; }
+    QLabel[role="loss"] { color: @warning; font-weight: 600; }
+    QLabel[role="gain"] { color: @brand; font-weight: 600; }
+    QSlider::groove:horizontal { background: @line; height: 4px; border-radius: 2px; }
+    QSlider::sub-page:horizontal { background: @brand; height: 4px; border-radius: 2px; }
+    QSlider::handle:horizontal { background: @card; border: 2px solid @brand; width: 12px; height: 12px;
+                                 margin: -6px 0; border-radius: 8px; }
+    QSlider::handle:horizontal:focus { background: @brand; }
     QLineEdit[caution="true"], QComboBox[caution="true"] { border: 1px solid @cautionText; }
     QLineEdit[caution="true"]:focus, QComboBox[caution="true"]:focus { border: 2px solid @cautionText; }
     QFrame#footer { background: @card; border: none; border-top: 1px solid @line; }
