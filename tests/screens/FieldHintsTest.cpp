@@ -1,8 +1,8 @@
-#include "screens/fieldHints.h"
-
 #include <gtest/gtest.h>
 
 #include <string>
+
+#include "screens/fieldHints.h"
 
 namespace verdalis::testing {
 namespace {
