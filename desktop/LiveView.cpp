@@ -96,8 +96,8 @@ class LiveView : public QWidget {
     plan.body->addWidget(wrapped(binder_, pane_.lblLiveFault, "caution"));
     auto* total = new QHBoxLayout;
     total->addStretch();
-    total->addWidget(binder_.bind(pane_.lblLiveProfit, sizedLabel(figureLabel("figure"), 1.8),
-                                  tr("Net return per acre")));
+    total->addWidget(
+        binder_.bind(pane_.lblLiveProfit, sizedLabel(figureLabel("figure"), 1.8), tr("Net return per acre")));
     total->addSpacing(12);
     total->addWidget(binder_.bind(pane_.lblLiveFarm, fixedLabel({}, "muted"), tr("Net return of the farm")));
     plan.body->addLayout(total);
@@ -125,7 +125,8 @@ class LiveView : public QWidget {
       grid->addWidget(binder_.bind(slider->lblInput, fixedLabel({})), line, 0);
       auto* value = figureLabel("figure");
       grid->addWidget(binder_.bind(slider->lblValue, value), line, 1);
-      auto* bar = binder_.bind(slider->bar, new MarkedSlider(slider->mark), plain(slider->lblInput.caption()));
+      auto* bar =
+          binder_.bind(slider->bar, new MarkedSlider(slider->mark), plain(slider->lblInput.caption()));
       grid->addWidget(bar, line + 1, 0, 1, 2);
       grid->setRowMinimumHeight(line + 2, scaled(4));
       line += 3;

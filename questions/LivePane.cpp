@@ -189,10 +189,10 @@ void LivePane::showPlan(const Farm& farm, const std::shared_ptr<FieldCollection>
   for (const auto& field : *option) {
     const double gross = grossFromNet(field->Depth, efficiency);
     most = std::max(most, gross);
-    rows.push_back({{formatNumber(field->acres, "#,##0.0"), printable(field->theCrop->cropType),
-                     inchesText(gross), inchesText(field->Depth),
-                     perAcreText(field->getProfit(efficiency), field->acres)},
-                    gross});
+    rows.push_back(
+        {{formatNumber(field->acres, "#,##0.0"), printable(field->theCrop->cropType), inchesText(gross),
+          inchesText(field->Depth), perAcreText(field->getProfit(efficiency), field->acres)},
+         gross});
   }
   lblLiveFault.setCaption("");
   const double profit = option->getProfit(efficiency);
@@ -210,8 +210,7 @@ void LivePane::showPlan(const Farm& farm, const std::shared_ptr<FieldCollection>
                          if (column == waterColumn && most > 0) cell.bar = rows[record].gross / most;
                          return cell;
                        },
-                       nullptr,
-                       nullptr});
+                       nullptr, nullptr});
   lblLiveProfit.setCaption(perAcreText(profit, farm.acres));
   lblLiveFarm.setCaption(dollarsText(profit) + " for the farm");
   if (now_.crops.empty()) {

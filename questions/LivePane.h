@@ -27,8 +27,8 @@ class LivePane : public Frame {
   Label lblLiveAbout{*this, "lblLiveAbout",
                      "Move a slider: the best plan follows. Each picture is an exact evaluation; nothing of "
                      "your farm changes until you take it over."};
-  Label lblLiveFault{*this, "lblLiveFault"};  ///< Why there is no plan; empty if there is one
-  Table tblLive{*this, "tblLive"};            ///< The fields of the best plan
+  Label lblLiveFault{*this, "lblLiveFault"};        ///< Why there is no plan; empty if there is one
+  Table tblLive{*this, "tblLive"};                  ///< The fields of the best plan
   Label lblLiveProfit{*this, "lblLiveProfit"};      ///< Net return per acre
   Label lblLiveFarm{*this, "lblLiveFarm"};          ///< Net return of the farm
   Label lblLiveDistance{*this, "lblLiveDistance"};  ///< Against the plan of now
@@ -50,7 +50,7 @@ class LivePane : public Frame {
     [[nodiscard]] std::string text() const;
 
     FarmInput input;
-    double present;    ///< In the unit of the input
+    double present;  ///< In the unit of the input
     double step = 1;
     int mark = 0;      ///< Position of the present value
     std::string unit;  ///< Such as "in"

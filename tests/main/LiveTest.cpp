@@ -24,10 +24,10 @@ class LiveOnAFarm : public ::testing::Test {
     throw std::logic_error("no slider " + label);
   }
 
-  [[nodiscard]] std::string valueOfSlider(const std::string& label) { return generalText(slider(label).value()); }
-  [[nodiscard]] std::string text(const std::string& name) {
-    return running.control<TextBox>(name).text();
+  [[nodiscard]] std::string valueOfSlider(const std::string& label) {
+    return generalText(slider(label).value());
   }
+  [[nodiscard]] std::string text(const std::string& name) { return running.control<TextBox>(name).text(); }
 };
 
 TEST_F(LiveOnAFarm, ValuesAreTakenOverInOneStep) {

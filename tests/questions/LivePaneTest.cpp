@@ -1,5 +1,3 @@
-#include "questions/LivePane.h"
-
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -7,6 +5,7 @@
 #include <string>
 
 #include "explore/bestPlan.h"
+#include "questions/LivePane.h"
 #include "questions/planText.h"
 #include "tests/explore/SmallFarm.h"
 
