@@ -14,6 +14,7 @@
 #include "controls/inputs.h"
 
 class QAbstractButton;
+class QAbstractSlider;
 class QAction;
 class QCheckBox;
 class QComboBox;
@@ -25,6 +26,7 @@ class QPushButton;
 class QRadioButton;
 class QScrollArea;
 class QScrollBar;
+class QSlider;
 class QTableWidget;
 class QWidget;
 
@@ -66,6 +68,7 @@ class Binder : public QObject {
   QTableWidget* bind(Grid& control, QTableWidget* widget, const QString& label);
   TableView* bind(Table& control, TableView* widget, const QString& label);
   QScrollBar* bind(ScrollBar& control, QScrollBar* widget, const QString& label);
+  QSlider* bind(ScrollBar& control, QSlider* widget, const QString& label);
   QWidget* bind(Image& control, QWidget* widget);
 
   /// A frame or composite control: its visibility and whether it is enabled.
@@ -91,6 +94,7 @@ class Binder : public QObject {
 
  private:
   void watch(Control& control, std::function<void()> update);
+  void bindBar(ScrollBar& control, QAbstractSlider* widget, const QString& label);
   bool windowEvent(Window& window, QWidget* widget, QEvent* event);
 
   Desk& desk_;
