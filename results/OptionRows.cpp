@@ -54,6 +54,15 @@ std::vector<std::pair<std::string, double>> acresByCrop(const FieldCollection& o
 
 }  // namespace
 
+std::string cropsWithAcres(const FieldCollection& option) {
+  std::string text;
+  for (const auto& [crop, acres] : acresByCrop(option)) {
+    text += (text.empty() ? "" : ", ") + crop;
+    passOver([&, sum = acres] { text += " " + formatNumber(sum, "###,###,##0"); });
+  }
+  return text;
+}
+
 double netReturnOf(const FieldCollection& option, double efficiency) {
   if (option.TotalCost == 0) return option.Copy().getProfit(efficiency);
   double sum = 0;
@@ -93,11 +102,9 @@ OptionRows::OptionRows(const std::vector<Option>& options, double efficiency) {
     const auto [number, isNew] = mixNumbers.try_emplace(mix, mixes_.size());
     if (isNew) {
       Mix made;
-      for (const auto& [crop, acres] : acresByCrop(*option)) {
-        made.text += (made.text.empty() ? "" : ", ") + crop;
-        passOver([&, sum = acres] { made.text += " " + formatNumber(sum, "###,###,##0"); });
+      made.text = cropsWithAcres(*option);
+      for (const auto& [crop, acres] : acresByCrop(*option))
         made.crops.push_back(crop);
-      }
       mixes_.push_back(std::move(made));
     }
     row.mix = number->second;

@@ -16,6 +16,9 @@ namespace verdalis {
 /// \throws RunTimeError (overflow)
 [[nodiscard]] double netReturnOf(const FieldCollection& option, double efficiency = EfficiencyFraction);
 
+/// The crops of an option, each with all its acres, most acres first, such as "Corn 94, Grain Sorghum 31".
+[[nodiscard]] std::string cropsWithAcres(const FieldCollection& option);
+
 /// The options of a run as a list compares them.
 class OptionRows {
  public:
@@ -43,7 +46,7 @@ class OptionRows {
   [[nodiscard]] std::size_t size() const { return rows_.size(); }
   [[nodiscard]] const Row& operator[](std::size_t index) const { return rows_[index]; }
 
-  /// The crops of a mix with their acres, most first, such as "Corn 94, Grain Sorghum 31".
+  /// The crops of a mix; see cropsWithAcres().
   [[nodiscard]] const std::string& mixText(std::size_t mix) const { return mixes_[mix].text; }
 
   /// The place of a mix among all, sorted by their texts.
