@@ -130,6 +130,12 @@ QWidget* resultsView(Results& results, Binder& binder, const QString& heading) {
   table.body->addLayout(total);
   view.body->addWidget(table.frame);
 
+  for (Label* line : {&results.lblSinceLast, &results.lblOutdated}) {
+    auto* text = fixedLabel({}, line == &results.lblOutdated ? "title" : "muted");
+    text->setWordWrap(true);
+    view.body->addWidget(binder.bind(*line, text));
+  }
+
   const Card trend = card();
   auto* trendLine = new QHBoxLayout;
   auto* descriptions = new QVBoxLayout;

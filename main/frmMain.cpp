@@ -353,6 +353,7 @@ void frmMain::Command1_Click() {
   theResults.plansCompared = plansOfLastRun();
   theResults.evaluatedFarm = farm;
   theResults.loadResults(options);
+  sinceLastRun_.runEnded(farmControls.foundWith);
   // Packed again: the first packing may have brought new duplicates together. Then the report lists fewer
   // options than the screen.
   thePrinter.setCollection(best.returnCollection(true));
@@ -462,6 +463,15 @@ void frmMain::wireLosses() {
   losses_.watchPage(pneInputCosts.cmdDefault, pneInputCosts, defaults);
   losses_.watchPage(pneIrrigCosts.Command4, pneIrrigCosts, cleared);
   losses_.watchPage(pneIrrigCosts.cmdDefaultIrrigCosts, pneIrrigCosts, defaults);
+}
+
+void frmMain::wireSinceLastRun() {
+  const auto follow = [this] {
+    if (pneResults.visible()) sinceLastRun_.follow(keeper.document().inputs);
+  };
+  pneResults.onStateChange.connect(follow);
+  keeper.onChange.connect(follow);
+  farms.onTake.connect([this] { sinceLastRun_.forget(); });
 }
 
 void frmMain::showMainPane() {

@@ -31,6 +31,7 @@
 #include "main/RecoveryBar.h"
 #include "main/SavedInputsKeeper.h"
 #include "main/SecondaryWindows.h"
+#include "main/SinceLastRun.h"
 #include "results/Details.h"
 #include "results/ResultPrinter.h"
 #include "results/Results.h"
@@ -178,8 +179,10 @@ class frmMain : public Window {
   [[nodiscard]] GeneralInputs enteredInputs() const;
   void wireFarms();
   void wireLosses();
+  void wireSinceLastRun();
 
   LossNotices losses_;
+  SinceLastRun sinceLastRun_{theResults};
   FarmDocument untouched_;
   Services& services_;
   ProgramState& state_;

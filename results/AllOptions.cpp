@@ -18,6 +18,7 @@ namespace {
 
 constexpr const char* anyCrop = "any crop";
 constexpr const char* unknown = "-";
+constexpr const char* searching = "Looking for the best plan of each mix of crops ...";
 constexpr double highestPercent = 100;
 
 /// The columns before those of the fields, and after them.
@@ -127,12 +128,16 @@ void AllOptions::toggleMixes() {
     listKept();
     return;
   }
-  lblOptionsNote.setCaption("Looking for the best plan of each mix of crops ...");
+  lblOptionsNote.setCaption(searching);
   search_.start(*run_.farm, [this](const std::vector<Option>& plans) { listMixes(plans); });
 }
 
 /// A plan that the run has kept too leads to its option: the one with the same fields, or its mirror image.
 void AllOptions::listMixes(const std::vector<Option>& plans) {
+  if (plans.empty()) {
+    chkMixes.setChecked(false);
+    return;
+  }
   std::map<FieldTexts, std::size_t> inOrder;
   std::map<FieldTexts, std::size_t> inAnyOrder;
   for (std::size_t i = 0; i < kept_.size(); ++i) {
@@ -326,6 +331,10 @@ void AllOptions::filter() {
 /// Tells in words how many mixes are as good as the best. Among options that all are, others that the run did
 /// not keep may be as good too.
 void AllOptions::tell() {
+  if (search_.isRunning()) {
+    lblOptionsNote.setCaption(searching);
+    return;
+  }
   std::string text;
   const auto add = [&](const std::string& sentence) { text += (text.empty() ? "" : " ") + sentence; };
   if (!run_.trend && rows_.best()) {

@@ -36,11 +36,11 @@ class AllOptions : public Frame {
 
   AllOptions(Frame& container, Services& services);
 
-  CheckBox chkMixes{*this, "chkMixes", "One line per mix of crops"};
+  CheckBox chkMixes{*this, "chkMixes", "One line per mix"};
   CheckBox chkFold{*this, "chkFold", "Fold mirror images"};
   Label lblWith{*this, "lblWith", "with"};
   ComboBox cboWith{*this, "cboWith", ComboBox::Style::list};
-  CheckBox chkWithin{*this, "chkWithin", "Only as good as the best within"};
+  CheckBox chkWithin{*this, "chkWithin", "As good as the best within"};
   TextBox txtWithin{*this, "txtWithin", "1"};
   Table tblOptions{*this, "tblOptions"};
   Label lblOptionsNote{*this, "lblOptionsNote"};

@@ -22,6 +22,8 @@ Results::Results(Frame& container, const std::string& name, Services& services, 
   for (ResultHolder& row : rh)
     row.setVisible(false);
   batchDisplay.setVisible(false);
+  lblSinceLast.setVisible(false);
+  lblOutdated.setVisible(false);
   pnlBatchedVariables.setVisible(false);
   connect();
 }

@@ -73,6 +73,8 @@ class Results : public Frame {
   std::array<ResultHolder, 4> rh{{{*this, "rh(0)"}, {*this, "rh(1)"}, {*this, "rh(2)"}, {*this, "rh(3)"}}};
   Label lblTotalProfit{*this, "lblTotalProfit"};
   Label lblFarmProfit{*this, "lblFarmProfit"};  ///< The same for the whole farm
+  Label lblSinceLast{*this, "lblSinceLast"};    ///< What has changed since the run before
+  Label lblOutdated{*this, "lblOutdated"};      ///< Whether inputs have changed since the run
   AllOptions all;
   Button cmdSaveResult{*this, "cmdSaveResult", "Compare this option"};
   Button Command2{*this, "Command2", "Print Results"};
