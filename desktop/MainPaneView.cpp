@@ -220,8 +220,9 @@ QWidget* MainPaneView::plantCard() {
   setHelp(open, pane_.cmdHelp, 1);
   line->addWidget(open);
   line->addWidget(helpButton(binder_, pane_.cmdHelp, 1, QString::fromLatin1(irrigationHeading)));
-  line->addWidget(fixedLabel(QString::fromLatin1(batchInstructions[2]), "muted"));
-  line->addStretch();
+  auto* instruction = fixedLabel(QString::fromLatin1(batchInstructions[2]), "muted");
+  instruction->setWordWrap(true);
+  line->addWidget(instruction, 1);
   line->addWidget(binder_.bind(pane_.Command7, new QPushButton));
   plant.body->addLayout(line);
 
