@@ -97,6 +97,7 @@ frmMain::frmMain(Desk& desk, Services& services, ProgramState& state, SecondaryW
   wireNotices();
   wireFarms();
   wireLosses();
+  wireSinceLastRun();
   desk.onActed.connect([this] {
     if (pneMain.visible()) pneMain.showHints(state_.FineFactor);
   });
