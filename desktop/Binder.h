@@ -7,6 +7,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "controls/ChartBox.h"
 #include "controls/Event.h"
 #include "controls/Grid.h"
 #include "controls/displays.h"
@@ -28,6 +29,8 @@ class QTableWidget;
 class QWidget;
 
 namespace verdalis::desktop {
+
+class ChartView;
 
 /// UTF-8 of the program as text of the toolkit, and back.
 [[nodiscard]] QString qText(const std::string& text);
@@ -63,6 +66,9 @@ class Binder : public QObject {
   QTableWidget* bind(Grid& control, QTableWidget* widget, const QString& label);
   QScrollBar* bind(ScrollBar& control, QScrollBar* widget, const QString& label);
   QWidget* bind(Image& control, QWidget* widget);
+
+  /// The name of a chart is its title, or `label` while it shows none.
+  ChartView* bind(ChartBox& control, ChartView* widget, const QString& label);
 
   /// A frame or composite control: its visibility and whether it is enabled.
   QWidget* bind(Frame& control, QWidget* widget);
