@@ -7,6 +7,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "controls/ChartBox.h"
 #include "controls/Event.h"
 #include "controls/Grid.h"
 #include "controls/Table.h"
@@ -30,6 +31,7 @@ class QWidget;
 
 namespace verdalis::desktop {
 
+class ChartView;
 class TableView;
 
 /// UTF-8 of the program as text of the toolkit, and back.
@@ -67,6 +69,9 @@ class Binder : public QObject {
   TableView* bind(Table& control, TableView* widget, const QString& label);
   QScrollBar* bind(ScrollBar& control, QScrollBar* widget, const QString& label);
   QWidget* bind(Image& control, QWidget* widget);
+
+  /// The name of a chart is its title, or `label` while it shows none.
+  ChartView* bind(ChartBox& control, ChartView* widget, const QString& label);
 
   /// A frame or composite control: its visibility and whether it is enabled.
   QWidget* bind(Frame& control, QWidget* widget);
