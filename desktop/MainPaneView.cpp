@@ -20,6 +20,7 @@
 
 #include "desktop/Keys.h"
 #include "desktop/LandSplitPicture.h"
+#include "desktop/WishesView.h"
 #include "model/LandDivision.h"
 
 namespace verdalis::desktop {
@@ -67,7 +68,8 @@ const FieldRow* rowOf(std::string_view control) {
 
 }  // namespace
 
-MainPaneView::MainPaneView(MainPane& pane, Binder& binder) : pane_(pane), binder_(binder) {
+MainPaneView::MainPaneView(MainPane& pane, WishesCard& wishes, Binder& binder)
+    : pane_(pane), binder_(binder) {
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   const PageWithButtons view = pageWithButtons();
@@ -78,7 +80,8 @@ MainPaneView::MainPaneView(MainPane& pane, Binder& binder) : pane_(pane), binder
   top->addWidget(landCard(), 4);
   view.body->addLayout(top);
   view.body->addWidget(cropCard());
-  view.body->addWidget(plantCard());
+  view.body->addWidget(wishesView(wishes, binder_));
+  view.body->addWidget(plantCard(wishes));
   view.body->addStretch();
   fillFooter(view.buttons);
   rowChanges_ = pane_.onRowsChanged.connectScoped([this] { rebuildRows(); });
@@ -214,7 +217,7 @@ QWidget* MainPaneView::cropCard() {
   return crops.frame;
 }
 
-QWidget* MainPaneView::plantCard() {
+QWidget* MainPaneView::plantCard(WishesCard& wishes) {
   const Card plant = card();
   auto* line = new QHBoxLayout;
   line->setSpacing(12);
@@ -224,6 +227,7 @@ QWidget* MainPaneView::plantCard() {
   line->addWidget(open);
   line->addWidget(helpButton(binder_, pane_.cmdHelp, 1, QString::fromLatin1(irrigationHeading)));
   line->addStretch();
+  line->addWidget(wishesButton(wishes, binder_));
   line->addWidget(binder_.bind(pane_.Command7, new QPushButton));
   plant.body->addLayout(line);
 

@@ -7,6 +7,7 @@
 #include "desktop/Page.h"
 #include "desktop/Theme.h"
 #include "screens/MainPane.h"
+#include "screens/WishesCard.h"
 
 class QButtonGroup;
 class QGridLayout;
@@ -21,7 +22,7 @@ class MainPaneView : public QWidget {
   Q_OBJECT
 
  public:
-  MainPaneView(MainPane& pane, Binder& binder);
+  MainPaneView(MainPane& pane, WishesCard& wishes, Binder& binder);
 
  protected:
   void changeEvent(QEvent* event) override;
@@ -33,7 +34,7 @@ class MainPaneView : public QWidget {
   [[nodiscard]] QWidget* farmCard();
   [[nodiscard]] QWidget* landCard();
   [[nodiscard]] QWidget* cropCard();
-  [[nodiscard]] QWidget* plantCard();
+  [[nodiscard]] QWidget* plantCard(WishesCard& wishes);
   void fillFooter(QHBoxLayout* line);
   void rebuildRows();
   void orderRows();

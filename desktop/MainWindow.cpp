@@ -25,6 +25,7 @@
 #include "desktop/Keys.h"
 #include "desktop/MainPaneView.h"
 #include "desktop/NoticeView.h"
+#include "desktop/QuestionViews.h"
 #include "desktop/RecentMenu.h"
 #include "desktop/ResultViews.h"
 #include "desktop/SummaryView.h"
@@ -35,8 +36,8 @@ namespace {
 
 constexpr QSize smallest(1000, 660);
 constexpr QSize usual(1180, 820);
-constexpr const char* topicProperty = "topic";  // of a page, where nothing on it says more
-constexpr const char* menuLetters = "flsetgh";  // of the menu bar
+constexpr const char* topicProperty = "topic";   // of a page, where nothing on it says more
+constexpr const char* menuLetters = "flsetxgh";  // of the menu bar
 
 /// Whether Tab stops at a widget that is more than a way to the help.
 bool takesWork(const QWidget* widget) {
@@ -81,7 +82,7 @@ MainWindow::MainWindow(frmMain& window, Binder& binder, std::function<void(const
   layout->addWidget(stack_, 1);
   setCentralWidget(centre);
 
-  addPane(window_.pneMain, new MainPaneView(window_.pneMain, binder_), "mainInput.htm");
+  addPane(window_.pneMain, new MainPaneView(window_.pneMain, window_.wishesCard, binder_), "mainInput.htm");
   addPane(window_.pneInputCosts, inputCostsView(window_.pneInputCosts, binder_), "inputcosts.htm");
   addPane(window_.pneIrrigCosts, irrigCostsView(window_.pneIrrigCosts, binder_), "irrigationCosts.htm");
   addPane(window_.pneResults, resultsView(window_.theResults, binder_, QString::fromLatin1(resultsHeading)),
@@ -90,6 +91,13 @@ MainWindow::MainWindow(frmMain& window, Binder& binder, std::function<void(const
   addPane(window_.pneSummary, summaryView(window_.pneSummary, binder_), "summary.htm");
   addPane(window_.pneCompare, compareView(window_.pneCompare, binder_), "summary.htm#compare");
   addPane(window_.pneCustomCrop, customCropView(window_.pneCustomCrop, binder_), "customcrops.htm");
+  QuestionPanes& questions = window_.questions;
+  addPane(questions.mixes, mixesView(questions.mixes, binder_), "questions.htm#mixes");
+  addPane(questions.water, waterView(questions.water, binder_), "questions.htm#water");
+  addPane(questions.switches, switchView(questions.switches, binder_), "questions.htm#switch");
+  addPane(questions.seasons, seasonsView(questions.seasons, binder_), "questions.htm#seasons");
+  addPane(questions.inputs, inputsView(questions.inputs, binder_), "questions.htm#inputs");
+  addPane(questions.map, mapView(questions.map, binder_), "questions.htm#map");
   TrendScreens& trends = window_.trends;
   addPane(trends.pneBatchSetup0, batchSetupView(trends.pneBatchSetup0, binder_), "batchoption.htm");
   addPane(trends.pneBatchSetup1, batchResultsView(trends.pneBatchSetup1, binder_), "batchoption.htm");
@@ -160,6 +168,10 @@ void MainWindow::addMenus() {
   add(tools, menus.mnuCustomCrop);
   add(tools, menus.mnuEnableBatch);
   add(tools, menus.mnuFallBatch);
+  QMenu* explore = menu(menus.mnuExplore, tr("E&xplore"));
+  for (MenuEntry* entry : {&menus.mnuMixes, &menus.mnuWater, &menus.mnuSwitch, &menus.mnuSeasons,
+                           &menus.mnuInputs, &menus.mnuMap})
+    addStep(explore, *entry, {});
   QMenu* go = menu(menus.mnuGo, tr("&Go"));
   int page = Qt::Key_1;
   for (MenuEntry* entry :
@@ -168,7 +180,7 @@ void MainWindow::addMenus() {
   QMenu* help = menu(menus.mnuAbout, tr("&Help"));
   add(help, menus.mnuHelp);
   add(help, menus.mnuAboutVDL);
-  for (QMenu* made : {file, location, edit, tools, go, help})
+  for (QMenu* made : {file, location, edit, tools, explore, go, help})
     assignKeys(made);
 }
 

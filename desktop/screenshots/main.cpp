@@ -7,6 +7,7 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QTimer>
+#include <array>
 #include <filesystem>
 #include <iostream>
 #include <utility>
@@ -117,6 +118,23 @@ void photograph(Desktop& desktop, const Photographer& camera) {
   main.pneCustomCrop.cmdCustomGrid5.click();
 }
 
+void photographQuestions(Desktop& desktop, const Photographer& camera) {
+  MainWindow* window = desktop.mainWindow();
+  frmMain& main = desktop.program().main();
+  const std::array<MenuEntry*, 6> entries{&main.menus.mnuMixes,  &main.menus.mnuWater,
+                                          &main.menus.mnuSwitch, &main.menus.mnuSeasons,
+                                          &main.menus.mnuInputs, &main.menus.mnuMap};
+  const auto pages = main.questions.all();
+  for (std::size_t i = 0; i < pages.size(); ++i) {
+    entries.at(i)->click();
+    while (pages.at(i)->isRunning())
+      QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    camera.take(window,
+                QStringLiteral("explore-") + QString::fromStdString(pages.at(i)->name().substr(3)).toLower());
+  }
+  main.questions.map.cmdBack.click();
+}
+
 void photographTrends(Desktop& desktop, const Photographer& camera) {
   MainWindow* window = desktop.mainWindow();
   frmMain& main = desktop.program().main();
@@ -208,6 +226,7 @@ int main(int argc, char** argv) {
   Desktop desktop(std::filesystem::path(programText(arguments[4])), QStringLiteral(VERDALIS_HELP));
   const Photographer camera(arguments[1], arguments[3]);
   photograph(desktop, camera);
+  photographQuestions(desktop, camera);
   photographTrends(desktop, camera);
   photographSmallWindows(desktop, camera);
   return 0;
