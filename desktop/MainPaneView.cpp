@@ -227,10 +227,12 @@ QWidget* MainPaneView::plantCard() {
   plant.body->addLayout(line);
 
   auto* trends = new QWidget;
-  auto* lines = new QVBoxLayout(trends);
-  lines->setContentsMargins(0, 4, 0, 0);
-  lines->addWidget(fixedLabel(QString::fromLatin1(batchInstructions[0]), "muted"));
-  lines->addWidget(fixedLabel(QString::fromLatin1(batchInstructions[1]), "muted"));
+  auto* instructions = new QHBoxLayout(trends);
+  instructions->setContentsMargins(0, 0, 0, 0);
+  instructions->setSpacing(24);
+  instructions->addWidget(fixedLabel(QString::fromLatin1(batchInstructions[0]), "muted"));
+  instructions->addWidget(fixedLabel(QString::fromLatin1(batchInstructions[1]), "muted"));
+  instructions->addStretch();
   plant.body->addWidget(trends);
   binder_.bind(pane_.pnlBatchInstructions, trends);
   return plant.frame;
