@@ -7,11 +7,7 @@
 
 #include "cli/textOptions.h"
 #include "engine/BestMix.h"
-#include "explore/water.h"
-#include "screens/IrrigCostsPane.h"
-#include "screens/MainPane.h"
 #include "text/encoding.h"
-#include "text/numbers.h"
 #include "text/quote.h"
 
 namespace verdalis {
@@ -93,46 +89,6 @@ FarmInput inputOf(std::string_view text, const Farm& farm) {
   return input;
 }
 
-/// The limit of a field of a pane.
-template <class Rows, class RowOf>
-Limit limitOf(const Rows& rows, std::string_view control, RowOf rowOf) {
-  const auto found =
-      std::find_if(rows.begin(), rows.end(), [&](const auto& row) { return rowOf(row).control == control; });
-  return found == rows.end() ? Limit() : rowOf(*found).limit;
-}
-
-/// \throws Refusal without the name of the option
-void requireAbove(double from, double to) {
-  if (!(from < to)) throw Refusal("The last value must be above the first.");
-}
-
-/// \throws Refusal without the name of the option
-void requireAccepted(const FarmInput& input, double value, const Farm& farm) {
-  const InputBounds bounds = inputBounds(input, farm);
-  if (bounds.least && value < *bounds.least)
-    throw Refusal("The " + inputName(input) + " must be at least " + generalText(*bounds.least) + ".");
-  if (bounds.most && value > *bounds.most)
-    throw Refusal("The " + inputName(input) + " must be at most " + generalText(*bounds.most) + ".");
-  if (input.kind == Kind::water && !isWater(farm, value))
-    throw Refusal("Acres times inches must be at least 1 ac-in.");
-}
-
-/// \throws Refusal without the name of the option
-std::size_t countOf(const std::string& text) {
-  const double values = numberOf(text);
-  if (values < 2 || values > static_cast<double>(mostPoints) ||
-      values != static_cast<double>(static_cast<std::size_t>(values))) {
-    throw Refusal("The number of values must be a whole number from 2 to " +
-                  formatNumber(static_cast<double>(mostPoints), "###,###") + ".");
-  }
-  return static_cast<std::size_t>(values);
-}
-
-InputBounds upTo(std::optional<double> most) {
-  if (!most) return {};
-  return {0, most};
-}
-
 }  // namespace
 
 ExploredFarm exploredFarm(const FarmRequest& request, Messages& messages) {
@@ -153,17 +109,8 @@ FarmInput readInput(const std::string& option, const std::string& text, const Fa
   return applyOption(option, text, [&] { return inputOf(trimmed(text), farm); });
 }
 
-double numberOf(const std::string& text) {
-  if (!isNumeric(text) || text.find(',') != std::string::npos) throw Refusal("Please enter a valid number");
-  return toDouble(text);
-}
-
 double readNumber(const std::string& option, const std::string& text) {
   return applyOption(option, text, [&] { return numberOf(text); });
-}
-
-std::vector<double> ValueRange::values() const {
-  return evenValues(from, to, count);
 }
 
 ValueRange readRange(const std::string& fromOption, const std::string& from, const std::string& toOption,
@@ -188,35 +135,15 @@ InputRange readInputRange(const std::string& option, const std::string& text, co
     result.range.to = numberOf(text.substr(first + 1, second - first - 1));
     requireAbove(result.range.from, result.range.to);
     result.range.count = countOf(text.substr(second + 1));
-    requireAccepted(result.input, result.range.from, farm);
-    requireAccepted(result.input, result.range.to, farm);
+    requireValue(result.input, result.range.from, farm);
+    requireValue(result.input, result.range.to, farm);
     return result;
   });
 }
 
-InputBounds inputBounds(const FarmInput& input, const Farm& farm) {
-  const StockCrop* const stock = stockCrop(cropKind(input.crop));  // other crops have no range test
-  switch (input.kind) {
-    case Kind::water:
-    case Kind::rain:
-      return {};
-    case Kind::efficiency:
-      return upTo(limitOf(MainPane::fields(), "txtEff", [](const FieldRow& row) { return row; }).of(""));
-    case Kind::fuel:
-      return upTo(limitOf(IrrigCostsPane::fields(), "txtCost", [](const IrrigCostsField& field) {
-                    return field.row;
-                  }).of(farm.plant.FuelType));
-    case Kind::price:
-      return upTo(stock != nullptr ? std::optional(stock->limits.price) : std::nullopt);
-    case Kind::maxYield:
-      break;
-  }
-  return upTo(stock != nullptr ? std::optional(stock->limits.maxYield) : std::nullopt);
-}
-
 void requireAccepted(const std::string& option, const std::string& text, const FarmInput& input, double value,
                      const Farm& farm) {
-  applyOption(option, text, [&] { requireAccepted(input, value, farm); });
+  applyOption(option, text, [&] { requireValue(input, value, farm); });
 }
 
 }  // namespace verdalis

@@ -8,13 +8,10 @@
 #include "cli/Messages.h"
 #include "engine/Farm.h"
 #include "explore/FarmInput.h"
-#include "explore/inputs.h"
 #include "explore/seasons.h"
+#include "questions/values.h"
 
 namespace verdalis {
-
-/// Maximum number of points of one result.
-inline constexpr std::size_t mostPoints = 100000;
 
 /// A farm that questions are asked about.
 struct ExploredFarm {
@@ -35,21 +32,9 @@ struct ExploredFarm {
 /// \throws Refusal for any other name, and for a crop that is not chosen or does not have the input
 [[nodiscard]] FarmInput readInput(const std::string& option, const std::string& text, const Farm& farm);
 
-/// Reads a plain number.
+/// Reads a plain number. The option begins the message.
 /// \throws Refusal for any other text
-[[nodiscard]] double numberOf(const std::string& text);
-
-/// The same for the text of an option, which begins the message.
 [[nodiscard]] double readNumber(const std::string& option, const std::string& text);
-
-/// Evenly spaced values between two bounds.
-struct ValueRange {
-  double from = 0;
-  double to = 0;
-  std::size_t count = 0;
-
-  [[nodiscard]] std::vector<double> values() const;
-};
 
 /// Reads the texts of a range and of its number of values. The first value must be below the last, and the
 /// number from 2 to the maximum number of points. Messages name the options.
@@ -67,9 +52,6 @@ struct InputRange {
 /// Reads INPUT=FROM:TO:N. The main window must accept the values for the input.
 /// \throws Refusal, which begins with the option and the whole text, for any other text
 [[nodiscard]] InputRange readInputRange(const std::string& option, const std::string& text, const Farm& farm);
-
-/// The bounds that the main window sets for an input.
-[[nodiscard]] InputBounds inputBounds(const FarmInput& input, const Farm& farm);
 
 /// Checks a value of an input. The option and its text begin the message.
 /// \throws Refusal for a value that the main window would refuse, and for water whose volume rounds to 0

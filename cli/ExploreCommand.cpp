@@ -15,6 +15,7 @@
 #include "cli/relaxation.h"
 #include "cli/textOptions.h"
 #include "explore/bestPlan.h"
+#include "questions/planText.h"
 
 namespace verdalis {
 namespace {

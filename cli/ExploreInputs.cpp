@@ -11,7 +11,7 @@
 #include "cli/TextTable.h"
 #include "cli/textOptions.h"
 #include "explore/inputs.h"
-#include "text/quote.h"
+#include "questions/values.h"
 
 namespace verdalis {
 namespace {
@@ -93,10 +93,7 @@ class ExploreInputs : public ExploreQuestion {
   void answer(const ExploreCall& call, std::ostream& out) override {
     const std::string by = by_.value_or(std::string(usualPercent));
     const double percent = readNumber("--by", by);
-    if (!(percent > 0 && percent < 100))
-      throw Refusal("--by " + quoteForMessage(by) + ": The percentage must be above 0 and below 100.");
-    const double leastWater = call.farm.grossDepth * (1 - percent / 100);
-    requireAccepted("--by", by, {FarmInput::Kind::water, {}}, leastWater, call.farm);
+    applyOption("--by", by, [&] { requirePercent(percent, call.farm); });
     const auto boundsOf = [&](const FarmInput& input) { return inputBounds(input, call.farm); };
     const std::optional<InputsResult> found =
         exploreInputs(call.farm, percent, boundsOf, call.state, call.hooks);

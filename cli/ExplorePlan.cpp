@@ -1,22 +1,11 @@
 #include "cli/ExplorePlan.h"
 
-#include <algorithm>
 #include <nlohmann/json.hpp>
 
 #include "cli/CsvWriter.h"
-#include "cli/TextTable.h"
-#include "text/numbers.h"
 
 namespace verdalis {
 namespace {
-
-/// A number without trailing zeros.
-std::string trimmedNumber(double value, std::string_view pattern) {
-  std::string text = formatNumber(value, pattern);
-  text.erase(text.find_last_not_of('0') + 1);
-  if (text.back() == '.') text.pop_back();
-  return text;
-}
 
 std::vector<PlannedField> asFields(const Mix& mix) {
   std::vector<PlannedField> fields;
@@ -69,48 +58,6 @@ std::string fieldsCsv(const std::vector<PlannedField>& fields, FieldFigures figu
     }
     if (figures == FieldFigures::all) cell(&PlannedField::yield);
   }
-  return text;
-}
-
-std::string dollarsText(double amount) {
-  return formatNumber(amount, "$###,###,##0");
-}
-
-std::string inchesText(double depth) {
-  return formatNumber(depth, "#0.0");
-}
-
-std::string acresText(double acres) {
-  return trimmedNumber(acres, "###,###,##0.00") + " ac";
-}
-
-std::string valueText(double value) {
-  return trimmedNumber(value, "###,###,##0.0000");
-}
-
-std::string planText(const std::vector<PlannedField>& fields) {
-  std::string text;
-  for (const PlannedField& field : fields) {
-    text += (text.empty() ? "" : ", ") + acresText(field.acres) + " " + printable(field.crop) + " " +
-            inchesText(field.grossDepth) + " in.";
-  }
-  return text;
-}
-
-std::string mixText(const Mix& mix) {
-  Mix sums;
-  for (const MixPart& part : mix) {
-    const auto same =
-        std::find_if(sums.begin(), sums.end(), [&](const MixPart& sum) { return sum.crop == part.crop; });
-    if (same == sums.end()) {
-      sums.push_back(part);
-    } else {
-      same->acres += part.acres;
-    }
-  }
-  std::string text;
-  for (const MixPart& sum : sums)
-    text += (text.empty() ? "" : " + ") + acresText(sum.acres) + " " + printable(sum.crop);
   return text;
 }
 

@@ -9,6 +9,7 @@
 #include "cli/JsonWriter.h"
 #include "explore/bestPlan.h"
 #include "explore/mixOf.h"
+#include "questions/planText.h"
 
 namespace verdalis {
 
@@ -41,23 +42,5 @@ enum class FieldFigures {
 
 /// The cells of a mix: acres and crops of four fields.
 [[nodiscard]] std::string mixCsv(const Mix& mix);
-
-/// A number with up to four decimals, such as "6.5".
-[[nodiscard]] std::string valueText(double value);
-
-/// Whole dollars, such as "-$1,234".
-[[nodiscard]] std::string dollarsText(double amount);
-
-/// Inches with one decimal.
-[[nodiscard]] std::string inchesText(double depth);
-
-/// Acres with up to two decimals, such as "52.8 ac".
-[[nodiscard]] std::string acresText(double acres);
-
-/// A plan with gross inches, such as "50 ac Corn 12.0 in., 50 ac Wheat 3.5 in.".
-[[nodiscard]] std::string planText(const std::vector<PlannedField>& fields);
-
-/// A mix with the total acres of each crop, such as "50 ac Corn + 50 ac Wheat".
-[[nodiscard]] std::string mixText(const Mix& mix);
 
 }  // namespace verdalis

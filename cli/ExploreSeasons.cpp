@@ -1,7 +1,7 @@
-#include <algorithm>
 #include <nlohmann/json.hpp>
 #include <optional>
 #include <ostream>
+#include <stdexcept>
 #include <utility>
 
 #include "cli/CsvWriter.h"
@@ -11,13 +11,11 @@
 #include "cli/TextTable.h"
 #include "cli/textOptions.h"
 #include "explore/seasons.h"
+#include "questions/values.h"
 #include "text/quote.h"
 
 namespace verdalis {
 namespace {
-
-constexpr std::size_t leastSeasons = 2;
-constexpr std::size_t mostSeasons = 9;
 
 /// \throws Refusal without the name of the option
 Season readSeason(const std::string& text) {
@@ -29,15 +27,17 @@ Season readSeason(const std::string& text) {
   season.name = text.substr(0, first);
   season.rain = numberOf(text.substr(first + 1, last - first - 1));
   season.weight = numberOf(text.substr(last + 1));
-  if (!(season.weight > 0)) throw Refusal("The weight must be above 0.");
+  requireWeight(season.weight);
   return season;
 }
 
 /// Adds a season. `origin` begins the message for a name that another one has.
 void addSeason(std::vector<Season>& seasons, Season season, const std::string& origin) {
-  const bool repeated = std::any_of(seasons.begin(), seasons.end(),
-                                    [&](const Season& other) { return other.name == season.name; });
-  if (repeated) throw Refusal(origin + ": There is already a season with this name.");
+  try {
+    requireNewName(season.name, seasons);
+  } catch (const std::invalid_argument& error) {
+    throw Refusal(origin + ": " + error.what());
+  }
   seasons.push_back(std::move(season));
 }
 

@@ -1,20 +1,10 @@
 #pragma once
 
 #include <iosfwd>
-#include <string>
-#include <vector>
 
-#include "explore/switchPrices.h"
+#include "questions/switchTexts.h"
 
 namespace verdalis {
-
-/// The answer of `explore switch`.
-struct SwitchAnswer {
-  FarmInput input;
-  std::string unit;  ///< Unit of the crop, such as "bu."; empty for fuel
-  double now = 0;    ///< Current value
-  std::vector<SwitchSegment> segments;
-};
 
 /// Writes the best plan for each range of values.
 /// \throws RunTimeError (overflow) for a number that no table can show

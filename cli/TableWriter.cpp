@@ -4,6 +4,7 @@
 
 #include "cli/OptionsWriter.h"
 #include "cli/TextTable.h"
+#include "questions/planText.h"
 #include "text/numbers.h"
 
 namespace verdalis {

@@ -5,6 +5,8 @@
 #include <ostream>
 #include <utility>
 
+#include "questions/planText.h"
+
 namespace verdalis {
 namespace {
 
@@ -19,13 +21,6 @@ bool startsCharacter(char c) {
 
 std::size_t textWidth(std::string_view text) {
   return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), startsCharacter));
-}
-
-std::string printable(std::string text) {
-  for (char& c : text) {
-    if (static_cast<unsigned char>(c) < 0x20U || c == '\x7F') c = ' ';
-  }
-  return text;
 }
 
 std::string cutTo(std::size_t characters, std::string text) {

@@ -15,9 +15,6 @@ inline constexpr std::size_t mostTableColumns = 100;
 /// The width of a UTF-8 text, one column per character.
 [[nodiscard]] std::size_t textWidth(std::string_view text);
 
-/// The text for a terminal: control characters that would move the cursor become blanks.
-[[nodiscard]] std::string printable(std::string text);
-
 /// The text, shortened to a number of characters (3 or more) with dots at the end.
 [[nodiscard]] std::string cutTo(std::size_t characters, std::string text);
 

@@ -5,7 +5,6 @@
 #include <sstream>
 #include <utility>
 
-#include "cli/ExplorePlan.h"
 #include "cli/Interrupt.h"
 #include "cli/Messages.h"
 
@@ -22,15 +21,6 @@ class EvaluationSteps final : public RunHooks {
  private:
   RunHooks& hooks_;
 };
-
-std::string quotedList(const std::vector<Wish>& wishes) {
-  std::string text;
-  for (std::size_t i = 0; i < wishes.size(); ++i) {
-    if (i > 0) text += i + 1 < wishes.size() ? ", " : " and ";
-    text += '"' + wishText(wishes[i]) + '"';
-  }
-  return text;
-}
 
 }  // namespace
 
@@ -62,19 +52,6 @@ std::string noPlanJson(const std::vector<Wish>& wishes, const std::vector<Relaxa
   json.put("relax", relaxJson(relaxations));
   json.end();
   return std::move(text).str();
-}
-
-std::string noPlanText(const NoPlan& noPlan) {
-  std::string text = noPlan.what();
-  if (!noPlan.where().empty()) text += " This applies to " + noPlan.where() + ".";
-  if (noPlan.relaxations().empty())
-    return text + (noPlan.hasWishes() ? " There are no candidates, even without wishes."
-                                      : " There are no candidates.");
-  for (const Relaxation& relaxation : noPlan.relaxations()) {
-    text += "\nWithout " + quotedList(relaxation.without) + " the best net return is " +
-            dollarsText(relaxation.profit) + ".";
-  }
-  return text;
 }
 
 }  // namespace verdalis

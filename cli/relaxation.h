@@ -9,6 +9,7 @@
 #include "engine/RunHooks.h"
 #include "engine/relaxWishes.h"
 #include "explore/bestPlan.h"
+#include "questions/noPlanText.h"
 #include "screens/wishText.h"
 
 namespace verdalis {
@@ -25,8 +26,5 @@ namespace verdalis {
 /// The JSON object of an answer without a plan for the wishes.
 [[nodiscard]] std::string noPlanJson(const std::vector<Wish>& wishes,
                                      const std::vector<Relaxation>& relaxations);
-
-/// A message that no plan meets all wishes, with the wishes to give up.
-[[nodiscard]] std::string noPlanText(const NoPlan& noPlan);
 
 }  // namespace verdalis

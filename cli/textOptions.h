@@ -2,6 +2,7 @@
 
 #include <CLI/CLI.hpp>
 #include <optional>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -21,13 +22,16 @@ void addTextOption(CLI::App& app, const std::string& name, const std::string& pl
 void addTextOption(CLI::App& app, const std::string& name, const std::string& placeholder,
                    std::vector<std::string>& target, const std::string& description);
 
-/// Returns what `step` makes of the text of an option. A refusal then begins with the option as typed.
+/// Returns what `step` makes of the text of an option. A refusal, or an invalid argument, becomes a refusal
+/// that begins with the option as typed.
 template <class Step>
 auto applyOption(const std::string& option, const std::string& text, Step step) {
   try {
     return step();
   } catch (const Refusal& refusal) {
     throw Refusal(option + " " + quoteForMessage(text) + ": " + refusal.what());
+  } catch (const std::invalid_argument& error) {
+    throw Refusal(option + " " + quoteForMessage(text) + ": " + error.what());
   }
 }
 

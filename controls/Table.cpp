@@ -1,9 +1,27 @@
 #include "controls/Table.h"
 
 #include <algorithm>
+#include <limits>
 #include <utility>
 
 namespace verdalis {
+namespace {
+
+/// The place of a record that is not on show.
+constexpr std::size_t nowhere = std::numeric_limits<std::size_t>::max();
+
+/// Sorts records upwards or downwards; equal ones keep their order in both directions.
+template <class Before>
+void sortStably(std::vector<std::size_t>& records, bool down, Before&& before) {
+  if (down) {
+    std::stable_sort(records.begin(), records.end(),
+                     [&](std::size_t a, std::size_t b) { return before(b, a); });
+  } else {
+    std::stable_sort(records.begin(), records.end(), before);
+  }
+}
+
+}  // namespace
 
 void Table::setContents(std::vector<Column> columns, Contents contents) {
   columns_ = std::move(columns);
@@ -22,9 +40,8 @@ void Table::setFilter(const std::function<bool(std::size_t record)>& passes) {
 }
 
 std::optional<std::size_t> Table::placeOf(std::size_t record) const {
-  const auto place = std::find(order_.begin(), order_.end(), record);
-  if (place == order_.end()) return std::nullopt;
-  return static_cast<std::size_t>(place - order_.begin());
+  if (record >= places_.size() || places_[record] == nowhere) return std::nullopt;
+  return places_[record];
 }
 
 void Table::setCurrent(std::optional<std::size_t> record) {
@@ -83,21 +100,25 @@ void Table::arrange() {
   for (std::size_t record = 0; record < contents_.records; ++record) {
     if (!passes_ || passes_(record)) order_.push_back(record);
   }
-  if (sortColumn_) {
-    const std::size_t column = *sortColumn_;
-    const auto before = [&](std::size_t a, std::size_t b) {
-      return contents_.before ? contents_.before(a, b, column)
-                              : contents_.cell(a, column).text < contents_.cell(b, column).text;
-    };
-    // Equal records keep their order in both directions.
-    if (sortsDown_) {
-      std::stable_sort(order_.begin(), order_.end(),
-                       [&](std::size_t a, std::size_t b) { return before(b, a); });
-    } else {
-      std::stable_sort(order_.begin(), order_.end(), before);
-    }
-  }
+  if (sortColumn_) sort();
+  places_.assign(contents_.records, nowhere);
+  for (std::size_t place = 0; place < order_.size(); ++place)
+    places_[order_[place]] = place;
+  ++revision_;
   changed();
+}
+
+void Table::sort() {
+  const std::size_t column = *sortColumn_;
+  if (contents_.before) {
+    sortStably(order_, sortsDown_,
+               [&](std::size_t a, std::size_t b) { return contents_.before(a, b, column); });
+    return;
+  }
+  std::vector<std::string> texts(contents_.records);
+  for (const std::size_t record : order_)
+    texts[record] = contents_.cell(record, column).text;
+  sortStably(order_, sortsDown_, [&](std::size_t a, std::size_t b) { return texts[a] < texts[b]; });
 }
 
 }  // namespace verdalis

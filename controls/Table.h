@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
@@ -23,13 +24,15 @@ class Table : public Control {
   struct Column {
     std::string heading;
     Align align = Align::right;
-    bool sorts = true;  ///< A click on the heading sorts by this column
+    bool sorts = true;   ///< A click on the heading sorts by this column
+    bool water = false;  ///< Its bars tell of water, and have its colour
   };
 
   /// What stands in a cell.
   struct Cell {
     std::string text;
-    std::optional<double> bar;  ///< Length of a bar beside the text, 0 to 1 of the room for it
+    std::optional<double> bar;  ///< Length of a bar, 0 to 1 of the room for it: before a left-aligned text,
+                                ///< behind a right-aligned one
     bool strong = false;        ///< In bold
   };
 
@@ -38,7 +41,8 @@ class Table : public Control {
     std::size_t records = 0;
     std::function<Cell(std::size_t record, std::size_t column)> cell;
 
-    /// Whether one record stands before another when sorted upwards by a column. Without it, by the texts.
+    /// Whether one record stands before another when sorted upwards by a column. Without it, by the texts,
+    /// which are made for all records on show.
     std::function<bool(std::size_t a, std::size_t b, std::size_t column)> before;
 
     /// Whether a record is in the band that is marked at the left, such as "as good as the best".
@@ -73,6 +77,9 @@ class Table : public Control {
     return contents_.marked && contents_.marked(record);
   }
 
+  /// Counts the changes of columns, contents and order, but not of the current record.
+  [[nodiscard]] std::uint64_t revision() const { return revision_; }
+
   /// The column by which the table is sorted; nothing for the order of the records.
   [[nodiscard]] std::optional<std::size_t> sortColumn() const { return sortColumn_; }
   [[nodiscard]] bool sortsDown() const { return sortsDown_; }
@@ -96,11 +103,14 @@ class Table : public Control {
 
  private:
   void arrange();
+  void sort();
 
   std::vector<Column> columns_;
   Contents contents_;
   std::function<bool(std::size_t)> passes_;
-  std::vector<std::size_t> order_;  ///< The records by place
+  std::vector<std::size_t> order_;   ///< The records by place
+  std::vector<std::size_t> places_;  ///< The places by record; `nowhere` for those filtered out
+  std::uint64_t revision_ = 0;
   std::optional<std::size_t> sortColumn_;
   bool sortsDown_ = false;
   std::optional<std::size_t> current_;

@@ -18,6 +18,7 @@
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QSignalBlocker>
+#include <QSlider>
 #include <QStyle>
 #include <QTableWidget>
 #include <QTimer>
@@ -25,6 +26,7 @@
 
 #include "desktop/ChartView.h"
 #include "desktop/Keys.h"
+#include "desktop/TableView.h"
 
 namespace verdalis::desktop {
 namespace {
@@ -86,7 +88,8 @@ bool hasNothingFor(const QKeyEvent& key, const QLineEdit& line) {
 
 bool movesWithTheClick(const QObject* object) {
   return qobject_cast<const QAbstractButton*>(object) != nullptr ||
-         qobject_cast<const QTableWidget*>(object) != nullptr;
+         qobject_cast<const QTableWidget*>(object) != nullptr ||
+         qobject_cast<const TableView*>(object) != nullptr;
 }
 
 bool isPersonsMove(Qt::FocusReason reason) {
@@ -316,7 +319,27 @@ QTableWidget* Binder::bind(Grid& control, QTableWidget* widget, const QString& l
   return widget;
 }
 
+TableView* Binder::bind(Table& control, TableView* widget, const QString& label) {
+  name(control, widget, label);
+  widget->setTable(control);
+  watch(control, [&control, widget] {
+    showState(control, widget);
+    widget->follow();
+  });
+  return widget;
+}
+
 QScrollBar* Binder::bind(ScrollBar& control, QScrollBar* widget, const QString& label) {
+  bindBar(control, widget, label);
+  return widget;
+}
+
+QSlider* Binder::bind(ScrollBar& control, QSlider* widget, const QString& label) {
+  bindBar(control, widget, label);
+  return widget;
+}
+
+void Binder::bindBar(ScrollBar& control, QAbstractSlider* widget, const QString& label) {
   name(control, widget, label);
   watch(control, [&control, widget] {
     const QSignalBlocker quiet(widget);
@@ -326,8 +349,7 @@ QScrollBar* Binder::bind(ScrollBar& control, QScrollBar* widget, const QString& 
     widget->setPageStep(control.largeStep);
     widget->setValue(control.value());
   });
-  connect(widget, &QScrollBar::valueChanged, this, [&control](int value) { control.scroll(value); });
-  return widget;
+  connect(widget, &QAbstractSlider::valueChanged, this, [&control](int value) { control.scroll(value); });
 }
 
 QWidget* Binder::bind(Image& control, QWidget* widget) {

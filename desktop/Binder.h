@@ -10,10 +10,12 @@
 #include "controls/ChartBox.h"
 #include "controls/Event.h"
 #include "controls/Grid.h"
+#include "controls/Table.h"
 #include "controls/displays.h"
 #include "controls/inputs.h"
 
 class QAbstractButton;
+class QAbstractSlider;
 class QAction;
 class QCheckBox;
 class QComboBox;
@@ -25,12 +27,14 @@ class QPushButton;
 class QRadioButton;
 class QScrollArea;
 class QScrollBar;
+class QSlider;
 class QTableWidget;
 class QWidget;
 
 namespace verdalis::desktop {
 
 class ChartView;
+class TableView;
 
 /// UTF-8 of the program as text of the toolkit, and back.
 [[nodiscard]] QString qText(const std::string& text);
@@ -64,7 +68,9 @@ class Binder : public QObject {
   QAction* bind(MenuEntry& control, QAction* action);
   QMenu* bind(MenuEntry& control, QMenu* menu);
   QTableWidget* bind(Grid& control, QTableWidget* widget, const QString& label);
+  TableView* bind(Table& control, TableView* widget, const QString& label);
   QScrollBar* bind(ScrollBar& control, QScrollBar* widget, const QString& label);
+  QSlider* bind(ScrollBar& control, QSlider* widget, const QString& label);
   QWidget* bind(Image& control, QWidget* widget);
 
   /// The name of a chart is its title, or `label` while it shows none.
@@ -93,6 +99,7 @@ class Binder : public QObject {
 
  private:
   void watch(Control& control, std::function<void()> update);
+  void bindBar(ScrollBar& control, QAbstractSlider* widget, const QString& label);
   bool windowEvent(Window& window, QWidget* widget, QEvent* event);
 
   Desk& desk_;

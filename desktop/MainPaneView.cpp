@@ -14,6 +14,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QShortcut>
+#include <QStyle>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -47,6 +48,16 @@ void setColumns(QGridLayout* grid) {
   grid->setColumnStretch(nameColumn, 1);
 }
 
+constexpr const char* ownTip = "ownTip";  // the tool tip of a field without a hint
+
+/// The line of hints of a card. It keeps its height, so that the page stands still.
+QLabel* hintLabel(Binder& binder, Label& control) {
+  QLabel* label = fixedLabel({}, "caution");
+  label->setWordWrap(true);
+  label->setMinimumHeight(label->fontMetrics().lineSpacing());
+  return binder.bind(control, label, QObject::tr("Hint"));
+}
+
 const FieldRow* rowOf(std::string_view control) {
   for (const FieldRow& row : MainPane::fields()) {
     if (row.control == control) return &row;
@@ -73,6 +84,8 @@ MainPaneView::MainPaneView(MainPane& pane, Binder& binder) : pane_(pane), binder
   rowChanges_ = pane_.onRowsChanged.connectScoped([this] { rebuildRows(); });
   rebuildRows();
   drawPictures();
+  hintChanges_ = pane_.onHints.connectScoped([this] { showHints(); });
+  showHints();
 }
 
 QWidget* MainPaneView::farmCard() {
@@ -112,8 +125,11 @@ QWidget* MainPaneView::farmCard() {
   rain->lineEdit()->setAlignment(Qt::AlignRight);
   place("txtAnnRain", rain, tr("inches"));
   place("txtEff", number(pane_.txtEff), tr("%"));
-  place("txtSoil", combo(pane_.txtSoil), {});
+  QWidget* soil = combo(pane_.txtSoil);
+  soil->setToolTip(tr("Takes no part in the evaluation"));
+  place("txtSoil", soil, tr("no effect"));
   farm.body->addLayout(grid);
+  farm.body->addWidget(hintLabel(binder_, pane_.lblFarmHint));
   farm.body->addStretch();
   return farm.frame;
 }
@@ -139,7 +155,14 @@ QWidget* MainPaneView::landCard() {
   land.body->addLayout(grid);
   land.body->addSpacing(4);
   land.body->addWidget(binder_.bind(pane_.chkNoSplit, new QCheckBox));
-  land.body->addWidget(binder_.bind(pane_.Check1, new QCheckBox));
+  auto* fallow = binder_.bind(pane_.Check1, new QCheckBox);
+  fallow->setToolTip(tr("Takes no part in the evaluation"));
+  auto* fallowLine = new QHBoxLayout;
+  fallowLine->setSpacing(8);
+  fallowLine->addWidget(fallow);
+  fallowLine->addWidget(fixedLabel(tr("no effect"), "muted"));
+  fallowLine->addStretch();
+  land.body->addLayout(fallowLine);
   land.body->addStretch();
   return land.frame;
 }
@@ -179,6 +202,7 @@ QWidget* MainPaneView::cropCard() {
   line->addWidget(rowsArea_, 1);
   line->addWidget(rowsBar_);
   crops.body->addLayout(line);
+  crops.body->addWidget(hintLabel(binder_, pane_.lblCropHint));
   binder_.alsoWatch(pane_.cropScroll, [this] { placeScroll(); });
   // A row that the keyboard brings into sight moves the list, and the bar follows without a person's act.
   connect(rowsArea_->verticalScrollBar(), &QScrollBar::valueChanged, this, [this](int value) {
@@ -231,6 +255,10 @@ void MainPaneView::fillFooter(QHBoxLayout* line) {
   auto* number = fixedLabel({}, "muted");
   binder_.bind(pane_.lblNumber, number);
   line->addWidget(number);
+  auto* status = new QPushButton;
+  setRole(status, "link");
+  binder_.bind(pane_.cmdStatus, status, tr("Ready to evaluate?"));
+  line->addWidget(status);
   auto* run = new QPushButton;
   setRole(run, "main");
   binder_.bind(pane_.Command1, run);
@@ -348,6 +376,32 @@ void MainPaneView::drawPictures() {
   const Scheme scheme = schemeOf(QWidget::palette());
   for (std::size_t i = 0; i < landSplits_.size(); ++i) {
     landSplits_[i]->setIcon(landSplitPicture(landDivisions().at(i).percentages, scheme));
+  }
+}
+
+/// Marks the fields that have hints and puts these into their tool tips.
+void MainPaneView::showHints() {
+  const auto mark = [](QWidget* field, bool on) {
+    field->setProperty("caution", on);
+    field->style()->unpolish(field);
+    field->style()->polish(field);
+  };
+  for (const QPointer<QWidget>& field : hinted_) {
+    if (!field) continue;
+    field->setToolTip(field->property(ownTip).toString());
+    mark(field, false);
+  }
+  hinted_.clear();
+  for (const FieldHint& hint : pane_.hints()) {
+    QWidget* field = binder_.widget(*hint.field);
+    if (field == nullptr) continue;
+    const bool first = std::find(hinted_.begin(), hinted_.end(), field) == hinted_.end();
+    if (first) {
+      field->setProperty(ownTip, field->toolTip());
+      hinted_.emplace_back(field);
+      mark(field, true);
+    }
+    field->setToolTip(first ? qText(hint.text) : field->toolTip() + QLatin1Char('\n') + qText(hint.text));
   }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPointer>
 #include <QWidget>
 #include <vector>
 
@@ -39,10 +40,13 @@ class MainPaneView : public QWidget {
   [[nodiscard]] bool goThroughRows(const QObject* from, int key);
   void placeScroll();
   void drawPictures();
+  void showHints();
 
   MainPane& pane_;
   Binder& binder_;
   Connection rowChanges_;
+  Connection hintChanges_;
+  std::vector<QPointer<QWidget>> hinted_;  ///< Fields that are marked now
   QGridLayout* heads_ = nullptr;
   QWidget* beforeRows_ = nullptr;  ///< The last one that Tab stops at before the crop rows
   QScrollArea* rowsArea_ = nullptr;

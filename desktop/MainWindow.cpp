@@ -23,6 +23,7 @@
 #include "desktop/CustomCropView.h"
 #include "desktop/DetailsView.h"
 #include "desktop/Keys.h"
+#include "desktop/LiveView.h"
 #include "desktop/MainPaneView.h"
 #include "desktop/NoticeView.h"
 #include "desktop/RecentMenu.h"
@@ -36,7 +37,7 @@ namespace {
 constexpr QSize smallest(1000, 660);
 constexpr QSize usual(1180, 820);
 constexpr const char* topicProperty = "topic";  // of a page, where nothing on it says more
-constexpr const char* menuLetters = "flseth";   // of the menu bar
+constexpr const char* menuLetters = "flsetgh";  // of the menu bar
 
 /// Whether Tab stops at a widget that is more than a way to the help.
 bool takesWork(const QWidget* widget) {
@@ -89,6 +90,7 @@ MainWindow::MainWindow(frmMain& window, Binder& binder, std::function<void(const
   addPane(window_.pneDetails, detailsView(window_.theDetails, binder_), "details.htm");
   addPane(window_.pneSummary, summaryView(window_.pneSummary, binder_), "summary.htm");
   addPane(window_.pneCompare, compareView(window_.pneCompare, binder_), "summary.htm#compare");
+  addPane(window_.pneLive, liveView(window_.pneLive, binder_), "questions.htm#live");
   addPane(window_.pneCustomCrop, customCropView(window_.pneCustomCrop, binder_), "customcrops.htm");
   TrendScreens& trends = window_.trends;
   addPane(trends.pneBatchSetup0, batchSetupView(trends.pneBatchSetup0, binder_), "batchoption.htm");
@@ -160,10 +162,15 @@ void MainWindow::addMenus() {
   add(tools, menus.mnuCustomCrop);
   add(tools, menus.mnuEnableBatch);
   add(tools, menus.mnuFallBatch);
+  QMenu* go = menu(menus.mnuGo, tr("&Go"));
+  int page = Qt::Key_1;
+  for (MenuEntry* entry :
+       {&menus.mnuGoMain, &menus.mnuGoResults, &menus.mnuGoTrend, &menus.mnuGoSummary, &menus.mnuGoCompare})
+    addStep(go, *entry, QKeySequence(Qt::CTRL | static_cast<Qt::Key>(page++)));
   QMenu* help = menu(menus.mnuAbout, tr("&Help"));
   add(help, menus.mnuHelp);
   add(help, menus.mnuAboutVDL);
-  for (QMenu* made : {file, location, edit, tools, help})
+  for (QMenu* made : {file, location, edit, tools, go, help})
     assignKeys(made);
 }
 

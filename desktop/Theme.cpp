@@ -91,9 +91,29 @@ QString styleSheet(Scheme scheme) {
                                 padding: 4px 9px; }
     QPushButton[role="close"]:hover { border-color: @cautionLine; }
     QPushButton[role="close"]:focus { border: 2px solid @brand; padding: 3px 8px; }
+    QPushButton[role="link"] { background: transparent; border: 1px solid transparent; color: @brand;
+                               text-decoration: underline; padding: 6px 8px; }
+    QPushButton[role="link"]:focus { border: 2px solid @brand; border-radius: 5px; padding: 5px 7px; }
+    QPushButton[role="link"]:disabled { color: @muted; text-decoration: none; }
+    QLabel[role="caution"] { color: @cautionText; }
+    QLabel[role="loss"] { color: @warning; font-weight: 600; }
+    QLabel[role="gain"] { color: @brand; font-weight: 600; }
+    QSlider::groove:horizontal { background: @line; height: 4px; border-radius: 2px; }
+    QSlider::sub-page:horizontal { background: @brand; height: 4px; border-radius: 2px; }
+    QSlider::handle:horizontal { background: @card; border: 2px solid @brand; width: 12px; height: 12px;
+                                 margin: -6px 0; border-radius: 8px; }
+    QSlider::handle:horizontal:focus { background: @brand; }
+    QLineEdit[caution="true"], QComboBox[caution="true"] { border: 1px solid @cautionText; }
+    QLineEdit[caution="true"]:focus, QComboBox[caution="true"]:focus { border: 2px solid @cautionText; }
     QFrame#footer { background: @card; border: none; border-top: 1px solid @line; }
     QTableWidget { background: @base; gridline-color: @line; border: 1px solid @line; border-radius: 4px;
                    selection-background-color: @brand; selection-color: @brandText; }
+    QTableView[role="records"] { background: @card; border: none; }
+    QTableView[role="records"] QHeaderView { background: @card; }
+    QTableView[role="records"] QHeaderView::section { background: @card; color: @muted; font-weight: 600;
+                                                      border: none; border-bottom: 1px solid @line;
+                                                      padding: 4px 8px; }
+    QTableView[role="records"] QHeaderView::section:hover { color: @brand; }
     QScrollArea { border: none; background: transparent; }
     QMenuBar { background: @window; }
     QMenu::separator { height: 1px; background: @line; margin: 4px 8px; }
@@ -117,6 +137,7 @@ QString styleSheet(Scheme scheme) {
   put("activeRow", colours.activeRow);
   put("caution", colours.caution);
   put("cautionLine", colours.cautionLine);
+  put("cautionText", colours.cautionText);
   return sheet;
 }
 
@@ -193,11 +214,11 @@ Accents accents(Scheme scheme) {
   if (scheme == Scheme::dark) {
     return {QColor(0x7CC48A), QColor(0x10210F), QColor(0x232926), QColor(0x3D4641),
             QColor(0xA3ADA6), QColor(0xFF8A70), QColor(0x2B332E), QColor(0x5E8F5A),
-            QColor(0x6FB3D9), QColor(0x3A3219), QColor(0x66572A)};
+            QColor(0x6FB3D9), QColor(0x3A3219), QColor(0x66572A), QColor(0xE3B341)};
   }
   return {QColor(0x2E6B3A), QColor(0xFFFFFF), QColor(0xFFFFFF), QColor(0xD3D9D2),
           QColor(0x5C665F), QColor(0xC0392B), QColor(0xF3F3F3), QColor(0x8DB87C),
-          QColor(0x2F7FB0), QColor(0xFDF3D8), QColor(0xE6CF94)};
+          QColor(0x2F7FB0), QColor(0xFDF3D8), QColor(0xE6CF94), QColor(0x8A5A00)};
 }
 
 QColor textColor(QRgb color, Scheme scheme) {

@@ -57,6 +57,7 @@ struct Accents {
   QColor water;
   QColor caution;      ///< Background of a notice
   QColor cautionLine;  ///< Border of a notice
+  QColor cautionText;  ///< Text of a hint
 };
 [[nodiscard]] Accents accents(Scheme scheme);
 

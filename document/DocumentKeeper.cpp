@@ -137,6 +137,13 @@ void DocumentKeeper::put(const SharedDocument& document) {
   refresh();
 }
 
+bool DocumentKeeper::isTypingInputs() const {
+  if (!isPending()) return false;
+  const FarmInputs& a = committed_->inputs;
+  const FarmInputs& b = now_->inputs;
+  return !(a.farm == b.farm && a.plant == b.plant && a.crops == b.crops);
+}
+
 void DocumentKeeper::finishTyping() {
   if (!started_ || desk_.isInsideAction()) return;
   refresh();

@@ -76,6 +76,9 @@ class DocumentKeeper {
   /// Whether something is entered that is no step yet, because a field is being typed in.
   [[nodiscard]] bool isPending() const { return now_ != committed_ && !ignoring_; }
 
+  /// Whether what is being typed changes the farm, its plant or its crops.
+  [[nodiscard]] bool isTypingInputs() const;
+
   /// Takes what is being typed as a step now.
   void finishTyping();
 

@@ -43,6 +43,16 @@ std::optional<double> unlessTyped(double inForce, double typed) {
   return inForce == typed ? std::nullopt : std::optional(inForce);
 }
 
+/// The number in a text. Nearly all texts stand as they did when they were read last.
+template <class Read>
+double remembered(ReadText& last, const std::string& text, Read read) {
+  if (!last.text || *last.text != text) {
+    last.value = read(text);
+    last.text = text;
+  }
+  return last.value;
+}
+
 bool isAs(const DocumentCrop& entry, const CropRecord& row, std::optional<double> priceInForce,
           std::optional<double> maxYieldInForce) {
   return entry.chosen == row.isActive() && entry.price == row.txtPrice.text() &&
@@ -147,14 +157,19 @@ SharedList<DocumentCrop> FarmControls::readCrops(const SharedList<DocumentCrop>&
   std::vector<bool> hasRow(entries.size(), false);
   EntryFinder finder(before);
   static const DocumentCrop blank;
+  readRows_.resize(parts_.main.cr.size());
+  auto readRow = readRows_.begin();
   for (const auto& row : parts_.main.cr) {
+    ReadRow& last = *readRow++;
     if (!row->Crop) continue;
     const Crop& crop = *row->Crop;
     const std::optional<std::size_t> place = finder.take(crop.cropType);
     if (place) hasRow[*place] = true;
     const DocumentCrop& old = place ? *entries[*place] : blank;
-    const auto priceInForce = unlessTyped(crop.price, typedPrice(row->txtPrice.text()));
-    const auto maxYieldInForce = unlessTyped(crop.maxYield, typedYield(row->txtMaxYield.text()));
+    const auto priceInForce =
+        unlessTyped(crop.price, remembered(last.price, row->txtPrice.text(), typedPrice));
+    const auto maxYieldInForce =
+        unlessTyped(crop.maxYield, remembered(last.maxYield, row->txtMaxYield.text(), typedYield));
     if (isAs(old, *row, priceInForce, maxYieldInForce)) continue;
     DocumentCrop entry = old;
     entry.name = crop.cropType;

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
@@ -16,6 +17,12 @@
 #include "trend/TrendScreens.h"
 
 namespace verdalis {
+
+/// A text that was read as a number, and the number.
+struct ReadText {
+  std::optional<std::string> text;
+  double value = 0;
+};
 
 /// Reads a document from the controls of the main window, and puts one back into them through their change
 /// events, without the tests that follow when a user leaves a field.
@@ -76,7 +83,14 @@ class FarmControls {
   [[nodiscard]] SharedList<EmbeddedCrop> readCustomCrops(const FarmDocument& document,
                                                          const SharedList<EmbeddedCrop>& before) const;
 
+  /// What the texts of a crop row said when they were read last.
+  struct ReadRow {
+    ReadText price;
+    ReadText maxYield;
+  };
+
   Parts parts_;
+  mutable std::vector<ReadRow> readRows_;  ///< By row; spares reading each number again with each key
 };
 
 }  // namespace verdalis

@@ -1,6 +1,8 @@
 #include "document/describeChange.h"
 
 #include <algorithm>
+#include <string>
+#include <string_view>
 #include <vector>
 
 namespace verdalis {
@@ -8,9 +10,15 @@ namespace {
 
 class Differences {
  public:
-  void add(bool differ, const std::string& name, ChangePlace place = ChangePlace::main,
-           const std::string& crop = {}) {
-    if (differ) changes_.push_back({name, place, crop});
+  void add(bool differ, std::string_view name, ChangePlace place = ChangePlace::main) {
+    if (differ) changes_.push_back({std::string(name), place, {}});
+  }
+
+  /// A change of a part of a crop, such as "Price of ".
+  void addOf(const DocumentCrop& crop, bool differ, std::string_view part,
+             ChangePlace place = ChangePlace::main) {
+    if (!differ) return;
+    changes_.push_back({std::string(part) + crop.name, place, place == ChangePlace::costs ? crop.name : ""});
   }
 
   /// One change, or several as one. Their place is the main pane unless they share another.
@@ -43,10 +51,10 @@ void compare(Differences& found, const DocumentFarm& a, const DocumentFarm& b) {
 }
 
 void compare(Differences& found, const DocumentCrop& a, const DocumentCrop& b) {
-  found.add(a.chosen != b.chosen, "Choice of " + b.name);
-  found.add(a.price != b.price || a.priceInForce != b.priceInForce, "Price of " + b.name);
-  found.add(a.maxYield != b.maxYield || a.maxYieldInForce != b.maxYieldInForce, "Maximum Yield of " + b.name);
-  found.add(!sameCosts(a.costs, b.costs), "Costs of " + b.name, ChangePlace::costs, b.name);
+  found.addOf(b, a.chosen != b.chosen, "Choice of ");
+  found.addOf(b, a.price != b.price || a.priceInForce != b.priceInForce, "Price of ");
+  found.addOf(b, a.maxYield != b.maxYield || a.maxYieldInForce != b.maxYieldInForce, "Maximum Yield of ");
+  found.addOf(b, !sameCosts(a.costs, b.costs), "Costs of ", ChangePlace::costs);
 }
 
 void compare(Differences& found, const SharedList<DocumentCrop>& a, const SharedList<DocumentCrop>& b) {

@@ -35,7 +35,7 @@ BestMix::Option bestOption(const Farm& farm, ProgramState& state, RunHooks& hook
   scenario.mixes = false;  // the best plan is also the best of its mix
   std::optional<BestMix> best = evaluateScenario(scenario, own, standing);
   if (!best || state.CancelRequested) return nullptr;
-  BestMix::Option option = best->returnCollection(false).front();
+  BestMix::Option option = best->returnCollection(false, scenario.efficiency).front();
   if (!option->isNew) return option;
   std::optional<std::vector<Relaxation>> relaxations = relaxWishes(scenario, own, standing);
   if (!relaxations || state.CancelRequested) return nullptr;

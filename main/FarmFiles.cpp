@@ -237,6 +237,7 @@ void FarmFiles::take(const FarmDocument& document, std::optional<Place> place) {
   savedInputs_ = place_ ? std::string() : inputsText();
   recover();
   remember();
+  onTake();
 }
 
 /// Makes the custom crops of a farm available.
@@ -369,8 +370,12 @@ void FarmFiles::changed() {
 
 void FarmFiles::refreshTitle() {
   const std::string name = farmName();
-  // While a field is being typed in, the answer costs too much to be worked out with each key.
-  if (!(marked_ && keeper_.isPending())) marked_ = isUnsaved();
+  // While a field is being typed in, the exact answer costs too much to be worked out with each key.
+  if (!keeper_.isPending()) {
+    marked_ = isUnsaved();
+  } else if (!marked_) {
+    marked_ = keeper_.isTypingInputs() || isUnsaved();
+  }
   const std::string mark = marked_ ? "*" : "";
   window_.setCaption(name.empty() ? defaultTitle + mark : name + mark + " - " + defaultTitle);
 }

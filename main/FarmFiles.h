@@ -43,6 +43,9 @@ class FarmFiles {
   /// brings are used while it is open. What a user should know is told as notices.
   void takeUp(const FarmDocument& document);
 
+  /// Another farm has been put into the window.
+  Event<> onTake;
+
   /// Asks what happens to unsaved changes.
   /// \returns whether the present farm may go
   [[nodiscard]] bool mayLeave();

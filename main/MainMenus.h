@@ -35,6 +35,12 @@ struct MainMenus {
         mnuCustomCrop(window, "mnuCustomCrop", "Manage Custom Crops", &mnuTools),
         mnuEnableBatch(window, "mnuEnableBatch", "Enable Trend Processing", &mnuTools),
         mnuFallBatch(window, "mnuFallBatch", "Run a variable trend process", &mnuTools),
+        mnuGo(window, "mnuGo", "Go"),
+        mnuGoMain(window, "mnuGoMain", "Main page", &mnuGo),
+        mnuGoResults(window, "mnuGoResults", "Results", &mnuGo),
+        mnuGoTrend(window, "mnuGoTrend", "Trend results", &mnuGo),
+        mnuGoSummary(window, "mnuGoSummary", "Summary table", &mnuGo),
+        mnuGoCompare(window, "mnuGoCompare", "Compare", &mnuGo),
         mnuAbout(window, "mnuAbout", "Help"),
         mnuHelp(window, "mnuHelp", "Help", &mnuAbout),
         mnuAboutVDL(window, "mnuAboutVDL", "About Verdalis...", &mnuAbout) {
@@ -44,6 +50,8 @@ struct MainMenus {
     mnuPrairia.setChecked(true);
     mnuTexas.setEnabled(false);
     mnuFallBatch.setEnabled(false);
+    for (MenuEntry* page : {&mnuGoResults, &mnuGoTrend, &mnuGoSummary, &mnuGoCompare})
+      page->setEnabled(false);
   }
 
   MenuEntry mnuFile;  ///< Element 0 of the array mnuTools
@@ -69,6 +77,12 @@ struct MainMenus {
   MenuEntry mnuCustomCrop;
   MenuEntry mnuEnableBatch;
   MenuEntry mnuFallBatch;
+  MenuEntry mnuGo;  ///< The pages that have something to show
+  MenuEntry mnuGoMain;
+  MenuEntry mnuGoResults;
+  MenuEntry mnuGoTrend;
+  MenuEntry mnuGoSummary;
+  MenuEntry mnuGoCompare;
   MenuEntry mnuAbout;
   MenuEntry mnuHelp;
   MenuEntry mnuAboutVDL;

@@ -75,6 +75,7 @@ frmMain::frmMain(Desk& desk, Services& services, ProgramState& state, SecondaryW
           {*this, pneMain, pneIrrigCosts, *tempIrrigationCosts, state, trends, cropFiles, summaryResults}),
       keeper(desk, farmControls),
       farms(*this, services, keeper, farmControls, files.state, files.recovers),
+      go(*this, state),
       losses_(desk, keeper, notices),
       services_(services),
       state_(state),
@@ -95,6 +96,10 @@ frmMain::frmMain(Desk& desk, Services& services, ProgramState& state, SecondaryW
   wireNotices();
   wireFarms();
   wireLosses();
+  wireLive();
+  desk.onActed.connect([this] {
+    if (pneMain.visible()) pneMain.showHints(state_.FineFactor);
+  });
 }
 
 void frmMain::touch() {
@@ -128,6 +133,7 @@ void frmMain::load() {
   untouched_.trend = farmControls.read({}).trend;
   keeper.start();
   farms.start();
+  pneMain.showHints(state_.FineFactor);
 }
 
 void frmMain::loadCropRows() {
@@ -265,7 +271,7 @@ void frmMain::wireResults() {
   wireOptions(theResults);
   wireOptions(trends.pneBatchSetup1.theBatchResults.theResults);
   theDetails.onBack.connect([this](Details::BackTo to) {
-    if (to == Details::BackTo::trendResults) {
+    if (to == Details::BackTo::trendResults || go.isAtTrendResults()) {
       showPane(trends.pneBatchSetup1);
     } else {
       showPane(pneResults);
@@ -382,6 +388,7 @@ void frmMain::wireFarms() {
     // What is saved in the editor is meant to be used, also where the farm has brought its own table.
     std::erase_if(cropFiles.farmCrops, [&](const auto& own) { return own.name == crop.name; });
   });
+  farms.onTake.connect([this] { go.forgetResults(); });
   menus.mnuNew.onClick.connect([this] { farms.newFarm(); });
   menus.mnuOpen.onClick.connect([this] { farms.open(); });
   for (std::size_t i = 0; i < menus.mnuRecent.size(); ++i)
@@ -424,9 +431,12 @@ void frmMain::wireLosses() {
            &pneCustomCrop.cmdCustomGrid2, &pneCustomCrop.cmdCustomGrid5, &pneCustomCrop.cmdCustomGrid6}) {
     losses_.watch(*control, [crops](const UndoStep& step) { return crops(step, "cleared"); });
   }
-  losses_.watch(trends.pneBatchSetup0.Command10, [](const UndoStep&) {
-    return std::string("The inputs were read again as they were saved before the trend.");
-  });
+  for (const Control* control : std::initializer_list<const Control*>{
+           &trends.pneBatchSetup0.Command10, &menus.mnuGoMain, &menus.mnuGoResults}) {
+    losses_.watch(*control, [](const UndoStep&) {
+      return std::string("The inputs were read again as they were saved before the trend.");
+    });
+  }
   losses_.watchSavedOptions();
   const std::string cleared = "The values on this page were cleared.";
   const std::string defaults = "The values on this page were replaced by default values.";

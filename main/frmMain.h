@@ -19,6 +19,7 @@
 #include "main/ComparePane.h"
 #include "main/CustomCropNotices.h"
 #include "main/FarmFiles.h"
+#include "main/GoMenu.h"
 #include "main/LossNotices.h"
 #include "main/MainMenus.h"
 #include "main/MainTrendHost.h"
@@ -28,6 +29,7 @@
 #include "main/RecoveryBar.h"
 #include "main/SavedInputsKeeper.h"
 #include "main/SecondaryWindows.h"
+#include "questions/LivePane.h"
 #include "results/Details.h"
 #include "results/ResultPrinter.h"
 #include "results/Results.h"
@@ -72,6 +74,7 @@ class frmMain : public Window {
   std::function<const SharedList<SavedOption>&()> savedForCompare;
 
   ComparePane pneCompare;
+  LivePane pneLive{*this, [this] { return farmToExplore(); }};
   CustomCropPane pneCustomCrop;
   ResultPrinter thePrinter;  ///< Holds the options of the last run and the last shown field
 
@@ -84,6 +87,7 @@ class frmMain : public Window {
   FarmControls farmControls;
   DocumentKeeper keeper;  ///< The document of the farm on screen, and its steps
   FarmFiles farms;
+  GoMenu go;  ///< Leads from page to page
 
   /// Whether the present action of the user takes place during a run or beside a message box.
   [[nodiscard]] bool isRunning() { return desk().isInsideAction(); }
@@ -172,6 +176,7 @@ class frmMain : public Window {
   [[nodiscard]] GeneralInputs enteredInputs() const;
   void wireFarms();
   void wireLosses();
+  void wireLive();
 
   LossNotices losses_;
   FarmDocument untouched_;

@@ -85,6 +85,7 @@ MainPane::MainPane(Frame& window, Services& services, std::shared_ptr<Irrigation
   Command1.onClick.connect([this] { onRun(); });
   Command7.onClick.connect([this] { onDefaults(); });
   Command8.onClick.connect([this] { onIrrigation(); });
+  cmdStatus.onClick.connect([this] { goToMissing(); });
   cmdHelp.onHelp.connect([this](int index) { onHelp(index); });
 }
 

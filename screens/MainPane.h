@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -17,6 +18,7 @@
 #include "screens/CropRecord.h"
 #include "screens/FieldTable.h"
 #include "screens/ScenarioInputs.h"
+#include "screens/fieldHints.h"
 
 namespace verdalis {
 
@@ -50,6 +52,9 @@ class MainPane : public Frame {
   std::vector<std::unique_ptr<CropRecord>> cr;  ///< Element 0 always exists and survives reloads
   Button Command1{*this, "Command1", "Generate Output"};
   Label lblNumber{*this, "lblNumber"};
+  Button cmdStatus{*this, "cmdStatus", ""};  ///< What is missing for a run; a click leads to the field
+  Label lblFarmHint{*this, "lblFarmHint"};   ///< What is odd about the fields of the farm
+  Label lblCropHint{*this, "lblCropHint"};   ///< What is odd about the crop rows
   static constexpr const char* keepCaption = "Options to keep";
   TextBox txtArraySize{*this, "txtArraySize", "100"};
   TextBox txtSize{*this, "txtSize"};                           ///< Without effect
@@ -75,6 +80,15 @@ class MainPane : public Frame {
 
   /// Whether all inputs that a run needs are entered.
   [[nodiscard]] bool ready() const;
+
+  /// What is odd about the fields as they stand, before any message box tells it.
+  [[nodiscard]] const std::vector<FieldHint>& hints() const { return hints_; }
+
+  /// Updates cmdStatus and the hints. `factor` is the irrigation iteration factor.
+  void showHints(std::int16_t factor);
+
+  /// The hints are others than before.
+  Event<> onHints;
 
   /// Updates lblVolume.
   /// \returns always 0.
@@ -107,9 +121,22 @@ class MainPane : public Frame {
 
  private:
   void warnOfCapacity();
+  void showStatus(std::int16_t factor);
+  [[nodiscard]] std::vector<FieldHint> farmHints() const;
+  [[nodiscard]] std::vector<FieldHint> cropHints() const;
+  void goToMissing();
 
   Services& services_;
   std::shared_ptr<IrrigationCosts> tempIrrigationCosts_;
+  std::vector<FieldHint> hints_;
+  std::optional<MissingInput> missing_;
+
+  /// The number of water splits, which takes milliseconds to count for a high factor.
+  struct CountedSplits {
+    std::int16_t fields = 0;
+    std::int16_t factor = 0;
+    std::optional<std::size_t> count;
+  } counted_;
 };
 
 /// The message that refuses a text as the irrigation efficiency; nothing for one that passes.

@@ -255,7 +255,7 @@ void BatchSetupPane::chooseFile() {
   showPreview();
 }
 
-void BatchSetupPane::goBack() {
+void BatchSetupPane::endTrend() {
   if (const std::shared_ptr<Crop> crop = host_.rowCount() > 0 ? host_.rowCrop(0) : nullptr) {
     // Only the crop of the first row; other crops keep the production costs of the trend. This is intended.
     crop->inputCosts.UseBatch = false;
@@ -266,6 +266,10 @@ void BatchSetupPane::goBack() {
   plant.BatchIrrigationCosts = 0;
   state_.TrendMode = false;
   host_.loadInputs();
+}
+
+void BatchSetupPane::goBack() {
+  endTrend();
   if (trend_.SelectedOption->Count() < 1) {
     host_.backToMain();
   } else {

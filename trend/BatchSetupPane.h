@@ -84,6 +84,9 @@ class BatchSetupPane : public Frame {
   /// \throws RunTimeError
   void ShowBatchScreen();
 
+  /// Ends the trend that is set up or shown, and reads the saved inputs back. No other pane is shown.
+  void endTrend();
+
   /// Reads the pane into a new process. Without `validate` the range, the file and the list may be empty.
   /// \returns nothing if the values are refused, or the variable belongs to a crop and no row has a crop of
   /// that name; a message has been shown then.

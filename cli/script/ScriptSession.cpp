@@ -11,6 +11,7 @@
 
 #include "cli/script/controlState.h"
 #include "controls/Grid.h"
+#include "controls/Table.h"
 
 namespace verdalis {
 namespace {
@@ -182,6 +183,21 @@ nlohmann::ordered_json ScriptSession::carryOut(const std::string& command, std::
       throw ScriptError(name + " has no such cell");
     }
     grid.clickCell(row, column);
+  } else if (command == "row") {
+    const int place = wholeNumber(std::string(rest), "The place");
+    Table& table = reach<Table>(name, "asked for a row");
+    if (place < 0 || static_cast<std::size_t>(place) >= table.places()) {
+      throw ScriptError(name + " has no such row");
+    }
+    table.choose(static_cast<std::size_t>(place));
+  } else if (command == "sort") {
+    const int column = wholeNumber(std::string(rest), "The column");
+    Table& table = reach<Table>(name, "sorted");
+    if (column < 0 || static_cast<std::size_t>(column) >= table.columns().size() ||
+        !table.columns()[static_cast<std::size_t>(column)].sorts) {
+      throw ScriptError(name + " has no such column to sort by");
+    }
+    table.clickHeading(static_cast<std::size_t>(column));
   } else if (command == "key") {
     key(name, unescape(rest));
   } else if (command == "answer") {

@@ -1,10 +1,12 @@
 #include "cli/script/controlState.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <string>
 
 #include "controls/Grid.h"
+#include "controls/Table.h"
 #include "controls/displays.h"
 #include "controls/inputs.h"
 
@@ -43,6 +45,33 @@ Json gridJson(const Grid& grid) {
           {"colors", std::move(colors)}, {"row", grid.row()},         {"column", grid.column()}};
 }
 
+/// The lines on show; of a long table only the first.
+Json tableJson(const Table& table) {
+  constexpr std::size_t most = 200;
+  Json columns = Json::array();
+  for (const Table::Column& column : table.columns())
+    columns.push_back(column.heading);
+  Json rows = Json::array();
+  Json marked = Json::array();
+  for (std::size_t place = 0; place < std::min(table.places(), most); ++place) {
+    const std::size_t record = table.record(place);
+    Json cells = Json::array();
+    for (std::size_t column = 0; column < table.columns().size(); ++column)
+      cells.push_back(table.cell(record, column).text);
+    rows.push_back(std::move(cells));
+    if (table.isMarked(record)) marked.push_back(place);
+  }
+  Json current;
+  if (table.current()) {
+    if (const auto place = table.placeOf(*table.current())) current = *place;
+  }
+  Json sort;
+  if (table.sortColumn()) sort = {{"column", *table.sortColumn()}, {"down", table.sortsDown()}};
+  return {{"columns", std::move(columns)}, {"records", table.records()},  {"places", table.places()},
+          {"rows", std::move(rows)},       {"marked", std::move(marked)}, {"current", std::move(current)},
+          {"sort", std::move(sort)}};
+}
+
 /// The properties of a control apart from name, kind and visibility.
 Json particulars(Control& control) {
   if (const auto* box = dynamic_cast<TextBox*>(&control)) return {{"text", box->text()}};
@@ -65,6 +94,7 @@ Json particulars(Control& control) {
     return frame->caption().empty() ? Json::object() : Json{{"caption", shownCaption(frame->caption())}};
   }
   if (const auto* grid = dynamic_cast<Grid*>(&control)) return gridJson(*grid);
+  if (const auto* table = dynamic_cast<Table*>(&control)) return tableJson(*table);
   if (const auto* bar = dynamic_cast<ProgressBar*>(&control)) {
     return {{"value", numberJson(bar->value())}, {"maximum", numberJson(bar->maximum())}};
   }

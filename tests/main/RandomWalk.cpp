@@ -172,6 +172,8 @@ void RandomWalk::actOn(Control& control, Engine& random) {
     bar->scroll(value);
   } else if (auto* grid = dynamic_cast<Grid*>(&control)) {
     actOnGrid(*grid, random);
+  } else if (auto* table = dynamic_cast<Table*>(&control)) {
+    actOnTable(*table, random);
   } else if (auto* entry = dynamic_cast<MenuEntry*>(&control)) {
     if (entry->menu() != nullptr && !entry->menu()->isReachable()) return;
     if (entry->name() == "mnuExit" && chance(random, 90)) return;  // or there were no long walks
@@ -201,6 +203,18 @@ void RandomWalk::actOnGrid(Grid& grid, Engine& random) {
     grid.typeCharacter(anyOf(random, characters));
   } else {
     grid.pressKey(anyOf(random, keys));
+  }
+}
+
+void RandomWalk::actOnTable(Table& table, Engine& random) {
+  const int number = below(random, static_cast<int>(std::min<std::size_t>(table.places(), 1000)) + 1);
+  if (chance(random, 70)) {
+    note("row " + table.path() + " " + std::to_string(number));
+    table.choose(static_cast<std::size_t>(number));
+  } else {
+    const int column = below(random, static_cast<int>(table.columns().size()) + 1);
+    note("sort " + table.path() + " " + std::to_string(column));
+    table.clickHeading(static_cast<std::size_t>(column));
   }
 }
 

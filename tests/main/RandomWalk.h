@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "controls/Grid.h"
+#include "controls/Table.h"
 #include "tests/main/RunningProgram.h"
 
 namespace verdalis::testing {
@@ -39,6 +40,7 @@ class RandomWalk {
   void restart(Engine& random);
   void actOn(Control& control, Engine& random);
   void actOnGrid(Grid& grid, Engine& random);
+  void actOnTable(Table& table, Engine& random);
   void actOnWindow(Engine& random);
   void typeFarm(Engine& random);
   void prepareAnswers(Engine& random);
