@@ -23,7 +23,6 @@
 #include "desktop/CustomCropView.h"
 #include "desktop/DetailsView.h"
 #include "desktop/Keys.h"
-#include "desktop/LiveView.h"
 #include "desktop/MainPaneView.h"
 #include "desktop/NoticeView.h"
 #include "desktop/RecentMenu.h"
@@ -90,7 +89,6 @@ MainWindow::MainWindow(frmMain& window, Binder& binder, std::function<void(const
   addPane(window_.pneDetails, detailsView(window_.theDetails, binder_), "details.htm");
   addPane(window_.pneSummary, summaryView(window_.pneSummary, binder_), "summary.htm");
   addPane(window_.pneCompare, compareView(window_.pneCompare, binder_), "summary.htm#compare");
-  addPane(window_.pneLive, liveView(window_.pneLive, binder_), "questions.htm#live");
   addPane(window_.pneCustomCrop, customCropView(window_.pneCustomCrop, binder_), "customcrops.htm");
   TrendScreens& trends = window_.trends;
   addPane(trends.pneBatchSetup0, batchSetupView(trends.pneBatchSetup0, binder_), "batchoption.htm");

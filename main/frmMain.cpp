@@ -96,7 +96,6 @@ frmMain::frmMain(Desk& desk, Services& services, ProgramState& state, SecondaryW
   wireNotices();
   wireFarms();
   wireLosses();
-  wireLive();
   desk.onActed.connect([this] {
     if (pneMain.visible()) pneMain.showHints(state_.FineFactor);
   });

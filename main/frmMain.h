@@ -29,7 +29,6 @@
 #include "main/RecoveryBar.h"
 #include "main/SavedInputsKeeper.h"
 #include "main/SecondaryWindows.h"
-#include "questions/LivePane.h"
 #include "results/Details.h"
 #include "results/ResultPrinter.h"
 #include "results/Results.h"
@@ -74,7 +73,6 @@ class frmMain : public Window {
   std::function<const SharedList<SavedOption>&()> savedForCompare;
 
   ComparePane pneCompare;
-  LivePane pneLive{*this, [this] { return farmToExplore(); }};
   CustomCropPane pneCustomCrop;
   ResultPrinter thePrinter;  ///< Holds the options of the last run and the last shown field
 
@@ -176,7 +174,6 @@ class frmMain : public Window {
   [[nodiscard]] GeneralInputs enteredInputs() const;
   void wireFarms();
   void wireLosses();
-  void wireLive();
 
   LossNotices losses_;
   FarmDocument untouched_;

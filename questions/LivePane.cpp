@@ -134,8 +134,8 @@ void LivePane::open() {
     now_ = {};
     follow();
   } catch (const std::exception& error) {
-    farm_ = Farm();
-    makeSliders();
+    sliders.clear();
+    onSliders();
     showFault(error.what());
   }
   onShowPane();
