@@ -83,6 +83,24 @@ void keyPressToRepaint(benchmark::State& state) {
 }
 BENCHMARK(keyPressToRepaint)->Unit(benchmark::kMicrosecond);
 
+/// Takes back and repeats a change of the main page.
+void undoToRepaint(benchmark::State& state) {
+  Shown shown;
+  shown.start();
+  frmMain& main = shown.program().main();
+  QWidget* page = shown.widget(main.pneMain);
+  main.pneMain.txtMax.type("11");
+  main.pneMain.txtMax.leave();
+  bool back = false;
+  for (auto _ : state) {
+    back = !back;
+    (back ? main.menus.mnuUndo : main.menus.mnuRedo).click();
+    page->repaint();
+    QCoreApplication::processEvents();
+  }
+}
+BENCHMARK(undoToRepaint)->Unit(benchmark::kMicrosecond);
+
 void nextOptionToRepaint(benchmark::State& state) {
   Shown shown;
   shown.start();
