@@ -18,6 +18,7 @@
 #include <QRadioButton>
 #include <QScrollBar>
 #include <QSignalBlocker>
+#include <QSlider>
 #include <QStyle>
 #include <QTableWidget>
 #include <QTimer>
@@ -329,6 +330,16 @@ TableView* Binder::bind(Table& control, TableView* widget, const QString& label)
 }
 
 QScrollBar* Binder::bind(ScrollBar& control, QScrollBar* widget, const QString& label) {
+  bindBar(control, widget, label);
+  return widget;
+}
+
+QSlider* Binder::bind(ScrollBar& control, QSlider* widget, const QString& label) {
+  bindBar(control, widget, label);
+  return widget;
+}
+
+void Binder::bindBar(ScrollBar& control, QAbstractSlider* widget, const QString& label) {
   name(control, widget, label);
   watch(control, [&control, widget] {
     const QSignalBlocker quiet(widget);
@@ -338,8 +349,7 @@ QScrollBar* Binder::bind(ScrollBar& control, QScrollBar* widget, const QString& 
     widget->setPageStep(control.largeStep);
     widget->setValue(control.value());
   });
-  connect(widget, &QScrollBar::valueChanged, this, [&control](int value) { control.scroll(value); });
-  return widget;
+  connect(widget, &QAbstractSlider::valueChanged, this, [&control](int value) { control.scroll(value); });
 }
 
 QWidget* Binder::bind(Image& control, QWidget* widget) {

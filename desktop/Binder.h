@@ -15,6 +15,7 @@
 #include "controls/inputs.h"
 
 class QAbstractButton;
+class QAbstractSlider;
 class QAction;
 class QCheckBox;
 class QComboBox;
@@ -26,6 +27,7 @@ class QPushButton;
 class QRadioButton;
 class QScrollArea;
 class QScrollBar;
+class QSlider;
 class QTableWidget;
 class QWidget;
 
@@ -68,6 +70,7 @@ class Binder : public QObject {
   QTableWidget* bind(Grid& control, QTableWidget* widget, const QString& label);
   TableView* bind(Table& control, TableView* widget, const QString& label);
   QScrollBar* bind(ScrollBar& control, QScrollBar* widget, const QString& label);
+  QSlider* bind(ScrollBar& control, QSlider* widget, const QString& label);
   QWidget* bind(Image& control, QWidget* widget);
 
   /// The name of a chart is its title, or `label` while it shows none.
@@ -96,6 +99,7 @@ class Binder : public QObject {
 
  private:
   void watch(Control& control, std::function<void()> update);
+  void bindBar(ScrollBar& control, QAbstractSlider* widget, const QString& label);
   bool windowEvent(Window& window, QWidget* widget, QEvent* event);
 
   Desk& desk_;

@@ -32,8 +32,10 @@ std::vector<FormField> formFields(InputCostsPane& pane) {
 std::vector<FormField> formFields(IrrigCostsPane& pane) {
   std::vector<FormField> fields;
   for (const IrrigCostsField& field : IrrigCostsPane::fields()) {
-    fields.push_back(
-        {.row = &field.row, .box = memberOf(pane, field.box), .list = memberOf(pane, field.list)});
+    fields.push_back({.row = &field.row,
+                      .box = memberOf(pane, field.box),
+                      .list = memberOf(pane, field.list),
+                      .unit = field.box == &IrrigCostsPane::txtCost ? &pane.lblFuelUnit : nullptr});
   }
   return fields;
 }
@@ -42,6 +44,11 @@ QPushButton* mainButton(Binder& binder, Button& button) {
   auto* widget = new QPushButton;
   setRole(widget, "main");
   return binder.bind(button, widget);
+}
+
+/// Tells beside the button that applies the values that this is still to be done.
+QLabel* unappliedLabel(Binder& binder, Label& control) {
+  return binder.bind(control, fixedLabel({}, "caution"), QObject::tr("Not applied"));
 }
 
 QPushButton* backButton(Binder& binder, Button& button) {
@@ -103,6 +110,7 @@ QWidget* inputCostsView(InputCostsPane& pane, Binder& binder) {
   view.buttons->addWidget(binder.bind(pane.Command13, new QPushButton));
   view.buttons->addStretch();
   view.buttons->addWidget(backButton(binder, pane.cmdCancel));
+  view.buttons->addWidget(unappliedLabel(binder, pane.lblNotApplied));
   view.buttons->addWidget(mainButton(binder, pane.Command6));
   return view.widget;
 }
@@ -122,6 +130,7 @@ QWidget* irrigCostsView(IrrigCostsPane& pane, Binder& binder) {
   view.buttons->addWidget(binder.bind(pane.Command4, new QPushButton));
   view.buttons->addStretch();
   view.buttons->addWidget(backButton(binder, pane.cmdCancel));
+  view.buttons->addWidget(unappliedLabel(binder, pane.lblNotApplied));
   view.buttons->addWidget(mainButton(binder, pane.Command9));
   return view.widget;
 }

@@ -4,6 +4,7 @@
 #include <QEventLoopLocker>
 
 #include "desktop/Dialogs.h"
+#include "desktop/Habits.h"
 #include "desktop/SmallWindows.h"
 
 namespace verdalis::desktop {
@@ -28,6 +29,7 @@ Desktop::Desktop(const ProgramFiles& files, const QString& helpFolder,
   program_.windows.onCreated.connect([this](Window& window) { showSecondary(window); });
   connect(
       qApp, &QGuiApplication::commitDataRequest, this, [this] { endSession(); }, Qt::DirectConnection);
+  qApp->installEventFilter(new Habits(this));
   if (farm) {
     // In the event loop, because the start may show a message.
     QTimer::singleShot(0, this, [this, path = *farm] { openAtStart(path); });

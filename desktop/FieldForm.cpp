@@ -122,12 +122,22 @@ void FieldForm::addLine(const Line& fields, const QHash<QString, int>& heads, QG
   for (const FormField* field : fields) {
     if (field->tick != nullptr) {
       grid->addWidget(binder_.bind(*field->tick, new QCheckBox), line, lastColumn - 1);
+      showOptimal(*field);
     }
     const FieldRow& row = *field->row;
     if (row.helpIndex < 0) continue;
     if (QWidget* button = helpButton(binder_, help_, row.helpIndex, text(row.label)))
       grid->addWidget(button, line, lastColumn);
   }
+}
+
+/// An empty field says that the optimal rate is used while its box is ticked.
+void FieldForm::showOptimal(const FormField& field) {
+  auto* line = field.box == nullptr ? nullptr : qobject_cast<QLineEdit*>(binder_.widget(*field.box));
+  if (line == nullptr) return;
+  binder_.alsoWatch(*field.tick, [line, tick = field.tick] {
+    line->setPlaceholderText(tick->checked() ? QObject::tr("optimal") : QString());
+  });
 }
 
 void FieldForm::addResult(const FormGroup& group, QVBoxLayout* body) {

@@ -61,6 +61,7 @@ class FieldForm {
   [[nodiscard]] QWidget* widget(const FormField& field);
   [[nodiscard]] QWidget* unit(const FormField& field);
   void addLine(const Line& fields, const QHash<QString, int>& heads, QGridLayout* grid, int line);
+  void showOptimal(const FormField& field);
   void addResult(const FormGroup& group, QVBoxLayout* body);
 
   Binder& binder_;

@@ -26,7 +26,7 @@
 namespace verdalis::desktop {
 namespace {
 
-constexpr int rowHeight = 34;
+constexpr int rowHeight = 31;
 constexpr int visibleRows = cropFrameHolderHeight / cropRowHeight;
 
 /// Columns of the crop table.
@@ -51,11 +51,10 @@ void setColumns(QGridLayout* grid) {
 
 constexpr const char* ownTip = "ownTip";  // the tool tip of a field without a hint
 
-/// The line of hints of a card. It keeps its height, so that the page stands still.
+/// The hint beside the heading of a card, where it takes no room from the page.
 QLabel* hintLabel(Binder& binder, Label& control) {
   QLabel* label = fixedLabel({}, "caution");
-  label->setWordWrap(true);
-  label->setMinimumHeight(label->fontMetrics().lineSpacing());
+  label->setMinimumWidth(1);  // a long one is cut off, and stands in the tool tip of its field
   return binder.bind(control, label, QObject::tr("Hint"));
 }
 
@@ -92,7 +91,7 @@ MainPaneView::MainPaneView(MainPane& pane, WishesCard& wishes, Binder& binder)
 }
 
 QWidget* MainPaneView::farmCard() {
-  const Card farm = card(tr("Farm and water"));
+  const Card farm = card(tr("Farm and water"), hintLabel(binder_, pane_.lblFarmHint));
   auto* grid = new QGridLayout;
   grid->setHorizontalSpacing(10);
   grid->setVerticalSpacing(5);
@@ -132,7 +131,6 @@ QWidget* MainPaneView::farmCard() {
   soil->setToolTip(tr("Takes no part in the evaluation"));
   place("txtSoil", soil, tr("no effect"));
   farm.body->addLayout(grid);
-  farm.body->addWidget(hintLabel(binder_, pane_.lblFarmHint));
   farm.body->addStretch();
   return farm.frame;
 }
@@ -171,7 +169,7 @@ QWidget* MainPaneView::landCard() {
 }
 
 QWidget* MainPaneView::cropCard() {
-  const Card crops = card(plain(pane_.cropBox.caption()));
+  const Card crops = card(plain(pane_.cropBox.caption()), hintLabel(binder_, pane_.lblCropHint));
   binder_.bind(pane_.cropBox, crops.frame);
   auto* heads = new QGridLayout;
   setColumns(heads);
@@ -205,7 +203,6 @@ QWidget* MainPaneView::cropCard() {
   line->addWidget(rowsArea_, 1);
   line->addWidget(rowsBar_);
   crops.body->addLayout(line);
-  crops.body->addWidget(hintLabel(binder_, pane_.lblCropHint));
   binder_.alsoWatch(pane_.cropScroll, [this] { placeScroll(); });
   // A row that the keyboard brings into sight moves the list, and the bar follows without a person's act.
   connect(rowsArea_->verticalScrollBar(), &QScrollBar::valueChanged, this, [this](int value) {
@@ -226,19 +223,22 @@ QWidget* MainPaneView::plantCard(WishesCard& wishes) {
   setHelp(open, pane_.cmdHelp, 1);
   line->addWidget(open);
   line->addWidget(helpButton(binder_, pane_.cmdHelp, 1, QString::fromLatin1(irrigationHeading)));
-  line->addStretch();
+  auto* instruction = fixedLabel(QString::fromLatin1(batchInstructions[2]), "muted");
+  instruction->setWordWrap(true);
+  line->addWidget(instruction, 1);
   line->addWidget(wishesButton(wishes, binder_));
   line->addWidget(binder_.bind(pane_.Command7, new QPushButton));
   plant.body->addLayout(line);
 
   auto* trends = new QWidget;
-  auto* lines = new QVBoxLayout(trends);
-  lines->setContentsMargins(0, 4, 0, 0);
-  lines->addWidget(fixedLabel(QString::fromLatin1(batchInstructions[0]), "muted"));
-  lines->addWidget(fixedLabel(QString::fromLatin1(batchInstructions[1]), "muted"));
+  auto* instructions = new QHBoxLayout(trends);
+  instructions->setContentsMargins(0, 0, 0, 0);
+  instructions->setSpacing(24);
+  instructions->addWidget(fixedLabel(QString::fromLatin1(batchInstructions[0]), "muted"));
+  instructions->addWidget(fixedLabel(QString::fromLatin1(batchInstructions[1]), "muted"));
+  instructions->addStretch();
   plant.body->addWidget(trends);
   binder_.bind(pane_.pnlBatchInstructions, trends);
-  plant.body->addWidget(fixedLabel(QString::fromLatin1(batchInstructions[2]), "muted"));
   return plant.frame;
 }
 

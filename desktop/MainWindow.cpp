@@ -69,12 +69,12 @@ MainWindow::MainWindow(frmMain& window, Binder& binder, std::function<void(const
   layout->setSpacing(0);
   auto* band = new QFrame;
   band->setObjectName(QStringLiteral("band"));
-  auto* bandLayout = new QVBoxLayout(band);
+  auto* bandLayout = new QHBoxLayout(band);
   bandLayout->setContentsMargins(24, 8, 24, 8);
   auto* info = new QLabel;
   info->setProperty("role", "band");
   info->setWordWrap(true);
-  bandLayout->addWidget(binder_.bind(window_.lblMainInfo, info, tr("Information")));
+  addCentred(bandLayout, binder_.bind(window_.lblMainInfo, info, tr("Information")), pageWidth);
   layout->addWidget(band);
   layout->addWidget(noticeView(window_.notices, binder_));
   layout->addWidget(recoveryView(window_.recovery, binder_));

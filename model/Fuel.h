@@ -12,17 +12,18 @@ struct Fuel {
   /// Nebraska pumping plant performance criteria: water horsepower-hours per fuel unit (gallon, thousand
   /// cubic feet or kilowatt-hour).
   double performance;
-  double priceLimit;  ///< The highest price that a person may enter, $ per fuel unit
+  double priceLimit;      ///< The highest price that a person may enter, $ per fuel unit
+  std::string_view unit;  ///< The fuel unit
 };
 
 inline constexpr std::string_view naturalGas = "Natural Gas";
 
 /// The fuels, in the order in which they are offered.
 inline constexpr std::array<Fuel, 4> fuels{{
-    {"Diesel", 12.5, 10},
-    {"Propane", 6.89, 10},
-    {naturalGas, 61.7, 25},
-    {"Electricity", 0.885, 0.4},
+    {"Diesel", 12.5, 10, "gallon"},
+    {"Propane", 6.89, 10, "gallon"},
+    {naturalGas, 61.7, 25, "thousand cubic feet"},
+    {"Electricity", 0.885, 0.4, "kWh"},
 }};
 
 /// Price limit where the fuel is none of these, $ per fuel unit.

@@ -80,6 +80,7 @@ void InputCostsPane::open(std::shared_ptr<Crop> crop) {
     emptyZeroTexts(window());
   }
   showSubtotals();
+  unapplied_.opened();
 }
 
 void InputCostsPane::fill(const Crop& crop) {

@@ -12,6 +12,7 @@
 #include "controls/services.h"
 #include "model/Crop.h"
 #include "screens/FieldTable.h"
+#include "screens/UnappliedMark.h"
 
 namespace verdalis {
 
@@ -84,6 +85,7 @@ class InputCostsPane : public Frame {
   Button Command6{*this, "Command6", "Apply Costs && Returns"};
   Button cmdCancel{*this, "cmdCancel(1)", "Cancel"};
   HelpButtons cmdHelp{*this, {11, 12, 13, 14, 21, 22, 23, 24}};
+  Label lblNotApplied{*this, "lblCostsNotApplied", "Not applied"};  ///< While the fields differ from the crop
 
   /// The fields and their groups, in display order.
   [[nodiscard]] static std::span<const InputCostsField> fields();
@@ -114,6 +116,7 @@ class InputCostsPane : public Frame {
 
   Services& services_;
   bool filling_ = false;  ///< Several fields are being set; the subtotals are updated afterwards
+  UnappliedMark unapplied_{*this, lblNotApplied};
 };
 
 }  // namespace verdalis

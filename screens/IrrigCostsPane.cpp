@@ -176,6 +176,7 @@ void IrrigCostsPane::wire() {
 void IrrigCostsPane::open() {
   showInchHint();
   emptyZeroTexts(window());
+  unapplied_.opened();
 }
 
 void IrrigCostsPane::showDefaults() {
@@ -199,7 +200,13 @@ void IrrigCostsPane::showStartTexts() {
   showInchHint();
 }
 
+void IrrigCostsPane::showFuelUnit() {
+  const Fuel* const fuel = findFuel(cboFuelType.text());
+  lblFuelUnit.setCaption(fuel == nullptr ? "per fuel unit" : "per " + std::string(fuel->unit));
+}
+
 void IrrigCostsPane::showCosts() {
+  showFuelUnit();
   const double waterHorsepower = valueOrZero([this] {
     return (Val(txtPSI.text()) * feetPerPsi + Val(txtLift.text())) * Val(txtGPM.text()) /
            gallonFeetPerHorsepower;

@@ -15,6 +15,7 @@
 #include "controls/services.h"
 #include "model/IrrigationCosts.h"
 #include "screens/FieldTable.h"
+#include "screens/UnappliedMark.h"
 
 namespace verdalis {
 
@@ -52,6 +53,9 @@ class IrrigCostsPane : public Frame {
   ComboBox cboFuelType{*this, "cboFuelType", ComboBox::Style::freeText, fuelNames(), fuelPrompt};
   Label lblICosts{*this, "lblICosts"};
   Label lblInchHint{*this, "lblInchHint"};
+  Label lblFuelUnit{*this, "lblFuelUnit"};  ///< What the price of the fuel counts in
+  Label lblNotApplied{*this, "lblPlantNotApplied",
+                      "Not applied"};  ///< While the fields differ from the plant
   Button Command4{*this, "Command4", "Clear all values on this page"};
   Button cmdDefaultIrrigCosts{*this, "cmdDefaultIrrigCosts", "Load Default Values"};
   Button Command9{*this, "Command9", "Apply Costs"};
@@ -88,10 +92,12 @@ class IrrigCostsPane : public Frame {
   void wire();
   void showCosts();
   void showInchHint();
+  void showFuelUnit();
   void apply();
 
   Services& services_;
   std::shared_ptr<IrrigationCosts> tempIrrigationCosts_;
+  UnappliedMark unapplied_{*this, lblNotApplied};
 };
 
 }  // namespace verdalis

@@ -1,0 +1,84 @@
+#include <QLabel>
+#include <QLineEdit>
+#include <QSlider>
+
+#include "tests/desktop/RunningDesktop.h"
+
+namespace verdalis::testing {
+namespace {
+
+using Habit = RunningDesktop;
+
+TEST_F(Habit, TheFirstClickSelectsTheWholeNumberAndTheSecondPlacesTheCursor) {
+  start();
+  typeFarm();
+  auto* field = widget<QLineEdit>("txtMax");
+  QTest::mouseClick(field, Qt::LeftButton);
+  EXPECT_EQ(field->selectedText(), field->text());
+  QTest::mouseClick(field, Qt::LeftButton, {}, QPoint(field->width() - 8, field->height() / 2));
+  EXPECT_FALSE(field->hasSelectedText());
+}
+
+TEST_F(Habit, ADoubleClickSelectsANumberWithAPoint) {
+  start();
+  type("txtMax", "12.75");
+  auto* field = widget<QLineEdit>("txtMax");
+  QTest::mouseDClick(field, Qt::LeftButton);
+  EXPECT_EQ(field->selectedText(), QStringLiteral("12.75"));
+}
+
+TEST_F(Habit, EnterPressesTheButtonWithTheFocus) {
+  start();
+  auto* button = widget<QPushButton>("Command8");
+  button->setFocus();
+  QTest::keyClick(button, Qt::Key_Return);
+  EXPECT_EQ(pane(), "pneIrrigCosts");
+}
+
+TEST_F(Habit, HintsMarkTheirFieldsAndTheStatusLeadsToWhatIsMissing) {
+  start();
+  auto* status = widget<QPushButton>("cmdStatus");
+  EXPECT_EQ(status->text(), QStringLiteral("Enter the total acres"));
+  widget<QLineEdit>("txtMax")->setFocus();
+  status->click();
+  QCoreApplication::processEvents();
+  EXPECT_TRUE(widget<QLineEdit>("txtArea")->hasFocus());
+  type("txtArea", "1,250");
+  auto* area = widget<QLineEdit>("txtArea");
+  EXPECT_TRUE(area->property("caution").toBool());
+  EXPECT_EQ(area->toolTip(), QStringLiteral("Total acres: read as 1. Leave out the comma."));
+  EXPECT_EQ(widget<QLabel>("lblFarmHint")->text(), area->toolTip());
+  type("txtArea", "1250");
+  EXPECT_FALSE(area->property("caution").toBool());
+  EXPECT_EQ(area->toolTip(), QString());
+}
+
+TEST_F(Habit, TheStatusTellsTheSizeOfTheRun) {
+  start();
+  typeFarm();
+  EXPECT_EQ(widget<QPushButton>("cmdStatus")->text(), QStringLiteral("2 crops, 11 water splits: ready"));
+  EXPECT_FALSE(widget("cmdStatus")->isEnabled());
+}
+
+TEST_F(Habit, UnappliedCostsAreMarked) {
+  start();
+  press("Command8");
+  EXPECT_FALSE(widget("lblPlantNotApplied")->isVisible());
+  type("txtLift", "123");
+  EXPECT_TRUE(widget("lblPlantNotApplied")->isVisible());
+  press("Command9");
+  press("Command8");
+  EXPECT_FALSE(widget("lblPlantNotApplied")->isVisible());
+}
+
+TEST_F(Habit, TheFuelTellsItsUnit) {
+  start();
+  press("Command8");
+  control<ComboBox>("cboFuelType").pick(0);
+  EXPECT_EQ(widget<QLabel>("lblFuelUnit")->text(), QStringLiteral("per gallon"));
+  control<ComboBox>("cboFuelType").pick(3);
+  EXPECT_EQ(widget<QLabel>("lblFuelUnit")->text(), QStringLiteral("per kWh"));
+}
+
+}  // namespace
+}  // namespace verdalis::testing
