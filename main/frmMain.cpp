@@ -101,6 +101,7 @@ frmMain::frmMain(Desk& desk, Services& services, ProgramState& state, SecondaryW
   wireNotices();
   wireFarms();
   wireLosses();
+  wireLive();
   wireQuestions();
   wireWishes();
   desk.onActed.connect([this] {
