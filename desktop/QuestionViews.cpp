@@ -92,6 +92,14 @@ class QuestionView : public QWidget {
 
   void addStretch() { fields_->addStretch(); }
 
+  /// The next fields stand below those so far.
+  void addLine() {
+    addStretch();
+    fields_ = new QHBoxLayout;
+    fields_->setSpacing(8);
+    lines_->addLayout(fields_);
+  }
+
  private:
   void addNamed(const QString& name, QWidget* field) {
     auto* label = fixedLabel(name, "title");
@@ -104,7 +112,10 @@ class QuestionView : public QWidget {
     const Card fields = card();
     fields_ = new QHBoxLayout;
     fields_->setSpacing(8);
-    fields.body->addLayout(fields_);
+    lines_ = new QVBoxLayout;
+    lines_->setSpacing(8);
+    lines_->addLayout(fields_);
+    fields.body->addLayout(lines_);
     fields.body->addWidget(statusLine());
     return fields.frame;
   }
@@ -176,7 +187,8 @@ class QuestionView : public QWidget {
 
   QuestionPane& pane_;
   Binder& binder_;
-  QHBoxLayout* fields_ = nullptr;
+  QVBoxLayout* lines_ = nullptr;
+  QHBoxLayout* fields_ = nullptr;  ///< The line to which fields are added
   QTimer ticks_;
   Connection running_;
 };
@@ -261,7 +273,7 @@ QWidget* mapView(MapPane& pane, Binder& binder) {
     view->addField(axis.txtPoints, QObject::tr("in"), QObject::tr("points"), of);
   };
   addAxis(pane.x, QObject::tr("Across"));
-  view->fields()->addSpacing(scaled(12));
+  view->addLine();
   addAxis(pane.y, QObject::tr("Upwards"));
   view->addStretch();
   return view;

@@ -84,7 +84,7 @@ class frmMain : public Window {
   std::function<const SharedList<SavedOption>&()> savedForCompare;
 
   ComparePane pneCompare;
-  LivePane pneLive{*this, [this] { return farmToExplore(); }};  ///< Sliders, and the plan that follows
+  LivePane pneLive;  ///< Sliders, and the plan that follows them
   CustomCropPane pneCustomCrop;
   QuestionPanes questions;   ///< The pages of the menu Explore
   ResultPrinter thePrinter;  ///< Holds the options of the last run and the last shown field

@@ -43,8 +43,9 @@ void typeFarm(MainPane& pane) {
   pane.txtAnnRain.type("17");
   pane.Option1[3]->click();
   pane.Command7.click();
-  for (const std::size_t row : {1U, 2U, 5U})
-    pane.cr[row]->chkCrop.click();
+  for (const std::size_t row : {1U, 2U, 5U}) {
+    if (!pane.cr[row]->chkCrop.checked()) pane.cr[row]->chkCrop.click();
+  }
 }
 
 void photographBars(Desktop& desktop, const Photographer& camera) {
@@ -121,6 +122,8 @@ void photograph(Desktop& desktop, const Photographer& camera) {
 void photographQuestions(Desktop& desktop, const Photographer& camera) {
   MainWindow* window = desktop.mainWindow();
   frmMain& main = desktop.program().main();
+  typeFarm(main.pneMain);
+  main.notices.dismiss();
   const std::array<MenuEntry*, 6> entries{&main.menus.mnuMixes,  &main.menus.mnuWater,
                                           &main.menus.mnuSwitch, &main.menus.mnuSeasons,
                                           &main.menus.mnuInputs, &main.menus.mnuMap};
