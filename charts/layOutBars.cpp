@@ -78,20 +78,23 @@ class BarLayout {
     const double atLeft = labels ? endWidth(true) : 0;
     const double atRight = labels ? endWidth(false) : 0;
     scale_ = {*values, plot_.left + atLeft, plot_.right - atRight};
+    const double end = plot_.top + rowHeight_ * static_cast<double>(rows_);
+    // Close to the bars, however high the drawing is.
+    const double below = end + (more_ ? line : 0);
+    const double titleAt = std::min(xTitle, below + 4 + (axis ? line : 0) + line / 2);
+    if (axis) {
+      const std::vector<Tick> ticks = ticksAlong(canvas_, *values, scale_.to - scale_.from, data_.x.style);
+      for (const Tick& tick : ticks)
+        canvas_.addLine({{scale_.at(tick.value), plot_.top}, {scale_.at(tick.value), end}}, {Ink::grid});
+      const double labelsAt = std::min(xLabels, below + 4 + line / 2);
+      addLabelsBelow(canvas_, ticks, scale_, labelsAt, drawing_.width);
+    }
     if (title) {
       const std::string text = canvas_.fitted(data_.x.title, drawing_.width - 2 * edge);
       const double half = canvas_.widthOf(text) / 2;
       const double middle = std::clamp((plot_.left + plot_.right) / 2, edge + half,
                                        std::max(edge + half, drawing_.width - edge - half));
-      canvas_.addText({middle, xTitle}, Anchor::middle, text, {Ink::muted});
-    }
-    const double end = plot_.top + rowHeight_ * static_cast<double>(rows_);
-    if (axis) {
-      const std::vector<Tick> ticks = ticksAlong(canvas_, *values, scale_.to - scale_.from, data_.x.style);
-      for (const Tick& tick : ticks)
-        canvas_.addLine({{scale_.at(tick.value), plot_.top}, {scale_.at(tick.value), end}}, {Ink::grid});
-      const double labelsAt = std::min(xLabels, end + 4 + line / 2 + (more_ ? line : 0));
-      addLabelsBelow(canvas_, ticks, scale_, labelsAt, drawing_.width);
+      canvas_.addText({middle, titleAt}, Anchor::middle, text, {Ink::muted});
     }
     for (std::size_t i = 0; i < rows_; ++i)
       addBar(i, labels);

@@ -47,6 +47,20 @@ std::vector<std::size_t> shownOf(std::size_t count, double pixels) {
   return result;
 }
 
+/// The style with as many decimals as the values need; nothing if these are too many.
+std::optional<NumberStyle> exactStyle(const std::vector<double>& values, NumberStyle style) {
+  constexpr int mostDecimals = 3;
+  const auto isExact = [&](double value) {
+    const double unit = std::pow(10.0, style.decimals);
+    return std::abs(value * unit - std::round(value * unit)) < 1e-6;
+  };
+  while (!std::all_of(values.begin(), values.end(), isExact)) {
+    if (style.decimals >= mostDecimals) return std::nullopt;
+    ++style.decimals;
+  }
+  return style;
+}
+
 class MapLayout {
  public:
   MapLayout(const Chart& chart, const MapChart& data, Drawing& drawing, const TextMeasure& measure)
@@ -110,11 +124,12 @@ class MapLayout {
   [[nodiscard]] std::vector<Tick> ticksOf(const std::vector<double>& values, const Span& span, double length,
                                           const NumberStyle& style, bool upwards) const {
     constexpr std::size_t mostEach = 24;
-    if (values.size() <= mostEach) {
+    const std::optional<NumberStyle> exact = exactStyle(values, style);
+    if (values.size() <= mostEach && exact) {
       std::vector<Tick> each;
       each.reserve(values.size());
       for (const double value : values)
-        each.push_back({value, shortNumber(value, style)});
+        each.push_back({value, shortNumber(value, *exact)});
       const double one = upwards ? canvas_.line() : widest(canvas_, each) + canvas_.size();
       if (one * static_cast<double>(values.size()) <= length) return each;
     }

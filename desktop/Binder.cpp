@@ -24,6 +24,7 @@
 #include <QTimer>
 #include <algorithm>
 
+#include "desktop/ChartView.h"
 #include "desktop/Keys.h"
 #include "desktop/TableView.h"
 
@@ -355,6 +356,18 @@ QWidget* Binder::bind(Image& control, QWidget* widget) {
   name(control, widget, {});
   widget->setAttribute(Qt::WA_TransparentForMouseEvents);
   watch(control, [&control, widget] { showState(control, widget); });
+  return widget;
+}
+
+ChartView* Binder::bind(ChartBox& control, ChartView* widget, const QString& label) {
+  name(control, widget, label);
+  watch(control, [&control, widget, label] {
+    showState(control, widget);
+    const std::optional<Chart>& chart = control.chart();
+    widget->setChart(chart);
+    widget->setAccessibleName(chart && !chart->title.empty() ? qText(chart->title) : label);
+  });
+  connect(widget, &ChartView::picked, this, [&control](std::size_t index) { control.pick(index); });
   return widget;
 }
 

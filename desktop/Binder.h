@@ -7,6 +7,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "controls/ChartBox.h"
 #include "controls/Event.h"
 #include "controls/Grid.h"
 #include "controls/Table.h"
@@ -32,6 +33,7 @@ class QWidget;
 
 namespace verdalis::desktop {
 
+class ChartView;
 class TableView;
 
 /// UTF-8 of the program as text of the toolkit, and back.
@@ -70,6 +72,9 @@ class Binder : public QObject {
   QScrollBar* bind(ScrollBar& control, QScrollBar* widget, const QString& label);
   QSlider* bind(ScrollBar& control, QSlider* widget, const QString& label);
   QWidget* bind(Image& control, QWidget* widget);
+
+  /// The name of a chart is its title, or `label` while it shows none.
+  ChartView* bind(ChartBox& control, ChartView* widget, const QString& label);
 
   /// A frame or composite control: its visibility and whether it is enabled.
   QWidget* bind(Frame& control, QWidget* widget);
