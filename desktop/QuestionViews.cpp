@@ -34,7 +34,7 @@ struct Shares {
   int table;
 };
 constexpr Shares narrowTable{5, 3};
-constexpr Shares wideTable{1, 1};
+constexpr Shares wideTable{4, 5};
 
 /// What all pages have. The fields of the page are added to `fields`.
 class QuestionView : public QWidget {
@@ -48,7 +48,11 @@ class QuestionView : public QWidget {
     head->setSpacing(2);
     head->addWidget(sizedLabel(fixedLabel(plain(pane_.caption()), "heading")));
     head->addWidget(wrapped(binder_, pane_.lblAbout, "muted"));
-    view.body->addLayout(head);
+    auto* top = new QHBoxLayout;
+    top->setSpacing(24);
+    top->addLayout(head, 1);
+    top->addWidget(statusLine(), 1);
+    view.body->addLayout(top);
     auto* middle = new QHBoxLayout;
     middle->setSpacing(12);
     middle->addWidget(chartCard(), shares.chart);
@@ -92,6 +96,12 @@ class QuestionView : public QWidget {
 
   void addStretch() { fields_->addStretch(); }
 
+  /// Begins another line of fields.
+  void addLine() {
+    fields_->addStretch();
+    beginLine();
+  }
+
  private:
   void addNamed(const QString& name, QWidget* field) {
     auto* label = fixedLabel(name, "title");
@@ -102,11 +112,15 @@ class QuestionView : public QWidget {
 
   QWidget* fieldsCard() {
     const Card fields = card();
+    lines_ = fields.body;
+    beginLine();
+    return fields.frame;
+  }
+
+  void beginLine() {
     fields_ = new QHBoxLayout;
     fields_->setSpacing(8);
-    fields.body->addLayout(fields_);
-    fields.body->addWidget(statusLine());
-    return fields.frame;
+    lines_->addLayout(fields_);
   }
 
   /// Why there is no answer, or that it is for another farm, or how far it is.
@@ -116,6 +130,7 @@ class QuestionView : public QWidget {
     line->setContentsMargins(0, 0, 0, 0);
     line->setSpacing(10);
     auto* fault = wrapped(binder_, pane_.lblFault, "caution");
+    fault->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     line->addWidget(fault, 1);
     line->addWidget(binder_.bind(pane_.lblOutdated, fixedLabel({}, "caution")));
     line->addWidget(binder_.bind(pane_.cmdUpdate, new QPushButton));
@@ -132,7 +147,6 @@ class QuestionView : public QWidget {
     });
     line->addWidget(bar);
     line->addWidget(binder_.bind(pane_.cmdCancel, new QPushButton));
-    line->addStretch();
     // The page keeps its height while a question runs.
     status->setMinimumHeight(numberFieldSize().height() + scaled(2));
     return status;
@@ -176,7 +190,8 @@ class QuestionView : public QWidget {
 
   QuestionPane& pane_;
   Binder& binder_;
-  QHBoxLayout* fields_ = nullptr;
+  QVBoxLayout* lines_ = nullptr;   ///< Of fields
+  QHBoxLayout* fields_ = nullptr;  ///< The last of them
   QTimer ticks_;
   Connection running_;
 };
@@ -261,7 +276,7 @@ QWidget* mapView(MapPane& pane, Binder& binder) {
     view->addField(axis.txtPoints, QObject::tr("in"), QObject::tr("points"), of);
   };
   addAxis(pane.x, QObject::tr("Across"));
-  view->fields()->addSpacing(scaled(12));
+  view->addLine();
   addAxis(pane.y, QObject::tr("Upwards"));
   view->addStretch();
   return view;
