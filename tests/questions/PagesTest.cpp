@@ -170,6 +170,13 @@ TEST_F(SeasonsPage, OffersTheSeasonsOfTheFarm) {
   EXPECT_FALSE(pane().cmdRemoveSeason.enabled());
 }
 
+TEST_F(SeasonsPage, AddsNoSeasonWithoutAFarm) {
+  incomplete = "Enter the acres.";
+  openSeasons();
+  EXPECT_FALSE(pane().cmdAddSeason.enabled());
+  EXPECT_FALSE(pane().cmdRemoveSeason.enabled());
+}
+
 TEST_F(SeasonsPage, AddsAndRemovesSeasons) {
   openSeasons();
   pane().cmdAddSeason.click();
