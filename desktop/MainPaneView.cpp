@@ -25,7 +25,7 @@
 namespace verdalis::desktop {
 namespace {
 
-constexpr int rowHeight = 34;
+constexpr int rowHeight = 31;
 constexpr int visibleRows = cropFrameHolderHeight / cropRowHeight;
 
 /// Columns of the crop table.
@@ -50,11 +50,10 @@ void setColumns(QGridLayout* grid) {
 
 constexpr const char* ownTip = "ownTip";  // the tool tip of a field without a hint
 
-/// The line of hints of a card. It keeps its height, so that the page stands still.
+/// The hint beside the heading of a card, where it takes no room from the page.
 QLabel* hintLabel(Binder& binder, Label& control) {
   QLabel* label = fixedLabel({}, "caution");
-  label->setWordWrap(true);
-  label->setMinimumHeight(label->fontMetrics().lineSpacing());
+  label->setMinimumWidth(1);  // a long one is cut off, and stands in the tool tip of its field
   return binder.bind(control, label, QObject::tr("Hint"));
 }
 
@@ -89,7 +88,7 @@ MainPaneView::MainPaneView(MainPane& pane, Binder& binder) : pane_(pane), binder
 }
 
 QWidget* MainPaneView::farmCard() {
-  const Card farm = card(tr("Farm and water"));
+  const Card farm = card(tr("Farm and water"), hintLabel(binder_, pane_.lblFarmHint));
   auto* grid = new QGridLayout;
   grid->setHorizontalSpacing(10);
   grid->setVerticalSpacing(5);
@@ -129,7 +128,6 @@ QWidget* MainPaneView::farmCard() {
   soil->setToolTip(tr("Takes no part in the evaluation"));
   place("txtSoil", soil, tr("no effect"));
   farm.body->addLayout(grid);
-  farm.body->addWidget(hintLabel(binder_, pane_.lblFarmHint));
   farm.body->addStretch();
   return farm.frame;
 }
@@ -168,7 +166,7 @@ QWidget* MainPaneView::landCard() {
 }
 
 QWidget* MainPaneView::cropCard() {
-  const Card crops = card(plain(pane_.cropBox.caption()));
+  const Card crops = card(plain(pane_.cropBox.caption()), hintLabel(binder_, pane_.lblCropHint));
   binder_.bind(pane_.cropBox, crops.frame);
   auto* heads = new QGridLayout;
   setColumns(heads);
@@ -202,7 +200,6 @@ QWidget* MainPaneView::cropCard() {
   line->addWidget(rowsArea_, 1);
   line->addWidget(rowsBar_);
   crops.body->addLayout(line);
-  crops.body->addWidget(hintLabel(binder_, pane_.lblCropHint));
   binder_.alsoWatch(pane_.cropScroll, [this] { placeScroll(); });
   // A row that the keyboard brings into sight moves the list, and the bar follows without a person's act.
   connect(rowsArea_->verticalScrollBar(), &QScrollBar::valueChanged, this, [this](int value) {
@@ -223,7 +220,9 @@ QWidget* MainPaneView::plantCard() {
   setHelp(open, pane_.cmdHelp, 1);
   line->addWidget(open);
   line->addWidget(helpButton(binder_, pane_.cmdHelp, 1, QString::fromLatin1(irrigationHeading)));
-  line->addStretch();
+  auto* instruction = fixedLabel(QString::fromLatin1(batchInstructions[2]), "muted");
+  instruction->setWordWrap(true);
+  line->addWidget(instruction, 1);
   line->addWidget(binder_.bind(pane_.Command7, new QPushButton));
   plant.body->addLayout(line);
 
@@ -234,7 +233,6 @@ QWidget* MainPaneView::plantCard() {
   lines->addWidget(fixedLabel(QString::fromLatin1(batchInstructions[1]), "muted"));
   plant.body->addWidget(trends);
   binder_.bind(pane_.pnlBatchInstructions, trends);
-  plant.body->addWidget(fixedLabel(QString::fromLatin1(batchInstructions[2]), "muted"));
   return plant.frame;
 }
 

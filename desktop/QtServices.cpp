@@ -5,6 +5,7 @@
 #include <QDateTime>
 #include <QDesktopServices>
 #include <QFileDialog>
+#include <QIcon>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QUrl>
@@ -14,6 +15,8 @@
 
 namespace verdalis::desktop {
 namespace {
+
+constexpr int pictureSize = 40;  // of a message box, pixels
 
 QMessageBox::Icon boxIcon(MessageIcon icon) {
   switch (icon) {
@@ -29,6 +32,23 @@ QMessageBox::Icon boxIcon(MessageIcon icon) {
       break;
   }
   return QMessageBox::NoIcon;
+}
+
+/// The picture of a box; empty for none.
+QString boxPicture(MessageIcon icon) {
+  switch (icon) {
+    case MessageIcon::critical:
+      return QStringLiteral(":/icons/message-failure.svg");
+    case MessageIcon::question:
+      return QStringLiteral(":/icons/message-question.svg");
+    case MessageIcon::exclamation:
+      return QStringLiteral(":/icons/message-caution.svg");
+    case MessageIcon::information:
+      return QStringLiteral(":/icons/message-notice.svg");
+    case MessageIcon::none:
+      break;
+  }
+  return {};
 }
 
 QMessageBox::StandardButtons boxButtons(MessageButtons buttons) {
@@ -75,6 +95,8 @@ MessageAnswer QtServices::show(const Message& message) {
   QMessageBox box(boxIcon(message.icon), qText(message.title), qText(message.text),
                   boxButtons(message.buttons), QApplication::activeWindow());
   box.setObjectName(QStringLiteral("messageBox"));
+  if (const QString picture = boxPicture(message.icon); !picture.isEmpty())
+    box.setIconPixmap(QIcon(picture).pixmap(QSize(pictureSize, pictureSize), box.devicePixelRatioF()));
   box.setTextFormat(Qt::PlainText);
   box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   if (message.buttons == MessageButtons::saveDiscardCancel) {

@@ -7,12 +7,13 @@
 #include <QVBoxLayout>
 #include <array>
 
+#include "desktop/AllOptionsView.h"
 #include "desktop/Keys.h"
 
 namespace verdalis::desktop {
 namespace {
 
-constexpr int rowHeight = 44;
+constexpr int rowHeight = 36;
 constexpr std::array<int, 9> columnWidths{74, 92, 108, 58, 58, 120, 106, 106, 86};
 
 void setColumns(QGridLayout* grid) {
@@ -98,21 +99,28 @@ QWidget* resultsView(Results& results, Binder& binder, const QString& heading) {
   previous->setToolTip(QObject::tr("Previous option (Alt+Left)"));
   next->setToolTip(QObject::tr("Next option (Alt+Right)"));
   auto* counter = sizedLabel(fixedLabel({}, "title"), 1.2);
-  counter->setAlignment(Qt::AlignCenter);
-  counter->setMinimumWidth(scaled(130));
+  counter->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  counter->setMinimumWidth(scaled(100));
+  auto* of = sizedLabel(fixedLabel({}, "muted"), 1.2);
+  of->setMinimumWidth(scaled(60));
   for (QWidget* pager : {previous, next})
     setHelp(pager, &results.cmdHelp2);
   top->addWidget(previous);
   top->addWidget(binder.bind(results.lblCounter, counter));
+  top->addWidget(binder.bind(results.lblOf, of, QObject::tr("Number of options")));
   top->addWidget(next);
   view.body->addLayout(top);
 
   const Card table = card();
+  table.body->setSpacing(0);
   table.body->addWidget(columnHeads());
   for (ResultHolder& row : results.rh)
     table.body->addWidget(fieldRow(row, binder));
   auto* total = new QHBoxLayout;
   total->addStretch();
+  total->addWidget(binder.bind(results.lblFarmProfit, fixedLabel({}, "muted"),
+                               QObject::tr("Net return of the option for the farm")));
+  total->addSpacing(12);
   total->addWidget(fixedLabel(QString::fromLatin1(ResultColumns::netReturn), "heading"));
   auto* profit = sizedLabel(figureLabel("figure"), 1.6);
   total->addSpacing(12);
@@ -121,8 +129,12 @@ QWidget* resultsView(Results& results, Binder& binder, const QString& heading) {
   table.body->addSpacing(6);
   table.body->addLayout(total);
   view.body->addWidget(table.frame);
-  for (const char* note : resultNotes)
-    view.body->addWidget(fixedLabel(QString::fromLatin1(note), "muted"));
+
+  for (Label* line : {&results.lblSinceLast, &results.lblOutdated}) {
+    auto* text = fixedLabel({}, line == &results.lblOutdated ? "title" : "muted");
+    text->setWordWrap(true);
+    view.body->addWidget(binder.bind(*line, text));
+  }
 
   const Card trend = card();
   auto* trendLine = new QHBoxLayout;
@@ -149,7 +161,13 @@ QWidget* resultsView(Results& results, Binder& binder, const QString& heading) {
   againLine->addWidget(smallHelp(binder, results.cmdHelp, QObject::tr("Help: fixed trends")));
   againLine->addStretch();
   view.body->addWidget(binder.bind(results.batchDisplay, again));
-  view.body->addStretch();
+  view.body->addWidget(allOptionsView(results.all, binder), 1);
+  auto* notes = new QHBoxLayout;
+  notes->setSpacing(scaled(24));
+  for (const char* note : resultNotes)
+    notes->addWidget(fixedLabel(QString::fromLatin1(note), "muted"));
+  notes->addStretch();
+  view.body->addLayout(notes);
 
   view.buttons->addWidget(binder.bind(results.Command1, new QPushButton));
   view.buttons->addStretch();

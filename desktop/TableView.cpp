@@ -12,6 +12,7 @@
 #include <QStyledItemDelegate>
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 
 #include "desktop/Binder.h"
 #include "desktop/Page.h"
@@ -27,8 +28,9 @@ constexpr int barRoom = 50;
 constexpr int barHeight = 8;
 constexpr int barGap = 6;
 constexpr int bandWidth = 3;
+constexpr int leastText = 110;  // of a column of texts that does not get the room that it needs
 constexpr int fewestLines = 3;
-constexpr int usualLines = 8;
+constexpr int usualLines = 4;
 
 /// Rows whose texts decide on the widths of the columns: so many at the top, and as many spread over the
 /// rest.
@@ -130,13 +132,13 @@ class TablePainter : public QStyledItemDelegate {
           std::max(1, static_cast<int>(std::lround(std::clamp(*cell.bar, 0.0, 1.0) * scaled(barRoom))));
       QRect bar(room.left(), 0, length, scaled(barHeight));
       if (isLeft(column)) {
-        room.setLeft(bar.right() + scaled(barGap));
+        if (length > 0) room.setLeft(bar.right() + scaled(barGap));
       } else {
         bar.moveLeft(room.right() - scaled(barRoom) + 1);
         room.setRight(bar.left() - scaled(barGap));
       }
       bar.moveTop(option.rect.top() + (option.rect.height() - bar.height()) / 2);
-      painter->fillRect(bar, column.water ? colours.water : faint(colours, scheme));
+      if (length > 0) painter->fillRect(bar, column.water ? colours.water : faint(colours, scheme));
     }
     QFont font = option.font;
     if (cell.strong) font.setWeight(QFont::DemiBold);
@@ -327,17 +329,23 @@ void TableView::measure() {
   spread();
 }
 
-/// Gives each column what it needs, and shares the rest of the width among all.
+/// Gives each column what it needs, and shares the rest of the width among all. Where it is not enough, long
+/// texts are cut first.
 void TableView::spread() {
   if (needed_.isEmpty() || horizontalHeader()->count() != needed_.size()) return;
-  int rest = viewport()->width();
-  for (const int width : needed_)
-    rest -= width;
+  QList<int> widths = needed_;
+  int rest = viewport()->width() - std::accumulate(widths.begin(), widths.end(), 0);
+  for (int column = 0; rest < 0 && column < widths.size(); ++column) {
+    if (!isLeft(table_->columns()[placeAt(column)])) continue;
+    const int cut = std::clamp(widths[column] - scaled(leastText), 0, -rest);
+    widths[column] -= cut;
+    rest += cut;
+  }
   rest = std::max(rest, 0);
-  const auto count = static_cast<int>(needed_.size());
+  const auto count = static_cast<int>(widths.size());
   for (int column = 0; column < count; ++column) {
     const int more = rest / (count - column);
-    setColumnWidth(column, needed_[column] + more);
+    setColumnWidth(column, widths[column] + more);
     rest -= more;
   }
 }

@@ -116,6 +116,26 @@ QString styleSheet(Scheme scheme) {
     QTableView[role="records"] QHeaderView::section:hover { color: @brand; }
     QScrollArea { border: none; background: transparent; }
     QMenuBar { background: @window; }
+    QMenuBar::item { background: transparent; padding: 4px 9px; border-radius: 4px; }
+    QMenuBar::item:selected { background: @line; }
+    QMenuBar::item:disabled { color: @disabled; }
+    QScrollBar { background: transparent; border: none; margin: 0; }
+    QScrollBar:vertical { width: 12px; }
+    QScrollBar:horizontal { height: 12px; }
+    QScrollBar::handle { background: @scroll; border-radius: 4px; margin: 2px; }
+    QScrollBar::handle:vertical { min-height: 28px; }
+    QScrollBar::handle:horizontal { min-width: 28px; }
+    QScrollBar::handle:hover { background: @muted; }
+    QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; border: none; background: none; }
+    QScrollBar::add-page, QScrollBar::sub-page { background: none; }
+    QHeaderView { background: @card; border: none; }
+    QHeaderView::section { background: @card; color: @muted; border: none; border-bottom: 1px solid @line;
+                           padding: 4px 8px; font-weight: 600; }
+    QProgressBar { background: @line; color: @text; border: none; border-radius: 4px; text-align: center; }
+    QProgressBar::chunk { background: @brand; border-radius: 4px; }
+    QComboBox QAbstractItemView { background: @card; border: 1px solid @line; outline: 0;
+                                  selection-background-color: @brand; selection-color: @brandText; }
+    QAbstractItemView, QCheckBox, QRadioButton, QPushButton { outline: 0; }
     QMenu::separator { height: 1px; background: @line; margin: 4px 8px; }
   )");
   const auto put = [&](const char* name, const QColor& colour) {
@@ -133,6 +153,7 @@ QString styleSheet(Scheme scheme) {
   put("card", colours.card);
   put("line", colours.line);
   put("muted", colours.muted);
+  put("scroll", colours.scroll);
   put("warning", colours.warning);
   put("activeRow", colours.activeRow);
   put("caution", colours.caution);
@@ -212,13 +233,13 @@ QPalette palette(Scheme scheme) {
 
 Accents accents(Scheme scheme) {
   if (scheme == Scheme::dark) {
-    return {QColor(0x7CC48A), QColor(0x10210F), QColor(0x232926), QColor(0x3D4641),
-            QColor(0xA3ADA6), QColor(0xFF8A70), QColor(0x2B332E), QColor(0x5E8F5A),
-            QColor(0x6FB3D9), QColor(0x3A3219), QColor(0x66572A), QColor(0xE3B341)};
+    return {QColor(0x7CC48A), QColor(0x10210F), QColor(0x232926), QColor(0x3D4641), QColor(0xA3ADA6),
+            QColor(0xFF8A70), QColor(0x2B332E), QColor(0x5E8F5A), QColor(0x6FB3D9), QColor(0x3A3219),
+            QColor(0x66572A), QColor(0xE3B341), QColor(0x59645D)};
   }
-  return {QColor(0x2E6B3A), QColor(0xFFFFFF), QColor(0xFFFFFF), QColor(0xD3D9D2),
-          QColor(0x5C665F), QColor(0xC0392B), QColor(0xF3F3F3), QColor(0x8DB87C),
-          QColor(0x2F7FB0), QColor(0xFDF3D8), QColor(0xE6CF94), QColor(0x8A5A00)};
+  return {QColor(0x2E6B3A), QColor(0xFFFFFF), QColor(0xFFFFFF), QColor(0xD3D9D2), QColor(0x5C665F),
+          QColor(0xC0392B), QColor(0xF3F3F3), QColor(0x8DB87C), QColor(0x2F7FB0), QColor(0xFDF3D8),
+          QColor(0xE6CF94), QColor(0x8A5A00), QColor(0xBCC5BD)};
 }
 
 QColor textColor(QRgb color, Scheme scheme) {

@@ -58,6 +58,7 @@ struct Accents {
   QColor caution;      ///< Background of a notice
   QColor cautionLine;  ///< Border of a notice
   QColor cautionText;  ///< Text of a hint
+  QColor scroll;       ///< Handle of a scroll bar
 };
 [[nodiscard]] Accents accents(Scheme scheme);
 

@@ -3,6 +3,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "document/FarmDocument.h"
@@ -43,6 +44,12 @@ using OptionToPrice = std::function<FieldCollection&(const SavedOption&)>;
 
 /// Shown in place of a value that an option does not have.
 inline constexpr const char* noValue = "-";
+
+/// A caption of a pane as the head of a row: without its colon.
+[[nodiscard]] std::string captionHead(std::string_view caption);
+
+/// The head of the row of a field at the top of the main pane, by the name of its control.
+[[nodiscard]] std::string inputHead(std::string_view control);
 
 /// A row for each input that is not the same for all options. An input of a crop is compared between the
 /// options that have the crop, and is a dash for the others.

@@ -80,25 +80,12 @@ class Differences {
   std::vector<ComparisonRow> rows_;
 };
 
-/// A label of a pane as the head of a row: without its colon.
-std::string headOf(std::string_view label) {
-  const std::size_t end = label.find_last_not_of(": ");
-  return shownCaption(label.substr(0, end == std::string_view::npos ? 0 : end + 1));
-}
-
 /// A label with its unit in brackets, unless it names the unit itself. What is counted "per" something is
 /// money.
 std::string headOf(std::string_view label, std::string_view unit) {
-  std::string head = headOf(label);
+  std::string head = captionHead(label);
   if (unit.empty() || head.find(unit) != std::string::npos) return head;
   return head + (unit.front() == '/' ? " ($ " : " (") + std::string(unit) + ")";
-}
-
-std::string farmHead(std::string_view control) {
-  const auto fields = MainPane::fields();
-  const auto row = std::find_if(fields.begin(), fields.end(),
-                                [&](const FieldRow& field) { return field.control == control; });
-  return headOf(row->label);
 }
 
 void addFarm(Differences& differences) {
@@ -109,13 +96,13 @@ void addFarm(Differences& differences) {
                                               {"txtEff", &DocumentFarm::txtEff},
                                               {"txtSoil", &DocumentFarm::txtSoil}}};
   for (const auto& [control, text] : texts) {
-    differences.add(farmHead(control),
+    differences.add(inputHead(control),
                     [member = text](const SavedOption& saved) { return typed(saved.inputs.farm.*member); });
   }
-  differences.add(farmHead("Option1"), [](const SavedOption& saved) -> Reading {
+  differences.add(inputHead("Option1"), [](const SavedOption& saved) -> Reading {
     const std::optional<std::size_t>& split = saved.inputs.farm.split;
     if (!split || *split >= landDivisions().size()) return std::nullopt;
-    return value(headOf(landDivisions().at(*split).caption));
+    return value(captionHead(landDivisions().at(*split).caption));
   });
   differences.add(MainPane::noSplitCaption,
                   [](const SavedOption& saved) { return yesOrNo(saved.inputs.farm.noSplit); });
@@ -196,7 +183,7 @@ std::string costHead(const InputCostsField& field) {
     // "Flat rate:" alone does not tell of what.
     head = std::string(InputCostsPane::groups()[static_cast<std::size_t>(field.row.group)].heading) + ", ";
   }
-  std::string label = headOf(field.row.label);
+  std::string label = captionHead(field.row.label);
   if (!field.row.column.empty()) label += ", " + std::string(field.row.column);
   const bool perUnit = field.row.unit.empty() && field.unitControl != nullptr && field.shown == Shown::money;
   return head + headOf(label, perUnit ? "/ unit" : field.row.unit);
@@ -225,9 +212,9 @@ void addCrops(Differences& differences) {
     };
     using enum Differences::Absence;
     add("Chosen", differs, [](const DocumentCrop& crop) { return yesOrNo(crop.chosen); });
-    add(headOf(cropColumns[0].caption), isIgnored,
+    add(captionHead(cropColumns[0].caption), isIgnored,
         [](const DocumentCrop& crop) { return amount(crop.price, crop.priceInForce); });
-    add(headOf(cropColumns[2].caption), isIgnored,
+    add(captionHead(cropColumns[2].caption), isIgnored,
         [](const DocumentCrop& crop) { return amount(crop.maxYield, crop.maxYieldInForce); });
     for (const InputCostsField& field : InputCostsPane::fields()) {
       add(costHead(field), isIgnored,
@@ -257,6 +244,18 @@ void addTrends(Differences& differences) {
 }
 
 }  // namespace
+
+std::string captionHead(std::string_view caption) {
+  const std::size_t end = caption.find_last_not_of(": ");
+  return shownCaption(caption.substr(0, end == std::string_view::npos ? 0 : end + 1));
+}
+
+std::string inputHead(std::string_view control) {
+  const auto fields = MainPane::fields();
+  const auto row = std::find_if(fields.begin(), fields.end(),
+                                [&](const FieldRow& field) { return field.control == control; });
+  return captionHead(row->label);
+}
 
 std::vector<ComparisonRow> differingInputs(const std::vector<ComparedOption>& options) {
   Differences differences(options);

@@ -13,6 +13,7 @@
 #include "main/SavedInputsControls.h"
 #include "screens/RunScenario.h"
 #include "screens/modInputTest.h"
+#include "screens/readScenario.h"
 #include "screens/wishText.h"
 #include "text/RunTimeError.h"
 #include "text/encoding.h"
@@ -339,6 +340,7 @@ void frmMain::Command1_Click() {
   }
   saveInputs();
   farmControls.foundWith = keeper.document().inputs;
+  const std::optional<Farm> farm = enteredFarm();
   BestMix best = RunScenario("");
   if (best.getSize() == 0) return;
   // Seconds since midnight and not the duration of the run: the label has always shown this.
@@ -348,11 +350,29 @@ void frmMain::Command1_Click() {
   theResults.ShowBatchedVariables(false);
   const std::vector<Results::Option> options = best.returnCollection(true);
   theResults.EnableBatch(TrendEnabled);
+  theResults.plansCompared = plansOfLastRun();
+  theResults.evaluatedFarm = farm;
   theResults.loadResults(options);
+  sinceLastRun_.runEnded(farmControls.foundWith);
   // Packed again: the first packing may have brought new duplicates together. Then the report lists fewer
   // options than the screen.
   thePrinter.setCollection(best.returnCollection(true));
   menus.mnuPrint.setEnabled(true);
+}
+
+/// Nothing for inputs that a run refuses: it tells why by itself.
+std::optional<Farm> frmMain::enteredFarm() const {
+  try {
+    return readFarm(pneMain.scenarioInputs(), cropFiles.cropCollection, *tempIrrigationCosts,
+                    state_.FineFactor);
+  } catch (const RunTimeError&) {
+    return std::nullopt;
+  }
+}
+
+double frmMain::plansOfLastRun() const {
+  const double undivided = pneMain.chkNoSplit.checked() ? static_cast<double>(state_.cs.Count()) : 0;
+  return static_cast<double>(state_.waterSplits) * static_cast<double>(state_.cropCombinations) + undivided;
 }
 
 void frmMain::Command7_Click() {
@@ -443,6 +463,15 @@ void frmMain::wireLosses() {
   losses_.watchPage(pneInputCosts.cmdDefault, pneInputCosts, defaults);
   losses_.watchPage(pneIrrigCosts.Command4, pneIrrigCosts, cleared);
   losses_.watchPage(pneIrrigCosts.cmdDefaultIrrigCosts, pneIrrigCosts, defaults);
+}
+
+void frmMain::wireSinceLastRun() {
+  const auto follow = [this] {
+    if (pneResults.visible()) sinceLastRun_.follow(keeper.document().inputs);
+  };
+  pneResults.onStateChange.connect(follow);
+  keeper.onChange.connect(follow);
+  farms.onTake.connect([this] { sinceLastRun_.forget(); });
 }
 
 void frmMain::showMainPane() {

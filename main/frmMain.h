@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -14,6 +15,7 @@
 #include "document/DocumentKeeper.h"
 #include "document/FarmControls.h"
 #include "engine/BestMix.h"
+#include "engine/Farm.h"
 #include "engine/ProgramState.h"
 #include "engine/RunHooks.h"
 #include "main/ComparePane.h"
@@ -29,6 +31,7 @@
 #include "main/RecoveryBar.h"
 #include "main/SavedInputsKeeper.h"
 #include "main/SecondaryWindows.h"
+#include "main/SinceLastRun.h"
 #include "results/Details.h"
 #include "results/ResultPrinter.h"
 #include "results/Results.h"
@@ -166,6 +169,8 @@ class frmMain : public Window {
   void saveTable(const std::filesystem::path& path, std::string_view bytes);
   [[nodiscard]] CropRecord* rowNamed(const std::string& crop) const;
   void Command1_Click();
+  [[nodiscard]] std::optional<Farm> enteredFarm() const;
+  [[nodiscard]] double plansOfLastRun() const;
   void Command7_Click();
   void goBack();
   void goHome();
@@ -174,8 +179,10 @@ class frmMain : public Window {
   [[nodiscard]] GeneralInputs enteredInputs() const;
   void wireFarms();
   void wireLosses();
+  void wireSinceLastRun();
 
   LossNotices losses_;
+  SinceLastRun sinceLastRun_{theResults};
   FarmDocument untouched_;
   Services& services_;
   ProgramState& state_;

@@ -18,10 +18,12 @@ constexpr std::int16_t cropVariables = 3;
 }  // namespace
 
 Results::Results(Frame& container, const std::string& name, Services& services, const ProgramState& state)
-    : Frame(container, name, Scope::named), services_(services), state_(state) {
+    : Frame(container, name, Scope::named), all(*this, services), services_(services), state_(state) {
   for (ResultHolder& row : rh)
     row.setVisible(false);
   batchDisplay.setVisible(false);
+  lblSinceLast.setVisible(false);
+  lblOutdated.setVisible(false);
   pnlBatchedVariables.setVisible(false);
   connect();
 }
@@ -29,6 +31,10 @@ Results::Results(Frame& container, const std::string& name, Services& services, 
 void Results::connect() {
   cmdPrevious.onClick.connect([this] { page(-1); });
   cmdAdvance.onClick.connect([this] { page(1); });
+  container()->onStateChange.connect([this] {
+    if (!container()->visible()) all.leave();
+  });
+  all.onShowOption.connect([this](std::int16_t number) { showOption(number); });
   cmdSaveResult.onClick.connect([this] { saveResult(); });
   cmdBatchThis.onClick.connect([this] { batchThis(); });
   Command1.onClick.connect([this] { onBack(state_.TrendMode ? BackTo::trendSetup : BackTo::main); });
@@ -62,7 +68,18 @@ void Results::loadResults(const std::vector<Option>& options) {
   FieldCollection = options;
   maxOption_ = static_cast<std::int16_t>(
       std::count_if(options.begin(), options.end(), [](const Option& entry) { return entry->Count() > 0; }));
+  listOptions();
   switchTo(1);
+}
+
+/// Placeholders have no line, and neither has what paging does not reach.
+void Results::listOptions() {
+  const auto last = FieldCollection.begin() + maxOption_;
+  const bool trend = std::any_of(FieldCollection.begin(), last,
+                                 [](const Option& entry) { return !entry->theVariable.empty(); });
+  all.load({FieldCollection.begin(), last},
+           {trend ? std::nullopt : plansCompared, trend, trend ? std::nullopt : evaluatedFarm});
+  lblOf.setCaption(maxOption_ > 0 ? "of " + std::to_string(maxOption_) : "");
 }
 
 void Results::EnableBatch(bool on) {
@@ -85,6 +102,8 @@ void Results::switchTo(std::int16_t direction) {
     const double profit = perAcre(getTotalProfit(currentRecord), totalAcres);
     lblTotalProfit.setCaption(dollarsAnAcre(profit, "###,###,###"));
   });
+  passOver([&] { lblFarmProfit.setCaption(wholeDollars(getTotalProfit(currentRecord)) + " for the farm"); });
+  all.setCurrent(currentRecord);
   for (Label& description : lblBatchDescriptions)
     description.setCaption("");
   passOver([&] { describeTrend(); });
@@ -138,6 +157,12 @@ Results::Option Results::GetSortedBatchArrayField(std::int16_t i, std::int16_t j
 void Results::page(std::int16_t direction) {
   switchTo(direction);
   lblCounter.setCaption("Option " + std::to_string(getOption()));
+}
+
+void Results::showOption(std::int16_t number) {
+  if (number < 1 || number > maxOption_ || number == currentRecord) return;
+  currentRecord = static_cast<std::int16_t>(number - 1);
+  page(1);
 }
 
 void Results::saveResult() {

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -13,6 +14,7 @@
 #include "controls/services.h"
 #include "engine/ProgramState.h"
 #include "model/FieldCollection.h"
+#include "results/AllOptions.h"
 #include "results/ResultHolder.h"
 
 namespace verdalis {
@@ -38,7 +40,8 @@ struct ResultColumns {
 inline constexpr std::array<const char*, 2> resultNotes{
     "**Includes irrigation costs", "*Net returns to land, management, and irrigation equipment"};
 
-/// The results screen: shows the options kept by a run, one at a time, with a row for each field. It raises
+/// The results screen: shows the options kept by a run, one at a time, with a row for each field, and below
+/// it all of them in a table. It raises
 /// events for the user's requests to compare, print, run a trend or go back.
 class Results : public Frame {
  public:
@@ -64,10 +67,15 @@ class Results : public Frame {
   std::int16_t currentRecord = 0;       ///< The shown option, from 1; 0 before the first is shown
 
   Label lblCounter{*this, "lblCounter", "Option 1"};
+  Label lblOf{*this, "lblOf"};  ///< How many options there are, behind the counter
   Button cmdPrevious{*this, "cmdPrevious", "<<"};
   Button cmdAdvance{*this, "cmdAdvance", ">>"};
   std::array<ResultHolder, 4> rh{{{*this, "rh(0)"}, {*this, "rh(1)"}, {*this, "rh(2)"}, {*this, "rh(3)"}}};
   Label lblTotalProfit{*this, "lblTotalProfit"};
+  Label lblFarmProfit{*this, "lblFarmProfit"};  ///< The same for the whole farm
+  Label lblSinceLast{*this, "lblSinceLast"};    ///< What has changed since the run before
+  Label lblOutdated{*this, "lblOutdated"};      ///< Whether inputs have changed since the run
+  AllOptions all;
   Button cmdSaveResult{*this, "cmdSaveResult", "Compare this option"};
   Button Command2{*this, "Command2", "Print Results"};
   Button Command1{*this, "Command1", "Back"};
@@ -100,6 +108,10 @@ class Results : public Frame {
   /// A help note: its text, its title, and the height of its window in layout units.
   Event<const std::string&, const std::string&, int> onHelpNote;
 
+  /// What the table of all options tells about the run of the next options; set it before loadResults().
+  std::optional<double> plansCompared;  ///< Number of plans
+  std::optional<Farm> evaluatedFarm;    ///< For the best plan of each mix; nothing if that is not offered
+
   /// Returns the variables of the currently defined trend processes, in order.
   std::function<std::vector<TrendedVariable>()> trendedVariables;
 
@@ -120,6 +132,9 @@ class Results : public Frame {
   /// Shows the next (direction 1) or previous (-1) option; at the ends nothing happens. A step that fails
   /// leaves its controls unchanged. (`switch` alone is a keyword.)
   void switchTo(std::int16_t direction);
+
+  /// Shows an option by its number, from 1, as a step with the buttons does. Another number shows nothing.
+  void showOption(std::int16_t number);
 
   /// Does nothing.
   static void toCollection(const std::vector<Option>& /*options*/) {}
@@ -144,6 +159,7 @@ class Results : public Frame {
   void showRows(double& totalAcres);
   void connect();
   void page(std::int16_t direction);
+  void listOptions();
   void saveResult();
   void batchThis();
 

@@ -8,6 +8,7 @@
 
 #include "controls/ask.h"
 #include "model/checked.h"
+#include "results/OptionRows.h"
 #include "results/figures.h"
 #include "text/RunTimeError.h"
 #include "text/encoding.h"
@@ -56,6 +57,9 @@ SummaryPane::SummaryPane(Frame& container, Services& services, SavedOptions& sum
       outside_(std::move(outside)) {
   setCaption("Summary of Saved Options");
   fgsummary.onClick.connect([this] { removeClicked(); });
+  fgsummary.onKey.connect([this](GridKey key) {
+    if (key == GridKey::erase) removeAtCursor();
+  });
   cmdExcelSave.onClick.connect([this] { saveTable(); });
   cmdCompare.setVisible(false);
   cmdCompare.onClick.connect([this] { onCompare(); });
@@ -135,25 +139,71 @@ void SummaryPane::addField(Field& field, int column) {
   addMoney(field.getReturn() - field.getCosts());
 }
 
-void SummaryPane::removeClicked() {
+SummaryPane::Columns SummaryPane::columnsOf(std::size_t option) const {
+  int first = 1;
+  for (std::size_t i = 0; i < option; ++i)
+    first += static_cast<int>(summaryResults_[i]->Count());
+  return {first, first + static_cast<int>(summaryResults_[option]->Count()) - 1};
+}
+
+std::optional<std::size_t> SummaryPane::optionAt(int column) const {
+  for (std::size_t option = 0; option < summaryResults_.size(); ++option) {
+    const Columns columns = columnsOf(option);
+    if (column >= columns.first && column <= columns.last) return option;
+  }
+  return std::nullopt;
+}
+
+std::string SummaryPane::describe(std::size_t option) const {
+  return "Saved Option #" + std::to_string(option + 1) + ": " + cropsWithAcres(*summaryResults_[option]);
+}
+
+/// The option that a click on the current column removes. Each option counts one column more than it has
+/// fields, so the columns match those of the table for the first option only. This is intended.
+std::optional<std::size_t> SummaryPane::removedByClick() const {
+  int n = 1;
+  for (std::size_t option = 0; option < summaryResults_.size(); ++option) {
+    const int beyond = n + static_cast<int>(summaryResults_[option]->Count());
+    if (fgsummary.column() >= n && fgsummary.column() <= beyond) return option;
+    n = beyond + 1;
+  }
+  return std::nullopt;
+}
+
+/// Shows which option the question is about while it is asked.
+bool SummaryPane::askToRemove(std::optional<std::size_t> option) {
+  asksAbout_ = option;
+  onAsk();
   const MessageAnswer answer = ask(desk(), services_.messageBox,
                                    {"Delete?", "Do you want to delete this saved result?",
                                     MessageKind::question, MessageIcon::question, MessageButtons::yesNo});
-  if (answer != MessageAnswer::yes) return;
-  // Each option counts one column more than it has fields, so the columns match those of the table for the
-  // first option only. This is intended.
-  int n = 1;
-  for (auto option = summaryResults_.begin(); option != summaryResults_.end(); ++option) {
-    const int beyond = n + static_cast<int>((*option)->Count());
-    if (fgsummary.column() >= n && fgsummary.column() <= beyond) {
-      summaryResults_.erase(option);
-      showSummary();
-      return;
-    }
-    n = beyond + 1;
+  asksAbout_.reset();
+  onAsk();
+  return answer == MessageAnswer::yes;
+}
+
+void SummaryPane::remove(std::size_t option) {
+  summaryResults_.erase(summaryResults_.begin() + static_cast<std::ptrdiff_t>(option));
+  showSummary();
+}
+
+void SummaryPane::removeClicked() {
+  if (!askToRemove(removedByClick())) return;
+  // Found again: the options may have changed while the question was on show.
+  if (const std::optional<std::size_t> option = removedByClick()) {
+    remove(*option);
+    return;
   }
   // A click on the row headings removes nothing, but shows the pane again, which adds it to the pane history.
   onShowPane();
+}
+
+void SummaryPane::removeAtCursor() {
+  const std::optional<std::size_t> option = optionAt(fgsummary.column());
+  if (!option) return;
+  const std::shared_ptr<FieldCollection> asked = summaryResults_[*option];
+  if (!askToRemove(option)) return;
+  if (*option < summaryResults_.size() && summaryResults_[*option] == asked) remove(*option);
 }
 
 void SummaryPane::saveTable() {

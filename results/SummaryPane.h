@@ -1,8 +1,10 @@
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -22,8 +24,8 @@ namespace verdalis {
 /// "$1,234 /acre" becomes two fields. This is intended.
 [[nodiscard]] std::string commaSeparated(const Grid& grid);
 
-/// The table of the options saved for comparison, with a column for each field. Clicking a column removes its
-/// option; the table can be saved as a comma-separated file.
+/// The table of the options saved for comparison, with a column for each field. Clicking a column removes an
+/// option, and Delete the one whose field stands there; the table can be saved as a comma-separated file.
 class SummaryPane : public Frame {
  public:
   using SavedOptions = std::vector<std::shared_ptr<FieldCollection>>;
@@ -50,6 +52,27 @@ class SummaryPane : public Frame {
   /// \throws RunTimeError for a figure that cannot be calculated; the table then ends at that field
   void showSummary();
 
+  /// The columns of an option in the grid.
+  struct Columns {
+    int first = 0;
+    int last = 0;
+  };
+  [[nodiscard]] Columns columnsOf(std::size_t option) const;
+
+  /// The option whose field stands in a column, by its place from 0; nothing for a column without one.
+  [[nodiscard]] std::optional<std::size_t> optionAt(int column) const;
+
+  [[nodiscard]] std::size_t options() const { return summaryResults_.size(); }
+
+  /// An option in words, such as "Saved Option #2: Corn 94, Wheat 31".
+  [[nodiscard]] std::string describe(std::size_t option) const;
+
+  /// The option that the pane asks about; nothing while it does not ask.
+  [[nodiscard]] std::optional<std::size_t> asksAbout() const { return asksAbout_; }
+
+  /// asksAbout() has changed.
+  Event<> onAsk;
+
   /// The pane must be shown, even if it already is.
   Event<> onShowPane;
 
@@ -63,11 +86,16 @@ class SummaryPane : public Frame {
   void addOption(const FieldCollection& option, int number, int& column);
   void addField(Field& field, int column);
   void removeClicked();
+  void removeAtCursor();
+  [[nodiscard]] std::optional<std::size_t> removedByClick() const;
+  [[nodiscard]] bool askToRemove(std::optional<std::size_t> option);
+  void remove(std::size_t option);
   void saveTable();
 
   Services& services_;
   SavedOptions& summaryResults_;
   Outside outside_;
+  std::optional<std::size_t> asksAbout_;
 };
 
 }  // namespace verdalis

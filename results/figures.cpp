@@ -19,6 +19,11 @@ std::string dollarsAnAcre(double figure, std::string_view pattern) {
   return "$" + formatNumber(figure, pattern) + " /acre";
 }
 
+std::string wholeDollars(double amount) {
+  const std::string digits = formatNumber(amount, "###,##0");
+  return digits.front() == '-' ? "-$" + digits.substr(1) : "$" + digits;
+}
+
 std::string inches(double depth, std::string_view pattern) {
   return formatNumber(depth, pattern) + "''";
 }

@@ -18,6 +18,10 @@ namespace verdalis {
 /// \throws RunTimeError (overflow)
 [[nodiscard]] std::string dollarsAnAcre(double figure, std::string_view pattern);
 
+/// An amount in whole dollars, such as "$37,117" or "-$603".
+/// \throws RunTimeError (overflow)
+[[nodiscard]] std::string wholeDollars(double amount);
+
 /// A depth in inches, formatted with a number pattern and followed by two apostrophes for inches.
 /// \throws RunTimeError (overflow)
 [[nodiscard]] std::string inches(double depth, std::string_view pattern);

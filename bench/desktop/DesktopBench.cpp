@@ -3,11 +3,13 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QProcess>
+#include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTest>
 #include <filesystem>
 
 #include "desktop/Desktop.h"
+#include "desktop/TableView.h"
 #include "desktop/Theme.h"
 
 // What a user waits for: the start until the main pane is painted, a key press until the field is painted,
@@ -156,6 +158,73 @@ void pasteToRepaint(benchmark::State& state) {
   }
 }
 BENCHMARK(pasteToRepaint)->Unit(benchmark::kMicrosecond);
+
+/// A table with as many records as a run can keep options, in a window of its own.
+struct ShownTable {
+  ShownTable() {
+    window.open();
+    view->resize(1100, 400);
+    view->show();
+  }
+
+  void fill() {
+    constexpr std::size_t mostOptions = 32767;
+    Table::Contents contents;
+    contents.records = mostOptions;
+    contents.cell = [](std::size_t record, std::size_t column) {
+      return Table::Cell{std::to_string(record * 10 + column), column > 1 ? std::optional(0.5) : std::nullopt,
+                         false};
+    };
+    contents.before = [](std::size_t a, std::size_t b, std::size_t) {
+      return a * 7919 % mostOptions < b * 7919 % mostOptions;
+    };
+    table.setContents(
+        {{"Rank"}, {"Crops"}, {"a"}, {"b"}, {"c"}, {"d"}, {"$/acre"}, {"Farm"}, {"Behind the best"}},
+        std::move(contents));
+  }
+
+  void paint() const {
+    view->viewport()->repaint();
+    QCoreApplication::processEvents();
+  }
+
+  Desk desk;
+  Window window{desk, "frmMain"};
+  Table table{window, "tblOptions"};
+  desktop::Binder binder{desk};
+  std::unique_ptr<desktop::TableView> view{
+      binder.bind(table, new desktop::TableView, QStringLiteral("Options"))};
+};
+
+void fillLongTableToRepaint(benchmark::State& state) {
+  ShownTable shown;
+  for (auto _ : state) {
+    shown.fill();
+    shown.paint();
+  }
+}
+BENCHMARK(fillLongTableToRepaint)->Unit(benchmark::kMillisecond);
+
+void sortLongTableToRepaint(benchmark::State& state) {
+  ShownTable shown;
+  shown.fill();
+  for (auto _ : state) {
+    shown.table.clickHeading(7);
+    shown.paint();
+  }
+}
+BENCHMARK(sortLongTableToRepaint)->Unit(benchmark::kMillisecond);
+
+void scrollLongTableToRepaint(benchmark::State& state) {
+  ShownTable shown;
+  shown.fill();
+  QScrollBar* bar = shown.view->verticalScrollBar();
+  for (auto _ : state) {
+    bar->setValue((bar->value() + 5003) % bar->maximum());
+    shown.paint();
+  }
+}
+BENCHMARK(scrollLongTableToRepaint)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 

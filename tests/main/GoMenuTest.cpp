@@ -59,6 +59,7 @@ TEST_F(GoMenuOnAFarm, LeadsOutOfASummaryTableThatWasOpenedTwice) {
 
 TEST_F(GoMenuOnAFarm, EndsATrendOnTheWayOut) {
   evaluate();
+  type("cr(1).txtPrice", "6.50");  // as the saved inputs bring it back
   const std::vector<std::string> before = live();
   for (const char* entry : {"mnuGoMain", "mnuGoResults"}) {
     runVariable(1, 0, "4, 5");
@@ -89,14 +90,14 @@ TEST_F(GoMenuOnAFarm, TrendResultsCanBeLookedAtAfterTheTrend) {
   EXPECT_EQ(pane(), "pneBatchSetup(1)");
   running.press(std::string(result) + ".rh(0).cmdDetails");
   EXPECT_EQ(pane(), "pneDetails");
-  running.press("Command3");
+  running.press("theDetails.Command3");
   EXPECT_EQ(pane(), "pneBatchSetup(1)");
   EXPECT_EQ(live(), inputs);
   running.press(std::string(result) + ".Command1");
   EXPECT_EQ(pane(), "pneMain");
   evaluate();
   running.press("theResults.rh(0).cmdDetails");
-  running.press("Command3");
+  running.press("theDetails.Command3");
   EXPECT_EQ(pane(), "pneResults");
 }
 

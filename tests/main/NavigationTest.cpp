@@ -147,6 +147,12 @@ TEST_F(Navigation, MenusHaveTheirOrderAndTheirStates) {
                               "  mnuCustomCrop \"Manage Custom Crops\"",
                               "  mnuEnableBatch \"Enable Trend Processing\"",
                               "  mnuFallBatch \"Run a variable trend process\" disabled",
+                              "mnuGo \"Go\"",
+                              "  mnuGoMain \"Main page\"",
+                              "  mnuGoResults \"Results\" disabled",
+                              "  mnuGoTrend \"Trend results\" disabled",
+                              "  mnuGoSummary \"Summary table\" disabled",
+                              "  mnuGoCompare \"Compare\" disabled",
                               "mnuAbout \"Help\"",
                               "  mnuHelp \"Help\"",
                               "  mnuAboutVDL \"About Verdalis...\""}));

@@ -214,8 +214,8 @@ class BrokenPrinter : public FakePrinter {
 
 TEST_F(Notices, TellAReportThatCannotBePrinted) {
   BrokenPrinter printer;
-  Services broken{fakes.messageBox, fakes.fileChooser, fakes.clipboard, fakes.help,
-                  fakes.openFile,   fakes.clock,       fakes.eventPump, printer};
+  Services broken{fakes.messageBox, fakes.fileChooser, fakes.clipboard, fakes.help,      fakes.openFile,
+                  fakes.clock,      fakes.eventPump,   printer,         fakes.background};
   program = std::make_unique<Program>(broken, home());
   program->welcome.Command1.click();
   typeFarm();

@@ -153,6 +153,57 @@ TEST_F(ResultsTest, PagingStopsBeforeThePlaceholders) {
   EXPECT_TRUE(results.cmdAdvance.enabled());
 }
 
+TEST_F(ResultsTest, TellsHowManyOptionsThereAreAndTheMoneyOfTheFarm) {
+  EXPECT_EQ(results.lblOf.caption(), "");
+  results.loadResults({optionEarning(100), optionEarning(-90), placeholder()});
+  EXPECT_EQ(results.lblOf.caption(), "of 2");
+  EXPECT_EQ(results.lblFarmProfit.caption(), "$1,000 for the farm");
+  advance(1);
+  EXPECT_EQ(results.lblFarmProfit.caption(), "-$900 for the farm");
+}
+
+TEST_F(ResultsTest, TheTableListsTheOptionsAndFollowsTheOneOnShow) {
+  results.plansCompared = 12;
+  results.loadResults({optionEarning(100), optionEarning(90), optionEarning(80), placeholder()});
+  EXPECT_EQ(desk.find("theResults.tblOptions"), &results.all.tblOptions);
+  EXPECT_EQ(results.all.tblOptions.records(), 3U);
+  EXPECT_EQ(results.all.tblOptions.current(), 0U);
+  EXPECT_TRUE(results.all.lblOptionsNote.caption().ends_with(" 12 plans compared."));
+  advance(1);
+  EXPECT_EQ(results.all.tblOptions.current(), 1U);
+}
+
+TEST_F(ResultsTest, ARowOfTheTableLeadsToItsOptionAsASteppingButtonDoes) {
+  results.loadResults({optionEarning(100), optionEarning(90), optionEarning(80)});
+  results.all.tblOptions.choose(2);
+  EXPECT_EQ(results.getOption(), 3);
+  EXPECT_EQ(results.lblCounter.caption(), "Option 3");
+  EXPECT_EQ(results.lblTotalProfit.caption(), "$80 /acre");
+  EXPECT_THAT(rowsShown(), ElementsAre(0));
+  results.cmdAdvance.click();
+  EXPECT_EQ(results.getOption(), 3);
+  results.cmdPrevious.click();
+  EXPECT_EQ(results.lblCounter.caption(), "Option 2");
+  EXPECT_EQ(results.all.tblOptions.current(), 1U);
+  results.all.tblOptions.choose(0);
+  EXPECT_EQ(results.lblCounter.caption(), "Option 1");
+}
+
+TEST_F(ResultsTest, AnOptionThatDoesNotExistIsNotShown) {
+  results.loadResults({optionEarning(100), placeholder()});
+  for (const int number : {0, -1, 2, 32767})
+    results.showOption(static_cast<std::int16_t>(number));
+  EXPECT_EQ(results.getOption(), 1);
+  EXPECT_EQ(results.lblCounter.caption(), "Option 1");
+}
+
+TEST_F(ResultsTest, ListingTheOptionsStoresNothingInThem) {
+  const auto second = optionEarning(90);
+  results.loadResults({optionEarning(100), second});
+  EXPECT_EQ(second->TotalCost, 0);
+  EXPECT_EQ(second->Item(1)->TotalReturn, 0);
+}
+
 TEST_F(ResultsTest, ThereIsNoOptionBeforeTheFirst) {
   results.loadResults({optionEarning(100), optionEarning(90)});
   results.cmdPrevious.click();

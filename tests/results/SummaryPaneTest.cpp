@@ -134,6 +134,84 @@ TEST_F(SummaryPaneTest, RainAndGrossDepthAreTheCurrentOnes) {
   EXPECT_EQ(pane.fgsummary.cell(6, 1), "0''");
 }
 
+TEST_F(SummaryPaneTest, KnowsWhichOptionStandsInAColumn) {
+  saved = {fieldsOf(3), fieldsOf(1), fieldsOf(2)};
+  pane.showSummary();
+  EXPECT_EQ(pane.options(), 3U);
+  EXPECT_EQ(pane.columnsOf(0).first, 1);
+  EXPECT_EQ(pane.columnsOf(0).last, 3);
+  EXPECT_EQ(pane.columnsOf(2).first, 5);
+  EXPECT_EQ(pane.columnsOf(2).last, 6);
+  EXPECT_EQ(pane.optionAt(0), std::nullopt);
+  EXPECT_EQ(pane.optionAt(3), 0U);
+  EXPECT_EQ(pane.optionAt(4), 1U);
+  EXPECT_EQ(pane.optionAt(5), 2U);
+  EXPECT_EQ(pane.optionAt(7), std::nullopt);
+}
+
+TEST_F(SummaryPaneTest, NamesAnOptionByItsCrops) {
+  saved = {optionOf({plainField(30, 1, 1, 0, "Wheat"), plainField(62.5, 1, 1, 0, "Corn")}), fieldsOf(1)};
+  EXPECT_EQ(pane.describe(0), "Saved Option #1: Corn 63, Wheat 30");
+  EXPECT_EQ(pane.describe(1), "Saved Option #2: Millet 10");
+}
+
+TEST_F(SummaryPaneTest, DeleteRemovesTheOptionOfTheCellAfterTheQuestion) {
+  const auto last = fieldsOf(2);
+  saved = {fieldsOf(1), fieldsOf(2), last};
+  pane.showSummary();
+  shows = 0;
+  fake.messageBox.answers = {MessageAnswer::no, MessageAnswer::yes};
+  pane.fgsummary.setCurrent(4, 5);
+  pane.fgsummary.pressKey(GridKey::erase);
+  EXPECT_EQ(saved.size(), 3U);
+  pane.fgsummary.pressKey(GridKey::erase);
+  ASSERT_EQ(saved.size(), 2U);
+  EXPECT_NE(saved[1], last);
+  EXPECT_EQ(shows, 1);
+  ASSERT_EQ(fake.messageBox.log.size(), 2U);
+  EXPECT_EQ(fake.messageBox.log[1].text, "Do you want to delete this saved result?");
+  EXPECT_EQ(fake.messageBox.log[1].title, "Delete?");
+}
+
+TEST_F(SummaryPaneTest, DeleteOnTheRowHeadsAndOtherKeysDoNothing) {
+  saved = {fieldsOf(1)};
+  pane.showSummary();
+  pane.fgsummary.setCurrent(2, 0);
+  pane.fgsummary.pressKey(GridKey::erase);
+  pane.fgsummary.setCurrent(2, 1);
+  pane.fgsummary.pressKey(GridKey::copy);
+  EXPECT_TRUE(fake.messageBox.log.empty());
+  EXPECT_EQ(saved.size(), 1U);
+}
+
+TEST_F(SummaryPaneTest, TellsWhichOptionTheQuestionIsAbout) {
+  saved = {fieldsOf(1), fieldsOf(1), fieldsOf(1)};
+  pane.showSummary();
+  std::vector<std::optional<std::size_t>> told;
+  pane.onAsk.connect([&] { told.push_back(pane.asksAbout()); });
+  std::optional<std::size_t> during;
+  fake.messageBox.onShow = [&](const Message&) { during = pane.asksAbout(); };
+  fake.messageBox.answers = {MessageAnswer::no, MessageAnswer::no, MessageAnswer::yes};
+  pane.fgsummary.setCurrent(1, 3);
+  pane.fgsummary.pressKey(GridKey::erase);
+  EXPECT_EQ(during, 2U);
+  pane.fgsummary.clickCell(1, 3);
+  EXPECT_EQ(during, 1U) << "a click counts a column more for each option";
+  EXPECT_THAT(told, ElementsAre(2U, std::nullopt, 1U, std::nullopt));
+  const auto second = saved[1];
+  pane.fgsummary.clickCell(1, 3);
+  EXPECT_EQ(std::count(saved.begin(), saved.end(), second), 0) << "what was told is what goes";
+}
+
+TEST_F(SummaryPaneTest, AnOptionThatIsGoneAtTheAnswerIsNotReplacedByAnother) {
+  saved = {fieldsOf(1), fieldsOf(1)};
+  pane.showSummary();
+  pane.fgsummary.setCurrent(1, 1);
+  fake.messageBox.onShow = [&](const Message&) { saved.erase(saved.begin()); };
+  pane.fgsummary.pressKey(GridKey::erase);
+  EXPECT_EQ(saved.size(), 1U);
+}
+
 TEST_F(SummaryPaneTest, TheSameOptionCanBeSavedTwice) {
   const auto option = fieldsOf(1);
   saved = {option, option};
