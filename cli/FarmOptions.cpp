@@ -9,6 +9,7 @@
 #include "data/home.h"
 #include "data/readFile.h"
 #include "document/farmText.h"
+#include "screens/paneWishes.h"
 #include "text/RunTimeError.h"
 #include "text/numbers.h"
 #include "text/quote.h"
@@ -208,16 +209,8 @@ void requireReady(const FarmRequest& request, TypedFarm& farm) {
 
 void requireFitting(const std::vector<Wish>& wishes, const WishContext& context) {
   for (const Wish& wish : wishes) {
-    const std::string text = wishText(wish);
-    WishContext known = context;
-    // A crop that is missing is in no plan, so a wish for little or none of it is met.
-    if (wish.kind == Wish::Kind::acresAtMost || wish.kind == Wish::Kind::fieldIsNot)
-      known.library.push_back(wish.crop);
-    try {
-      static_cast<void>(readWish(text, known));
-    } catch (const std::invalid_argument& error) {
-      throw Refusal("The wish " + quoteForMessage(text) + " of the farm file: " + error.what());
-    }
+    if (const auto fault = wishFault(wish, context))
+      throw Refusal("The wish " + quoteForMessage(wishText(wish)) + " of the farm file: " + *fault);
   }
 }
 

@@ -44,6 +44,9 @@ class TerminalServices : public MessageBoxService,
   std::optional<int> askCopies() override { return std::nullopt; }
   std::unique_ptr<PageSurface> beginDocument() override { return nullptr; }
 
+  /// Does nothing: nobody looks at the pages that ask for work.
+  void run(const std::function<void()>&, const std::function<void()>&) override {}
+
  private:
   Messages& messages_;
   std::optional<std::string> refusal_;

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "cli/farmTexts.h"
+#include "screens/paneWishes.h"
 #include "screens/readScenario.h"
 #include "text/quote.h"
 
@@ -168,13 +169,7 @@ void TypedFarm::tickNoSplit() {
 }
 
 WishContext TypedFarm::wishContext() {
-  WishContext context;
-  context.library = cropNames();
-  for (const auto& row : mainPane().cr) {
-    if (row->Crop && row->isActive()) context.chosen.push_back(row->Crop->cropType);
-  }
-  context.fields = static_cast<std::size_t>(getLandSplit(mainPane().landSplitButtons()).Count());
-  return context;
+  return wishContextOf(mainPane());
 }
 
 Farm TypedFarm::farm() {

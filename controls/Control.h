@@ -187,6 +187,9 @@ class Desk {
   /// message box.
   [[nodiscard]] bool isInsideAction() const { return actions_ > 1; }
 
+  /// Whether an action of the user is being carried out.
+  [[nodiscard]] bool isActing() const { return actions_ > 0; }
+
   Desk() = default;
   Desk(const Desk&) = delete;
   Desk& operator=(const Desk&) = delete;

@@ -19,6 +19,7 @@ constexpr int copyAfter = 800;
 Desktop::Desktop(const ProgramFiles& files, const QString& helpFolder,
                  const std::optional<std::filesystem::path>& farm)
     : services_(helpFolder), table_(services_.services()), program_(table_, files), binder_(program_.desk) {
+  services_.background().waitFor(program_.desk);
   program_.onMainCreated.connect([this](frmMain& window) {
     main_ = std::make_unique<MainWindow>(
         window, binder_, [this](const QString& topic) { services_.showTopic(programText(topic)); });

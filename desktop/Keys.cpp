@@ -60,7 +60,8 @@ QChar takeBestLetter(const QString& text, QSet<QChar>& used) {
 bool isRepeated(const QWidget* widget) {
   const QString name = widget->objectName();
   return name.startsWith(QLatin1String("cr(")) || name.contains(QLatin1String("rh(")) ||
-         name.startsWith(QLatin1String("chkCompare("));
+         name.startsWith(QLatin1String("chkCompare(")) || name.startsWith(QLatin1String("pneSeasons.txt")) ||
+         name.startsWith(QLatin1String("cmdRemoveWish("));
 }
 
 bool takesKey(const QWidget* widget) {

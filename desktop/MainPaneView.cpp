@@ -20,6 +20,7 @@
 
 #include "desktop/Keys.h"
 #include "desktop/LandSplitPicture.h"
+#include "desktop/WishesView.h"
 #include "model/LandDivision.h"
 
 namespace verdalis::desktop {
@@ -48,6 +49,8 @@ void setColumns(QGridLayout* grid) {
   grid->setColumnStretch(nameColumn, 1);
 }
 
+constexpr int hintDelay = 120;  // milliseconds from a change to the marks of the fields
+
 constexpr const char* ownTip = "ownTip";  // the tool tip of a field without a hint
 
 /// The hint beside the heading of a card, where it takes no room from the page.
@@ -66,7 +69,8 @@ const FieldRow* rowOf(std::string_view control) {
 
 }  // namespace
 
-MainPaneView::MainPaneView(MainPane& pane, Binder& binder) : pane_(pane), binder_(binder) {
+MainPaneView::MainPaneView(MainPane& pane, WishesCard& wishes, Binder& binder)
+    : pane_(pane), binder_(binder) {
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   const PageWithButtons view = pageWithButtons();
@@ -77,13 +81,18 @@ MainPaneView::MainPaneView(MainPane& pane, Binder& binder) : pane_(pane), binder
   top->addWidget(landCard(), 4);
   view.body->addLayout(top);
   view.body->addWidget(cropCard());
-  view.body->addWidget(plantCard());
+  view.body->addWidget(wishesView(wishes, binder_));
+  view.body->addWidget(plantCard(wishes));
   view.body->addStretch();
   fillFooter(view.buttons);
   rowChanges_ = pane_.onRowsChanged.connectScoped([this] { rebuildRows(); });
   rebuildRows();
   drawPictures();
-  hintChanges_ = pane_.onHints.connectScoped([this] { showHints(); });
+  // Marking takes longer than a key may.
+  hints_.setSingleShot(true);
+  hints_.setInterval(hintDelay);
+  connect(&hints_, &QTimer::timeout, this, [this] { showHints(); });
+  hintChanges_ = pane_.onHints.connectScoped([this] { hints_.start(); });
   showHints();
 }
 
@@ -211,7 +220,7 @@ QWidget* MainPaneView::cropCard() {
   return crops.frame;
 }
 
-QWidget* MainPaneView::plantCard() {
+QWidget* MainPaneView::plantCard(WishesCard& wishes) {
   const Card plant = card();
   auto* line = new QHBoxLayout;
   line->setSpacing(12);
@@ -223,14 +232,17 @@ QWidget* MainPaneView::plantCard() {
   auto* instruction = fixedLabel(QString::fromLatin1(batchInstructions[2]), "muted");
   instruction->setWordWrap(true);
   line->addWidget(instruction, 1);
+  line->addWidget(wishesButton(wishes, binder_));
   line->addWidget(binder_.bind(pane_.Command7, new QPushButton));
   plant.body->addLayout(line);
 
   auto* trends = new QWidget;
-  auto* lines = new QVBoxLayout(trends);
-  lines->setContentsMargins(0, 4, 0, 0);
-  lines->addWidget(fixedLabel(QString::fromLatin1(batchInstructions[0]), "muted"));
-  lines->addWidget(fixedLabel(QString::fromLatin1(batchInstructions[1]), "muted"));
+  auto* instructions = new QHBoxLayout(trends);
+  instructions->setContentsMargins(0, 0, 0, 0);
+  instructions->setSpacing(24);
+  instructions->addWidget(fixedLabel(QString::fromLatin1(batchInstructions[0]), "muted"));
+  instructions->addWidget(fixedLabel(QString::fromLatin1(batchInstructions[1]), "muted"));
+  instructions->addStretch();
   plant.body->addWidget(trends);
   binder_.bind(pane_.pnlBatchInstructions, trends);
   return plant.frame;

@@ -1,12 +1,14 @@
 #pragma once
 
 #include <QPointer>
+#include <QTimer>
 #include <QWidget>
 #include <vector>
 
 #include "desktop/Page.h"
 #include "desktop/Theme.h"
 #include "screens/MainPane.h"
+#include "screens/WishesCard.h"
 
 class QButtonGroup;
 class QGridLayout;
@@ -21,7 +23,7 @@ class MainPaneView : public QWidget {
   Q_OBJECT
 
  public:
-  MainPaneView(MainPane& pane, Binder& binder);
+  MainPaneView(MainPane& pane, WishesCard& wishes, Binder& binder);
 
  protected:
   void changeEvent(QEvent* event) override;
@@ -33,7 +35,7 @@ class MainPaneView : public QWidget {
   [[nodiscard]] QWidget* farmCard();
   [[nodiscard]] QWidget* landCard();
   [[nodiscard]] QWidget* cropCard();
-  [[nodiscard]] QWidget* plantCard();
+  [[nodiscard]] QWidget* plantCard(WishesCard& wishes);
   void fillFooter(QHBoxLayout* line);
   void rebuildRows();
   void orderRows();
@@ -46,6 +48,7 @@ class MainPaneView : public QWidget {
   Binder& binder_;
   Connection rowChanges_;
   Connection hintChanges_;
+  QTimer hints_;
   std::vector<QPointer<QWidget>> hinted_;  ///< Fields that are marked now
   QGridLayout* heads_ = nullptr;
   QWidget* beforeRows_ = nullptr;  ///< The last one that Tab stops at before the crop rows

@@ -23,8 +23,10 @@
 #include "desktop/CustomCropView.h"
 #include "desktop/DetailsView.h"
 #include "desktop/Keys.h"
+#include "desktop/LiveView.h"
 #include "desktop/MainPaneView.h"
 #include "desktop/NoticeView.h"
+#include "desktop/QuestionViews.h"
 #include "desktop/RecentMenu.h"
 #include "desktop/ResultViews.h"
 #include "desktop/SummaryView.h"
@@ -35,8 +37,8 @@ namespace {
 
 constexpr QSize smallest(1000, 660);
 constexpr QSize usual(1180, 820);
-constexpr const char* topicProperty = "topic";  // of a page, where nothing on it says more
-constexpr const char* menuLetters = "flsetgh";  // of the menu bar
+constexpr const char* topicProperty = "topic";   // of a page, where nothing on it says more
+constexpr const char* menuLetters = "flsetxgh";  // of the menu bar
 
 /// Whether Tab stops at a widget that is more than a way to the help.
 bool takesWork(const QWidget* widget) {
@@ -68,12 +70,12 @@ MainWindow::MainWindow(frmMain& window, Binder& binder, std::function<void(const
   layout->setSpacing(0);
   auto* band = new QFrame;
   band->setObjectName(QStringLiteral("band"));
-  auto* bandLayout = new QVBoxLayout(band);
+  auto* bandLayout = new QHBoxLayout(band);
   bandLayout->setContentsMargins(24, 8, 24, 8);
   auto* info = new QLabel;
   info->setProperty("role", "band");
   info->setWordWrap(true);
-  bandLayout->addWidget(binder_.bind(window_.lblMainInfo, info, tr("Information")));
+  addCentred(bandLayout, binder_.bind(window_.lblMainInfo, info, tr("Information")), pageWidth);
   layout->addWidget(band);
   layout->addWidget(noticeView(window_.notices, binder_));
   layout->addWidget(recoveryView(window_.recovery, binder_));
@@ -81,7 +83,7 @@ MainWindow::MainWindow(frmMain& window, Binder& binder, std::function<void(const
   layout->addWidget(stack_, 1);
   setCentralWidget(centre);
 
-  addPane(window_.pneMain, new MainPaneView(window_.pneMain, binder_), "mainInput.htm");
+  addPane(window_.pneMain, new MainPaneView(window_.pneMain, window_.wishesCard, binder_), "mainInput.htm");
   addPane(window_.pneInputCosts, inputCostsView(window_.pneInputCosts, binder_), "inputcosts.htm");
   addPane(window_.pneIrrigCosts, irrigCostsView(window_.pneIrrigCosts, binder_), "irrigationCosts.htm");
   addPane(window_.pneResults, resultsView(window_.theResults, binder_, QString::fromLatin1(resultsHeading)),
@@ -89,7 +91,15 @@ MainWindow::MainWindow(frmMain& window, Binder& binder, std::function<void(const
   addPane(window_.pneDetails, detailsView(window_.theDetails, binder_), "details.htm");
   addPane(window_.pneSummary, summaryView(window_.pneSummary, binder_), "summary.htm");
   addPane(window_.pneCompare, compareView(window_.pneCompare, binder_), "summary.htm#compare");
+  addPane(window_.pneLive, liveView(window_.pneLive, binder_), "questions.htm#live");
   addPane(window_.pneCustomCrop, customCropView(window_.pneCustomCrop, binder_), "customcrops.htm");
+  QuestionPanes& questions = window_.questions;
+  addPane(questions.mixes, mixesView(questions.mixes, binder_), "questions.htm#mixes");
+  addPane(questions.water, waterView(questions.water, binder_), "questions.htm#water");
+  addPane(questions.switches, switchView(questions.switches, binder_), "questions.htm#switch");
+  addPane(questions.seasons, seasonsView(questions.seasons, binder_), "questions.htm#seasons");
+  addPane(questions.inputs, inputsView(questions.inputs, binder_), "questions.htm#inputs");
+  addPane(questions.map, mapView(questions.map, binder_), "questions.htm#map");
   TrendScreens& trends = window_.trends;
   addPane(trends.pneBatchSetup0, batchSetupView(trends.pneBatchSetup0, binder_), "batchoption.htm");
   addPane(trends.pneBatchSetup1, batchResultsView(trends.pneBatchSetup1, binder_), "batchoption.htm");
@@ -160,6 +170,12 @@ void MainWindow::addMenus() {
   add(tools, menus.mnuCustomCrop);
   add(tools, menus.mnuEnableBatch);
   add(tools, menus.mnuFallBatch);
+  QMenu* explore = menu(menus.mnuExplore, tr("E&xplore"));
+  for (MenuEntry* entry : {&menus.mnuMixes, &menus.mnuWater, &menus.mnuSwitch, &menus.mnuSeasons,
+                           &menus.mnuInputs, &menus.mnuMap})
+    addStep(explore, *entry, {});
+  explore->addSeparator();
+  addStep(explore, menus.mnuLive, QKeySequence(Qt::CTRL | Qt::Key_L));
   QMenu* go = menu(menus.mnuGo, tr("&Go"));
   int page = Qt::Key_1;
   for (MenuEntry* entry :
@@ -168,7 +184,7 @@ void MainWindow::addMenus() {
   QMenu* help = menu(menus.mnuAbout, tr("&Help"));
   add(help, menus.mnuHelp);
   add(help, menus.mnuAboutVDL);
-  for (QMenu* made : {file, location, edit, tools, go, help})
+  for (QMenu* made : {file, location, edit, tools, explore, go, help})
     assignKeys(made);
 }
 

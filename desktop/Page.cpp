@@ -61,11 +61,7 @@ Page page(int width) {
   auto* centring = new QHBoxLayout(ground);
   centring->setContentsMargins(24, 12, 24, 14);
   auto* content = new QWidget;
-  content->setMaximumWidth(scaled(width));
-  content->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-  centring->addStretch(1);
-  centring->addWidget(content, 1000);
-  centring->addStretch(1);
+  addCentred(centring, content, width);
   auto* body = new QVBoxLayout(content);
   body->setContentsMargins(0, 0, 0, 0);
   body->setSpacing(12);
@@ -80,18 +76,30 @@ PageWithButtons pageWithButtons(int width) {
   layout->setSpacing(0);
   const Page scrolled = page(width);
   layout->addWidget(scrolled.area, 1);
-  QHBoxLayout* buttons = footerOf(layout);
+  QHBoxLayout* buttons = footerOf(layout, width);
   return {widget, scrolled.area, scrolled.body, buttons};
 }
 
-QHBoxLayout* footerOf(QVBoxLayout* layout) {
+QHBoxLayout* footerOf(QVBoxLayout* layout, std::optional<int> width) {
   auto* bar = new QFrame;
   bar->setObjectName(QStringLiteral("footer"));
-  auto* buttons = new QHBoxLayout(bar);
-  buttons->setContentsMargins(24, 10, 24, 12);
+  auto* row = new QWidget;
+  auto* buttons = new QHBoxLayout(row);
+  buttons->setContentsMargins(0, 0, 0, 0);
   buttons->setSpacing(10);
+  auto* centring = new QHBoxLayout(bar);
+  centring->setContentsMargins(24, 10, 24, 12);
+  addCentred(centring, row, width);
   layout->addWidget(bar);
   return buttons;
+}
+
+void addCentred(QHBoxLayout* line, QWidget* content, std::optional<int> width) {
+  if (width) content->setMaximumWidth(scaled(*width));
+  content->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+  line->addStretch(1);
+  line->addWidget(content, 1000);
+  line->addStretch(1);
 }
 
 QWidget* inPane(QWidget* control) {

@@ -3,6 +3,7 @@
 #include <QSize>
 #include <QString>
 #include <functional>
+#include <optional>
 #include <span>
 #include <string_view>
 
@@ -69,7 +70,11 @@ struct PageWithButtons {
 [[nodiscard]] PageWithButtons pageWithButtons(int width = pageWidth);
 
 /// A row for buttons below a page; stays visible while the page scrolls.
-[[nodiscard]] QHBoxLayout* footerOf(QVBoxLayout* layout);
+/// \param width maximum width of the row, in pixels at the default font size; nothing for the whole window.
+[[nodiscard]] QHBoxLayout* footerOf(QVBoxLayout* layout, std::optional<int> width = {});
+
+/// Adds contents in the middle of a line, with a maximum width as above.
+void addCentred(QHBoxLayout* line, QWidget* content, std::optional<int> width);
 
 /// A page for a pane with a single composite control.
 [[nodiscard]] QWidget* inPane(QWidget* control);

@@ -6,6 +6,7 @@
 
 #include "controls/services.h"
 #include "desktop/Printing.h"
+#include "desktop/QtBackground.h"
 
 namespace verdalis::desktop {
 
@@ -19,16 +20,17 @@ class QtServices : public MessageBoxService,
                    public OpenFileService,
                    public ClockService,
                    public EventPumpService,
-                   public PrinterService,
-                   public BackgroundService {
+                   public PrinterService {
  public:
   /// \param helpFolder folder of the help topics.
   explicit QtServices(const QString& helpFolder);
   ~QtServices() override;
 
   [[nodiscard]] Services services() {
-    return {*this, *this, *this, *this, *this, *this, *this, *this, *this};
+    return {*this, *this, *this, *this, *this, *this, *this, *this, background_};
   }
+
+  [[nodiscard]] QtBackground& background() { return background_; }
 
   /// The help window; created on first use.
   [[nodiscard]] HelpViewer& help();
@@ -50,6 +52,7 @@ class QtServices : public MessageBoxService,
   QString helpFolder_;
   std::unique_ptr<HelpViewer> help_;
   Printing printing_;
+  QtBackground background_;
 };
 
 }  // namespace verdalis::desktop

@@ -35,6 +35,14 @@ struct MainMenus {
         mnuCustomCrop(window, "mnuCustomCrop", "Manage Custom Crops", &mnuTools),
         mnuEnableBatch(window, "mnuEnableBatch", "Enable Trend Processing", &mnuTools),
         mnuFallBatch(window, "mnuFallBatch", "Run a variable trend process", &mnuTools),
+        mnuExplore(window, "mnuExplore", "Explore"),
+        mnuMixes(window, "mnuMixes", "Mixes", &mnuExplore),
+        mnuWater(window, "mnuWater", "Value of Water", &mnuExplore),
+        mnuSwitch(window, "mnuSwitch", "Switch Prices", &mnuExplore),
+        mnuSeasons(window, "mnuSeasons", "Seasons", &mnuExplore),
+        mnuInputs(window, "mnuInputs", "What Matters", &mnuExplore),
+        mnuMap(window, "mnuMap", "Map", &mnuExplore),
+        mnuLive(window, "mnuLive", "Live", &mnuExplore),
         mnuGo(window, "mnuGo", "Go"),
         mnuGoMain(window, "mnuGoMain", "Main page", &mnuGo),
         mnuGoResults(window, "mnuGoResults", "Results", &mnuGo),
@@ -77,6 +85,14 @@ struct MainMenus {
   MenuEntry mnuCustomCrop;
   MenuEntry mnuEnableBatch;
   MenuEntry mnuFallBatch;
+  MenuEntry mnuExplore;  ///< A page for each question about the farm
+  MenuEntry mnuMixes;
+  MenuEntry mnuWater;
+  MenuEntry mnuSwitch;
+  MenuEntry mnuSeasons;
+  MenuEntry mnuInputs;
+  MenuEntry mnuMap;
+  MenuEntry mnuLive;
   MenuEntry mnuGo;  ///< The pages that have something to show
   MenuEntry mnuGoMain;
   MenuEntry mnuGoResults;

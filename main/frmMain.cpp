@@ -50,7 +50,10 @@ frmMain::frmMain(Desk& desk, Services& services, ProgramState& state, SecondaryW
            [this](const std::filesystem::path& path, std::string_view bytes) { saveTable(path, bytes); }}),
       savedForCompare([this]() -> const SharedList<SavedOption>& { return keeper.document().saved; }),
       pneCompare(*this, services, [this]() -> const SharedList<SavedOption>& { return savedForCompare(); }),
+      pneLive(*this, services, [this] { return farmToExplore(); }),
       pneCustomCrop(*this, services, files.home / "crops" / "custom"),
+      questions(
+          *this, services, [this] { return farmToExplore(); }, [this] { return farmSeasons(); }),
       thePrinter(services.printer,
                  {[this] {
                     return ReportedFarm{
@@ -89,6 +92,8 @@ frmMain::frmMain(Desk& desk, Services& services, ProgramState& state, SecondaryW
                                                    &trends.pneBatchSetup0, &trends.pneBatchSetup1}) {
     panes.addPane(*pane);
   }
+  for (QuestionPane* page : questions.all())
+    panes.addPane(*page);
   onCloseByUser = [this] { exit(); };
   wireMenus();
   wirePanes();
@@ -97,6 +102,9 @@ frmMain::frmMain(Desk& desk, Services& services, ProgramState& state, SecondaryW
   wireNotices();
   wireFarms();
   wireLosses();
+  wireLive();
+  wireQuestions();
+  wireWishes();
   desk.onActed.connect([this] {
     if (pneMain.visible()) pneMain.showHints(state_.FineFactor);
   });
@@ -346,9 +354,10 @@ void frmMain::Command1_Click() {
   // Seconds since midnight and not the duration of the run: the label has always shown this.
   pneMain.lblNumber.setCaption("This took " + std::to_string(services_.clock.now().secondsSinceMidnight()) +
                                " seconds");
-  showPane(pneResults);
-  theResults.ShowBatchedVariables(false);
   const std::vector<Results::Option> options = best.returnCollection(true);
+  const bool noPlan = !pneMain.wishes.empty() && options.front()->isNew;
+  if (!noPlan) showPane(pneResults);
+  theResults.ShowBatchedVariables(false);
   theResults.EnableBatch(TrendEnabled);
   theResults.plansCompared = plansOfLastRun();
   theResults.evaluatedFarm = farm;
@@ -357,7 +366,8 @@ void frmMain::Command1_Click() {
   // Packed again: the first packing may have brought new duplicates together. Then the report lists fewer
   // options than the screen.
   thePrinter.setCollection(best.returnCollection(true));
-  menus.mnuPrint.setEnabled(true);
+  menus.mnuPrint.setEnabled(!noPlan);
+  if (noPlan) tellNoPlan();
 }
 
 /// Nothing for inputs that a run refuses: it tells why by itself.

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <functional>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -28,10 +29,12 @@
 #include "main/NoticeBar.h"
 #include "main/PaneStack.h"
 #include "main/ProgramFiles.h"
+#include "main/QuestionPanes.h"
 #include "main/RecoveryBar.h"
 #include "main/SavedInputsKeeper.h"
 #include "main/SecondaryWindows.h"
 #include "main/SinceLastRun.h"
+#include "questions/LivePane.h"
 #include "results/Details.h"
 #include "results/ResultPrinter.h"
 #include "results/Results.h"
@@ -40,15 +43,19 @@
 #include "screens/InputCostsPane.h"
 #include "screens/IrrigCostsPane.h"
 #include "screens/MainPane.h"
+#include "screens/WishesCard.h"
 #include "trend/TrendScreens.h"
 
 namespace verdalis {
+
+class QuestionJob;
 
 /// The main window. It owns the panes and the state of the session, listens to the events of the panes, and
 /// passes data between them.
 class frmMain : public Window {
  public:
   frmMain(Desk& desk, Services& services, ProgramState& state, SecondaryWindows& windows, ProgramFiles files);
+  ~frmMain() override;
 
   FileReader cropFiles;  ///< The crop library
   std::shared_ptr<IrrigationCosts> tempIrrigationCosts = std::make_shared<IrrigationCosts>();
@@ -63,6 +70,7 @@ class frmMain : public Window {
   NoticeBar notices{*this};     ///< Above the page: what no message box tells
   RecoveryBar recovery{*this};  ///< In the same place: recovery copies, before the notices
   MainPane pneMain;
+  WishesCard wishesCard{pneMain};
   InputCostsPane pneInputCosts;
   IrrigCostsPane pneIrrigCosts;
   Frame pneResults{*this, "pneResults"};
@@ -76,7 +84,9 @@ class frmMain : public Window {
   std::function<const SharedList<SavedOption>&()> savedForCompare;
 
   ComparePane pneCompare;
+  LivePane pneLive;  ///< Sliders, and the plan that follows them
   CustomCropPane pneCustomCrop;
+  QuestionPanes questions;   ///< The pages of the menu Explore
   ResultPrinter thePrinter;  ///< Holds the options of the last run and the last shown field
 
   MainTrendHost trendHost;
@@ -92,6 +102,11 @@ class frmMain : public Window {
 
   /// Whether the present action of the user takes place during a run or beside a message box.
   [[nodiscard]] bool isRunning() { return desk().isInsideAction(); }
+
+  /// The farm on screen, for a question about it.
+  /// \throws std::invalid_argument if it is not complete, or if a trend is trying values
+  /// \throws RunTimeError for a text that is not a number
+  [[nodiscard]] Farm farmToExplore();
 
   /// The farm of a first start without saved inputs.
   [[nodiscard]] const FarmDocument& untouchedFarm() const { return untouched_; }
@@ -163,6 +178,11 @@ class frmMain : public Window {
   void wireOptions(Results& results);
   void wirePrinting();
   void wireNotices();
+  void wireQuestions();
+  void wireWishes();
+  void tellNoPlan();
+  void markOutdated();
+  [[nodiscard]] std::vector<Season> farmSeasons() const;
   void tellSkippedCrops();
   void tellUnprinted(const std::string& reason);
   void reloadCropRows();
@@ -179,6 +199,7 @@ class frmMain : public Window {
   [[nodiscard]] GeneralInputs enteredInputs() const;
   void wireFarms();
   void wireLosses();
+  void wireLive();
   void wireSinceLastRun();
 
   LossNotices losses_;
@@ -192,6 +213,8 @@ class frmMain : public Window {
   bool inputsLoaded_ = false;
   CustomCropNotices customCropNotices_;
   std::vector<SkippedCropFile> toldSkipped_;
+  std::shared_ptr<QuestionJob> relaxing_;                ///< Looks for wishes to give up
+  std::map<const QuestionPane*, FarmInputs> askedWith_;  ///< What each page has asked about
 };
 
 }  // namespace verdalis

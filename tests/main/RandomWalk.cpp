@@ -105,6 +105,7 @@ RandomWalk::RandomWalk() {
   running_.folder.write("values.txt", "50,60,70");
   running_.folder.write("noise.txt", std::string("\0\xFF,,\n9\r\x01", 8));
   running_.fakes.eventPump.onPump = [this] { duringARun(); };
+  running_.fakes.background.holds = true;
   running_.start();
 }
 
@@ -118,12 +119,30 @@ void RandomWalk::act(std::uint32_t number) {
   Engine random(number);
   meanwhile_.seed(number + 1);
   pumps_ = 0;
+  answerQuestion(random);
   if (running_.program->ended()) return restart(random);
   prepareAnswers(random);
   if (chance(random, 4)) return typeFarm(random);
   if (chance(random, 2)) return actOnWindow(random);
   const std::vector<Control*> controls = reachable();
   if (!controls.empty()) actOn(*choose(random, controls), random);
+}
+
+/// Lets the last question be answered at times. Large ones, such as a map, would take too long for a walk.
+void RandomWalk::answerQuestion(Engine& random) {
+  FakeBackground& background = running_.fakes.background;
+  if (!background.held.empty() && !running_.program->ended() && chance(random, 30)) {
+    const QuestionPanes& pages = running_.program->main().questions;
+    const Frame& top = running_.program->main().panes.top();
+    constexpr std::size_t mostDigits = 2;
+    const bool few = &top != &pages.map && pages.water.txtPoints.text().size() <= mostDigits &&
+                     pages.mixes.txtMixes.text().size() <= mostDigits;
+    if (few) {
+      note("(answer)");
+      background.finish(background.held.size() - 1);
+    }
+  }
+  background.held.clear();
 }
 
 /// There are many menus and "?" buttons and they are always reachable. Without a second draw they would be

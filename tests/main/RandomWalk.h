@@ -44,6 +44,7 @@ class RandomWalk {
   void actOnWindow(Engine& random);
   void typeFarm(Engine& random);
   void prepareAnswers(Engine& random);
+  void answerQuestion(Engine& random);
   void duringARun();
   void note(const std::string& action);
   [[nodiscard]] std::vector<Control*> reachable() const;

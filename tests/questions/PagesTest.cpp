@@ -231,7 +231,7 @@ TEST_F(InputsPage, RefusesInWords) {
 class MapPage : public QuestionTest<MapPane> {
  protected:
   MapPage() {
-    isSlow = true;  // the first map is large
+    slow.holds = true;  // the first map is large
     open();
     pane().x.txtPoints.type("3");
     pane().y.txtPoints.type("4");

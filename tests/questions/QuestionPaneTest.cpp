@@ -72,7 +72,7 @@ TEST_F(QuestionPaneTest, IsOutdatedUntilItIsAskedAgain) {
 }
 
 TEST_F(QuestionPaneTest, ShowsProgressOfWhatTakesLonger) {
-  isSlow = true;
+  slow.holds = true;
   open();
   EXPECT_TRUE(pane().isRunning());
   EXPECT_FALSE(pane().prgQuestion.visible());
@@ -89,7 +89,7 @@ TEST_F(QuestionPaneTest, ShowsProgressOfWhatTakesLonger) {
 }
 
 TEST_F(QuestionPaneTest, DropsTheAnswerToASupersededQuestion) {
-  isSlow = true;
+  slow.holds = true;
   open();
   pane().txtPoints.type("3");
   ASSERT_EQ(slow.held.size(), 2U);
@@ -107,7 +107,7 @@ TEST_F(QuestionPaneTest, DropsTheAnswerToASupersededQuestion) {
 }
 
 TEST_F(QuestionPaneTest, CancelDropsTheAnswerAndUpdateAsksAgain) {
-  isSlow = true;
+  slow.holds = true;
   open();
   pane().tick();
   pane().cmdCancel.click();
@@ -122,7 +122,7 @@ TEST_F(QuestionPaneTest, CancelDropsTheAnswerAndUpdateAsksAgain) {
 }
 
 TEST_F(QuestionPaneTest, BackCancels) {
-  isSlow = true;
+  slow.holds = true;
   open();
   int back = 0;
   pane().onBack.connect([&] { ++back; });
@@ -132,7 +132,7 @@ TEST_F(QuestionPaneTest, BackCancels) {
 }
 
 TEST_F(QuestionPaneTest, MayGoWhileItsWorkGoesOn) {
-  isSlow = true;
+  slow.holds = true;
   open();
   close();
   slow.finish(0);

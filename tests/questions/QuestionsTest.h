@@ -16,24 +16,6 @@
 
 namespace verdalis::testing {
 
-/// Keeps work until the test runs it, as a slow thread would.
-class HeldBackground : public BackgroundService {
- public:
-  struct Held {
-    std::function<void()> work;
-    std::function<void()> done;
-  };
-  std::vector<Held> held;
-
-  void run(const std::function<void()>& work, const std::function<void()>& done) override {
-    held.push_back({work, done});
-  }
-  void finish(std::size_t index) const {
-    held[index].work();
-    held[index].done();
-  }
-};
-
 /// A question page about the farm of two crops, on a window of its own.
 template <class Pane>
 class QuestionTest : public ::testing::Test {
@@ -43,14 +25,12 @@ class QuestionTest : public ::testing::Test {
   Farm farm = twoCropFarm();
   std::string incomplete;  ///< Why the farm is not complete; empty if it is
   FakeServices fakes;
-  HeldBackground slow;
-  bool isSlow = false;
+  FakeBackground& slow = fakes.background;
 
   template <class... More>
   Pane& open(More... more) {
-    Services& services = isSlow ? slowServices_ : fakes.services;
     pane_ = std::make_unique<Pane>(
-        window_, services,
+        window_, fakes.services,
         [this] {
           if (!incomplete.empty()) throw std::invalid_argument(incomplete);
           return farm.Copy();
@@ -81,8 +61,6 @@ class QuestionTest : public ::testing::Test {
  private:
   Desk desk_;
   Window window_{desk_, "frmMain", Frame::Scope::transparent};
-  Services slowServices_{fakes.messageBox, fakes.fileChooser, fakes.clipboard, fakes.help, fakes.openFile,
-                         fakes.clock,      fakes.eventPump,   fakes.printer,   slow};
   std::unique_ptr<Pane> pane_;
 };
 

@@ -199,6 +199,31 @@ class FakePrinter : public PrinterService {
   }
 };
 
+/// Works at once, or keeps the work until the test asks for it.
+class FakeBackground : public BackgroundService {
+ public:
+  struct Held {
+    std::function<void()> work;
+    std::function<void()> done;
+  };
+  bool holds = false;
+  std::vector<Held> held;
+
+  void run(const std::function<void()>& work, const std::function<void()>& done) override {
+    if (holds) {
+      held.push_back({work, done});
+    } else {
+      BackgroundService::run(work, done);
+    }
+  }
+
+  void finish(std::size_t index) {
+    const Held each = held[index];
+    each.work();
+    each.done();
+  }
+};
+
 /// All fake services, and the `services` passed to the program.
 struct FakeServices {
   FakeMessageBox messageBox;
@@ -209,7 +234,7 @@ struct FakeServices {
   FakeClock clock;
   FakeEventPump eventPump;
   FakePrinter printer;
-  BackgroundService background;
+  FakeBackground background;
   Services services{messageBox, fileChooser, clipboard, help,      openFile,
                     clock,      eventPump,   printer,   background};
 };
