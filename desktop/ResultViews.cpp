@@ -1,10 +1,13 @@
 #include "desktop/ResultViews.h"
 
+#include <QBoxLayout>
 #include <QFrame>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QResizeEvent>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <array>
 
 #include "desktop/AllOptionsView.h"
@@ -86,6 +89,49 @@ QPushButton* smallHelp(Binder& binder, Button& button, const QString& what) {
   return binder.bind(button, widget, what);
 }
 
+/// Two widgets side by side if both have room, else one below the other.
+class SideBySide : public QWidget {
+ public:
+  SideBySide(QWidget* left, QWidget* right)
+      : left_(left), right_(right), layout_(new QBoxLayout(QBoxLayout::LeftToRight, this)) {
+    layout_->setContentsMargins(0, 0, 0, 0);
+    layout_->setSpacing(spacing);
+    layout_->setSizeConstraint(QLayout::SetNoConstraint);
+    layout_->addWidget(left, 3);
+    layout_->addWidget(right, 2);
+  }
+
+  [[nodiscard]] QSize minimumSizeHint() const override {
+    const QSize one = left_->minimumSizeHint();
+    if (!isShown()) return one;
+    const QSize other = right_->minimumSizeHint();
+    const int width = std::max(one.width(), other.width());
+    if (areBeside()) return {width, std::max(one.height(), other.height())};
+    return {width, one.height() + spacing + other.height()};
+  }
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override {
+    QWidget::resizeEvent(event);
+    const int narrowest = left_->minimumSizeHint().width() + spacing + scaled(leastBeside);
+    const auto direction = width() < narrowest ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight;
+    if (layout_->direction() == direction) return;
+    layout_->setDirection(direction);
+    updateGeometry();
+  }
+
+ private:
+  static constexpr int spacing = 10;
+  static constexpr int leastBeside = 260;  // pixels at the default font size
+
+  [[nodiscard]] bool isShown() const { return !right_->isHidden(); }
+  [[nodiscard]] bool areBeside() const { return layout_->direction() == QBoxLayout::LeftToRight; }
+
+  QWidget* left_;
+  QWidget* right_;
+  QBoxLayout* layout_;
+};
+
 }  // namespace
 
 QWidget* resultsView(Results& results, Binder& binder, const QString& heading, QWidget* beside) {
@@ -161,11 +207,8 @@ QWidget* resultsView(Results& results, Binder& binder, const QString& heading, Q
   againLine->addWidget(smallHelp(binder, results.cmdHelp, QObject::tr("Help: fixed trends")));
   againLine->addStretch();
   view.body->addWidget(binder.bind(results.batchDisplay, again));
-  auto* options = new QHBoxLayout;
-  options->setSpacing(10);
-  options->addWidget(allOptionsView(results.all, binder), 3);
-  if (beside != nullptr) options->addWidget(beside, 2);
-  view.body->addLayout(options, 1);
+  QWidget* options = allOptionsView(results.all, binder);
+  view.body->addWidget(beside == nullptr ? options : new SideBySide(options, beside), 1);
   auto* notes = new QHBoxLayout;
   notes->setSpacing(scaled(24));
   for (const char* note : resultNotes)
