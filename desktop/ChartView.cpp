@@ -75,7 +75,7 @@ void ChartView::forget() {
 }
 
 QSize ChartView::sizeHint() const {
-  return {scaled(480), scaled(300)};
+  return {scaled(480), scaled(190)};
 }
 
 QSize ChartView::minimumSizeHint() const {

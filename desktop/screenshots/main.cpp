@@ -93,6 +93,8 @@ void photographQuestions(Desktop& desktop, const Photographer& camera) {
     ScrollBar& bar = main.pneLive.sliders.at(slider)->bar;
     bar.scroll(bar.value() * 3 / 4);
   }
+  while (!main.pneLive.chtLive.chart())
+    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
   camera.take(window, QStringLiteral("live"));
   main.pneLive.cmdBack.click();
   main.wishesCard.cmdWishes.click();
