@@ -109,4 +109,7 @@ struct Chart {
   std::vector<std::vector<std::string>> table;
 };
 
+/// Whether a click somewhere in a chart chooses this index.
+[[nodiscard]] bool canPick(const Chart& chart, std::size_t index);
+
 }  // namespace verdalis

@@ -23,8 +23,9 @@ class ChartBox : public Control {
     changed();
   }
 
-  /// User action: click on what can be picked.
+  /// User action: click on what can be picked. An index that the chart does not offer is ignored.
   void pick(std::size_t index) {
+    if (!chart_ || !canPick(*chart_, index)) return;
     act([&] { onPick(index); });
   }
   Event<std::size_t> onPick;

@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 #include <array>
 
+#include "desktop/ChartView.h"
 #include "desktop/Keys.h"
 
 namespace verdalis::desktop {
@@ -73,6 +74,17 @@ QWidget* blockCard(Details& details, const Details::Block& block, Binder& binder
   return group.frame;
 }
 
+/// Takes the room that is left, up to a height at which it is still easy to read.
+QWidget* chartCard(ChartBox& chart, const QString& label, Binder& binder) {
+  constexpr int highest = 300;
+  const Card group = card();
+  group.body->setContentsMargins(2, 2, 2, 2);
+  group.body->addWidget(binder.bind(chart, new ChartView, label));
+  group.frame->setMaximumHeight(scaled(highest));
+  binder.alsoWatch(chart, [&chart, frame = group.frame] { frame->setVisible(chart.chart().has_value()); });
+  return group.frame;
+}
+
 }  // namespace
 
 QWidget* detailsView(Details& details, Binder& binder) {
@@ -84,8 +96,8 @@ QWidget* detailsView(Details& details, Binder& binder) {
   auto* grid = new QGridLayout;
   grid->setSpacing(10);
   // Row and column of each card: totals across the full width, three large cards side by side, two short ones
-  // below.
-  constexpr std::array<std::array<int, 2>, 6> places{{{0, 0}, {2, 0}, {2, 1}, {3, 0}, {2, 2}, {3, 1}}};
+  // below each other, with charts beside them.
+  constexpr std::array<std::array<int, 2>, 6> places{{{0, 0}, {2, 0}, {2, 1}, {3, 0}, {2, 2}, {4, 0}}};
   const std::vector<Details::Block>& blocks = Details::blocks();
   for (std::size_t i = 0; i < blocks.size() && i < places.size(); ++i) {
     const auto [row, column] = places.at(i);
@@ -105,10 +117,13 @@ QWidget* detailsView(Details& details, Binder& binder) {
     grid->addWidget(binder.bind(details.picBatch.at(i), static_cast<QWidget*>(override.frame)), 1,
                     i == 0 ? 0 : 2);
   }
+  grid->addWidget(chartCard(details.chtYield, QObject::tr("Yield by water"), binder), 3, 1, 2, 1);
+  grid->addWidget(chartCard(details.chtReturn, QObject::tr("From returns to net return"), binder), 3, 2, 2,
+                  1);
   for (int column = 0; column < 3; ++column)
     grid->setColumnStretch(column, 1);
-  view.body->addLayout(grid);
-  view.body->addStretch();
+  grid->setRowStretch(4, 1);
+  view.body->addLayout(grid, 1);
   view.buttons->addWidget(binder.bind(details.Command3, new QPushButton));
   view.buttons->addStretch();
   view.buttons->addWidget(binder.bind(details.Command2, new QPushButton));

@@ -11,6 +11,7 @@
 #include <QStyleOptionSlider>
 #include <QVBoxLayout>
 
+#include "desktop/ChartView.h"
 #include "desktop/Keys.h"
 #include "desktop/Page.h"
 #include "desktop/TableView.h"
@@ -21,7 +22,8 @@ namespace {
 
 constexpr int slidersWidth = 380;
 constexpr int planLines = 5;  // with the headings
-constexpr int lineHeight = 32;
+constexpr int lineHeight = 24;
+constexpr int leastMap = 200;
 
 /// A slider with a mark at the present value.
 class MarkedSlider : public QSlider {
@@ -68,9 +70,16 @@ class LiveView : public QWidget {
     sliders_->addStretch();
     left.frame->setFixedWidth(scaled(slidersWidth));
     columns->addWidget(left.frame);
-    columns->addWidget(planCard(), 1);
-    view.body->addLayout(columns);
-    view.body->addStretch();
+    auto* right = new QVBoxLayout;
+    right->setSpacing(12);
+    right->addWidget(planCard());
+    const Card map = card();
+    auto* chart = new ChartView;
+    chart->setMinimumHeight(scaled(leastMap));
+    map.body->addWidget(binder_.bind(pane_.chtLive, chart, tr("Which mix wins")), 1);
+    right->addWidget(map.frame, 1);
+    columns->addLayout(right, 1);
+    view.body->addLayout(columns, 1);
     back_ = binder_.bind(pane_.cmdBack, new QPushButton);
     reset_ = binder_.bind(pane_.cmdReset, new QPushButton);
     takeOver_ = new QPushButton;

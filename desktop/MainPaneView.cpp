@@ -49,6 +49,8 @@ void setColumns(QGridLayout* grid) {
   grid->setColumnStretch(nameColumn, 1);
 }
 
+constexpr int hintDelay = 120;  // milliseconds from a change to the marks of the fields
+
 constexpr const char* ownTip = "ownTip";  // the tool tip of a field without a hint
 
 /// The hint beside the heading of a card, where it takes no room from the page.
@@ -86,7 +88,11 @@ MainPaneView::MainPaneView(MainPane& pane, WishesCard& wishes, Binder& binder)
   rowChanges_ = pane_.onRowsChanged.connectScoped([this] { rebuildRows(); });
   rebuildRows();
   drawPictures();
-  hintChanges_ = pane_.onHints.connectScoped([this] { showHints(); });
+  // Marking takes longer than a key may.
+  hints_.setSingleShot(true);
+  hints_.setInterval(hintDelay);
+  connect(&hints_, &QTimer::timeout, this, [this] { showHints(); });
+  hintChanges_ = pane_.onHints.connectScoped([this] { hints_.start(); });
   showHints();
 }
 
@@ -169,7 +175,7 @@ QWidget* MainPaneView::landCard() {
 }
 
 QWidget* MainPaneView::cropCard() {
-  const Card crops = card(plain(pane_.cropBox.caption()), hintLabel(binder_, pane_.lblCropHint));
+  const Card crops = card(plain(pane_.cropBox.caption()), hintLabel(binder_, pane_.lblCropsHint));
   binder_.bind(pane_.cropBox, crops.frame);
   auto* heads = new QGridLayout;
   setColumns(heads);

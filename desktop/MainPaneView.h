@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPointer>
+#include <QTimer>
 #include <QWidget>
 #include <vector>
 
@@ -47,6 +48,7 @@ class MainPaneView : public QWidget {
   Binder& binder_;
   Connection rowChanges_;
   Connection hintChanges_;
+  QTimer hints_;
   std::vector<QPointer<QWidget>> hinted_;  ///< Fields that are marked now
   QGridLayout* heads_ = nullptr;
   QWidget* beforeRows_ = nullptr;  ///< The last one that Tab stops at before the crop rows

@@ -23,6 +23,7 @@
 #include "desktop/CustomCropView.h"
 #include "desktop/DetailsView.h"
 #include "desktop/Keys.h"
+#include "desktop/LiveView.h"
 #include "desktop/MainPaneView.h"
 #include "desktop/NoticeView.h"
 #include "desktop/QuestionViews.h"
@@ -90,6 +91,7 @@ MainWindow::MainWindow(frmMain& window, Binder& binder, std::function<void(const
   addPane(window_.pneDetails, detailsView(window_.theDetails, binder_), "details.htm");
   addPane(window_.pneSummary, summaryView(window_.pneSummary, binder_), "summary.htm");
   addPane(window_.pneCompare, compareView(window_.pneCompare, binder_), "summary.htm#compare");
+  addPane(window_.pneLive, liveView(window_.pneLive, binder_), "questions.htm#live");
   addPane(window_.pneCustomCrop, customCropView(window_.pneCustomCrop, binder_), "customcrops.htm");
   QuestionPanes& questions = window_.questions;
   addPane(questions.mixes, mixesView(questions.mixes, binder_), "questions.htm#mixes");
@@ -172,6 +174,8 @@ void MainWindow::addMenus() {
   for (MenuEntry* entry : {&menus.mnuMixes, &menus.mnuWater, &menus.mnuSwitch, &menus.mnuSeasons,
                            &menus.mnuInputs, &menus.mnuMap})
     addStep(explore, *entry, {});
+  explore->addSeparator();
+  addStep(explore, menus.mnuLive, QKeySequence(Qt::CTRL | Qt::Key_L));
   QMenu* go = menu(menus.mnuGo, tr("&Go"));
   int page = Qt::Key_1;
   for (MenuEntry* entry :

@@ -14,7 +14,7 @@ namespace verdalis::desktop {
 namespace {
 
 constexpr int rowHeight = 36;
-constexpr std::array<int, 9> columnWidths{74, 92, 108, 58, 58, 120, 106, 106, 86};
+constexpr std::array<int, 9> columnWidths{74, 92, 108, 58, 58, 116, 106, 106, 86};
 
 void setColumns(QGridLayout* grid) {
   grid->setContentsMargins(10, 0, 10, 0);
@@ -88,7 +88,7 @@ QPushButton* smallHelp(Binder& binder, Button& button, const QString& what) {
 
 }  // namespace
 
-QWidget* resultsView(Results& results, Binder& binder, const QString& heading) {
+QWidget* resultsView(Results& results, Binder& binder, const QString& heading, QWidget* beside) {
   const PageWithButtons view = pageWithButtons();
 
   auto* top = new QHBoxLayout;
@@ -161,7 +161,11 @@ QWidget* resultsView(Results& results, Binder& binder, const QString& heading) {
   againLine->addWidget(smallHelp(binder, results.cmdHelp, QObject::tr("Help: fixed trends")));
   againLine->addStretch();
   view.body->addWidget(binder.bind(results.batchDisplay, again));
-  view.body->addWidget(allOptionsView(results.all, binder), 1);
+  auto* options = new QHBoxLayout;
+  options->setSpacing(10);
+  options->addWidget(allOptionsView(results.all, binder), 3);
+  if (beside != nullptr) options->addWidget(beside, 2);
+  view.body->addLayout(options, 1);
   auto* notes = new QHBoxLayout;
   notes->setSpacing(scaled(24));
   for (const char* note : resultNotes)

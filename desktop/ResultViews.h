@@ -6,6 +6,8 @@
 namespace verdalis::desktop {
 
 /// The options of a run, one at a time: a pager, a table with one row per field, and the net return.
-[[nodiscard]] QWidget* resultsView(Results& results, Binder& binder, const QString& heading);
+/// \param beside stands at the right of the list of all options; nullptr for nothing.
+[[nodiscard]] QWidget* resultsView(Results& results, Binder& binder, const QString& heading,
+                                   QWidget* beside = nullptr);
 
 }  // namespace verdalis::desktop

@@ -10,6 +10,7 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
+#include "desktop/ChartView.h"
 #include "desktop/Keys.h"
 #include "desktop/ResultViews.h"
 
@@ -167,6 +168,19 @@ QWidget* batchSetupView(BatchSetupPane& pane, Binder& binder) {
   return view.widget;
 }
 
+namespace {
+
+QWidget* trendChart(ChartBox& chart, Binder& binder) {
+  const Card group = card();
+  group.body->setContentsMargins(2, 2, 2, 2);
+  group.body->addWidget(
+      binder.bind(chart, new ChartView, QObject::tr("Net return by the values of the trend")));
+  binder.alsoWatch(chart, [&chart, frame = group.frame] { frame->setVisible(chart.visible()); });
+  return group.frame;
+}
+
+}  // namespace
+
 QWidget* batchResultsView(BatchResultsPane& pane, Binder& binder) {
   BatchResults& results = pane.theBatchResults;
   auto* view = new QWidget;
@@ -189,7 +203,7 @@ QWidget* batchResultsView(BatchResultsPane& pane, Binder& binder) {
   steps.body->addLayout(line);
   headLayout->addWidget(binder.bind(results.pnlBatchSteps, static_cast<QWidget*>(steps.frame)));
   layout->addWidget(binder.bind(results, head));
-  layout->addWidget(resultsView(results.theResults, binder, {}), 1);
+  layout->addWidget(resultsView(results.theResults, binder, {}, trendChart(results.chtTrend, binder)), 1);
   return view;
 }
 

@@ -101,6 +101,10 @@ std::vector<BestMix::Option> BestMix::returnCollection(bool removeDuplicates, do
   return kept;
 }
 
+BestMix::Option BestMix::best() const {
+  return bestArray_.empty() ? nullptr : std::make_shared<FieldCollection>(bestArray_.front()->Copy());
+}
+
 bool BestMix::sameScenario(FieldCollection& a, FieldCollection& b, bool compare, double efficiency) {
   if (!compare) return false;
   if (a.getProfit(efficiency) != b.getProfit(efficiency)) return false;

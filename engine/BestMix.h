@@ -47,6 +47,9 @@ class BestMix {
   /// the one directly above. The result also replaces the entries of this object.
   std::vector<Option> returnCollection(bool removeDuplicates, double efficiency = EfficiencyFraction);
 
+  /// A copy of the first entry; nullptr without places.
+  [[nodiscard]] Option best() const;
+
   /// Whether two neighbours count as duplicates: `a` is the lower one, `b` the one above.
   [[nodiscard]] static bool sameScenario(FieldCollection& a, FieldCollection& b, bool compare,
                                          double efficiency = EfficiencyFraction);

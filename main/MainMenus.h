@@ -42,6 +42,7 @@ struct MainMenus {
         mnuSeasons(window, "mnuSeasons", "Seasons", &mnuExplore),
         mnuInputs(window, "mnuInputs", "What Matters", &mnuExplore),
         mnuMap(window, "mnuMap", "Map", &mnuExplore),
+        mnuLive(window, "mnuLive", "Live", &mnuExplore),
         mnuGo(window, "mnuGo", "Go"),
         mnuGoMain(window, "mnuGoMain", "Main page", &mnuGo),
         mnuGoResults(window, "mnuGoResults", "Results", &mnuGo),
@@ -91,6 +92,7 @@ struct MainMenus {
   MenuEntry mnuSeasons;
   MenuEntry mnuInputs;
   MenuEntry mnuMap;
+  MenuEntry mnuLive;
   MenuEntry mnuGo;  ///< The pages that have something to show
   MenuEntry mnuGoMain;
   MenuEntry mnuGoResults;

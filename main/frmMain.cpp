@@ -50,6 +50,7 @@ frmMain::frmMain(Desk& desk, Services& services, ProgramState& state, SecondaryW
            [this](const std::filesystem::path& path, std::string_view bytes) { saveTable(path, bytes); }}),
       savedForCompare([this]() -> const SharedList<SavedOption>& { return keeper.document().saved; }),
       pneCompare(*this, services, [this]() -> const SharedList<SavedOption>& { return savedForCompare(); }),
+      pneLive(*this, services, [this] { return farmToExplore(); }),
       pneCustomCrop(*this, services, files.home / "crops" / "custom"),
       questions(
           *this, services, [this] { return farmToExplore(); }, [this] { return farmSeasons(); }),
@@ -101,6 +102,8 @@ frmMain::frmMain(Desk& desk, Services& services, ProgramState& state, SecondaryW
   wireNotices();
   wireFarms();
   wireLosses();
+  wireSinceLastRun();
+  wireLive();
   wireQuestions();
   wireWishes();
   desk.onActed.connect([this] {

@@ -34,6 +34,7 @@
 #include "main/SavedInputsKeeper.h"
 #include "main/SecondaryWindows.h"
 #include "main/SinceLastRun.h"
+#include "questions/LivePane.h"
 #include "results/Details.h"
 #include "results/ResultPrinter.h"
 #include "results/Results.h"
@@ -83,6 +84,7 @@ class frmMain : public Window {
   std::function<const SharedList<SavedOption>&()> savedForCompare;
 
   ComparePane pneCompare;
+  LivePane pneLive;  ///< Sliders, and the plan that follows them
   CustomCropPane pneCustomCrop;
   QuestionPanes questions;   ///< The pages of the menu Explore
   ResultPrinter thePrinter;  ///< Holds the options of the last run and the last shown field
@@ -197,6 +199,7 @@ class frmMain : public Window {
   [[nodiscard]] GeneralInputs enteredInputs() const;
   void wireFarms();
   void wireLosses();
+  void wireLive();
   void wireSinceLastRun();
 
   LossNotices losses_;

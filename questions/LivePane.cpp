@@ -6,8 +6,10 @@
 
 #include "engine/RunHooks.h"
 #include "explore/bestPlan.h"
+#include "explore/inputMap.h"
 #include "explore/inputs.h"
 #include "model/checked.h"
+#include "questions/QuestionJob.h"
 #include "questions/inputTexts.h"
 #include "questions/noPlanText.h"
 #include "questions/planText.h"
@@ -112,8 +114,8 @@ std::string LivePane::Slider::text() const {
   return valueText(amount) + " " + unit;
 }
 
-LivePane::LivePane(Frame& window, std::function<Farm()> farm)
-    : Frame(window, "pneLive"), farmNow_(std::move(farm)) {
+LivePane::LivePane(Frame& window, Services& services, std::function<Farm()> farm)
+    : Frame(window, "pneLive"), services_(services), farmNow_(std::move(farm)) {
   setCaption("Live");
   cmdTakeOver.onClick.connect([this] {
     Values values;
@@ -123,11 +125,20 @@ LivePane::LivePane(Frame& window, std::function<Farm()> farm)
     onTakeOver(values);
   });
   cmdReset.onClick.connect([this] { reset(); });
-  cmdBack.onClick.connect([this] { onBack(); });
+  cmdBack.onClick.connect([this] {
+    stopMap();
+    onBack();
+  });
+}
+
+LivePane::~LivePane() {
+  if (mapJob_) mapJob_->cancel();
 }
 
 void LivePane::open() {
   lblLiveFault.setCaption("");
+  stopMap();
+  map_.reset();
   try {
     farm_ = farmNow_();
     makeSliders();
@@ -171,6 +182,7 @@ void LivePane::follow() {
     const auto option = bestOption(farm, state_, silent);
     if (!option) return;
     showPlan(farm, option);
+    followMap();
   } catch (const NoPlan& none) {
     showFault(noPlanText(none));
   } catch (const RunTimeError& error) {
@@ -201,7 +213,7 @@ void LivePane::showPlan(const Farm& farm, const std::shared_ptr<FieldCollection>
   using Align = Table::Align;
   tblLive.setContents({{"Acres", Align::right, false},
                        {"Crop", Align::left, false},
-                       {"Gross water (in)", Align::left, false},
+                       {"Gross water (in)", Align::left, false, true},
                        {"Net (in)", Align::right, false},
                        {"Net return", Align::right, false}},
                       {rows.size(),
@@ -233,6 +245,9 @@ void LivePane::showDistance(double profit) {
 
 void LivePane::showFault(const std::string& text) {
   lblLiveFault.setCaption(text);
+  stopMap();
+  map_.reset();
+  chtLive.setChart({});
   tblLive.setContents({}, {});
   loss_ = false;
   for (Label* label : {&lblLiveProfit, &lblLiveFarm, &lblLiveDistance})
@@ -242,6 +257,80 @@ void LivePane::showFault(const std::string& text) {
     cmdTakeOver.setEnabled(false);
     cmdReset.setEnabled(false);
   }
+}
+
+/// Moves the mark of the map, and draws another map if a slider has moved that is no axis of it.
+void LivePane::followMap() {
+  const auto sliderOf = [this](FarmInput::Kind kind) -> const Slider* {
+    const auto found = std::find_if(sliders.begin(), sliders.end(),
+                                    [kind](const auto& slider) { return slider->input.kind == kind; });
+    return found == sliders.end() ? nullptr : found->get();
+  };
+  const Slider* const x = sliderOf(FarmInput::Kind::price);
+  const Slider* const y = sliderOf(FarmInput::Kind::water);
+  if (x == nullptr || y == nullptr || x->bar.maximum() < 1 || y->bar.maximum() < 1) return;
+  std::vector<double> others;
+  Farm farm = farm_.Copy();
+  for (const auto& slider : sliders) {
+    if (slider.get() == x || slider.get() == y) continue;
+    others.push_back(slider->value());
+    if (slider->isMoved()) setInput(farm, slider->input, slider->value());
+  }
+  if (others != mapValues_ || !(map_ || mapJob_)) {
+    stopMap();
+    map_.reset();
+    mapValues_ = std::move(others);
+    askMap(farm, *x, *y);
+    return;
+  }
+  if (!map_) return;
+  Chart chart = *map_;
+  std::get<MapChart>(chart.data).now = ChartLine::Point{x->value(), y->value(), {}};
+  chtLive.setChart(std::move(chart));
+}
+
+void LivePane::askMap(const Farm& farm, const Slider& x, const Slider& y) {
+  const auto axis = [](const Slider& slider, std::size_t count) {
+    return MapAxis{slider.input, evenValues(slider.valueAt(0), slider.valueAt(slider.bar.maximum()), count)};
+  };
+  constexpr std::size_t columns = 25;
+  constexpr std::size_t rows = 17;
+  const MapAxis across = axis(x, columns);
+  const MapAxis upwards = axis(y, rows);
+  // One thread, because the best plan must follow the hand meanwhile.
+  const auto job = std::make_shared<QuestionJob>(
+      [this, farm, across, upwards](ProgramState& state, RunHooks& hooks) -> QuestionJob::Show {
+        const std::optional<InputMap> map = exploreMap(farm, across, upwards, state, hooks, 1);
+        if (!map) return nullptr;
+        return [this, farm, map = *map] {
+          MapChart chart;
+          chart.x = inputAxis(map.x.input, farm);
+          chart.y = inputAxis(map.y.input, farm);
+          chart.xValues = map.x.values;
+          chart.yValues = map.y.values;
+          for (const Mix& mix : map.mixes)
+            chart.categories.push_back(mixText(mix));
+          chart.category = map.mix;
+          chart.value = map.profit;
+          chart.valueStyle = returnAxis().style;
+          const std::string title = inputLabel(map.x.input) + " and water: which mix wins";
+          map_ = Chart{title, title + ".", std::move(chart), {}};
+        };
+      });
+  mapJob_ = job;
+  services_.background.run([job] { job->run(); },
+                           [this, job] {
+                             if (job->isCancelled()) return;  // this page may be gone
+                             mapJob_ = nullptr;
+                             if (!job->show()) return;  // a value without a plan: the page does without a map
+                             job->show()();
+                             followMap();
+                           });
+}
+
+void LivePane::stopMap() {
+  if (mapJob_) mapJob_->cancel();
+  mapJob_ = nullptr;
 }
 
 void LivePane::reset() {

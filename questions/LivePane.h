@@ -2,14 +2,18 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "charts/Chart.h"
+#include "controls/ChartBox.h"
 #include "controls/Control.h"
 #include "controls/Event.h"
 #include "controls/Table.h"
 #include "controls/displays.h"
+#include "controls/services.h"
 #include "engine/Farm.h"
 #include "engine/ProgramState.h"
 #include "explore/FarmInput.h"
@@ -17,12 +21,15 @@
 
 namespace verdalis {
 
+class QuestionJob;
+
 /// Live: sliders for the inputs of the farm, and the best plan that follows them. Each position is an exact
 /// search. Nothing of the farm changes until the values are taken over.
 class LivePane : public Frame {
  public:
   /// `farm` gives the present farm.
-  LivePane(Frame& window, std::function<Farm()> farm);
+  LivePane(Frame& window, Services& services, std::function<Farm()> farm);
+  ~LivePane() override;
 
   Label lblLiveAbout{*this, "lblLiveAbout",
                      "Move a slider: the best plan follows. Each picture is an exact evaluation; nothing of "
@@ -33,6 +40,7 @@ class LivePane : public Frame {
   Label lblLiveFarm{*this, "lblLiveFarm"};          ///< Net return of the farm
   Label lblLiveDistance{*this, "lblLiveDistance"};  ///< Against the plan of now
   Label lblLiveNow{*this, "lblLiveNow"};            ///< The plan of now
+  ChartBox chtLive{*this, "chtLive"};               ///< Which mix wins over the first price and the water
   Button cmdTakeOver{*this, "cmdTakeOver", "Take over"};
   Button cmdReset{*this, "cmdReset", "Reset"};
   Button cmdBack{*this, "cmdLiveBack", "Back"};
@@ -89,13 +97,21 @@ class LivePane : public Frame {
   void showDistance(double profit);
   void showFault(const std::string& text);
   void reset();
+  void followMap();
+  void askMap(const Farm& farm, const Slider& x, const Slider& y);
+  void stopMap();
 
+  Services& services_;
   std::function<Farm()> farmNow_;
   Farm farm_;  ///< The present farm, as it was when the page was opened
   Best now_;
   ProgramState state_;
   bool moving_ = false;  ///< Several sliders are being set; the plan follows at the end
   bool loss_ = false;
+
+  std::shared_ptr<QuestionJob> mapJob_;  ///< The map that is being worked out; nullptr for none
+  std::optional<Chart> map_;             ///< Without the mark of the sliders
+  std::vector<double> mapValues_;        ///< Of the sliders that are no axis of the map
 };
 
 }  // namespace verdalis

@@ -252,6 +252,11 @@ void QuestionPane::showAnswer(Chart drawn, const std::vector<Table::Column>& col
   drawn.table.push_back(std::move(headings));
   for (const Row& row : rows)
     drawn.table.push_back(row.cells);
+  // An axis need not repeat what the title says.
+  if (auto* lines = std::get_if<LineChart>(&drawn.data); lines != nullptr && lines->y.title == drawn.title)
+    lines->y.title.clear();
+  if (auto* bars = std::get_if<BarChart>(&drawn.data); bars != nullptr && bars->x.title == drawn.title)
+    bars->x.title.clear();
   chart.setChart(std::move(drawn));
   showRows(columns, std::move(rows));
 }

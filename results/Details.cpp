@@ -1,7 +1,11 @@
 #include "results/Details.h"
 
+#include <optional>
+
 #include "model/checked.h"
+#include "results/detailCharts.h"
 #include "results/figures.h"
+#include "results/passOver.h"
 #include "text/numbers.h"
 
 namespace verdalis {
@@ -76,6 +80,8 @@ const std::vector<Details::Block>& Details::blocks() {
 
 void Details::loadCosts(const Field& field) {
   field_ = field.Copy();
+  chtYield.setChart(std::nullopt);
+  chtReturn.setChart(std::nullopt);
   const double gross = grossFromNet(field_.Depth);
   showOverrides();
   showGeneralCosts();
@@ -83,7 +89,14 @@ void Details::loadCosts(const Field& field) {
   showIrrigation();
   showTotals(gross);
   showNotes();
+  showCharts();
   onFieldLoaded(field);
+}
+
+/// A chart that cannot be made is left out: the labels tell the figures.
+void Details::showCharts() {
+  passOver([&] { chtYield.setChart(yieldChart(field_)); });
+  passOver([&] { chtReturn.setChart(returnChart(field_)); });
 }
 
 void Details::showOverrides() {

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "controls/ChartBox.h"
 #include "controls/Control.h"
 #include "controls/Event.h"
 #include "controls/displays.h"
@@ -80,6 +81,9 @@ class Details : public Frame {
   Label lblBatchGeneralProductionCost{picBatch[0], "lblBatchGeneralProductionCost"};
   Label lblBatchIrrigationCosts{picBatch[1], "lblBatchIrrigationCosts"};
 
+  ChartBox chtYield{*this, "chtYield"};    ///< The yield by water, with the point of the field
+  ChartBox chtReturn{*this, "chtReturn"};  ///< From the returns over the costs to the net return
+
   Button Command2{*this, "Command2", "Print Details"};
   Button Command3{*this, "Command3", "Back"};
 
@@ -118,6 +122,7 @@ class Details : public Frame {
   void showIrrigation();
   void showTotals(double gross);
   void showNotes();
+  void showCharts();
 
   const ProgramState& state_;
   Field field_;

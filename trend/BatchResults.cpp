@@ -1,7 +1,10 @@
 #include "trend/BatchResults.h"
 
+#include <algorithm>
+#include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <utility>
 
 #include "model/listIndex.h"
@@ -26,6 +29,8 @@ BatchResults::BatchResults(Frame& container, Services& services, ProgramState& s
   cmdBatchStep[1].onClick.connect([this] { LoadBatchResults(step_ - 1); });
   cmdExcel.onClick.connect([this] { exportVariable(); });
   theResults.onExcel.connect([this] { exportFixed(); });
+  chtTrend.setVisible(false);
+  chtTrend.onPick.connect([this](std::size_t index) { showPicked(index); });
   theResults.trendedVariables = [this] { return trendedVariables(trend_.ProcessCollection); };
   theResults.trendOption = [this](std::int16_t i, std::int16_t j) {
     return trend_.TrendOptionArray.at(static_cast<std::size_t>(i), static_cast<std::size_t>(j));
@@ -56,7 +61,66 @@ void BatchResults::LoadBatchResults(long step) {
 void BatchResults::showOutcome(const TrendOutcome& outcome, const BatchProcess& process) {
   setArray(outcome.values);
   setBatchCollection(outcome.rankings, process);
+  takeCharts(outcome);
   if (!batches_.empty()) showStep(1, [&] { return outcome.shown; });
+}
+
+void BatchResults::takeCharts(const TrendOutcome& outcome) {
+  bests_.clear();
+  grid_ = {};
+  gridPicks_.clear();
+  std::optional<Chart> chart;
+  passOver([&] {
+    if (outcome.grid.dimensions() > 0) {
+      FixedTrendChart fixed = fixedTrendChart(outcome.grid);
+      grid_ = outcome.grid;
+      gridPicks_ = std::move(fixed.options);
+      chart = std::move(fixed.chart);
+      return;
+    }
+    // With one value there is no line.
+    for (std::size_t i = 0; i < batches_.size() && batches_.size() > 1; ++i)
+      bests_.push_back({numberOf(trendValues_.at(i)), batches_[i].best()});
+  });
+  chtTrend.setVisible(chart.has_value());
+  chtTrend.setChart(std::move(chart));
+}
+
+void BatchResults::drawSteps() {
+  if (bests_.empty()) return;
+  std::optional<Chart> chart;
+  passOver([&] {
+    const UnitsPair units = GetVariableUnits(host_, bp.VariableIndex, bp.cropIndex);
+    chart = variableTrendChart(bests_, {variableCrop_ + " " + variableName_, units},
+                               static_cast<std::size_t>(step_) - 1);
+  });
+  chtTrend.setVisible(chart.has_value());
+  chtTrend.setChart(std::move(chart));
+}
+
+void BatchResults::showPicked(std::size_t index) {
+  if (index < bests_.size()) {
+    LoadBatchResults(static_cast<long>(index) + 1);
+  } else if (index < gridPicks_.size()) {
+    const auto [row, column] = gridPicks_[index];
+    showOptionOf(grid_.at(row, column));
+  }
+}
+
+void BatchResults::showOptionOf(const Results::Option& picked) {
+  const std::vector<Results::Option>& options = theResults.FieldCollection;
+  auto found = std::find_if(options.begin(), options.end(), [&](const Results::Option& option) {
+    return option->Count() > 0 && option->theValue == picked->theValue;
+  });
+  if (found == options.end()) {
+    // It was left out as a duplicate of another one, with the same net return.
+    FieldCollection copy = picked->Copy();
+    const double profit = copy.getProfit();
+    found = std::find_if(options.begin(), options.end(), [&](const Results::Option& option) {
+      return option->Count() > 0 && option->getProfit() == profit;
+    });
+  }
+  if (found != options.end()) theResults.showOption(static_cast<std::int16_t>(found - options.begin() + 1));
 }
 
 void BatchResults::showStep(long step, const std::function<std::vector<Results::Option>()>& options) {
@@ -74,6 +138,7 @@ void BatchResults::showStep(long step, const std::function<std::vector<Results::
                                        formatNumber(value, "###,##0.00") + " " + units[1]);
   });
   lblBatchDescription1.setCaption("Step " + std::to_string(step) + " of " + std::to_string(batches_.size()));
+  drawSteps();
 }
 
 void BatchResults::exportTo(const std::function<void(std::string&)>& write) {

@@ -3,8 +3,10 @@
 #include <array>
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "controls/ChartBox.h"
 #include "controls/displays.h"
 #include "controls/services.h"
 #include "engine/ProgramState.h"
@@ -13,6 +15,7 @@
 #include "trend/TrendHost.h"
 #include "trend/TrendState.h"
 #include "trend/runTrend.h"
+#include "trend/trendCharts.h"
 
 namespace verdalis {
 
@@ -32,6 +35,9 @@ class BatchResults : public Frame {
   Label lblFreeBatchDescription{pnlBatchSteps, "lblFreeBatchDescription"};  ///< The value of the step
   Button cmdExcel{pnlBatchSteps, "cmdExcel", "Export to MS Excel"};
   Results theResults;
+
+  /// The net return by the values of the trend. A click shows that step, or that option of a fixed trend.
+  ChartBox chtTrend{*this, "chtTrend"};
 
   /// Shows or hides the steps.
   void EnableBatch(bool on);
@@ -58,6 +64,10 @@ class BatchResults : public Frame {
   void exportFixed();
 
  private:
+  void takeCharts(const TrendOutcome& outcome);
+  void drawSteps();
+  void showPicked(std::size_t index);
+  void showOptionOf(const Results::Option& picked);
   void showStep(long step, const std::function<std::vector<Results::Option>()>& options);
   void exportTo(const std::function<void(std::string&)>& write);
 
@@ -72,6 +82,11 @@ class BatchResults : public Frame {
   std::vector<TrendValue> trendValues_;
   std::string variableName_;
   std::string variableCrop_;
+
+  // What the chart is drawn from: the steps of a variable trend, or the options of a fixed one.
+  std::vector<TrendBest> bests_;
+  TrendOptionArray grid_;
+  std::vector<std::pair<std::size_t, std::size_t>> gridPicks_;
 };
 
 /// The pane of the trend results.

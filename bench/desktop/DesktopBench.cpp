@@ -101,6 +101,27 @@ void undoToRepaint(benchmark::State& state) {
 }
 BENCHMARK(undoToRepaint)->Unit(benchmark::kMicrosecond);
 
+/// A step of a slider until the best plan of its value is painted.
+void liveFrame(benchmark::State& state) {
+  Shown shown;
+  shown.start();
+  frmMain& main = shown.program().main();
+  for (const std::size_t row : {1U, 2U, 3U, 5U})
+    main.pneMain.cr[row]->chkCrop.click();
+  main.menus.mnuLive.click();
+  QWidget* page = shown.widget(main.pneLive);
+  ScrollBar& bar = main.pneLive.sliders.front()->bar;
+  const int from = bar.value();
+  bool up = false;
+  for (auto _ : state) {
+    up = !up;
+    bar.scroll(up ? from + 1 : from);
+    page->repaint();
+    QCoreApplication::processEvents();
+  }
+}
+BENCHMARK(liveFrame)->Unit(benchmark::kMillisecond);
+
 void nextOptionToRepaint(benchmark::State& state) {
   Shown shown;
   shown.start();

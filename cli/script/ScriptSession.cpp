@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "cli/script/controlState.h"
+#include "controls/ChartBox.h"
 #include "controls/Grid.h"
 #include "controls/Table.h"
 
@@ -190,6 +191,13 @@ nlohmann::ordered_json ScriptSession::carryOut(const std::string& command, std::
       throw ScriptError(name + " has no such row");
     }
     table.choose(static_cast<std::size_t>(place));
+  } else if (command == "point") {
+    const int index = wholeNumber(std::string(rest), "The point");
+    ChartBox& box = reach<ChartBox>(name, "pointed at");
+    if (index < 0 || !box.chart() || !canPick(*box.chart(), static_cast<std::size_t>(index))) {
+      throw ScriptError(name + " has no such point");
+    }
+    box.pick(static_cast<std::size_t>(index));
   } else if (command == "sort") {
     const int column = wholeNumber(std::string(rest), "The column");
     Table& table = reach<Table>(name, "sorted");

@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <string>
 
+#include "controls/ChartBox.h"
 #include "controls/Grid.h"
 #include "controls/Table.h"
 #include "controls/displays.h"
@@ -72,6 +73,12 @@ Json tableJson(const Table& table) {
           {"sort", std::move(sort)}};
 }
 
+Json chartJson(const ChartBox& box) {
+  const std::optional<Chart>& chart = box.chart();
+  if (!chart) return {{"title", nullptr}, {"summary", nullptr}, {"table", Json::array()}};
+  return {{"title", chart->title}, {"summary", chart->summary}, {"table", chart->table}};
+}
+
 /// The properties of a control apart from name, kind and visibility.
 Json particulars(Control& control) {
   if (const auto* box = dynamic_cast<TextBox*>(&control)) return {{"text", box->text()}};
@@ -95,6 +102,7 @@ Json particulars(Control& control) {
   }
   if (const auto* grid = dynamic_cast<Grid*>(&control)) return gridJson(*grid);
   if (const auto* table = dynamic_cast<Table*>(&control)) return tableJson(*table);
+  if (const auto* box = dynamic_cast<ChartBox*>(&control)) return chartJson(*box);
   if (const auto* bar = dynamic_cast<ProgressBar*>(&control)) {
     return {{"value", numberJson(bar->value())}, {"maximum", numberJson(bar->maximum())}};
   }

@@ -88,7 +88,13 @@ void photographQuestions(Desktop& desktop, const Photographer& camera) {
     camera.take(window,
                 QStringLiteral("explore-") + QString::fromStdString(pages.at(i)->name().substr(3)).toLower());
   }
-  main.questions.map.cmdBack.click();
+  main.menus.mnuLive.click();
+  for (const std::size_t slider : {0U, 4U}) {
+    ScrollBar& bar = main.pneLive.sliders.at(slider)->bar;
+    bar.scroll(bar.value() * 3 / 4);
+  }
+  camera.take(window, QStringLiteral("live"));
+  main.pneLive.cmdBack.click();
   main.wishesCard.cmdWishes.click();
   main.wishesCard.cboWishWhat.type("40");
   main.wishesCard.cmdAddWish.click();

@@ -184,6 +184,7 @@ TEST(Script, AnswersAnyLine) {
                                        "scroll",
                                        "pick",
                                        "cell",
+                                       "point",
                                        "key",
                                        "answer",
                                        "choose",

@@ -45,11 +45,12 @@ TEST_F(Habit, HintsMarkTheirFieldsAndTheStatusLeadsToWhatIsMissing) {
   EXPECT_TRUE(widget<QLineEdit>("txtArea")->hasFocus());
   type("txtArea", "1,250");
   auto* area = widget<QLineEdit>("txtArea");
-  EXPECT_TRUE(area->property("caution").toBool());
+  const auto isMarked = [area] { return area->property("caution").toBool(); };
+  EXPECT_TRUE(QTest::qWaitFor(isMarked));
   EXPECT_EQ(area->toolTip(), QStringLiteral("Total acres: read as 1. Leave out the comma."));
   EXPECT_EQ(widget<QLabel>("lblFarmHint")->text(), area->toolTip());
   type("txtArea", "1250");
-  EXPECT_FALSE(area->property("caution").toBool());
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !isMarked(); }));
   EXPECT_EQ(area->toolTip(), QString());
 }
 

@@ -154,6 +154,7 @@ TEST_F(Navigation, MenusHaveTheirOrderAndTheirStates) {
                               "  mnuSeasons \"Seasons\"",
                               "  mnuInputs \"What Matters\"",
                               "  mnuMap \"Map\"",
+                              "  mnuLive \"Live\"",
                               "mnuGo \"Go\"",
                               "  mnuGoMain \"Main page\"",
                               "  mnuGoResults \"Results\" disabled",

@@ -8,6 +8,7 @@
 #include "questions/LivePane.h"
 #include "questions/planText.h"
 #include "tests/explore/SmallFarm.h"
+#include "tests/support/FakeServices.h"
 
 namespace verdalis::testing {
 namespace {
@@ -20,7 +21,8 @@ class Live : public ::testing::Test {
   std::string incomplete;
   Desk desk;
   Window window{desk, "window"};
-  LivePane pane{window, [this] {
+  FakeServices fakes;
+  LivePane pane{window, fakes.services, [this] {
                   if (!incomplete.empty()) throw std::invalid_argument(incomplete);
                   return farm.Copy();
                 }};
@@ -96,6 +98,31 @@ TEST_F(Live, PositionsAreRoundValuesAroundThePresentOne) {
   EXPECT_DOUBLE_EQ(water.valueAt(water.mark + 1), 13.3 + water.step);
   EXPECT_GE(water.valueAt(0), 1.33);
   EXPECT_LE(water.valueAt(water.bar.maximum()), 26.6);
+}
+
+TEST_F(Live, DrawsAMapThatFollowsTheSliders) {
+  open();
+  const auto map = [this] { return std::get<MapChart>(pane.chtLive.chart()->data); };
+  ASSERT_TRUE(pane.chtLive.chart());
+  const MapChart first = map();
+  EXPECT_EQ(first.category.size(), first.xValues.size() * first.yValues.size());
+  EXPECT_EQ(first.now->y, farm.grossDepth);
+  LivePane::Slider& water = slider(FarmInput::Kind::water);
+  water.bar.scroll(water.mark + 2);
+  EXPECT_EQ(map().now->y, water.value());
+  EXPECT_EQ(map().value, first.value) << "the water is an axis";
+  LivePane::Slider& rain = slider(FarmInput::Kind::rain);
+  rain.bar.scroll(rain.mark - 1);
+  EXPECT_NE(map().value, first.value);
+  const std::size_t row = 8;
+  const std::size_t column = 12;
+  Farm there = farm.Copy();
+  setInput(there, rain.input, rain.value());
+  setInput(there, water.input, first.yValues[row]);
+  setInput(there, slider(FarmInput::Kind::price).input, first.xValues[column]);
+  ProgramState state;
+  RunHooks hooks;
+  EXPECT_EQ(map().value[row * first.xValues.size() + column], bestPlan(there, state, hooks)->profit);
 }
 
 TEST_F(Live, TakesOverWhatWasMoved) {
