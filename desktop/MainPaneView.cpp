@@ -175,7 +175,7 @@ QWidget* MainPaneView::landCard() {
 }
 
 QWidget* MainPaneView::cropCard() {
-  const Card crops = card(plain(pane_.cropBox.caption()), hintLabel(binder_, pane_.lblCropHint));
+  const Card crops = card(plain(pane_.cropBox.caption()), hintLabel(binder_, pane_.lblCropsHint));
   binder_.bind(pane_.cropBox, crops.frame);
   auto* heads = new QGridLayout;
   setColumns(heads);

@@ -34,7 +34,7 @@ struct Shares {
   int table;
 };
 constexpr Shares narrowTable{5, 3};
-constexpr Shares wideTable{1, 1};
+constexpr Shares wideTable{4, 5};
 
 /// What all pages have. The fields of the page are added to `fields`.
 class QuestionView : public QWidget {
@@ -48,7 +48,11 @@ class QuestionView : public QWidget {
     head->setSpacing(2);
     head->addWidget(sizedLabel(fixedLabel(plain(pane_.caption()), "heading")));
     head->addWidget(wrapped(binder_, pane_.lblAbout, "muted"));
-    view.body->addLayout(head);
+    auto* top = new QHBoxLayout;
+    top->setSpacing(24);
+    top->addLayout(head, 1);
+    top->addWidget(statusLine(), 1);
+    view.body->addLayout(top);
     auto* middle = new QHBoxLayout;
     middle->setSpacing(12);
     middle->addWidget(chartCard(), shares.chart);
@@ -92,12 +96,10 @@ class QuestionView : public QWidget {
 
   void addStretch() { fields_->addStretch(); }
 
-  /// The next fields stand below those so far.
+  /// Begins another line of fields.
   void addLine() {
-    addStretch();
-    fields_ = new QHBoxLayout;
-    fields_->setSpacing(8);
-    lines_->addLayout(fields_);
+    fields_->addStretch();
+    beginLine();
   }
 
  private:
@@ -110,14 +112,15 @@ class QuestionView : public QWidget {
 
   QWidget* fieldsCard() {
     const Card fields = card();
+    lines_ = fields.body;
+    beginLine();
+    return fields.frame;
+  }
+
+  void beginLine() {
     fields_ = new QHBoxLayout;
     fields_->setSpacing(8);
-    lines_ = new QVBoxLayout;
-    lines_->setSpacing(8);
     lines_->addLayout(fields_);
-    fields.body->addLayout(lines_);
-    fields.body->addWidget(statusLine());
-    return fields.frame;
   }
 
   /// Why there is no answer, or that it is for another farm, or how far it is.
@@ -127,6 +130,7 @@ class QuestionView : public QWidget {
     line->setContentsMargins(0, 0, 0, 0);
     line->setSpacing(10);
     auto* fault = wrapped(binder_, pane_.lblFault, "caution");
+    fault->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     line->addWidget(fault, 1);
     line->addWidget(binder_.bind(pane_.lblOutdated, fixedLabel({}, "caution")));
     line->addWidget(binder_.bind(pane_.cmdUpdate, new QPushButton));
@@ -143,7 +147,6 @@ class QuestionView : public QWidget {
     });
     line->addWidget(bar);
     line->addWidget(binder_.bind(pane_.cmdCancel, new QPushButton));
-    line->addStretch();
     // The page keeps its height while a question runs.
     status->setMinimumHeight(numberFieldSize().height() + scaled(2));
     return status;
@@ -187,8 +190,8 @@ class QuestionView : public QWidget {
 
   QuestionPane& pane_;
   Binder& binder_;
-  QVBoxLayout* lines_ = nullptr;
-  QHBoxLayout* fields_ = nullptr;  ///< The line to which fields are added
+  QVBoxLayout* lines_ = nullptr;   ///< Of fields
+  QHBoxLayout* fields_ = nullptr;  ///< The last of them
   QTimer ticks_;
   Connection running_;
 };

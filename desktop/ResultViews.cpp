@@ -17,7 +17,7 @@ namespace verdalis::desktop {
 namespace {
 
 constexpr int rowHeight = 36;
-constexpr std::array<int, 9> columnWidths{74, 92, 108, 58, 58, 120, 106, 106, 86};
+constexpr std::array<int, 9> columnWidths{74, 92, 108, 58, 58, 116, 106, 106, 86};
 
 void setColumns(QGridLayout* grid) {
   grid->setContentsMargins(10, 0, 10, 0);

@@ -178,8 +178,11 @@ QWidget* summaryView(SummaryPane& pane, Binder& binder) {
   body->addWidget(binder.bind(pane.Label59, fixedLabel({})));
   auto* table = new SavedOptionsTable(pane);
   auto* band = new OptionBand(pane, table);
-  body->addWidget(band);
-  body->addWidget(binder.bind(pane.fgsummary, table, QObject::tr("Saved options")), 1);
+  auto* named = new QVBoxLayout;
+  named->setSpacing(1);
+  named->addWidget(band);
+  named->addWidget(binder.bind(pane.fgsummary, table, QObject::tr("Saved options")), 1);
+  body->addLayout(named, 1);
   // The heads are cells of the grid, so a click on a head counts as a click in its column.
   QObject::connect(table->horizontalHeader(), &QHeaderView::sectionClicked, table,
                    [&pane](int column) { pane.fgsummary.clickCell(0, column); });

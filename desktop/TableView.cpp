@@ -128,8 +128,7 @@ class TablePainter : public QStyledItemDelegate {
     }
     QRect room = option.rect.adjusted(scaled(sidePadding), 0, -scaled(sidePadding), 0);
     if (cell.bar) {
-      const int length =
-          std::max(1, static_cast<int>(std::lround(std::clamp(*cell.bar, 0.0, 1.0) * scaled(barRoom))));
+      const int length = static_cast<int>(std::lround(std::clamp(*cell.bar, 0.0, 1.0) * scaled(barRoom)));
       QRect bar(room.left(), 0, length, scaled(barHeight));
       if (isLeft(column)) {
         if (length > 0) room.setLeft(bar.right() + scaled(barGap));
@@ -336,7 +335,8 @@ void TableView::spread() {
   QList<int> widths = needed_;
   int rest = viewport()->width() - std::accumulate(widths.begin(), widths.end(), 0);
   for (int column = 0; rest < 0 && column < widths.size(); ++column) {
-    if (!isLeft(table_->columns()[placeAt(column)])) continue;
+    const Table::Column& one = table_->columns()[placeAt(column)];
+    if (!isLeft(one) || one.water) continue;
     const int cut = std::clamp(widths[column] - scaled(leastText), 0, -rest);
     widths[column] -= cut;
     rest += cut;

@@ -102,6 +102,7 @@ frmMain::frmMain(Desk& desk, Services& services, ProgramState& state, SecondaryW
   wireNotices();
   wireFarms();
   wireLosses();
+  wireSinceLastRun();
   wireLive();
   wireQuestions();
   wireWishes();

@@ -23,7 +23,7 @@ std::int16_t mixCountOf(const std::string& text) {
 }
 
 BarChart chartOf(const std::vector<Plan>& plans) {
-  BarChart chart{returnAxis(), {}, plans.front().profit};
+  BarChart chart{returnAxis(), {}, {}};
   for (std::size_t i = 0; i < plans.size(); ++i) {
     chart.bars.push_back({mixText(mixOf(plans[i])), 0, plans[i].profit, "", dollarsText(plans[i].profit),
                           i == 0 ? BarChart::Bar::Kind::total : BarChart::Bar::Kind::plain, i});

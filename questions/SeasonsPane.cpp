@@ -72,13 +72,13 @@ void SeasonsPane::setCount(std::size_t count) {
     for (TextBox* box : {&lines[i]->txtSeason, &lines[i]->txtRain, &lines[i]->txtWeight})
       box->setVisible(i < count);
   }
-  cmdAddSeason.setEnabled(count < mostSeasons);
+  cmdAddSeason.setEnabled(count >= leastSeasons && count < mostSeasons);
   cmdRemoveSeason.setEnabled(count > leastSeasons);
 }
 
 /// Adds a season like the last one, with a name of its own.
 void SeasonsPane::addSeason() {
-  if (count_ == mostSeasons) return;
+  if (count_ < leastSeasons || count_ == mostSeasons) return;
   const auto isTaken = [&](const std::string& name) {
     return std::any_of(lines.begin(), lines.begin() + static_cast<std::ptrdiff_t>(count_),
                        [&](const auto& line) { return line->txtSeason.text() == name; });

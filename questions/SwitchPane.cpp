@@ -31,12 +31,6 @@ std::string unitOf(const FarmInput& input, const Farm& farm) {
   return found == farm.crops.end() ? std::string() : (*found)->priceUnits();
 }
 
-/// "Below $4.87" inside a sentence.
-std::string lowerRange(std::string range) {
-  range.front() = range.front() == 'B' ? 'b' : 'f';
-  return range;
-}
-
 LineChart chartOf(const Farm& farm, const SwitchAnswer& answer, const SwitchTexts& texts) {
   LineChart chart{inputAxis(answer.input, farm), returnAxis(), {}, {}, cropNames(farm), ChartStrip()};
   ChartLine line;
@@ -111,19 +105,18 @@ void SwitchPane::show(const Farm& farm, const SwitchAnswer& answer) {
   std::vector<FigureText> figureTexts{{inputLabel(answer.input) + " now", texts.now}};
   for (std::size_t i = 0; i < answer.segments.size(); ++i) {
     const SwitchTexts::Segment& text = texts.segments[i];
-    rows.push_back({{text.range + (text.isNow ? " (now)" : ""), text.profit, text.plan},
-                    {answer.segments[i].from, answer.segments[i].profitFrom},
+    rows.push_back({{text.from, text.to, text.profit, text.plan},
+                    {answer.segments[i].from, answer.segments[i].to, answer.segments[i].profitFrom},
                     text.isNow});
     if (!text.isNow) continue;
-    if (i > 0) figureTexts.push_back({"Another plan", lowerRange(texts.segments[i - 1].range)});
-    if (i + 1 < texts.segments.size())
-      figureTexts.push_back({"Another plan", lowerRange(texts.segments[i + 1].range)});
+    if (i > 0) figureTexts.push_back({"Another plan is the best below", text.from});
+    if (i + 1 < texts.segments.size()) figureTexts.push_back({"Another plan is the best from", text.to});
   }
   const std::size_t plans = answer.segments.size();
   const std::string summary = plans == 1 ? "The same plan is the best everywhere in this range."
                                          : std::to_string(plans) + " plans are the best in this range.";
   showAnswer({"Best net return of the farm", summary, chartOf(farm, answer, texts), {}},
-             {{"Range", Table::Align::left}, {"Net return"}, {"Plan", Table::Align::left}}, std::move(rows));
+             {{"From"}, {"To"}, {"Net return"}, {"Plan", Table::Align::left}}, std::move(rows));
   showFigures(summary, figureTexts, texts.heading);
 }
 

@@ -75,7 +75,7 @@ ChartAxis inputAxis(const FarmInput& input, const Farm& farm) {
 }
 
 ChartAxis returnAxis() {
-  return {"Best net return of the farm", {"$", "", 0, true}};
+  return {"", {"$", "", 0, true}};  // the title of the chart says what it is
 }
 
 ValueRange usualRange(const FarmInput& input, const Farm& farm) {

@@ -137,8 +137,9 @@ SwitchTexts switchTexts(const SwitchAnswer& answer) {
     const SwitchSegment& segment = answer.segments[i];
     const bool last = i + 1 == answer.segments.size();
     const bool undivided = segment.fields.size() < fields.size();
-    texts.segments.push_back({rangeText(answer, i, text), holds(segment, answer.now, last),
-                              placedCropsText(segment.fields, undivided), returnText(segment)});
+    texts.segments.push_back({rangeText(answer, i, text), text(segment.from), text(segment.to),
+                              holds(segment, answer.now, last), placedCropsText(segment.fields, undivided),
+                              returnText(segment)});
   }
   return texts;
 }

@@ -55,6 +55,11 @@ std::string inWords(std::size_t number) {
   return number < words.size() ? words[number] : formatNumber(static_cast<double>(number), "###,##0");
 }
 
+/// The options of a trend differ in its values; their fields are told on their pages.
+std::size_t fieldColumns(const OptionRows& rows, const AllOptions::Run& run) {
+  return run.trend ? 0 : rows.fields();
+}
+
 std::string capitalized(std::string text) {
   if (!text.empty() && text[0] >= 'a' && text[0] <= 'z') text[0] = static_cast<char>(text[0] - 'a' + 'A');
   return text;
@@ -210,7 +215,7 @@ std::vector<Table::Column> AllOptions::columns() const {
   for (const std::string& variable : variables_)
     columns.push_back({variable});
   // The acres of the fields stand above them where all options divide the land alike, as far as they do.
-  for (std::size_t field = 0; field < rows_.fields(); ++field) {
+  for (std::size_t field = 0; field < fieldColumns(rows_, run_); ++field) {
     std::string head;
     for (std::size_t row = 0; row < rows_.size() && head.empty(); ++row) {
       if (rows_[row].fields < rows_.fields()) continue;
@@ -234,8 +239,8 @@ Table::Cell AllOptions::cell(std::size_t record, std::size_t column) const {
   column -= Front::fronts;
   if (column < variables_.size()) return trendCell(record, column);
   column -= variables_.size();
-  if (column < rows_.fields()) return waterCell(record, column);
-  column -= rows_.fields();
+  if (column < fieldColumns(rows_, run_)) return waterCell(record, column);
+  column -= fieldColumns(rows_, run_);
   if (column == Back::perAcreReturn && row.profit) {
     return {dollarsOrDash([&] { return perAcre(*row.profit, row.acres); }), {}, false};
   }
@@ -299,8 +304,8 @@ bool AllOptions::before(std::size_t a, std::size_t b, std::size_t column) const 
   column -= Front::fronts;
   if (column < variables_.size()) return trendValue(a, column) < trendValue(b, column);
   column -= variables_.size();
-  if (column < rows_.fields()) return one.gross[column] < other.gross[column];
-  column -= rows_.fields();
+  if (column < fieldColumns(rows_, run_)) return one.gross[column] < other.gross[column];
+  column -= fieldColumns(rows_, run_);
   // What cannot be worked out counts as less than all else.
   if (column == Back::perAcreReturn) {
     const auto perAcreOf = [](const OptionRows::Row& row) {

@@ -54,7 +54,7 @@ class MainPane : public Frame {
   Label lblNumber{*this, "lblNumber"};
   Button cmdStatus{*this, "cmdStatus", ""};  ///< What is missing for a run; a click leads to the field
   Label lblFarmHint{*this, "lblFarmHint"};   ///< What is odd about the fields of the farm
-  Label lblCropHint{*this, "lblCropHint"};   ///< What is odd about the crop rows
+  Label lblCropsHint{*this, "lblCropsHint"};   ///< What is odd about the crop rows
   static constexpr const char* keepCaption = "Options to keep";
   TextBox txtArraySize{*this, "txtArraySize", "100"};
   TextBox txtSize{*this, "txtSize"};                           ///< Without effect

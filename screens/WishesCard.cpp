@@ -57,6 +57,7 @@ WishesCard::WishesCard(MainPane& pane) : Frame(pane, "wishesCard"), pane_(pane) 
 void WishesCard::refresh() {
   const WishContext known = knownOf(pane_);
   if (known.chosen != chosen_ || known.fields != fields_) {
+    const bool first = chosen_.empty();
     chosen_ = known.chosen;
     fields_ = known.fields;
     std::vector<std::string> items = chosen_;
@@ -64,6 +65,7 @@ void WishesCard::refresh() {
       items.push_back("Field " + std::to_string(field));
     items.emplace_back(ofPlan);
     replaceItems(cboWishOf, items);
+    if (first) cboWishOf.setIndex(0);
     fillHow();
   }
   if (pane_.wishes == shown_) return;

@@ -27,7 +27,7 @@ void MainPane::showHints(std::int16_t factor) {
   std::vector<FieldHint> farm = farmHints();
   const std::vector<FieldHint> crops = cropHints();
   lblFarmHint.setCaption(captionOf(farm));
-  lblCropHint.setCaption(captionOf(crops));
+  lblCropsHint.setCaption(captionOf(crops));
   farm.insert(farm.end(), crops.begin(), crops.end());
   add(farm, txtArraySize, readingHint(keepCaption, txtArraySize.text()));
   const bool same = std::equal(

@@ -43,9 +43,8 @@ void typeFarm(MainPane& pane) {
   pane.txtAnnRain.type("17");
   pane.Option1[3]->click();
   pane.Command7.click();
-  for (const std::size_t row : {1U, 2U, 5U}) {
-    if (!pane.cr[row]->chkCrop.checked()) pane.cr[row]->chkCrop.click();
-  }
+  for (const std::size_t row : {1U, 2U, 5U})
+    pane.cr[row]->chkCrop.click();
 }
 
 void photographBars(Desktop& desktop, const Photographer& camera) {
@@ -75,6 +74,39 @@ void photographBars(Desktop& desktop, const Photographer& camera) {
   window->resize(1180, 820);
 }
 
+void photographQuestions(Desktop& desktop, const Photographer& camera) {
+  MainWindow* window = desktop.mainWindow();
+  frmMain& main = desktop.program().main();
+  const std::array<MenuEntry*, 6> entries{&main.menus.mnuMixes,  &main.menus.mnuWater,
+                                          &main.menus.mnuSwitch, &main.menus.mnuSeasons,
+                                          &main.menus.mnuInputs, &main.menus.mnuMap};
+  const auto pages = main.questions.all();
+  for (std::size_t i = 0; i < pages.size(); ++i) {
+    entries.at(i)->click();
+    while (pages.at(i)->isRunning())
+      QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    camera.take(window,
+                QStringLiteral("explore-") + QString::fromStdString(pages.at(i)->name().substr(3)).toLower());
+  }
+  main.menus.mnuLive.click();
+  for (const std::size_t slider : {0U, 4U}) {
+    ScrollBar& bar = main.pneLive.sliders.at(slider)->bar;
+    bar.scroll(bar.value() * 3 / 4);
+  }
+  while (!main.pneLive.chtLive.chart())
+    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+  camera.take(window, QStringLiteral("live"));
+  main.pneLive.cmdBack.click();
+  main.wishesCard.cmdWishes.click();
+  main.wishesCard.cboWishWhat.type("40");
+  main.wishesCard.cmdAddWish.click();
+  main.wishesCard.cboWishWhat.type("much");
+  main.wishesCard.cmdAddWish.click();
+  camera.take(window, QStringLiteral("wishes"));
+  main.wishesCard.lines[0]->cmdRemoveWish.click();
+  main.wishesCard.cmdWishes.click();
+}
+
 void photograph(Desktop& desktop, const Photographer& camera) {
   camera.take(desktop.binder().widget(desktop.program().welcome), QStringLiteral("welcome"));
   desktop.program().welcome.Command1.click();
@@ -86,6 +118,7 @@ void photograph(Desktop& desktop, const Photographer& camera) {
   window->resize(1024, 700);
   camera.take(window, QStringLiteral("main-small"));
   window->resize(1180, 820);
+  photographQuestions(desktop, camera);
   photographBars(desktop, camera);
   main.pneMain.cr[1]->cmdInputCosts.click();
   camera.take(window, QStringLiteral("costs-grain"));
@@ -117,31 +150,6 @@ void photograph(Desktop& desktop, const Photographer& camera) {
   main.pneCustomCrop.cboCustomGrid[5].pick(0);
   camera.take(window, QStringLiteral("custom-crop"));
   main.pneCustomCrop.cmdCustomGrid5.click();
-}
-
-void photographQuestions(Desktop& desktop, const Photographer& camera) {
-  MainWindow* window = desktop.mainWindow();
-  frmMain& main = desktop.program().main();
-  typeFarm(main.pneMain);
-  main.notices.dismiss();
-  const std::array<MenuEntry*, 6> entries{&main.menus.mnuMixes,  &main.menus.mnuWater,
-                                          &main.menus.mnuSwitch, &main.menus.mnuSeasons,
-                                          &main.menus.mnuInputs, &main.menus.mnuMap};
-  const auto pages = main.questions.all();
-  for (std::size_t i = 0; i < pages.size(); ++i) {
-    entries.at(i)->click();
-    while (pages.at(i)->isRunning())
-      QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    camera.take(window,
-                QStringLiteral("explore-") + QString::fromStdString(pages.at(i)->name().substr(3)).toLower());
-  }
-  main.menus.mnuLive.click();
-  for (const std::size_t slider : {0U, 4U}) {
-    ScrollBar& bar = main.pneLive.sliders.at(slider)->bar;
-    bar.scroll(bar.value() * 3 / 4);
-  }
-  camera.take(window, QStringLiteral("live"));
-  main.pneLive.cmdBack.click();
 }
 
 void photographTrends(Desktop& desktop, const Photographer& camera) {
@@ -235,7 +243,6 @@ int main(int argc, char** argv) {
   Desktop desktop(std::filesystem::path(programText(arguments[4])), QStringLiteral(VERDALIS_HELP));
   const Photographer camera(arguments[1], arguments[3]);
   photograph(desktop, camera);
-  photographQuestions(desktop, camera);
   photographTrends(desktop, camera);
   photographSmallWindows(desktop, camera);
   return 0;

@@ -49,7 +49,7 @@ TEST_F(AllOptionsOnScreen, ARowShowsItsOptionAndPagingMovesTheRow) {
 }
 
 TEST_F(AllOptionsOnScreen, ThePageFitsOnASmallScreen) {
-  evaluate("Option1(5)");
+  evaluate("Option1(4)");
   ASSERT_EQ(program().main().theResults.FieldCollection.front()->Count(), 4);
   window()->resize(1366, 768);
   EXPECT_TRUE(comes([&] { return table()->viewport()->height() > 0; }));

@@ -52,6 +52,7 @@ class Keys : public RunningDesktop {
       const QString name = widget->objectName();
       if (!kind || name.isEmpty() || name.startsWith(QLatin1String("qt_")) ||
           name.startsWith(QLatin1String("cr(")) || name.contains(QLatin1String("rh(")) ||
+          name.startsWith(QLatin1String("cmdRemoveWish(")) ||
           widget->property("role") == QLatin1String("help")) {
         continue;
       }

@@ -108,7 +108,9 @@ TEST_F(SwitchPage, ShowsTheSegments) {
     EXPECT_EQ(lines(drawn()).strip->boxes.at(i).to, (*expected)[i].to);
   }
   EXPECT_EQ(line.points.back().y, expected->back().profitTo);
-  EXPECT_TRUE(cell(0, 0).starts_with("Below $")) << cell(0, 0);
+  EXPECT_EQ(cell(0, 0), "$1.00");
+  EXPECT_EQ(cell(0, 1), cell(1, 0));
+  EXPECT_EQ(cell(expected->size() - 1, 1), "$9.00");
 }
 
 TEST_F(SwitchPage, AnotherInputBringsItsOwnRange) {
@@ -165,6 +167,13 @@ TEST_F(SeasonsPage, OffersTheSeasonsOfTheFarm) {
   openSeasons();
   EXPECT_EQ(pane().lines[1]->txtSeason.text(), "La Nina");
   EXPECT_FALSE(pane().lines[2]->txtSeason.visible());
+  EXPECT_FALSE(pane().cmdRemoveSeason.enabled());
+}
+
+TEST_F(SeasonsPage, AddsNoSeasonWithoutAFarm) {
+  incomplete = "Enter the acres.";
+  openSeasons();
+  EXPECT_FALSE(pane().cmdAddSeason.enabled());
   EXPECT_FALSE(pane().cmdRemoveSeason.enabled());
 }
 
