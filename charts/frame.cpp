@@ -126,7 +126,11 @@ double addHead(Canvas& canvas, const Chart& chart, const std::vector<LegendEntry
   const double beside = room - titleWidth - 2 * legendGap;
   std::vector<std::vector<PlacedEntry>> rows =
       beside > 0 ? rowsOf(canvas, legend, beside, 1) : std::vector<std::vector<PlacedEntry>>{};
-  if (rows.size() == 1 && rows.front().size() == legend.size() && rows.front().back().entry != nullptr) {
+  const auto isWhole = [](const PlacedEntry& placed) {
+    return placed.entry != nullptr && placed.name == placed.entry->name;
+  };
+  if (rows.size() == 1 && rows.front().size() == legend.size() &&
+      std::all_of(rows.front().begin(), rows.front().end(), isWhole)) {
     addRow(canvas, rows.front(), width - edge - lengthOf(rows.front()), top + row / 2);
     return top + row + 2;
   }

@@ -75,7 +75,7 @@ void ChartView::forget() {
 }
 
 QSize ChartView::sizeHint() const {
-  return {scaled(480), scaled(190)};
+  return {scaled(320), scaled(150)};  // it takes what is left, and pages scroll below this height
 }
 
 QSize ChartView::minimumSizeHint() const {

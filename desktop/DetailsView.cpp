@@ -102,7 +102,7 @@ QWidget* detailsView(Details& details, Binder& binder) {
   for (std::size_t i = 0; i < blocks.size() && i < places.size(); ++i) {
     const auto [row, column] = places.at(i);
     grid->addWidget(i == 0 ? totalsCard(details, blocks[i], binder) : blockCard(details, blocks[i], binder),
-                    row, column, 1, i == 0 ? 3 : 1);
+                    row, column, 1, i == 0 ? 3 : 1, i == 5 ? Qt::AlignTop : Qt::Alignment());
   }
   const std::array<Label*, 2> figures{&details.lblBatchGeneralProductionCost,
                                       &details.lblBatchIrrigationCosts};
