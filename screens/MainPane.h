@@ -52,9 +52,9 @@ class MainPane : public Frame {
   std::vector<std::unique_ptr<CropRecord>> cr;  ///< Element 0 always exists and survives reloads
   Button Command1{*this, "Command1", "Generate Output"};
   Label lblNumber{*this, "lblNumber"};
-  Button cmdStatus{*this, "cmdStatus", ""};  ///< What is missing for a run; a click leads to the field
-  Label lblFarmHint{*this, "lblFarmHint"};   ///< What is odd about the fields of the farm
-  Label lblCropsHint{*this, "lblCropsHint"};   ///< What is odd about the crop rows
+  Button cmdStatus{*this, "cmdStatus", ""};   ///< What is missing for a run; a click leads to the field
+  Label lblFarmHint{*this, "lblFarmHint"};    ///< What is odd about the fields of the farm
+  Label lblCropsHint{*this, "lblCropsHint"};  ///< What is odd about the crop rows
   static constexpr const char* keepCaption = "Options to keep";
   TextBox txtArraySize{*this, "txtArraySize", "100"};
   TextBox txtSize{*this, "txtSize"};                           ///< Without effect
