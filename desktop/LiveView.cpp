@@ -125,6 +125,7 @@ class LiveView : public QWidget {
     sliders_->removeWidget(ground_);
     delete ground_;  // the controls of its sliders may be gone by now
     ground_ = new QWidget;
+    sliders_->insertWidget(1, ground_);
     auto* grid = new QGridLayout(ground_);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setVerticalSpacing(2);
@@ -147,7 +148,6 @@ class LiveView : public QWidget {
       setTabOrder(back_, reset_);
       setTabOrder(reset_, takeOver_);
     }
-    sliders_->insertWidget(1, ground_);
   }
 
   void showLoss() {
