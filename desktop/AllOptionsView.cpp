@@ -52,7 +52,9 @@ QWidget* allOptionsView(AllOptions& options, Binder& binder) {
   const Card view = card();
   view.body->setSpacing(4);
   view.body->addLayout(choices(options, binder));
-  view.body->addWidget(binder.bind(options.tblOptions, new TableView, QObject::tr("All options")), 1);
+  auto* table = binder.bind(options.tblOptions, new TableView, QObject::tr("All options"));
+  table->setProperty(firstFocus, true);
+  view.body->addWidget(table, 1);
   auto* last = new QHBoxLayout;
   last->addWidget(
       binder.bind(options.lblOptionsNote, fixedLabel({}, "muted"), QObject::tr("What the options tell")));

@@ -46,9 +46,12 @@ bool takesWork(const QWidget* widget) {
          !widget->objectName().isEmpty() && widget->property("role") != QLatin1String("help");
 }
 
-/// Gives the focus to the first control of a page. The "?" buttons come first for Tab, but nobody opens a
-/// pane for them.
+/// Gives the focus to the control of a page where the work goes on, or else to its first one. The "?" buttons
+/// come first for Tab, but nobody opens a pane for them.
 void focusFirst(QWidget* page) {
+  for (QWidget* widget : page->findChildren<QWidget*>()) {
+    if (widget->property(firstFocus).toBool() && takesWork(widget)) return widget->setFocus();
+  }
   QWidget* first = page->nextInFocusChain();
   while (first != page && !(page->isAncestorOf(first) && takesWork(first)))
     first = first->nextInFocusChain();

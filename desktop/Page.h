@@ -91,6 +91,9 @@ void setRole(QWidget* widget, const char* role);
 /// A right-aligned field for a number, `characters` digits wide.
 [[nodiscard]] QLineEdit* numberField(int characters = 10);
 
+/// Property of a widget, of type bool: it gets the focus when its page is opened.
+inline constexpr const char* firstFocus = "firstFocus";
+
 /// Fixes the height of a window with wrapped texts to what they need at this width, whatever the screen size.
 void fitHeight(QWidget* window, int width);
 

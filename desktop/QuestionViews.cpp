@@ -108,6 +108,8 @@ class QuestionView : public QWidget {
     label->setBuddy(field);
     fields_->addWidget(label);
     fields_->addWidget(field);
+    if (!hasFirst_) field->setProperty(firstFocus, true);
+    hasFirst_ = true;
   }
 
   QWidget* fieldsCard() {
@@ -192,6 +194,7 @@ class QuestionView : public QWidget {
   Binder& binder_;
   QVBoxLayout* lines_ = nullptr;   ///< Of fields
   QHBoxLayout* fields_ = nullptr;  ///< The last of them
+  bool hasFirst_ = false;          ///< There is a field that the page opens with
   QTimer ticks_;
   Connection running_;
 };
