@@ -316,6 +316,9 @@ SharedList<EmbeddedCrop> FarmControls::readCustomCrops(const FarmDocument& docum
 }
 
 void FarmControls::put(const FarmDocument& document) {
+  // A document of before a crop was deleted keeps what was entered for it.
+  for (const auto& crop : document.inputs.crops)
+    deletedCrops.erase(crop->name);
   if (!isTrying()) {
     putFarm(document.inputs.farm);
     putPlant(document.inputs.plant.plant);
