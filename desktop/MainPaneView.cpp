@@ -20,6 +20,7 @@
 
 #include "desktop/Keys.h"
 #include "desktop/LandSplitPicture.h"
+#include "desktop/Theme.h"
 #include "desktop/WishesView.h"
 #include "model/LandDivision.h"
 
@@ -53,12 +54,25 @@ constexpr int hintDelay = 120;  // milliseconds from a change to the marks of th
 
 constexpr const char* ownTip = "ownTip";  // the tool tip of a field without a hint
 
-/// The hint beside the heading of a card, where it takes no room from the page.
-QLabel* hintLabel(Binder& binder, Label& control) {
-  QLabel* label = fixedLabel({}, "caution");
-  label->setMinimumWidth(1);  // a long one is cut off, and stands in the tool tip of its field
-  return binder.bind(control, label, QObject::tr("Hint"));
-}
+/// The hint beside the heading of a card. It takes no room from the page. Its label is in no layout, so that
+/// another text does not lay the page out again with each key.
+class HintLine : public QWidget {
+ public:
+  HintLine(Binder& binder, Label& control) {
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    label_ = fixedLabel({}, "caution");
+    label_->setParent(this);
+    binder.bind(control, label_, QObject::tr("Hint"));
+  }
+
+  [[nodiscard]] QSize sizeHint() const override { return {scaled(300), fontMetrics().lineSpacing()}; }
+
+ protected:
+  void resizeEvent(QResizeEvent*) override { label_->setGeometry(rect()); }
+
+ private:
+  QLabel* label_;
+};
 
 const FieldRow* rowOf(std::string_view control) {
   for (const FieldRow& row : MainPane::fields()) {
@@ -97,7 +111,7 @@ MainPaneView::MainPaneView(MainPane& pane, WishesCard& wishes, Binder& binder)
 }
 
 QWidget* MainPaneView::farmCard() {
-  const Card farm = card(tr("Farm and water"), hintLabel(binder_, pane_.lblFarmHint));
+  const Card farm = card(tr("Farm and water"), new HintLine(binder_, pane_.lblFarmHint));
   auto* grid = new QGridLayout;
   grid->setHorizontalSpacing(10);
   grid->setVerticalSpacing(5);
@@ -175,7 +189,7 @@ QWidget* MainPaneView::landCard() {
 }
 
 QWidget* MainPaneView::cropCard() {
-  const Card crops = card(plain(pane_.cropBox.caption()), hintLabel(binder_, pane_.lblCropsHint));
+  const Card crops = card(plain(pane_.cropBox.caption()), new HintLine(binder_, pane_.lblCropsHint));
   binder_.bind(pane_.cropBox, crops.frame);
   auto* heads = new QGridLayout;
   setColumns(heads);

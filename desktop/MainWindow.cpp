@@ -86,26 +86,38 @@ MainWindow::MainWindow(frmMain& window, Binder& binder, std::function<void(const
   layout->addWidget(stack_, 1);
   setCentralWidget(centre);
 
-  addPane(window_.pneMain, new MainPaneView(window_.pneMain, window_.wishesCard, binder_), "mainInput.htm");
-  addPane(window_.pneInputCosts, inputCostsView(window_.pneInputCosts, binder_), "inputcosts.htm");
-  addPane(window_.pneIrrigCosts, irrigCostsView(window_.pneIrrigCosts, binder_), "irrigationCosts.htm");
-  addPane(window_.pneResults, resultsView(window_.theResults, binder_, QString::fromLatin1(resultsHeading)),
-          "results.htm");
-  addPane(window_.pneDetails, detailsView(window_.theDetails, binder_), "details.htm");
-  addPane(window_.pneSummary, summaryView(window_.pneSummary, binder_), "summary.htm");
-  addPane(window_.pneCompare, compareView(window_.pneCompare, binder_), "summary.htm#compare");
-  addPane(window_.pneLive, liveView(window_.pneLive, binder_), "questions.htm#live");
-  addPane(window_.pneCustomCrop, customCropView(window_.pneCustomCrop, binder_), "customcrops.htm");
-  QuestionPanes& questions = window_.questions;
-  addPane(questions.mixes, mixesView(questions.mixes, binder_), "questions.htm#mixes");
-  addPane(questions.water, waterView(questions.water, binder_), "questions.htm#water");
-  addPane(questions.switches, switchView(questions.switches, binder_), "questions.htm#switch");
-  addPane(questions.seasons, seasonsView(questions.seasons, binder_), "questions.htm#seasons");
-  addPane(questions.inputs, inputsView(questions.inputs, binder_), "questions.htm#inputs");
-  addPane(questions.map, mapView(questions.map, binder_), "questions.htm#map");
-  TrendScreens& trends = window_.trends;
-  addPane(trends.pneBatchSetup0, batchSetupView(trends.pneBatchSetup0, binder_), "batchoption.htm");
-  addPane(trends.pneBatchSetup1, batchResultsView(trends.pneBatchSetup1, binder_), "batchoption.htm");
+  addPane(window_.pneMain, "mainInput.htm",
+          [this] { return new MainPaneView(window_.pneMain, window_.wishesCard, binder_); });
+  addPane(window_.pneInputCosts, "inputcosts.htm",
+          [this] { return inputCostsView(window_.pneInputCosts, binder_); });
+  addPane(window_.pneIrrigCosts, "irrigationCosts.htm",
+          [this] { return irrigCostsView(window_.pneIrrigCosts, binder_); });
+  addPane(window_.pneResults, "results.htm",
+          [this] { return resultsView(window_.theResults, binder_, QString::fromLatin1(resultsHeading)); });
+  addPane(window_.pneDetails, "details.htm", [this] { return detailsView(window_.theDetails, binder_); });
+  addPane(window_.pneSummary, "summary.htm", [this] { return summaryView(window_.pneSummary, binder_); });
+  addPane(window_.pneCompare, "summary.htm#compare",
+          [this] { return compareView(window_.pneCompare, binder_); });
+  addPane(window_.pneLive, "questions.htm#live", [this] { return liveView(window_.pneLive, binder_); });
+  addPane(window_.pneCustomCrop, "customcrops.htm",
+          [this] { return customCropView(window_.pneCustomCrop, binder_); });
+  addPane(window_.questions.mixes, "questions.htm#mixes",
+          [this] { return mixesView(window_.questions.mixes, binder_); });
+  addPane(window_.questions.water, "questions.htm#water",
+          [this] { return waterView(window_.questions.water, binder_); });
+  addPane(window_.questions.switches, "questions.htm#switch",
+          [this] { return switchView(window_.questions.switches, binder_); });
+  addPane(window_.questions.seasons, "questions.htm#seasons",
+          [this] { return seasonsView(window_.questions.seasons, binder_); });
+  addPane(window_.questions.inputs, "questions.htm#inputs",
+          [this] { return inputsView(window_.questions.inputs, binder_); });
+  addPane(window_.questions.map, "questions.htm#map",
+          [this] { return mapView(window_.questions.map, binder_); });
+  addPane(window_.trends.pneBatchSetup0, "batchoption.htm",
+          [this] { return batchSetupView(window_.trends.pneBatchSetup0, binder_); });
+  addPane(window_.trends.pneBatchSetup1, "batchoption.htm",
+          [this] { return batchResultsView(window_.trends.pneBatchSetup1, binder_); });
+  build(pages_.value(&window_.pneMain));
 
   // However the focus has come to a field, by a letter, an arrow or after a failed test: it is in sight.
   connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { bringIntoSight(now); });
@@ -191,12 +203,28 @@ void MainWindow::addMenus() {
     assignKeys(made);
 }
 
-void MainWindow::addPane(Frame& pane, QWidget* page, const char* topic) {
+/// Adds the page of a pane. What stands on it is made when the page is shown for the first time.
+void MainWindow::addPane(Frame& pane, const char* topic, std::function<QWidget*()> make) {
+  auto* page = new QWidget;
+  auto* layout = new QVBoxLayout(page);
+  layout->setContentsMargins(0, 0, 0, 0);
   page->setProperty(topicProperty, QString::fromLatin1(topic));
   binder_.name(pane, page);
-  assignKeys(page, QLatin1String(menuLetters));
+  pages_.insert(&pane, page);
   stack_->addWidget(page);
+  unbuilt_.insert(page, std::move(make));
   binder_.alsoWatch(pane, [this] { showTopPane(); });
+}
+
+void MainWindow::build(QWidget* page) {
+  if (!unbuilt_.contains(page)) return;
+  page->layout()->addWidget(unbuilt_.take(page)());
+  assignKeys(page, QLatin1String(menuLetters));
+}
+
+void MainWindow::buildPages() {
+  for (int i = 0; i < stack_->count(); ++i)
+    build(stack_->widget(i));
 }
 
 /// F6 moves the focus into the bar above the page. Esc closes a notice on the main pane; on all others it
@@ -225,8 +253,9 @@ void MainWindow::addBarKeys() {
 
 void MainWindow::showTopPane() {
   if (window_.panes.history().empty()) return;
-  QWidget* page = binder_.widget(window_.panes.top());
+  QWidget* page = pages_.value(&window_.panes.top());
   if (page == nullptr || page == stack_->currentWidget()) return;
+  build(page);
   stack_->setCurrentWidget(page);
   // A page that was in use before has the focus where it was.
   const QWidget* last = page->focusWidget();

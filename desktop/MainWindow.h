@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QMainWindow>
 #include <filesystem>
 #include <functional>
@@ -26,6 +27,9 @@ class MainWindow : public QMainWindow {
   /// The page of the pane on show.
   [[nodiscard]] QWidget* currentPage() const;
 
+  /// Makes what stands on all pages now. Otherwise a page is made when it is shown for the first time.
+  void buildPages();
+
   /// Opens a farm file, as the user's action.
   void openFarm(const std::filesystem::path& path);
 
@@ -38,7 +42,8 @@ class MainWindow : public QMainWindow {
 
  private:
   void addMenus();
-  void addPane(Frame& pane, QWidget* page, const char* topic);
+  void addPane(Frame& pane, const char* topic, std::function<QWidget*()> make);
+  void build(QWidget* page);
   void addBarKeys();
   void showTopPane();
   void settleFocus();
@@ -51,6 +56,8 @@ class MainWindow : public QMainWindow {
   Binder& binder_;
   std::function<void(const QString&)> showTopic_;
   QStackedWidget* stack_;
+  QHash<const Frame*, QWidget*> pages_;
+  QHash<QWidget*, std::function<QWidget*()>> unbuilt_;  ///< The pages that were not shown yet
   bool acting_ = false;  ///< The user's last action goes on: a run, or a message box
   Connection acts_;
   Connection acted_;

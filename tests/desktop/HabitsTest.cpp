@@ -54,6 +54,19 @@ TEST_F(Habit, HintsMarkTheirFieldsAndTheStatusLeadsToWhatIsMissing) {
   EXPECT_EQ(area->toolTip(), QString());
 }
 
+TEST_F(Habit, APageIsMadeWhenItIsShownForTheFirstTime) {
+  press("frmWelcome.Command1");
+  QTest::qWait(0);
+  EXPECT_EQ(widget("theResults.lblTotalProfit"), nullptr);
+  typeFarm();
+  press("Command1");
+  auto* profit = widget<QLabel>("theResults.lblTotalProfit");
+  ASSERT_NE(profit, nullptr);
+  EXPECT_TRUE(profit->isVisible());
+  EXPECT_EQ(profit->text().toStdString(), control<Label>("theResults.lblTotalProfit").caption());
+  EXPECT_FALSE(profit->text().isEmpty());
+}
+
 TEST_F(Habit, TheStatusTellsTheSizeOfTheRun) {
   start();
   typeFarm();

@@ -124,6 +124,7 @@ class RunningDesktop : public ::testing::Test {
   void start() {
     press("frmWelcome.Command1");
     ASSERT_NE(window(), nullptr);
+    desktop_->mainWindow()->buildPages();
     window()->activateWindow();
     QTest::qWait(0);
   }
