@@ -33,24 +33,31 @@ std::optional<struct statx> statusOf(const fs::path& folder) {
 }
 
 /// Whether files can be renamed from one folder into the other.
-bool onSameMount(const fs::path& one, const fs::path& two) {
+bool onSameMount(const struct statx& first, const fs::path& two) {
   std::error_code error;
-  const auto first = statusOf(one);
   const auto second = statusOf(fs::canonical(two, error));
-  return first && second && S_ISDIR(first->stx_mode) && S_ISDIR(second->stx_mode) &&
-         first->stx_dev_major == second->stx_dev_major && first->stx_dev_minor == second->stx_dev_minor &&
-         first->stx_mnt_id == second->stx_mnt_id;
+  return second && S_ISDIR(first.stx_mode) && S_ISDIR(second->stx_mode) &&
+         first.stx_dev_major == second->stx_dev_major && first.stx_dev_minor == second->stx_dev_minor &&
+         first.stx_mnt_id == second->stx_mnt_id;
 }
 
 }  // namespace
 
 SavingFolder::SavingFolder(const fs::path& targets) {
   const std::optional<fs::path> saving = savingPath(targets);
-  if (!saving || (!makeFolder(*saving, 0700) && errno != EEXIST)) return;
-  if (onSameMount(*saving, targets)) {
-    path_ = saving;
-  } else {
-    ::rmdir(saving->c_str());
+  if (!saving) return;
+  // Another process may remove the folder before it is looked at.
+  constexpr int mostAttempts = 100;
+  for (int attempt = 0; attempt < mostAttempts; ++attempt) {
+    if (!makeFolder(*saving, 0700) && errno != EEXIST) return;
+    const auto made = statusOf(*saving);
+    if (!made && errno == ENOENT) continue;
+    if (made && onSameMount(*made, targets)) {
+      path_ = saving;
+    } else {
+      ::rmdir(saving->c_str());
+    }
+    return;
   }
 }
 

@@ -72,7 +72,7 @@ void FileReplacement::open(const fs::path& folder, TemporaryFile::Naming naming)
     return;
   }
   // Another process may remove the saving folder before there is a file in it.
-  constexpr int mostAttempts = 10;
+  constexpr int mostAttempts = 100;
   for (int attempt = 0; attempt < mostAttempts; ++attempt) {
     savingFolder_.reset();  // removes the folder, if empty, before the next one is made
     savingFolder_ = std::make_unique<SavingFolder>(folder);
