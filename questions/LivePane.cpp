@@ -11,6 +11,7 @@
 #include "model/checked.h"
 #include "questions/QuestionJob.h"
 #include "questions/inputTexts.h"
+#include "questions/mapChart.h"
 #include "questions/noPlanText.h"
 #include "questions/planText.h"
 #include "questions/values.h"
@@ -303,18 +304,8 @@ void LivePane::askMap(const Farm& farm, const Slider& x, const Slider& y) {
         const std::optional<InputMap> map = exploreMap(farm, across, upwards, state, hooks, 1);
         if (!map) return nullptr;
         return [this, farm, map = *map] {
-          MapChart chart;
-          chart.x = inputAxis(map.x.input, farm);
-          chart.y = inputAxis(map.y.input, farm);
-          chart.xValues = map.x.values;
-          chart.yValues = map.y.values;
-          for (const Mix& mix : map.mixes)
-            chart.categories.push_back(mixText(mix));
-          chart.category = map.mix;
-          chart.value = map.profit;
-          chart.valueStyle = returnAxis().style;
           const std::string title = inputLabel(map.x.input) + " and water: which mix wins";
-          map_ = Chart{title, title + ".", std::move(chart), {}};
+          map_ = Chart{title, title + ".", mapChart(farm, map), {}};
         };
       });
   mapJob_ = job;

@@ -6,6 +6,7 @@
 
 #include "explore/inputs.h"
 #include "questions/inputTexts.h"
+#include "questions/mapChart.h"
 #include "questions/planText.h"
 #include "text/numbers.h"
 
@@ -37,16 +38,7 @@ std::vector<Share> sharesOf(const InputMap& map) {
 }
 
 MapChart chartOf(const Farm& farm, const InputMap& map) {
-  MapChart chart;
-  chart.x = inputAxis(map.x.input, farm);
-  chart.y = inputAxis(map.y.input, farm);
-  chart.xValues = map.x.values;
-  chart.yValues = map.y.values;
-  for (const Mix& mix : map.mixes)
-    chart.categories.push_back(mixText(mix));
-  chart.category = map.mix;
-  chart.value = map.profit;
-  chart.valueStyle = returnAxis().style;
+  MapChart chart = mapChart(farm, map);
   chart.now = ChartLine::Point{valueOf(farm, map.x.input), valueOf(farm, map.y.input), {}};
   chart.picks = true;
   return chart;
