@@ -5,6 +5,9 @@ if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
   # Paths relative to the source tree allow several build folders to share the cache.
   set(CMAKE_CXX_COMPILER_LAUNCHER
     ${CMAKE_COMMAND} -E env CCACHE_BASEDIR=${CMAKE_SOURCE_DIR} CCACHE_NOHASHDIR=1 ${CCACHE_PROGRAM})
+  set(whole_paths OFF)
+else()
+  set(whole_paths ON)
 endif()
 
 # Flags for our own code. Contracting a multiplication and an addition into one rounding would change
@@ -18,8 +21,21 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_G
   # At -O3, GCC 12 wrongly warns that "text" + string is an overlapping copy.
   target_compile_options(verdalis_flags INTERFACE -Wno-restrict)
 endif()
+if(whole_paths)
+  # Failed assertions name a source within the tree, not on the machine that built the program.
+  target_compile_options(verdalis_flags INTERFACE -fmacro-prefix-map=${CMAKE_SOURCE_DIR}/=)
+endif()
 target_include_directories(verdalis_flags INTERFACE ${CMAKE_SOURCE_DIR})
 set(CMAKE_CXX_EXTENSIONS OFF)
+
+# Installed programs find their libraries as any other does.
+set(CMAKE_SKIP_INSTALL_RPATH ON)
+
+# verdalis_use_source()
+# Tells the programs of this folder where the crops, the help and the examples are before they are installed.
+function(verdalis_use_source)
+  file(CONFIGURE OUTPUT ${CMAKE_CURRENT_BINARY_DIR}/verdalis-source.txt CONTENT "${CMAKE_SOURCE_DIR}\n" @ONLY)
+endfunction()
 
 # verdalis_layer(NAME [LINKS layer...] [LIBS target...])
 # Creates the static library verdalis_NAME from all sources in the folder NAME.
@@ -44,6 +60,7 @@ function(verdalis_tests name)
     return()
   endif()
   add_executable(test_${name} ${sources})
+  verdalis_use_source()
   target_link_libraries(test_${name} PRIVATE verdalis_flags GTest::gmock_main rapidcheck ${arg_LIBS})
   target_compile_definitions(test_${name} PRIVATE
     VERDALIS_SOURCE_DIR="${CMAKE_SOURCE_DIR}" VERDALIS_BINARY_DIR="${CMAKE_BINARY_DIR}")

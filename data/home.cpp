@@ -13,6 +13,7 @@
 #include <system_error>
 
 #include "data/TemporaryFile.h"
+#include "data/sharedFolders.h"
 #include "text/RunTimeError.h"
 
 namespace verdalis {
@@ -121,11 +122,10 @@ void copyCrops(const fs::path& stock, const fs::path& dataHome) {
 }  // namespace
 
 HomePlaces homePlaces() {
-  std::error_code error;
-  const fs::path program = fs::read_symlink("/proc/self/exe", error).parent_path();
-  return {program,
-          userDataFolder(),
-          {(program / ".." / VERDALIS_INSTALLED_CROPS).lexically_normal(), VERDALIS_SOURCE_CROPS}};
+  HomePlaces places{programFolder(), userDataFolder(), {}};
+  for (const fs::path& folder : sharedFolders(places.programFolder))
+    places.stockCrops.push_back(folder / "crops");
+  return places;
 }
 
 fs::path homeFolder(const HomePlaces& places) {

@@ -1,15 +1,17 @@
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QDir>
 #include <QIcon>
 #include <QLocale>
 #include <QMessageBox>
+#include <algorithm>
 #include <filesystem>
 #include <optional>
 #include <string>
 #include <system_error>
+#include <vector>
 
 #include "data/home.h"
+#include "data/sharedFolders.h"
 #include "data/stateFolder.h"
 #include "desktop/Binder.h"
 #include "desktop/Desktop.h"
@@ -21,15 +23,17 @@ namespace {
 
 using namespace verdalis;
 
-/// The folder of the help topics: beside the installed files of the program, or in the source tree if it is
-/// not installed.
+/// The folder of the help topics: beside the program, or with the files that come with it.
 QString helpFolder() {
-  const QDir program(QCoreApplication::applicationDirPath());
-  for (const QString& folder : {program.filePath(QStringLiteral("help/HTML")),
-                                program.filePath(QStringLiteral("../share/verdalis/help/HTML"))}) {
-    if (QDir(folder).exists()) return folder;
-  }
-  return QStringLiteral(VERDALIS_SOURCE_HELP);
+  const std::filesystem::path beside = programFolder() / "help/HTML";
+  std::vector<std::filesystem::path> folders{beside};
+  for (const std::filesystem::path& folder : sharedFolders(programFolder()))
+    folders.push_back(folder / "help/HTML");
+  const auto found = std::find_if(folders.begin(), folders.end(), [](const auto& folder) {
+    std::error_code error;
+    return std::filesystem::is_directory(folder, error);
+  });
+  return desktop::qText((found == folders.end() ? beside : *found).string());
 }
 
 /// The path as it is if the working directory is gone.
