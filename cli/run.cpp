@@ -11,6 +11,7 @@
 #include "cli/FarmCommand.h"
 #include "cli/Messages.h"
 #include "cli/ScriptCommand.h"
+#include "cli/SelfCheckCommand.h"
 #include "cli/TrendCommand.h"
 #include "cli/relaxation.h"
 #include "explore/bestPlan.h"
@@ -38,6 +39,8 @@ int dispatch(const std::vector<std::string>& args, std::istream& in, std::ostrea
   CLI::App app("Finds the most profitable allocation of irrigation water, land and crops.", "verdalis-cli");
   app.set_version_flag("--version", versionText(), "Print the version and exit");
   app.require_subcommand(1);
+  bool selfCheck = false;
+  addSelfCheckOption(app, selfCheck);
   const std::string exitCodes =
       "Exit codes: 0 success; 1 run-time error, cancel, or no plan that meets the wishes; 2 wrong arguments "
       "or incomplete inputs.";
@@ -62,6 +65,10 @@ int dispatch(const std::vector<std::string>& args, std::istream& in, std::ostrea
     return app.exit(success, out, messages.stream());
   } catch (const CLI::ParseError& error) {
     throw Refusal(std::string(error.what()) + "\nRun with --help for the commands and their options.");
+  }
+  if (selfCheck) {
+    if (!app.get_subcommands().empty()) throw Refusal("--self-check: Give it alone, without a command.");
+    return checkMachine(SelfCheck(), {}, out, messages) ? done : failed;
   }
   if (evaluateCommand.parsed()) evaluate(evaluateRequest, out, messages);
   if (trendCommand.parsed()) trend(trendRequest, out, messages);

@@ -3,8 +3,8 @@
 
 #include "bench/engine/BenchFarm.h"
 #include "engine/FieldCalculator.h"
+#include "selfcheck/PlainEvaluator.h"
 #include "tests/reference/PlainEnumeration.h"
-#include "tests/reference/PlainEvaluator.h"
 #include "tests/reference/TablePricing.h"
 
 namespace verdalis::bench {

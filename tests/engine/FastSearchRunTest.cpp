@@ -11,9 +11,9 @@
 
 #include "engine/FieldCalculator.h"
 #include "engine/MakingSplits.h"
-#include "tests/reference/OptionBytes.h"
-#include "tests/reference/PlainEvaluator.h"
-#include "tests/reference/RandomFarm.h"
+#include "selfcheck/OptionBytes.h"
+#include "selfcheck/PlainEvaluator.h"
+#include "selfcheck/RandomFarm.h"
 #include "tests/support/Crops.h"
 #include "tests/support/Errors.h"
 #include "tests/support/Plant.h"

@@ -9,10 +9,10 @@
 
 #include "engine/FastSearch.h"
 #include "engine/FieldCalculator.h"
-#include "tests/reference/OptionBytes.h"
+#include "selfcheck/OptionBytes.h"
+#include "selfcheck/PlainEvaluator.h"
+#include "selfcheck/RandomFarm.h"
 #include "tests/reference/PlainEnumeration.h"
-#include "tests/reference/PlainEvaluator.h"
-#include "tests/reference/RandomFarm.h"
 #include "tests/reference/TablePricing.h"
 #include "tests/support/Plant.h"
 

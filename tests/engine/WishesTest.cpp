@@ -13,9 +13,9 @@
 #include "engine/evaluateScenario.h"
 #include "engine/meetsWishes.h"
 #include "engine/relaxWishes.h"
-#include "tests/reference/PlainEvaluator.h"
-#include "tests/reference/PlainPlans.h"
-#include "tests/reference/RandomFarm.h"
+#include "selfcheck/PlainEvaluator.h"
+#include "selfcheck/PlainPlans.h"
+#include "selfcheck/RandomFarm.h"
 #include "tests/support/Plant.h"
 
 namespace verdalis {

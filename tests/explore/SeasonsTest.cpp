@@ -12,9 +12,9 @@
 
 #include "engine/evaluateScenario.h"
 #include "explore/seasons.h"
+#include "selfcheck/PlainEvaluator.h"
 #include "tests/explore/SmallFarm.h"
 #include "tests/explore/Steps.h"
-#include "tests/reference/PlainEvaluator.h"
 
 namespace verdalis {
 namespace {

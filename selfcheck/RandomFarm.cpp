@@ -1,4 +1,4 @@
-#include "tests/reference/RandomFarm.h"
+#include "selfcheck/RandomFarm.h"
 
 #include <array>
 #include <cmath>
@@ -47,16 +47,17 @@ class RandomFarm::Maker {
   }
 
  private:
-  std::size_t below(std::size_t end) {
-    return std::uniform_int_distribution<std::size_t>(0, end - 1)(random_);
-  }
-  bool chance(double p) { return std::bernoulli_distribution(p)(random_); }
+  // The library's distributions may give other numbers elsewhere, as may its powers; these are the same
+  // everywhere, because basic arithmetic is.
+  std::size_t below(std::size_t end) { return static_cast<std::size_t>(random_() % end); }
+  bool chance(double p) { return between(0, 1) < p; }
   double between(double low, double high) {
-    return std::uniform_real_distribution<double>(low, high)(random_);
+    return low + (high - low) * (static_cast<double>(random_() >> 11U) * 0x1p-53);
   }
 
   void makePlant() {
-    farm_.rain_ = static_cast<double>(11 + below(11)) + (chance(0.2) ? 0.5 : 0);
+    farm_.rain_ = static_cast<double>(11 + below(11));
+    if (chance(0.2)) farm_.rain_ += 0.5;
     farm_.efficiency_ = chance(0.5) ? 0.85 : between(0.3, 1);
     IrrigationCosts& plant = farm_.plant_;
     plant.active = kind_ != FarmKind::equalGainsNoPlant && kind_ != FarmKind::wholeDollars && chance(0.8);
@@ -92,8 +93,13 @@ class RandomFarm::Maker {
   std::size_t cropCount() {
     std::size_t most = 59;
     const double splits = static_cast<double>(std::max(farm_.depths_.Count(), 1L));
-    while (most > 1 &&
-           splits * std::pow(static_cast<double>(most), farm_.landSplit_.Count()) > mostCandidates_)
+    const auto candidates = [&] {
+      double product = splits;
+      for (std::int16_t field = 0; field < farm_.landSplit_.Count(); ++field)
+        product *= static_cast<double>(most);
+      return product;
+    };
+    while (most > 1 && candidates() > mostCandidates_)
       --most;
     if (kind_ == FarmKind::fewCandidates) most = std::min<std::size_t>(most, 3);
     if (kind_ == FarmKind::manyCrops || chance(0.5)) return most;
@@ -126,7 +132,8 @@ class RandomFarm::Maker {
       const double dry = isFlat ? 1 : between(-0.2, 0.9);
       const double bend = kind_ == FarmKind::linearYields ? 1 : between(0.4, 1.4);
       for (int water = 0; water <= top; ++water) {
-        const double share = dry + (1 - dry) * std::pow(static_cast<double>(water) / top, bend);
+        const double watered = static_cast<double>(water) / top;
+        const double share = dry + (1 - dry) * (watered + (1 - bend) * watered * (1 - watered));
         const double yield = std::max(0.0, full * share);
         table.setCell(water, rain, kind_ == FarmKind::wholeDollars ? std::round(yield) + 2 : yield);
       }
@@ -213,7 +220,10 @@ class RandomFarm::Maker {
 
   /// Makes a crop faulty: unrealistic numbers, whose sums may overflow, or no table.
   void spoil(Crop& crop) {
-    const auto huge = [&] { return std::pow(10.0, between(300, 308)) * (chance(0.5) ? 1 : -1); };
+    const auto huge = [&] {
+      const double size = std::pow(10.0, between(300, 308));
+      return chance(0.5) ? size : -size;
+    };
     switch (below(6)) {
       case 0:
         crop.yieldTable.reset();

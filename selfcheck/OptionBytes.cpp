@@ -1,4 +1,4 @@
-#include "tests/reference/OptionBytes.h"
+#include "selfcheck/OptionBytes.h"
 
 #include <bit>
 #include <cstdint>

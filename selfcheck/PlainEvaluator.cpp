@@ -1,4 +1,4 @@
-#include "tests/reference/PlainEvaluator.h"
+#include "selfcheck/PlainEvaluator.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "model/EfficiencyFraction.h"
-#include "tests/reference/PlainPlans.h"
+#include "selfcheck/PlainPlans.h"
 
 namespace verdalis::reference {
 namespace {
@@ -34,7 +34,7 @@ FieldCollection plantUndivided(const Crop& crop, double acres, double netVolume,
 /// Takes a candidate if it meets the wishes. The others need not have a yield.
 void takeIfWished(FieldCollection& candidate, const SearchInputs& inputs, const std::vector<Wish>& wishes,
                   const TakeCandidate& take) {
-  if (!meetsAll(plainPlan(candidate, inputs.efficiency), wishes)) return;
+  if (!wishes.empty() && !meetsAll(plainPlan(candidate, inputs.efficiency), wishes)) return;
   setYields(candidate, inputs);
   take(candidate);
 }

@@ -1,4 +1,4 @@
-#include "tests/reference/PlainPlans.h"
+#include "selfcheck/PlainPlans.h"
 
 #include <algorithm>
 #include <memory>
