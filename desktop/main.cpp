@@ -16,6 +16,7 @@
 #include "desktop/Binder.h"
 #include "desktop/Desktop.h"
 #include "desktop/Theme.h"
+#include "desktop/settings.h"
 #include "text/RunTimeError.h"
 #include "text/version.h"
 
@@ -61,6 +62,7 @@ int main(int argc, char** argv) {
   QLocale::setDefault(QLocale::c());  // decimal point on every machine
   QApplication application(argc, argv);
   QApplication::setApplicationName(QStringLiteral("verdalis"));
+  desktop::claimSettings();
   QApplication::setApplicationVersion(desktop::qText(versionText()));
   QGuiApplication::setDesktopFileName(QStringLiteral("verdalis"));
   QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/verdalis.svg")));

@@ -22,6 +22,7 @@ int main(int argc, char** argv) {
   QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
   QApplication application(argc, argv);
   QApplication::setApplicationName(QStringLiteral("verdalis-tests"));
+  QApplication::setOrganizationName(QStringLiteral("Verdalis"));
   verdalis::testing::germanLocaleIsSet = std::setlocale(LC_ALL, "de_DE.UTF-8") != nullptr;
   QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
   verdalis::desktop::applyTheme(application, verdalis::desktop::Scheme::light);
