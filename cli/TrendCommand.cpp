@@ -342,11 +342,11 @@ const CLI::App& addTrendCommand(CLI::App& app, TrendArguments& request) {
       command, "--option", "K", request.option,
       "Run a fixed trend on option K of the evaluation, counted from 1\n(default: a variable trend)");
   addTrendProcessOptions(command, "2", request.processes[1]);
-  addTextOption(command, "--export", "FILE", request.exportFile, "Also write the spreadsheet export");
+  addFileOption(command, "--export", "FILE", request.exportFile, "Also write the spreadsheet export");
   command.add_option("--format", request.format, "table, csv or json (default: table)")
       ->type_name("FORMAT")
       ->check(CLI::IsMember(optionsFormats()));
-  addTextOption(command, "--output", "FILE", request.output, "Write to this file instead of standard output");
+  addFileOption(command, "--output", "FILE", request.output, "Write to this file instead of standard output");
   addReportOptions(command, request.reports);
   return command;
 }
