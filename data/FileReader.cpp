@@ -213,14 +213,14 @@ void FileReader::addFarmCrops() {
 
 void FileReader::readSoils(Crop& crop) const {
   try {
-    fs::path file = home_ / "crops" / "soils" / "";
-    file += lowerCase(crop.cropType) +
-            ".txt";  // appended as text, so that a name such as "/corn" stays in the folder
+    const std::string name = lowerCase(crop.cropType);
+    if (name.find('/') != std::string::npos) return;  // would lead out of the folder
+    const fs::path file = home_ / "crops" / "soils" / (name + ".txt");
     if (isHidden(file)) return;
     const std::string text = readFile(file);
     LineReader lines(text);
     for (long cells = 0; cells < maxSoilCells && !lines.atEnd();) {
-      const std::string name = lowerCase(parseEquals(lines.next()));
+      const std::string soil = lowerCase(parseEquals(lines.next()));
       const std::string_view rainfall = parseEquals(lines.next());
       const std::string_view irrigation = parseEquals(lines.next());
       auto tables = std::make_shared<SoilTables>();
@@ -229,9 +229,9 @@ void FileReader::readSoils(Crop& crop) const {
         cells += (table.maxIrrigation() + 1L) * (table.lastRain() + 1L);
         tables->emplace_back(key, std::make_shared<const YieldTable>(std::move(table)));
       }
-      if (name == "ulysses") crop.soil_ulysses = tables;
-      if (name == "valent") crop.soil_valent = tables;
-      if (name == "valentine") crop.soil_valentine = tables;
+      if (soil == "ulysses") crop.soil_ulysses = tables;
+      if (soil == "valent") crop.soil_valent = tables;
+      if (soil == "valentine") crop.soil_valentine = tables;
     }
   } catch (const RunTimeError&) {
     // The soils file is missing or cut short: the crop keeps what was read so far.
