@@ -103,7 +103,7 @@ const CLI::App& addBatchCommand(CLI::App& app, BatchRequest& request) {
   command.add_option("--format", request.format, "csv or json (default: csv)")
       ->type_name("FORMAT")
       ->check(CLI::IsMember({"csv", "json"}));
-  addTextOption(command, "--output", "FILE", request.output, "Write to this file instead of standard output");
+  addFileOption(command, "--output", "FILE", request.output, "Write to this file instead of standard output");
   command
       .add_option("--jobs", request.jobs, "Number of rows to evaluate in parallel\n(default: one per core)")
       ->type_name("N")

@@ -134,7 +134,7 @@ class RowTyping {
         inputs_.chkNoSplit = text == "True";
         return;
       case Kind::keep:
-        requireNumber(text);
+        requireKept(text);
         inputs_.txtArraySize = text;
         return;
       case Kind::factor:

@@ -59,7 +59,7 @@ const CLI::App& addEvaluateCommand(CLI::App& app, EvaluateRequest& request) {
   command.add_option("--format", request.format, "table, csv or json (default: table)")
       ->type_name("FORMAT")
       ->check(CLI::IsMember(optionsFormats()));
-  addTextOption(command, "--output", "FILE", request.output, "Write to this file instead of standard output");
+  addFileOption(command, "--output", "FILE", request.output, "Write to this file instead of standard output");
   addReportOptions(command, request.reports);
   addTextOption(command, "--explain", "K.F", request.explain,
                 "Also show the steps from the gross irrigation to the net return of field F\nof option K, "

@@ -45,7 +45,7 @@ ExploreCommand::ExploreCommand(CLI::App& app)
     command.add_option("--format", request_.format, "table, csv or json (default: table)")
         ->type_name("FORMAT")
         ->check(CLI::IsMember(optionsFormats()));
-    addTextOption(command, "--output", "FILE", request_.output,
+    addFileOption(command, "--output", "FILE", request_.output,
                   "Write to this file instead of standard output");
     questions_.push_back({std::move(question), &command});
   }

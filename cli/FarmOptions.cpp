@@ -159,7 +159,7 @@ std::unique_ptr<TypedFarm> makeFarm(const FarmRequest& request, Messages& messag
   if (request.noSplit) farm->tickNoSplit();
   if (request.keep) {
     applyOption("--keep", *request.keep, [&] {
-      requireNumber(*request.keep);
+      requireKept(*request.keep);
       farm->type("txtArraySize", *request.keep);
     });
   }

@@ -24,7 +24,8 @@ class Messages {
  public:
   explicit Messages(std::ostream& err) : err_(err) {}
 
-  void tell(std::string_view text) { err_ << "verdalis-cli: " << text << '\n' << std::flush; }
+  /// Writes a text, which may have several lines, without control characters.
+  void tell(std::string_view text);
 
   /// Writes a message box of the program by its title and text.
   void tell(std::string_view title, std::string_view text) {

@@ -16,11 +16,12 @@
 #include "explore/bestPlan.h"
 #include "model/EfficiencyFraction.h"
 #include "text/RunTimeError.h"
-#include "text/encoding.h"
+#include "text/numbers.h"
 #include "text/quote.h"
 #include "trend/FixedTrendExport.h"
 #include "trend/TrendVariables.h"
 #include "trend/VariableTrendExport.h"
+#include "trend/exportText.h"
 #include "trend/runTrend.h"
 
 namespace verdalis {
@@ -123,14 +124,39 @@ class TrendRun {
       trend_.processes.push_back(process.process);
   }
 
+  /// Runs a variable trend and writes its steps while it goes. Only a few steps at a time are in memory.
+  void writeVariable(std::ostream& text) {
+    requireVariable();
+    trend_.processes.resize(1);
+    const std::vector<TrendValue> values = processes_[0].process.GetValueArray();
+    trend_.processes[0].SetValueArray({});
+    TrendResult result;
+    describeVariable(result);
+    TrendStepWriter writer(text, result, values.size(), request_.format);
+    constexpr double optionsAtOnce = 10'000;
+    const double steps = optionsAtOnce / std::max(1.0, Val(inputs_.txtArraySize()));
+    const std::size_t mostSteps = std::max<std::size_t>(1, static_cast<std::size_t>(steps));
+    bool nothing = true;
+    for (std::size_t first = 0; first < values.size(); first += mostSteps) {
+      const auto begin = values.begin() + static_cast<std::ptrdiff_t>(first);
+      const std::size_t count = std::min(mostSteps, values.size() - first);
+      trend_.processes[0].SetValueArray({begin, begin + static_cast<std::ptrdiff_t>(count)});
+      describeSteps(run(), result);
+      for (const TrendStep& step : std::exchange(result.steps, {})) {
+        nothing = nothing && step.result.options.empty();
+        writer.add(step);
+      }
+    }
+    requirePlan(nothing);
+    writer.finish();
+  }
+
   Findings runVariable() {
-    tellOfIdleCrops("is not ticked", [this](const TrendProcess& process) {
-      return !inputs_.isActive(static_cast<std::size_t>(process.process.cropIndex));
-    });
-    refuseTooLarge();
+    requireVariable();
     TrendOutcome outcome = run();
 
     Findings findings;
+    describeVariable(findings.result);
     describeSteps(outcome, findings.result);
     requirePlan(std::all_of(findings.result.steps.begin(), findings.result.steps.end(),
                             [](const TrendStep& step) { return step.result.options.empty(); }));
@@ -177,6 +203,20 @@ class TrendRun {
   }
 
  private:
+  void requireVariable() {
+    tellOfIdleCrops("is not ticked", [this](const TrendProcess& process) {
+      return !inputs_.isActive(static_cast<std::size_t>(process.process.cropIndex));
+    });
+    refuseTooLarge();
+  }
+
+  void describeVariable(TrendResult& result) const {
+    result.wishes = wishTexts(farm_.inputs().wishes);
+    result.variables = variablesOf(processes_);
+    result.prefix = units()[0];
+    result.suffix = units()[1];
+  }
+
   /// Fails if a trend has no result because of its wishes.
   /// \throws NoTrend
   void requirePlan(bool nothing) {
@@ -248,11 +288,7 @@ class TrendRun {
   }
 
   /// Describes each step with the efficiency of its own run.
-  void describeSteps(const TrendOutcome& outcome, TrendResult& result) const {
-    result.wishes = wishTexts(farm_.inputs().wishes);
-    result.variables = variablesOf(processes_);
-    result.prefix = units()[0];
-    result.suffix = units()[1];
+  static void describeSteps(const TrendOutcome& outcome, TrendResult& result) {
     for (std::size_t i = 0; i < outcome.evaluations.size(); ++i) {
       stopIfAsked();
       const TrendEvaluation& evaluation = outcome.evaluations[i];
@@ -301,34 +337,40 @@ class TrendRun {
   TrendRequest trend_;
 };
 
-Findings findTrend(const TrendArguments& request, std::size_t number, Reports& reports, Messages& messages) {
+/// Runs the trend and writes its results to `text`.
+/// \returns the spreadsheet export, if it is asked for
+Page findTrend(const TrendArguments& request, std::size_t number, Reports& reports, Messages& messages,
+               std::ostream& text) {
   const std::unique_ptr<TypedFarm> typed = makeFarm(request.farm, messages);
   requireReady(request.farm, *typed);
   Progress progress(asTerminal(messages.stream()), typed->state());
   TrendRun run(request, *typed, progress, messages);
-  return number == 0 ? run.runVariable() : run.runFixed(number, reports);
+  if (number == 0 && !request.exportFile) {
+    run.writeVariable(text);
+    return {};
+  }
+  Findings findings = number == 0 ? run.runVariable() : run.runFixed(number, reports);
+  writeTrend(text, findings.result, request.format);
+  return std::move(findings.page);
 }
 
 /// Creates the output of a trend.
 /// \throws Cancelled after a Ctrl+C at any time
 void makeOutcome(const TrendArguments& request, Reports& reports, Messages& messages, Outcome& outcome) {
   const Interrupt interrupt;
-  Findings findings = findTrend(request, optionNumber(request.option), reports, messages);
   std::ostream text(&outcome.text);
   text.exceptions(std::ios::badbit);  // out of memory
-  writeTrend(text, findings.result, request.format);
-  outcome.page = std::move(findings.page);
+  outcome.page = findTrend(request, optionNumber(request.option), reports, messages, text);
   stopIfAsked();
 }
 
-/// Writes a text like deliver(), but to standard output one piece at a time.
+/// Writes a text like deliver(), but one piece at a time.
 void deliverPieces(TextPieces& text, const std::optional<std::string>& file, std::ostream& out) {
-  if (file) {
-    deliver(text.join(), file, out);
-    return;
-  }
-  for (const std::string& piece : text.pieces())
-    deliver(piece, file, out);
+  std::optional<Interrupt> untilWritten;  // as in deliver()
+  if (file && !isOpenTarget(*file)) untilWritten.emplace();
+  ResultStream result(file, out);
+  text.forEach([&](const std::string& piece) { result.write(piece); });
+  result.finish();
 }
 
 }  // namespace
@@ -342,11 +384,11 @@ const CLI::App& addTrendCommand(CLI::App& app, TrendArguments& request) {
       command, "--option", "K", request.option,
       "Run a fixed trend on option K of the evaluation, counted from 1\n(default: a variable trend)");
   addTrendProcessOptions(command, "2", request.processes[1]);
-  addTextOption(command, "--export", "FILE", request.exportFile, "Also write the spreadsheet export");
+  addFileOption(command, "--export", "FILE", request.exportFile, "Also write the spreadsheet export");
   command.add_option("--format", request.format, "table, csv or json (default: table)")
       ->type_name("FORMAT")
       ->check(CLI::IsMember(optionsFormats()));
-  addTextOption(command, "--output", "FILE", request.output, "Write to this file instead of standard output");
+  addFileOption(command, "--output", "FILE", request.output, "Write to this file instead of standard output");
   addReportOptions(command, request.reports);
   return command;
 }
@@ -364,7 +406,7 @@ void trend(const TrendArguments& request, std::ostream& out, Messages& messages)
     throw;
   }
   reports.deliver();
-  if (request.exportFile) deliverToFile(encodeForExport(outcome.page.text), *request.exportFile);
+  if (request.exportFile) deliverToFile(pageBytes(outcome.page.text), *request.exportFile);
   deliverPieces(outcome.text, request.output, out);
   if (outcome.page.error) throw RunTimeError(*outcome.page.error);
 }

@@ -3,23 +3,39 @@
 #include <algorithm>
 #include <string_view>
 
+#include "text/RunTimeError.h"
+
 namespace verdalis {
 
-std::string TextPieces::join() {
-  std::size_t size = 0;
-  for (const std::string& piece : pieces_)
-    size += piece.size();
-  std::string text;
-  text.reserve(size);
-  for (; !pieces_.empty(); pieces_.pop_front())
-    text += pieces_.front();
-  return text;
+void TextPieces::forEach(const std::function<void(const std::string&)>& use) {
+  if (file_) std::rewind(file_.get());
+  std::string piece(pieceSize, '\0');
+  for (std::size_t i = 0; i < spilled_; ++i) {
+    if (std::fread(piece.data(), pieceSize, 1, file_.get()) != 1)
+      throw RunTimeError(ErrorNumber::fileNotFound, "The temporary file of the result cannot be read.");
+    use(piece);
+  }
+  for (const std::string& kept : pieces_)
+    use(kept);
+}
+
+/// Moves the first piece, which is full, to the file. Without room there, all further pieces stay in memory.
+void TextPieces::spill() {
+  if (!file_) file_ = File(std::tmpfile(), &std::fclose);
+  maySpill_ = file_ && std::fwrite(pieces_.front().data(), pieceSize, 1, file_.get()) == 1 &&
+              std::fflush(file_.get()) == 0;
+  if (!maySpill_) return;
+  pieces_.pop_front();
+  ++spilled_;
 }
 
 std::streamsize TextPieces::xsputn(const char* text, std::streamsize count) {
   std::string_view rest(text, static_cast<std::size_t>(count));
   while (!rest.empty()) {
-    if (pieces_.empty() || pieces_.back().size() == pieceSize) pieces_.emplace_back().reserve(pieceSize);
+    if (pieces_.empty() || pieces_.back().size() == pieceSize) {
+      if (maySpill_ && pieces_.size() == mostInMemory) spill();
+      pieces_.emplace_back().reserve(pieceSize);
+    }
     std::string& piece = pieces_.back();
     const std::size_t taken = std::min(rest.size(), pieceSize - piece.size());
     piece += rest.substr(0, taken);

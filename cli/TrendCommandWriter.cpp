@@ -7,9 +7,12 @@
 #include "cli/JsonWriter.h"
 #include "cli/OptionsWriter.h"
 #include "text/numbers.h"
+#include "text/quote.h"
 
 namespace verdalis {
 namespace {
+
+constexpr std::string_view csvFront = "step,value,value2,";
 
 Json toJson(const TrendedOption& option) {
   Json json = toJson(option.option);
@@ -21,23 +24,6 @@ Json toJson(const TrendedOption& option) {
                      {"suffix", value.suffix}});
   }
   return json;
-}
-
-void putSteps(JsonStream& json, const TrendResult& trend) {
-  json.put("kind", "variable");
-  json.put("variable", trend.variables.at(0).variable);
-  json.put("crop", trend.variables.at(0).crop);
-  json.beginList("steps");
-  for (const TrendStep& step : trend.steps) {
-    json.beginObject();
-    json.put("value", jsonNumber(step.value));
-    json.beginList("options");
-    for (const OptionResult& option : step.result.options)
-      json.put(toJson(option));
-    json.end();
-    json.end();
-  }
-  json.end();
 }
 
 void putGridAndRanking(JsonStream& json, const TrendResult& trend) {
@@ -63,27 +49,17 @@ void putGridAndRanking(JsonStream& json, const TrendResult& trend) {
   json.end();
 }
 
-void writeTrendJson(std::ostream& out, const TrendResult& trend) {
+void writeFixedJson(std::ostream& out, const TrendResult& trend) {
   JsonStream json(out);
   json.beginObject();
   if (!trend.wishes.empty()) json.put("wishes", trend.wishes);
-  if (trend.fixed) {
-    putGridAndRanking(json, trend);
-  } else {
-    putSteps(json, trend);
-  }
+  putGridAndRanking(json, trend);
   json.end();
 }
 
-void writeTrendCsv(std::ostream& out, const TrendResult& trend) {
-  writeCsvHead(out, "step,value,value2,");
+void writeFixedCsv(std::ostream& out, const TrendResult& trend) {
+  writeCsvHead(out, csvFront);
   std::size_t count = 0;
-  for (const TrendStep& step : trend.steps) {
-    const std::string front = std::to_string(++count) + "," + csvNumber(step.value) + ",,";
-    std::size_t number = 0;
-    for (const OptionResult& option : step.result.options)
-      writeCsvRows(out, ++number, option, front);
-  }
   for (const TrendGridEntry& entry : trend.grid) {
     const std::string second = entry.values.size() > 1 ? csvNumber(entry.values[1]) : "";
     writeCsvRows(out, 1, entry.option.option,
@@ -100,23 +76,16 @@ std::string nameOf(const TrendedVariable& variable) {
   return variable.crop.empty() ? variable.variable : variable.crop + " " + variable.variable;
 }
 
-void writeTrendTable(std::ostream& out, const TrendResult& trend) {
+void writeFixedTable(std::ostream& out, const TrendResult& trend) {
   std::size_t count = 0;
-  for (const TrendStep& step : trend.steps) {
-    if (count > 0) out << '\n';
-    out << "Step " << ++count << " of " << trend.steps.size() << ": " << nameOf(trend.variables.at(0)) << ": "
-        << withUnits(step.value, trend.prefix, trend.suffix) << '\n';
-    writeTable(out, step.result);
-  }
-  if (!trend.fixed) return;
   std::vector<OptionResult> options;
   for (const TrendedOption& option : trend.options) {
     options.push_back(option.option);
     out << "Option " << ++count;
     for (std::size_t i = 0; i < option.trend.size(); ++i) {
       const TrendedValue& value = option.trend[i];
-      out << (i == 0 ? ": " : "; ") << value.variable << ": "
-          << withUnits(value.value, value.prefix, value.suffix);
+      out << (i == 0 ? ": " : "; ")
+          << printable(value.variable + ": " + withUnits(value.value, value.prefix, value.suffix));
     }
     out << '\n';
   }
@@ -128,13 +97,74 @@ void writeTrendTable(std::ostream& out, const TrendResult& trend) {
 
 }  // namespace
 
-void writeTrend(std::ostream& out, const TrendResult& result, std::string_view format) {
-  if (format == "json") {
-    writeTrendJson(out, result);
-  } else if (format == "csv") {
-    writeTrendCsv(out, result);
+TrendStepWriter::TrendStepWriter(std::ostream& out, const TrendResult& trend, std::size_t steps,
+                                 std::string_view format)
+    : out_(out), trend_(trend), steps_(steps), format_(format), json_(out) {
+  if (format_ == "csv") writeCsvHead(out_, csvFront);
+  if (format_ != "json") return;
+  json_.beginObject();
+  if (!trend.wishes.empty()) json_.put("wishes", trend.wishes);
+  json_.put("kind", "variable");
+  json_.put("variable", trend.variables.at(0).variable);
+  json_.put("crop", trend.variables.at(0).crop);
+  json_.beginList("steps");
+}
+
+void TrendStepWriter::add(const TrendStep& step) {
+  ++count_;
+  if (format_ == "json") {
+    addJson(step);
+  } else if (format_ == "csv") {
+    addCsv(step);
   } else {
-    writeTrendTable(out, result);
+    addTable(step);
+  }
+}
+
+void TrendStepWriter::addJson(const TrendStep& step) {
+  json_.beginObject();
+  json_.put("value", jsonNumber(step.value));
+  json_.beginList("options");
+  for (const OptionResult& option : step.result.options)
+    json_.put(toJson(option));
+  json_.end();
+  json_.end();
+}
+
+void TrendStepWriter::addCsv(const TrendStep& step) {
+  const std::string front = std::to_string(count_) + "," + csvNumber(step.value) + ",,";
+  std::size_t number = 0;
+  for (const OptionResult& option : step.result.options)
+    writeCsvRows(out_, ++number, option, front);
+}
+
+void TrendStepWriter::addTable(const TrendStep& step) {
+  if (count_ > 1) out_ << '\n';
+  out_ << "Step " << count_ << " of " << steps_ << ": "
+       << printable(nameOf(trend_.variables.at(0)) + ": " +
+                    withUnits(step.value, trend_.prefix, trend_.suffix))
+       << '\n';
+  writeTable(out_, step.result);
+}
+
+void TrendStepWriter::finish() {
+  if (format_ != "json") return;
+  json_.end();
+  json_.end();
+}
+
+void writeTrend(std::ostream& out, const TrendResult& result, std::string_view format) {
+  if (!result.fixed) {
+    TrendStepWriter writer(out, result, result.steps.size(), format);
+    for (const TrendStep& step : result.steps)
+      writer.add(step);
+    writer.finish();
+  } else if (format == "json") {
+    writeFixedJson(out, result);
+  } else if (format == "csv") {
+    writeFixedCsv(out, result);
+  } else {
+    writeFixedTable(out, result);
   }
 }
 

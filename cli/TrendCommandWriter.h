@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "cli/EvaluationResult.h"
+#include "cli/JsonWriter.h"
 
 namespace verdalis {
 
@@ -55,6 +56,29 @@ struct TrendResult {
   EvaluationResult evaluation;         ///< Of a fixed trend: the evaluation of its option, without options
   std::vector<TrendGridEntry> grid;    ///< By the values of the first list, then of the second
   std::vector<TrendedOption> options;  ///< Best first
+};
+
+/// Writes a variable trend step by step, so that not all steps need to be kept.
+class TrendStepWriter {
+ public:
+  /// Writes what stands before the steps. Of the trend, its steps are not used. `steps` is their number.
+  TrendStepWriter(std::ostream& out, const TrendResult& trend, std::size_t steps, std::string_view format);
+
+  /// \throws RunTimeError as writeTrend()
+  void add(const TrendStep& step);
+  void finish();
+
+ private:
+  void addJson(const TrendStep& step);
+  void addCsv(const TrendStep& step);
+  void addTable(const TrendStep& step);
+
+  std::ostream& out_;
+  const TrendResult& trend_;
+  std::size_t steps_;
+  std::string format_;
+  JsonStream json_;
+  std::size_t count_ = 0;  ///< Of the steps so far
 };
 
 /// Writes the trend as "table", "csv" or "json", its options as in an evaluation.

@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
+#include <cstdint>
+#include <limits>
 #include <stdexcept>
 
 #include "cli/Messages.h"
@@ -47,10 +50,19 @@ void requireNumber(const std::string& text) {
   if (!isNumeric(text) || text.find(',') != std::string::npos) throw Refusal("Please enter a valid number");
 }
 
+void requireKept(const std::string& text) {
+  requireNumber(text);
+  const double number = toDouble(text);
+  constexpr int most = std::numeric_limits<std::int16_t>::max();
+  if (number != std::floor(number) || number < 1 || number > most)
+    throw Refusal("Please enter a whole number from 1 to " + std::to_string(most));
+}
+
 FineFactorEntry requireFactor(const std::string& text) {
   FineFactorEntry entry = readFineFactor(text);
-  if (!entry.factor) throw Refusal(entry.message->text);
-  return entry;
+  if (entry.factor && *entry.factor >= 1) return entry;
+  if (!isNumeric(text)) throw Refusal(entry.message->text);
+  throw Refusal("Please enter a number between 1 and 100. 100 itself is too large.");
 }
 
 std::optional<std::size_t> findCrop(const CropNames& names, std::string_view name) {

@@ -32,7 +32,11 @@ using CropNames = std::vector<std::string>;
 /// \throws Refusal for any other text
 void requireNumber(const std::string& text);
 
-/// Reads an iteration factor, with a warning if it is large.
+/// Requires a number of options to keep: a whole number from 1 to 32767. The control accepts others, and a
+/// run then fails. \throws Refusal for any other text
+void requireKept(const std::string& text);
+
+/// Reads an iteration factor, with a warning if it is large. One that is rounded to 0 is refused as well.
 /// \throws Refusal for a factor that is not accepted
 [[nodiscard]] FineFactorEntry requireFactor(const std::string& text);
 

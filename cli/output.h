@@ -6,13 +6,14 @@
 #include <string>
 #include <string_view>
 
+#include "data/OpenTarget.h"
 #include "data/writeFile.h"
 
 namespace verdalis {
 
-/// Writes a finished result to the file, which is replaced completely or not at all, or without a file to
-/// `out`.
-/// \throws RunTimeError (fileNotFound) if it cannot be written
+/// Writes a finished result to the file, or without a file to `out`. The file is replaced completely or not
+/// at all; a device, a pipe and a file that is open already, such as /dev/stdout, are written into. \throws
+/// RunTimeError (fileNotFound) if it cannot be written
 void deliver(const std::string& text, const std::optional<std::string>& file, std::ostream& out);
 
 /// Like deliver(), always to a file.
@@ -21,7 +22,7 @@ void deliverToFile(const std::string& bytes, const std::string& file);
 /// Like deliver(), for a farm file. Nothing is left beside it if the program is killed.
 void deliverFarm(const std::string& text, const std::optional<std::string>& file, std::ostream& out);
 
-/// A result that is written piece by piece. A file is replaced completely at the end, or not at all.
+/// A result that is written piece by piece, to the places of deliver(). A file is replaced at the end.
 class ResultStream {
  public:
   /// Opens the output.
@@ -37,10 +38,9 @@ class ResultStream {
   void finish();
 
  private:
-  std::string name_;
   std::unique_ptr<FileReplacement> file_;
-  std::unique_ptr<std::ostream> device_;
-  std::ostream& stream_;  ///< Receives the text if there is no file to replace
+  std::unique_ptr<OpenTarget> target_;
+  std::ostream& out_;  ///< Receives the text if there is neither
 };
 
 }  // namespace verdalis

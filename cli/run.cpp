@@ -15,6 +15,7 @@
 #include "cli/TrendCommand.h"
 #include "cli/relaxation.h"
 #include "explore/bestPlan.h"
+#include "text/RunTimeError.h"
 #include "text/version.h"
 
 namespace verdalis {
@@ -62,7 +63,10 @@ int dispatch(const std::vector<std::string>& args, std::istream& in, std::ostrea
   try {
     app.parse(std::vector<std::string>(args.rbegin(), args.rend()));
   } catch (const CLI::Success& success) {  // --help or --version
-    return app.exit(success, out, messages.stream());
+    static_cast<void>(app.exit(success, out, messages.stream()));
+    out.flush();
+    if (!out) throw RunTimeError(ErrorNumber::fileNotFound, "The text cannot be written to standard output.");
+    return done;
   } catch (const CLI::ParseError& error) {
     throw Refusal(std::string(error.what()) + "\nRun with --help for the commands and their options.");
   }

@@ -18,6 +18,10 @@ namespace verdalis {
 void addTextOption(CLI::App& app, const std::string& name, const std::string& placeholder,
                    std::optional<std::string>& target, const std::string& description);
 
+/// Adds an option for a file to write. An empty name is refused.
+void addFileOption(CLI::App& app, const std::string& name, const std::string& placeholder,
+                   std::optional<std::string>& target, const std::string& description);
+
 /// Adds an option that may be given several times, each time with one value.
 void addTextOption(CLI::App& app, const std::string& name, const std::string& placeholder,
                    std::vector<std::string>& target, const std::string& description);

@@ -47,7 +47,7 @@ std::optional<std::string> nameIn(const fs::path& path) {
     const std::string text = readFile(path);
     LineReader lines(text);
     const std::optional<std::string_view> name = nextItem(lines);
-    if (name) return std::string(*name);
+    if (name && isShortCropText(*name)) return std::string(*name);
   } catch (const RunTimeError&) {  // NOLINT(bugprone-empty-catch): an unreadable file has no name
   }
   return std::nullopt;
@@ -101,7 +101,9 @@ int wholeInches(const std::string& text) {
 std::vector<CustomCropEntry> findCustomCrops(const fs::path& folder) {
   std::vector<CustomCropEntry> crops;
   try {
-    for (fs::path& path : filesByName(folder)) {
+    std::vector<fs::path> files = filesByName(folder);
+    files.resize(std::min(files.size(), mostCropFiles));
+    for (fs::path& path : files) {
       if (std::optional<std::string> name = nameIn(path))
         crops.push_back({std::move(path), std::move(*name)});
     }

@@ -48,8 +48,8 @@ struct CustomCropItems {
 /// \throws RunTimeError (typeMismatch, overflow) for any other text.
 [[nodiscard]] int wholeInches(const std::string& text);
 
-/// The custom crops in a folder, sorted by file name. A file without a name in its first line is skipped. A
-/// missing folder has no crops.
+/// The custom crops in a folder, sorted by file name. A file without a name in its first line is skipped, and
+/// so is every file beyond mostCropFiles. A missing folder has no crops.
 [[nodiscard]] std::vector<CustomCropEntry> findCustomCrops(const std::filesystem::path& folder);
 
 /// A crop file as it is now; nothing if there is none or it cannot be read.

@@ -54,15 +54,21 @@ std::string_view lastEntry(std::string_view list) {
   return comma == std::string_view::npos ? list : list.substr(comma + 1);
 }
 
+std::string_view shortLine(std::string_view text, const std::string& what) {
+  if (isShortCropText(text)) return text;
+  throw RunTimeError(ErrorNumber::invalidCall,
+                     what + " has more than " + std::to_string(mostCropCharacters) + " characters.");
+}
+
 /// Reads the text of a crop file into an existing crop, overwriting its values.
 void readCrop(Crop& crop, std::string_view text) {
   LineReader lines(text);
   const auto keyLine = [&] { return FileReader::parseEquals(lines.next()); };
   const auto passOver = [&] { static_cast<void>(lines.next()); };
 
-  crop.cropType = keyLine();
+  crop.cropType = shortLine(keyLine(), "The name of the crop");
   passOver();
-  crop.cropUnits = keyLine();
+  crop.cropUnits = shortLine(keyLine(), "The text of the units");
   ListReader units(crop.cropUnits);
   crop.cropUnitsArray = {};
   for (std::string& unit : crop.cropUnitsArray) {
@@ -133,6 +139,12 @@ std::shared_ptr<const std::string> FileReader::libraryText(std::string_view name
   return found == ownTexts_.end() ? nullptr : found->second;
 }
 
+bool isShortCropText(std::string_view text) {
+  const auto startsCharacter = [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; };
+  return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), startsCharacter)) <=
+         mostCropCharacters;
+}
+
 bool FileReader::isCropFile(std::string_view text) {
   try {
     Crop crop;
@@ -149,9 +161,10 @@ bool FileReader::Initialize() {
   texts_.clear();
   ownTexts_.clear();
   skipped.clear();
+  leftOut = 0;
   fileDirectory = home_ / "crops";
   fileCollection = filesByName(fileDirectory);
-  const std::size_t stockFiles = fileCollection.size();
+  const std::size_t stockFiles = std::min(fileCollection.size(), mostCropFiles);
   fileDirectory /= "custom";
   static_cast<void>(makeFolder(fileDirectory));
   std::error_code error;
@@ -159,6 +172,10 @@ bool FileReader::Initialize() {
   if (fs::is_directory(fileDirectory, error)) {
     for (fs::path& path : filesByName(fileDirectory))
       fileCollection.push_back(std::move(path));
+  }
+  if (fileCollection.size() > mostCropFiles) {
+    leftOut = fileCollection.size() - mostCropFiles;
+    fileCollection.resize(mostCropFiles);
   }
 
   std::size_t position = 1;
@@ -213,14 +230,14 @@ void FileReader::addFarmCrops() {
 
 void FileReader::readSoils(Crop& crop) const {
   try {
-    fs::path file = home_ / "crops" / "soils" / "";
-    file += lowerCase(crop.cropType) +
-            ".txt";  // appended as text, so that a name such as "/corn" stays in the folder
+    const std::string name = lowerCase(crop.cropType);
+    if (name.find('/') != std::string::npos) return;  // would lead out of the folder
+    const fs::path file = home_ / "crops" / "soils" / (name + ".txt");
     if (isHidden(file)) return;
     const std::string text = readFile(file);
     LineReader lines(text);
     for (long cells = 0; cells < maxSoilCells && !lines.atEnd();) {
-      const std::string name = lowerCase(parseEquals(lines.next()));
+      const std::string soil = lowerCase(parseEquals(lines.next()));
       const std::string_view rainfall = parseEquals(lines.next());
       const std::string_view irrigation = parseEquals(lines.next());
       auto tables = std::make_shared<SoilTables>();
@@ -229,9 +246,9 @@ void FileReader::readSoils(Crop& crop) const {
         cells += (table.maxIrrigation() + 1L) * (table.lastRain() + 1L);
         tables->emplace_back(key, std::make_shared<const YieldTable>(std::move(table)));
       }
-      if (name == "ulysses") crop.soil_ulysses = tables;
-      if (name == "valent") crop.soil_valent = tables;
-      if (name == "valentine") crop.soil_valentine = tables;
+      if (soil == "ulysses") crop.soil_ulysses = tables;
+      if (soil == "valent") crop.soil_valent = tables;
+      if (soil == "valentine") crop.soil_valentine = tables;
     }
   } catch (const RunTimeError&) {
     // The soils file is missing or cut short: the crop keeps what was read so far.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
 #include <functional>
 #include <map>
@@ -31,6 +32,7 @@ class FileReader {
   std::vector<std::filesystem::path> fileCollection;  ///< Files in reading order
   CropScenario cropCollection;                        ///< Crops read, with Fallow after the stock crops
   std::vector<SkippedCropFile> skipped;               ///< Files that are no valid crop files
+  std::size_t leftOut = 0;                            ///< Files beyond mostCropFiles, which are not read
 
   /// A custom crop of an open farm, which need not be in the library.
   struct FarmCrop {
@@ -84,6 +86,15 @@ class FileReader {
 
   std::filesystem::path home_;
 };
+
+/// Maximum number of crop files that are read, stock files first. The list of crops has room for far fewer.
+inline constexpr std::size_t mostCropFiles = 200;
+
+/// Maximum number of characters of a crop's name, and of the text of its units.
+inline constexpr std::size_t mostCropCharacters = 255;
+
+/// Whether a name or a text of units is within mostCropCharacters.
+[[nodiscard]] bool isShortCropText(std::string_view text);
 
 /// Maximum number of rows, and of columns, of a yield table. Limits a crop file to 8 MB of memory, whatever
 /// it asks for.

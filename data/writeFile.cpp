@@ -8,6 +8,7 @@
 #include <string>
 #include <system_error>
 
+#include "data/OpenTarget.h"
 #include "data/SavingFolder.h"
 #include "data/owner.h"
 #include "text/RunTimeError.h"
@@ -43,8 +44,6 @@ int reasonToRefuse(const fs::path& target) {
   const fs::file_status status = fs::status(target, error);
   if (!fs::exists(status)) return 0;
   if (fs::is_directory(status)) return EISDIR;
-  // Renaming a file over a device or a pipe would destroy it.
-  if (!fs::is_regular_file(status)) return ENXIO;
   // A write-protected file is not replaced.
   return ::access(target.c_str(), W_OK) == 0 ? 0 : errno;
 }
@@ -53,7 +52,8 @@ int reasonToRefuse(const fs::path& target) {
 
 FileReplacement::FileReplacement(const fs::path& path, TemporaryFile::Naming naming) : path_(path) {
   const std::optional<fs::path> target = behindLinks(path);
-  const int reason = target ? reasonToRefuse(*target) : ELOOP;
+  // Renaming a file over a device or a pipe would destroy it, as it would the file that /dev/stdout leads to.
+  const int reason = isOpenTarget(path) ? ENXIO : target ? reasonToRefuse(*target) : ELOOP;
   if (reason != 0) fail(reason);
   target_ = *target;
   mode_ = modeFor(target_);

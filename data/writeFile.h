@@ -16,8 +16,8 @@ class SavingFolder;
 /// written to a temporary file on the same file system, flushed to disk, and renamed over it by keep(). On
 /// failure, and without keep(), the old file is unchanged. The temporary file is beside the target, but for a
 /// crop file in the folder `.saving` of the home folder, if possible. Symbolic links are followed, and
-/// permissions are kept; a file that root writes goes to its owner (see ownerFor). Anything but a regular
-/// file (a folder, a device, a pipe) and a write-protected file are not replaced.
+/// permissions are kept; a file that root writes goes to its owner (see ownerFor). A folder, a
+/// write-protected file, and what isOpenTarget() names are not replaced.
 class FileReplacement {
  public:
   /// \param naming when the temporary file gets its name; one without a name is beside the target in any case

@@ -22,6 +22,7 @@
 #include "desktop/LandSplitPicture.h"
 #include "desktop/Theme.h"
 #include "desktop/WishesView.h"
+#include "desktop/elide.h"
 #include "model/LandDivision.h"
 
 namespace verdalis::desktop {
@@ -321,13 +322,16 @@ void MainPaneView::rebuildRows() {
       field->installEventFilter(this);  // the arrows
       setHelp(field, pane_.cmdHelp, help);
     };
-    place(binder_.bind(record->chkCrop, new QCheckBox), nameColumn);
+    auto* name = new QCheckBox;
+    name->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);  // a long name keeps to its column
+    place(binder_.bind(record->chkCrop, name), nameColumn);
+    binder_.alsoWatch(record->chkCrop, [name] { elideName(name); });
     place(binder_.bind(record->txtPrice, numberField(), tr("Price of %1").arg(crop)), priceColumn,
           cropColumns[0].helpIndex);
-    grid->addWidget(binder_.bind(record->lblPriceUnits, fixedLabel({}, "muted")), 0, priceUnitColumn);
+    grid->addWidget(unitLabel(record->lblPriceUnits, priceUnitColumn), 0, priceUnitColumn);
     place(binder_.bind(record->txtMaxYield, numberField(), tr("Maximum yield of %1").arg(crop)), yieldColumn,
           cropColumns[2].helpIndex);
-    grid->addWidget(binder_.bind(record->lblYieldUnits, fixedLabel({}, "muted")), 0, yieldUnitColumn);
+    grid->addWidget(unitLabel(record->lblYieldUnits, yieldUnitColumn), 0, yieldUnitColumn);
     place(binder_.bind(record->cmdInputCosts, new QPushButton, tr("Costs and returns of %1").arg(crop)),
           costsColumn, cropColumns[1].helpIndex);
   }
@@ -354,7 +358,17 @@ void MainPaneView::orderRows() {
   }
 }
 
+QLabel* MainPaneView::unitLabel(Label& control, int column) {
+  QLabel* const label = binder_.bind(control, fixedLabel({}, "muted"));
+  const int width = scaled(columnWidths.at(static_cast<std::size_t>(column)));
+  binder_.alsoWatch(control, [&control, label, width] { elideTo(width, label, plain(control.caption())); });
+  return label;
+}
+
 bool MainPaneView::eventFilter(QObject* object, QEvent* event) {
+  if (event->type() == QEvent::Resize) {
+    if (auto* name = qobject_cast<QCheckBox*>(object)) elideName(name);
+  }
   if (event->type() == QEvent::KeyPress) {
     const auto* key = static_cast<QKeyEvent*>(event);
     const bool plainKey = (key->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;

@@ -13,6 +13,7 @@
 class QButtonGroup;
 class QGridLayout;
 class QHBoxLayout;
+class QLabel;
 class QScrollBar;
 
 namespace verdalis::desktop {
@@ -38,6 +39,7 @@ class MainPaneView : public QWidget {
   [[nodiscard]] QWidget* plantCard(WishesCard& wishes);
   void fillFooter(QHBoxLayout* line);
   void rebuildRows();
+  [[nodiscard]] QLabel* unitLabel(Label& control, int column);
   void orderRows();
   [[nodiscard]] bool goThroughRows(const QObject* from, int key);
   void placeScroll();

@@ -5,6 +5,7 @@
 #include <optional>
 #include <utility>
 
+#include "document/copyFields.h"
 #include "document/savedOption.h"
 #include "model/savedFields.h"
 #include "text/RunTimeError.h"
@@ -105,11 +106,6 @@ std::size_t shownProcess(const std::vector<DocumentProcess>& trend) {
   return shown == trend.end() ? 0 : static_cast<std::size_t>(shown - trend.begin());
 }
 
-void copyCosts(const inputCosts& from, inputCosts& to) {
-  for (const CostField& field : costFields())
-    field.copy(from, to);
-}
-
 }  // namespace
 
 bool FarmControls::isTrying() const {
@@ -178,7 +174,7 @@ SharedList<DocumentCrop> FarmControls::readCrops(const SharedList<DocumentCrop>&
     entry.priceInForce = priceInForce;
     entry.maxYield = row->txtMaxYield.text();
     entry.maxYieldInForce = maxYieldInForce;
-    copyCosts(crop.inputCosts, entry.costs);
+    copyFields(costFields(), crop.inputCosts, entry.costs);
     auto item = std::make_shared<const DocumentCrop>(std::move(entry));
     if (place) {
       entries[*place] = std::move(item);
@@ -387,7 +383,7 @@ void FarmControls::putCrops(const SharedList<DocumentCrop>& crops) {
     pass([&] { row->txtMaxYield.setText(entry.maxYield); });
     crop.price = entry.priceInForce.value_or(typedPrice(entry.price));
     crop.maxYield = entry.maxYieldInForce.value_or(typedYield(entry.maxYield));
-    copyCosts(entry.costs, crop.inputCosts);
+    copyFields(costFields(), entry.costs, crop.inputCosts);
   }
 }
 
@@ -449,7 +445,7 @@ void FarmControls::forgetRuns() {
   for (const auto& row : parts_.main.cr) {
     if (!row->Crop) continue;
     inputCosts entered;
-    copyCosts(row->Crop->inputCosts, entered);
+    copyFields(costFields(), row->Crop->inputCosts, entered);
     row->Crop->inputCosts = entered;
   }
   parts_.plant.UseBatch = false;

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -17,9 +16,6 @@ inline constexpr std::string_view farmFileFormat = "verdalis-farm";
 
 /// The version of the format that writeFarm() writes.
 inline constexpr int farmFileVersion = 1;
-
-/// Maximum size of a farm file in bytes.
-inline constexpr std::size_t maxFarmFileSize = std::size_t{64} << 20U;
 
 /// The text of a farm file. Bytes of texts that are not valid UTF-8 are replaced, and a number that is
 /// infinite or NaN, which no input and no result is, becomes 0.

@@ -11,6 +11,7 @@
 #include <utility>
 #include <vector>
 
+#include "data/readFile.h"
 #include "document/JsonText.h"
 #include "document/documentKeys.h"
 #include "document/farmText.h"
@@ -437,8 +438,8 @@ void readHead(ObjectReader& in) {
 }
 
 JsonText parse(std::string_view text) {
-  if (text.size() > maxFarmFileSize)
-    refuse("The farm file is too large: farm files have up to " + std::to_string(maxFarmFileSize >> 20U) +
+  if (text.size() > maxFileSize)
+    refuse("The farm file is too large: farm files have up to " + std::to_string(maxFileSize >> 20U) +
            " MB.");
   // Anything else that is not JSON is a damaged farm file.
   const std::size_t begin = text.find_first_not_of(" \t\r\n\xEF\xBB\xBF");

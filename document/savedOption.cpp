@@ -3,16 +3,11 @@
 #include <algorithm>
 #include <string>
 
+#include "document/copyFields.h"
 #include "model/savedFields.h"
 
 namespace verdalis {
 namespace {
-
-template <class Owner>
-void copyFields(std::span<const SavedField<Owner>> fields, const Owner& from, Owner& to) {
-  for (const SavedField<Owner>& field : fields)
-    field.copy(from, to);
-}
 
 const DocumentCrop* find(const FarmInputs& inputs, const std::string& crop) {
   for (const auto& each : inputs.crops) {

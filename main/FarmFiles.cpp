@@ -36,10 +36,19 @@ std::string asCaption(const std::string& text) {
   return caption;
 }
 
-std::string listOf(const std::vector<std::string>& names) {
+/// The names in a sentence. Of very many the first ones, and of a very long one its beginning.
+std::string listOf(std::vector<std::string> names) {
+  constexpr std::size_t most = 60;
+  if (names.size() > most) {
+    const std::size_t more = names.size() - most;
+    names.resize(most);
+    names.push_back(std::to_string(more) + " more");
+  }
   std::string text;
-  for (std::size_t i = 0; i < names.size(); ++i)
-    text += (i == 0 ? "" : i + 1 == names.size() ? " and " : ", ") + names[i];
+  for (std::size_t i = 0; i < names.size(); ++i) {
+    text += i == 0 ? "" : i + 1 == names.size() ? " and " : ", ";
+    text += isShortCropText(names[i]) ? names[i] : quoteForMessage(names[i]);
+  }
   return text;
 }
 
@@ -250,7 +259,8 @@ void FarmFiles::bringCrops(const FarmDocument& document, bool mayAsk) {
   for (const auto& crop : document.customCrops) {
     const auto text = library.libraryText(crop->name);
     if (text && *text == crop->text) continue;
-    if (!FileReader::isCropFile(crop->text)) {
+    const bool fits = isShortCropText(crop->name) && farmCrops.size() < mostCropFiles;
+    if (!fits || !FileReader::isCropFile(crop->text)) {
       unreadable.push_back(crop->name);
       continue;
     }

@@ -184,6 +184,7 @@ class frmMain : public Window {
   void markOutdated();
   [[nodiscard]] std::vector<Season> farmSeasons() const;
   void tellSkippedCrops();
+  void tellLeftOutCrops();
   void tellUnprinted(const std::string& reason);
   void reloadCropRows();
   void saveTable(const std::filesystem::path& path, std::string_view bytes);
@@ -213,6 +214,7 @@ class frmMain : public Window {
   bool inputsLoaded_ = false;
   CustomCropNotices customCropNotices_;
   std::vector<SkippedCropFile> toldSkipped_;
+  std::size_t toldLeftOut_ = 0;
   std::shared_ptr<QuestionJob> relaxing_;                ///< Looks for wishes to give up
   std::map<const QuestionPane*, FarmInputs> askedWith_;  ///< What each page has asked about
 };

@@ -12,6 +12,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* aboutSkipped = "skipped crop files";
+constexpr const char* aboutLeftOut = "left out crop files";
 constexpr const char* aboutLibrary = "crop library";
 constexpr const char* aboutReport = "report";
 constexpr std::size_t mostFiles = 5;
@@ -48,12 +49,27 @@ void frmMain::tellUnprinted(const std::string& reason) {
 }
 
 void frmMain::tellSkippedCrops() {
+  tellLeftOutCrops();
   if (cropFiles.skipped == toldSkipped_) return;  // a closed notice does not come back with each reload
   toldSkipped_ = cropFiles.skipped;
   if (toldSkipped_.empty()) {
     notices.withdraw(aboutSkipped);
   } else {
     notices.tell({.text = skippedText(toldSkipped_, files_.home / "crops"), .about = aboutSkipped});
+  }
+}
+
+void frmMain::tellLeftOutCrops() {
+  if (cropFiles.leftOut == toldLeftOut_) return;
+  toldLeftOut_ = cropFiles.leftOut;
+  if (toldLeftOut_ == 0) {
+    notices.withdraw(aboutLeftOut);
+  } else {
+    notices.tell({.text = "There are " + std::to_string(mostCropFiles + toldLeftOut_) + " crop files in " +
+                          (files_.home / "crops").string() + ", and the program reads " +
+                          std::to_string(mostCropFiles) + " of them, in the order of their names. Take out " +
+                          "files that you do not need.",
+                  .about = aboutLeftOut});
   }
 }
 

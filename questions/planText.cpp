@@ -18,13 +18,6 @@ std::string trimmedNumber(double value, std::string_view pattern) {
 
 }  // namespace
 
-std::string printable(std::string text) {
-  for (char& c : text) {
-    if (static_cast<unsigned char>(c) < 0x20U || c == '\x7F') c = ' ';
-  }
-  return text;
-}
-
 std::string fieldText(double value) {
   return trimmedNumber(value, "0.0000");
 }

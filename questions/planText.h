@@ -5,13 +5,11 @@
 
 #include "explore/bestPlan.h"
 #include "explore/mixOf.h"
+#include "text/quote.h"
 
 namespace verdalis {
 
 // How the questions tell numbers and plans. Control characters in names become blanks.
-
-/// The text without control characters, which would move a cursor.
-[[nodiscard]] std::string printable(std::string text);
 
 /// A number with up to four decimals and without commas, as a field takes it: "1234.5".
 [[nodiscard]] std::string fieldText(double value);

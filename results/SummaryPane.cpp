@@ -13,11 +13,13 @@
 #include "text/RunTimeError.h"
 #include "text/encoding.h"
 #include "text/numbers.h"
+#include "text/quote.h"
 
 namespace verdalis {
 namespace {
 
 constexpr int tableRows = 12;
+constexpr int cropRow = 1;
 constexpr std::array<const char*, tableRows> rowHeads{
     "",
     "Crop",
@@ -43,6 +45,7 @@ std::string commaSeparated(const Grid& grid) {
   for (int row = 0; row < grid.rows(); ++row) {
     for (int column = 0; column < grid.columns(); ++column) {
       if (column > 0) text += ",";
+      if (row == cropRow && beginsLikeFormula(grid.cell(row, column))) text += "'";
       text += grid.cell(row, column);
     }
     text += "\r\n";

@@ -19,7 +19,7 @@ constexpr const char* plainPattern = "###,##0.0";
 std::string variableHead(const FieldCollection& option, long number) {
   const std::size_t place = listIndex(number, option.theVariable.size());
   const UnitsPair& units = option.theUnits[place];
-  return option.theVariable[place] + " (" + units[0] + units[1] + ")";
+  return escaped(option.theVariable[place] + " (" + units[0] + units[1] + ")");
 }
 
 std::string valueText(const FieldCollection& option, long number) {
@@ -72,14 +72,14 @@ double grossDepth(double net, const std::string& txtEff) {
 
 void addField(const FixedTrendExport& trend, Field& field, int number, std::string& text) {
   Crop& crop = *field.theCrop;
-  const auto row = [&](const std::string& head, const std::string& value) {
-    addLine(text, "<tr><td>" + head + "</td><td>" + value + "</td></tr>");
+  const auto row = [&](const std::string& head, const std::string& value, const std::string& mark = "") {
+    addLine(text, "<tr><td>" + head + "</td><td" + mark + ">" + escaped(value) + "</td></tr>");
   };
   const auto shown = [&](std::int16_t variable) { return !trend.isTrended(variable, crop.cropType); };
   addLine(text, "<table><tr><td></td></tr></table>");
   addLine(text, "<table bgcolor='#CCFFFF' border=1><tr><td colspan='2'><b>Field split #" +
                     std::to_string(number) + "</b></td></tr>");
-  row("Crop:", crop.cropType);
+  row("Crop:", crop.cropType, textMark(crop.cropType));
   row("Acres:", generalText(field.acres) + " acres");
   row("Gross Irrigation", formatNumber(grossDepth(field.Depth, trend.txtEff), "##0.0") + " inches");
   // The price has the plural of the unit and the yield the abbreviation. This is intended.

@@ -39,13 +39,13 @@ void addField(const VariableTrendExport& trend, long step, Field& field, std::st
       trend.units[1] == "%" ? valueText(trend, step) + " " + trend.units[1] : trend.txtEff + " %";
   const double irrigation = perAcre(field.irrigCosts->getCosts(field.Depth, field.acres), field.acres);
   const double costs = perAcre(field.getCosts(), field.acres);
-  std::string line = "<tr><td valign=top>" + crop.cropType;
+  std::string line = "<tr><td valign=top" + textMark(crop.cropType) + ">" + escaped(crop.cropType);
   line += nextCell + generalText(field.acres);
   line += nextCell + formatNumber(field.Depth, "###,##0.0") + "''";
-  line += nextCell + ("$" + generalText(crop.price)) + " / " + crop.cropUnitsArray[0];
-  line += nextCell + generalText(crop.maxYield) + " " + crop.cropUnitsArray[1] + "/ac";
+  line += nextCell + ("$" + generalText(crop.price)) + " / " + escaped(crop.cropUnitsArray[0]);
+  line += nextCell + generalText(crop.maxYield) + " " + escaped(crop.cropUnitsArray[1]) + "/ac";
   line += nextCell + generalText(field.annualRain) + " in.";
-  line += nextCell + efficiency;
+  line += nextCell + escaped(efficiency);
   line += nextCell + formatNumber(irrigation, "$###,###,###0") + " /ac";
   line += nextCell + formatNumber(costs, "$###,###,##0") + " /ac</td></tr>";
   addLine(text, line);
@@ -61,7 +61,8 @@ RunTimeError tooFewOptions(ErrorNumber number, long step) {
 void addStep(const VariableTrendExport& trend, long step, FieldCollection& option, RowColours& colours,
              std::string& text) {
   addLine(text, "<tr bgcolor='" + colours.next() + "'><td>Step " + std::to_string(step) + "</td>");
-  addLine(text, "<td valign=top>" + trend.units[0] + valueText(trend, step) + " " + trend.units[1] + "</td>");
+  addLine(text, "<td valign=top>" + escaped(trend.units[0]) + valueText(trend, step) + " " +
+                    escaped(trend.units[1]) + "</td>");
   addLine(text, "<td colspan='9'><table border=1>");
   for (const auto& field : option)
     addField(trend, step, *field, text);
@@ -79,13 +80,13 @@ void writeVariableTrend(const VariableTrendExport& trend, std::string& text) {
   addLine(text,
           "<table><tr><td colspan=12 align=center><h2><strong>The output below shows the top results from "
           "each option.</strong></h2><hr></td></tr></table>");
-  const std::string variable = trend.TrendVariableCrop + " " + trend.TrendVariableName;
+  const std::string variable = escaped(trend.TrendVariableCrop + " " + trend.TrendVariableName);
   RowColours colours;
   for (int rank = 1; rank <= ranks; ++rank) {
     addLine(text, "<table border=1>");
     addLine(text, "<tr><th colspan=12 align=center><h2>" + ordinal(rank) + " Best Options for " + variable +
                       " Variable-Irrigation Trend Process</h2></th></tr>");
-    addLine(text, "<tr bgcolor=#cccccc><td></td><th>" + variable +
+    addLine(text, "<tr bgcolor=#cccccc><td></td><th" + textMark(trend.TrendVariableCrop) + ">" + variable +
                       "</th><th>Crop</th><th>Acres</th><th>Net Irr</th><th>Price</th><th>Maximum Yield</th>"
                       "<th>Annual Rain</th><th>Irrig Efficiency</th><th>Irr Cost</th><th>Total Prod Costs"
                       "</th><th>Net Return</th></tr>");

@@ -1,9 +1,12 @@
 #include "trend/exportText.h"
 
+#include <algorithm>
 #include <array>
 
 #include "model/FieldCollection.h"
 #include "model/listIndex.h"
+#include "text/encoding.h"
+#include "text/quote.h"
 
 namespace verdalis {
 namespace {
@@ -43,6 +46,37 @@ void addHead(std::string& text, const ClockTime& today) {
   addLine(text, "<![endif]--> ");
   addLine(text, "</head>");
   addLine(text, "<body>");
+}
+
+std::string escaped(std::string_view text) {
+  std::string html;
+  for (const char c : text) {
+    if (c == '&') {
+      html += "&amp;";
+    } else if (c == '<') {
+      html += "&lt;";
+    } else {
+      html += c;
+    }
+  }
+  return html;
+}
+
+std::string textMark(std::string_view text) {
+  if (!beginsLikeFormula(text)) return {};
+  // Each spreadsheet program reads one of these attributes.
+  return R"( sdnum='1033;0;@' style='mso-number-format:"\@"')";
+}
+
+std::string pageBytes(std::string text) {
+  std::string bytes = encodeForExport(text);
+  const bool plain = std::all_of(text.begin(), text.end(), [](char c) { return (c & '\x80') == 0; });
+  constexpr std::string_view headLine = "<head>\r\n";
+  const std::size_t head = text.find(headLine);
+  if (plain || bytes != text || head == std::string::npos) return bytes;
+  bytes.insert(head + headLine.size(),
+               "<meta http-equiv=\"Content-Type\" content=\"text/html; charset=utf-8\">\r\n");
+  return bytes;
 }
 
 void addTail(std::string& text) {

@@ -6,11 +6,12 @@
 #include <cerrno>
 #include <optional>
 #include <system_error>
+#include <utility>
 
 #include "controls/ask.h"
 #include "screens/modHelp.h"
 #include "text/RunTimeError.h"
-#include "text/encoding.h"
+#include "trend/exportText.h"
 
 namespace verdalis {
 namespace {
@@ -56,7 +57,7 @@ std::optional<ExportError> saveText(const std::filesystem::path& path,
   }
   errno = 0;
   try {
-    writer(path, encodeForExport(text));
+    writer(path, pageBytes(std::move(text)));
   } catch (const RunTimeError& failure) {
     const int reason = errno;
     if (reason != 0) return systemError(reason);

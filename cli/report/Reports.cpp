@@ -24,14 +24,13 @@ bool takeNumber(std::string_view& text, char behind, std::size_t& number) {
 }  // namespace
 
 void addReportOptions(CLI::App& command, ReportRequest& request) {
-  addTextOption(command, "--report", "FILE.pdf", request.results,
+  addFileOption(command, "--report", "FILE.pdf", request.results,
                 "Also print the results report to a PDF file, or as text if the name ends in .txt");
   addTextOption(command, "--details-report", "K.F=FILE", request.details,
                 "Also print the details of field F of option K, both counted from 1");
 }
 
 Reports::Reports(const ReportRequest& request) : results_(request.results) {
-  if (results_ && results_->empty()) throw Refusal("--report needs the name of a file.");
   for (const std::string& asked : request.details)
     details_.push_back(parse(asked));
 }

@@ -296,7 +296,7 @@ TEST(Batch, CellsAreCheckedLikeTheOptions) {
       "no-split \"yes\": Please enter True or False",
       "no-split \"true\": Please enter True or False",
       "keep \"1,000\": Please enter a valid number",
-      "factor \"100\": Please enter a number between 1 and 100",
+      "factor \"100\": Please enter a number between 1 and 100. 100 itself is too large.",
       "fuel \"-1\": Fuel Cost:  Please enter a value that's greater",
       "fuel \".\": Please enter a valid number",
       "chkNoSplit \"2\": Please enter True or False",

@@ -45,8 +45,8 @@ Args randomOptions() {
     add(100, "--crop", pick(crops));
   add(20, "--crop", "Fallow");
   if (chance(30)) options.emplace_back("--no-split");
-  add(50, "--keep", pick({"1", "5", "30", "200", "2.5"}));
-  add(70, "--factor", pick({"1", "2", "3", "5", "4.4", "6", "7", "0.4"}));
+  add(50, "--keep", pick({"1", "5", "30", "200", "1e1"}));
+  add(70, "--factor", pick({"1", "2", "3", "5", "4.4", "6", "7", "0.6"}));
   if (chance(25)) options.emplace_back("--mixes");
   for (int i = *rc::gen::inRange(0, 4) - 2; i > 0; --i) {
     add(100, "--wish",

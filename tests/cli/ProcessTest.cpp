@@ -149,6 +149,22 @@ TEST(Process, ReportsThatStandardOutputIsFull) {
   EXPECT_EQ(result.err, "verdalis-cli: The result cannot be written to standard output.\n");
 }
 
+TEST(Process, ReportsThatTheHelpCannotBeWritten) {
+  for (const Args& args : std::vector<Args>{{"--help"},
+                                            {"--version"},
+                                            {"evaluate", "--help"},
+                                            {"trend", "--help"},
+                                            {"explore", "--help"},
+                                            {"explore", "water", "--help"},
+                                            {"batch", "--help"},
+                                            {"farm", "--help"},
+                                            {"script", "--version"}}) {
+    const CliResult result = runProcess(args, {}, "/dev/full");
+    EXPECT_EQ(result.exitCode, 1) << args.front();
+    EXPECT_EQ(result.err, "verdalis-cli: The text cannot be written to standard output.\n") << args.front();
+  }
+}
+
 TEST(Process, RunsASessionFromAScript) {
   const SmallHome home;
   const std::string file = home.folder().write("session", "click frmWelcome.Command1\nget pane\n").string();

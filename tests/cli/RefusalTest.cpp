@@ -90,9 +90,10 @@ TEST(Refusal, RejectsAnInvalidIterationFactor) {
     expectFailure(withCorn(home, {"--factor", text}), 2,
                   "--factor \"" + std::string(text) + "\": Please enter a valid number");
   }
-  for (const char* text : {"0", "-3", "100", "1e3"}) {
+  for (const char* text : {"0", "-3", "100", "1e3", "0.4", "0.5"}) {
     expectFailure(withCorn(home, {"--factor", text}), 2,
-                  "--factor \"" + std::string(text) + "\": Please enter a number between 1 and 100");
+                  "--factor \"" + std::string(text) +
+                      "\": Please enter a number between 1 and 100. 100 itself is too large.");
   }
 }
 
@@ -101,6 +102,34 @@ TEST(Refusal, RejectsAnInvalidNumberOfOptions) {
   for (const char* text : {"ten", "", "1,000", "5 or 6"}) {
     expectFailure(withCorn(home, {"--keep", text}), 2,
                   "--keep \"" + std::string(text) + "\": Please enter a valid number");
+  }
+  for (const char* text : {"0", "-5", "0.4", "2.5", "32768", "1e9", "1e300"}) {
+    expectFailure(withCorn(home, {"--keep", text}), 2,
+                  "--keep \"" + std::string(text) + "\": Please enter a whole number from 1 to 32767");
+  }
+  for (const char* text : {"1", "5.0", "1e2", " 7 ", "32767"})
+    EXPECT_EQ(withCorn(home, {"--keep", text}).exitCode, 0) << text;
+}
+
+TEST(Refusal, RejectsAnEmptyNameOfAFileToWrite) {
+  const SmallHome home;
+  const std::string table = home.folder().write("farms.csv", "txtArea\n10\n").string();
+  for (const Args& command : std::vector<Args>{{"evaluate"},
+                                               {"trend", "--variable", "3", "--values", "80,90"},
+                                               {"explore", "water"},
+                                               {"batch", table},
+                                               {"farm"}}) {
+    Args args = home.arguments(corn);
+    args.erase(args.begin());
+    args.insert(args.begin(), command.begin(), command.end());
+    for (const char* option : {"--output", "--report", "--export"}) {
+      const bool isTrend = command.front() == "trend";
+      if (option == std::string("--export") && !isTrend) continue;
+      if (option == std::string("--report") && !isTrend && command.front() != "evaluate") continue;
+      Args given = args;
+      given.insert(given.end(), {option, ""});
+      expectFailure(runCli(given), 2, std::string(option) + " needs the name of a file.");
+    }
   }
 }
 
@@ -185,10 +214,10 @@ TEST(RunTimeErrors, GiveNoResult) {
        "Annual rainfall 25 is outside the yield table of Corn (11 to 12 inches)."},
       {{"--set", "txtEff=0"}, "The irrigation efficiency is 0 %"},
       {{"--set", "txtEff=-"}, "The irrigation efficiency is 0 %"},
-      {{"--factor", "0.4"}, "The irrigation iteration factor is 0."},
-      {{"--keep", "0"}, "The number of options to keep is 0. It must be 1 or more."},
-      {{"--keep", "-5"}, "The number of options to keep is -5. It must be 1 or more."},
-      {{"--keep", "40000"}, "The number of options to keep"},
+      {{"--set", "txtArraySize=0"}, "The number of options to keep is 0. It must be 1 or more."},
+      {{"--set", "txtArraySize=-5"}, "The number of options to keep is -5. It must be 1 or more."},
+      {{"--set", "txtArraySize=40000"}, "The number of options to keep"},
+      {{"--set", "txtArraySize="}, "The number of options to keep is 0. It must be 1 or more."},
       {{"--set", "txtArea=1e400"}, ""},
       {{"--set", "txtArea=1e300", "--set", "txtMax=1e300"}, "The gross water volume is too large"},
       {{"--max-yield", "Plain=1e400"}, ""},

@@ -149,19 +149,45 @@ TEST(TrendWriter, NumbersTheOptionsOfEachStepInCsv) {
                                                   corn + "7,7,0,0,7\r\n");
 }
 
-TEST(TextPieces, JoinGivesTheWrittenText) {
+std::vector<std::string> piecesOf(TextPieces& text) {
+  std::vector<std::string> pieces;
+  text.forEach([&](const std::string& piece) { pieces.push_back(piece); });
+  return pieces;
+}
+
+TEST(TextPieces, AreTheWrittenText) {
   constexpr std::size_t size = TextPieces::pieceSize;
   TextPieces pieces;
   std::ostream out(&pieces);
   out << std::string(size - 1, 'a') << 'b' << 'c' << std::string(2 * size, 'd') << 12.5 << std::flush;
   EXPECT_TRUE(out.good());
-  EXPECT_EQ(pieces.pieces().size(), 4U);
-  for (const std::string& piece : pieces.pieces())
+  std::string joined;
+  EXPECT_EQ(piecesOf(pieces).size(), 4U);
+  for (const std::string& piece : piecesOf(pieces)) {
     EXPECT_LE(piece.size(), size);
+    joined += piece;
+  }
   const std::string expected = std::string(size - 1, 'a') + "bc" + std::string(2 * size, 'd') + "12.5";
-  EXPECT_TRUE(pieces.join() == expected);
-  EXPECT_TRUE(pieces.pieces().empty());
-  EXPECT_EQ(pieces.join(), "");
+  EXPECT_TRUE(joined == expected);
+  TextPieces none;
+  EXPECT_TRUE(piecesOf(none).empty());
+}
+
+TEST(TextPieces, AVeryLongTextIsPartlyInAFile) {
+  TextPieces pieces;
+  std::ostream out(&pieces);
+  std::string expected;
+  while (expected.size() < (TextPieces::mostInMemory + 5) * TextPieces::pieceSize) {
+    const std::string line = std::to_string(expected.size()) + std::string(1000, 'x') + '\n';
+    out << line;
+    expected += line;
+  }
+  for (int times = 0; times < 2; ++times) {
+    std::string joined;
+    for (const std::string& piece : piecesOf(pieces))
+      joined += piece;
+    EXPECT_TRUE(joined == expected);
+  }
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "data/CustomCropFile.h"
 #include "data/FileReader.h"
 #include "tests/data/CropLibrary.h"
 #include "tests/data/Failure.h"
@@ -187,6 +188,47 @@ TEST(FileReader, ListsTheSkippedFilesWithTheirReasons) {
   std::filesystem::remove(reader.skipped[1].path);
   reader.Initialize();
   EXPECT_TRUE(reader.skipped.empty());
+}
+
+TEST(FileReader, SkipsACropWithALongNameOrLongUnits) {
+  const std::string longest = std::string(253, 'n') + "\xC3\xA9" + "x";  // 255 characters
+  const auto withUnits = [](const std::string& units) {
+    return "CROP=Units\r\n\r\nUNITS=" + units +
+           "\r\n\r\nANNUAL_RAIN=11,12\r\n\r\nEFF_IRRIG=0\r\n\r\nYIELD_VALUES=1,2\r\n";
+  };
+  const CropLibrary library;
+  library.stock("a.txt", smallCrop(longest));
+  library.stock("b.txt", smallCrop(longest + "x"));
+  library.stock("c.txt", withUnits(longest));
+  library.stock("d.txt", withUnits(longest + "x"));
+  library.custom("e.txt", smallCrop(std::string(60U << 20U, 'n')));
+  const FileReader reader = library.read();
+  EXPECT_EQ(reader.cropCollection.Count(), 2) << "Fallow comes after four valid files";
+  EXPECT_EQ(reader.cropCollection.Item(1)->cropType, longest);
+  EXPECT_EQ(reader.cropCollection.Item(2)->cropUnits, longest);
+  ASSERT_EQ(reader.skipped.size(), 3U);
+  EXPECT_EQ(reader.skipped[0].reason, "The name of the crop has more than 255 characters.");
+  EXPECT_EQ(reader.skipped[1].reason, "The text of the units has more than 255 characters.");
+  EXPECT_EQ(reader.skipped[2].reason, "The name of the crop has more than 255 characters.");
+}
+
+TEST(FileReader, ReadsAtMost200FilesStockCropsFirst) {
+  const CropLibrary library;
+  library.stock("a.txt", smallCrop("A"));
+  library.stock("b.txt", smallCrop("B"));
+  for (int i = 1000; i < 1198; ++i)
+    library.custom(std::to_string(i), smallCrop("C" + std::to_string(i)));
+  FileReader reader = library.read();
+  EXPECT_EQ(reader.leftOut, 0U);
+  EXPECT_EQ(reader.cropCollection.Count(), 201) << "with Fallow";
+  for (int i = 1198; i < 1210; ++i)
+    library.custom(std::to_string(i), smallCrop("C" + std::to_string(i)));
+  reader.Initialize();
+  EXPECT_EQ(reader.leftOut, 12U);
+  EXPECT_EQ(reader.cropCollection.Count(), 201);
+  EXPECT_EQ(reader.cropCollection.Item(3)->cropType, "Fallow");
+  EXPECT_EQ(reader.cropCollection.Item(201)->cropType, "C1197");
+  EXPECT_EQ(findCustomCrops(library.home() / "crops/custom").size(), 200U);
 }
 
 // A crop is read into the object that a bad file has partly filled; nothing of the bad file may remain.

@@ -106,12 +106,31 @@ TEST(SoilsFile, IsInItsFolderWhateverTheNameOfTheCrop) {
   const std::string outside = (library.home() / "outside").string();
   library.stock("a.txt", smallCrop(outside));
   library.stock("b.txt", smallCrop("corn"));
-  library.stock("c.txt", smallCrop(std::string(5000, 'n')));
+  library.stock("c.txt", smallCrop(std::string(255, 'n')));
   library.soils("corn.txt", soil("ulysses", 8, 1));
   const auto reader = library.read();
   EXPECT_TRUE(reader.cropCollection.Item(1)->soil_ulysses->empty());
   EXPECT_EQ(yieldOf(reader.cropCollection.Item(2)->soil_ulysses), 8);
   EXPECT_TRUE(reader.cropCollection.Item(3)->soil_ulysses->empty());
+}
+
+TEST(SoilsFile, ANameDoesNotLeadOutOfItsFolder) {
+  const CropLibrary library;
+  library.folder().write("outside.txt", soil("ulysses", 7, 1));
+  library.folder().write("crops/outside.txt", "no crop");
+  library.soils("inner/corn.txt", soil("ulysses", 7, 1));
+  library.soils("corn.txt", soil("ulysses", 8, 1));
+  const std::vector<std::string> names{"../../outside", "inner/../../../outside",
+                                       "../soils/corn", "inner/corn",
+                                       "./corn",        (library.home() / "outside").string()};
+  for (std::size_t i = 0; i < names.size(); ++i)
+    library.stock("a" + std::to_string(i) + ".txt", smallCrop(names[i]));
+  const auto reader = library.read();
+  for (std::size_t i = 0; i < names.size(); ++i) {
+    const Crop& crop = *reader.cropCollection.Item(static_cast<long>(i) + 1);
+    ASSERT_EQ(crop.cropType, names[i]);
+    EXPECT_TRUE(crop.soil_ulysses->empty()) << names[i];
+  }
 }
 
 TEST(SoilsFile, IsNoHiddenFile) {

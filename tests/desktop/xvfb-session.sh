@@ -5,29 +5,9 @@
 # usage: xvfb-session.sh PROGRAM CROPS
 set -eu
 
-skipped=77
-limit=300 # per step, in tenths of a second; enough for a slow machine
-
-for tool in xvfb-run xdotool; do
-  if ! command -v "$tool" >/dev/null; then
-    echo "skipped: $tool is missing"
-    exit $skipped
-  fi
-done
-
-if [ "${VERDALIS_XVFB_HOME:-}" = "" ]; then
-  VERDALIS_XVFB_HOME=$(mktemp -d)
-  export VERDALIS_XVFB_HOME
-  trap 'rm -rf "$VERDALIS_XVFB_HOME"' EXIT
-  mkdir -m 700 "$VERDALIS_XVFB_HOME/farm" "$VERDALIS_XVFB_HOME/config" "$VERDALIS_XVFB_HOME/run"
-  cp -r "$2" "$VERDALIS_XVFB_HOME/farm/crops"
-  status=0
-  env HOME="$VERDALIS_XVFB_HOME" XDG_CONFIG_HOME="$VERDALIS_XVFB_HOME/config" \
-    XDG_RUNTIME_DIR="$VERDALIS_XVFB_HOME/run" DBUS_SESSION_BUS_ADDRESS="unix:path=/nonexistent" \
-    QT_QPA_PLATFORM=xcb LC_ALL=C.UTF-8 \
-    xvfb-run -a -s "-screen 0 1280x1000x24" sh "$0" "$@" || status=$?
-  exit $status
-fi
+tools="xvfb-run xdotool"
+# shellcheck source=tests/desktop/xvfb-home.sh
+. "$(dirname "$0")/xvfb-home.sh"
 
 saved=$VERDALIS_XVFB_HOME/farm/inputs.txt
 "$1" --home "$VERDALIS_XVFB_HOME/farm" &
@@ -37,18 +17,6 @@ fail() {
   echo "FAILED: $1" >&2
   kill "$program" 2>/dev/null || true
   exit 1
-}
-
-# Repeats a check until it succeeds.
-await() {
-  what=$1
-  shift
-  tries=0
-  until "$@"; do
-    tries=$((tries + 1))
-    [ $tries -lt $limit ] || fail "$what"
-    sleep 0.1
-  done
 }
 
 # Finds the window with a title and stores it in the variable `window`.

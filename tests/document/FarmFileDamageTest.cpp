@@ -7,6 +7,7 @@
 #include <optional>
 #include <set>
 
+#include "data/readFile.h"
 #include "document/documentKeys.h"
 #include "document/farmText.h"
 #include "tests/document/arbitraryDocument.h"
@@ -93,8 +94,8 @@ TEST(FarmFileDamage, ANewerVersionIsRefusedWithBothVersions) {
 
 TEST(FarmFileDamage, ATextAboveTheMaximumSizeIsRefused) {
   const std::string text = writeFarm(FarmDocument());
-  EXPECT_EQ(refusal(text + std::string(maxFarmFileSize - text.size(), ' ')), std::nullopt);
-  EXPECT_EQ(refusal(text + std::string(maxFarmFileSize - text.size() + 1, ' ')),
+  EXPECT_EQ(refusal(text + std::string(maxFileSize - text.size(), ' ')), std::nullopt);
+  EXPECT_EQ(refusal(text + std::string(maxFileSize - text.size() + 1, ' ')),
             "The farm file is too large: farm files have up to 64 MB.");
 }
 

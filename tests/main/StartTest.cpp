@@ -215,6 +215,22 @@ TEST_F(LibrarySize, SixtyCropsAreReportedWithAllRowsCreated) {
   EXPECT_TRUE(main.isOpen());
 }
 
+TEST_F(LibrarySize, OfVeryManyCropFilesTheFirstAreReadAndTheRestIsTold) {
+  fill(194);  // 200 files with the six stock crops
+  frmMain& main = running.start();
+  EXPECT_EQ(main.pneMain.cr.size(), 201U);
+  EXPECT_TRUE(main.notices.all().empty());
+  fill(300);
+  main.pneCustomCrop.onReload();
+  EXPECT_EQ(main.pneMain.cr.size(), 201U);
+  ASSERT_EQ(main.notices.all().size(), 1U);
+  EXPECT_EQ(
+      main.notices.all()[0].text,
+      "There are 306 crop files in " + (running.home() / "crops").string() +
+          ", and the program reads 200 of them, in the order of their names. Take out files that you do "
+          "not need.");
+}
+
 TEST_F(LibrarySize, TheStockCropsNeedNoScrolling) {
   frmMain& main = running.start();
   EXPECT_FALSE(main.pneMain.cropScroll.enabled());

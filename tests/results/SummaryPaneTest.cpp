@@ -344,6 +344,17 @@ TEST_F(SummaryPaneTest, SavesTheTableAsItIsShown) {
   EXPECT_TRUE(fake.messageBox.log.empty());
 }
 
+TEST_F(SummaryPaneTest, ANameThatBeginsLikeAFormulaIsSavedAsText) {
+  for (const char* name : {"=1+1", "+1", "-1", "@A1", " =1"}) {
+    saved = {optionOf({plainField(10, 1234.5, 1000, 8.5, name)}), fieldsOf(1)};
+    pane.showSummary();
+    fake.fileChooser.answers.emplace_back("/tmp/table.csv");
+    pane.cmdExcelSave.click();
+    EXPECT_NE(written.back().second.find("\r\nCrop,'" + std::string(name) + ",Millet\r\n"), std::string::npos)
+        << written.back().second;
+  }
+}
+
 TEST_F(SummaryPaneTest, ACancelledChooserWritesNothing) {
   saved = {fieldsOf(1)};
   pane.showSummary();

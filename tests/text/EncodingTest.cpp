@@ -136,6 +136,30 @@ TEST(QuoteForMessage, PutsTheTextOnOneLine) {
   EXPECT_EQ(quoteForMessage("a\r\nb\tc"), "\"a  b c\"");
   EXPECT_EQ(quoteForMessage(std::string("a\0b", 3)), "\"a b\"");
   EXPECT_EQ(quoteForMessage("caf\xE9"), bytes(u8"\"café\""));
+  EXPECT_EQ(quoteForMessage("a\xC2\x9B"
+                            "31mb"),
+            "\"a 31mb\"");
+}
+
+TEST(Printable, ReplacesEachControlCharacterByABlank) {
+  EXPECT_EQ(printable(bytes(u8"Maïs 10 €, 🌽")), bytes(u8"Maïs 10 €, 🌽"));
+  EXPECT_EQ(printable("a\x1B[31mb\x7F\a"), "a [31mb  ");
+  for (int c = 0x80; c < 0xA0; ++c) {
+    const std::string control{'\xC2', static_cast<char>(c)};
+    EXPECT_EQ(printable("a" + control + "b"), "a b") << c;
+  }
+  EXPECT_EQ(printable("\xC2\xA0\xC3\x80"), "\xC2\xA0\xC3\x80");
+  EXPECT_EQ(printable("\x9B"
+                      "31m"),
+            bytes(u8"›31m"))
+      << "no byte of a one-byte terminal's own controls";
+}
+
+TEST(BeginsLikeFormula, PassesOverBlanks) {
+  for (const char* text : {"=1+1", "+Corn", "-Corn", "@SUM(1)", "  =1", "\t=1", "\xC2\xA0 =1"})
+    EXPECT_TRUE(beginsLikeFormula(text)) << text;
+  for (const char* text : {"", " ", "Corn", "Corn = 1", "'=1", "1-2", "\xC3\xA9=1"})
+    EXPECT_FALSE(beginsLikeFormula(text)) << text;
 }
 
 TEST(QuoteForMessage, CutsAfterFortyCharacters) {

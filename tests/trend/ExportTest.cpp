@@ -263,6 +263,44 @@ TEST_F(FixedExportTest, NamesAreWrittenInWindows1252IfPossible) {
   EXPECT_THAT(folder.read("trend.xls"), HasSubstr("<td>Кукуруза</td>"));
 }
 
+TEST_F(FixedExportTest, TheCharsetIsToldOnlyForUtf8) {
+  const std::string meta = "<meta http-equiv=\"Content-Type\" content=\"text/html; charset=utf-8\">";
+  corn().cropType = "Maïs";
+  openFixed();
+  define(3, "50");
+  run();
+  EXPECT_THAT(folder.read("trend.xls"), Not(HasSubstr("charset")));
+  corn().cropType = "Кукуруза";
+  openFixed();
+  define(3, "50");
+  run();
+  EXPECT_THAT(folder.read("trend.xls"), HasSubstr("\r\n<head>\r\n" + meta + "\r\n<!--[if gte mso 9]>"));
+}
+
+TEST_F(FixedExportTest, NamesAreTextAndNoMarkup) {
+  corn().cropType = "<b>R&D</b>";
+  corn().cropUnitsArray = {"<u", "b&u"};
+  openFixed();
+  define(0, "5");
+  run();
+  const std::string page = folder.read("trend.xls");
+  EXPECT_THAT(page, HasSubstr("<b>Crop Price - &lt;b>R&amp;D&lt;/b> ("));
+  EXPECT_THAT(page, HasSubstr("<td>Crop:</td><td>&lt;b>R&amp;D&lt;/b></td>"));
+  EXPECT_THAT(page, HasSubstr(" &lt;u/ac</td>"));
+}
+
+TEST_F(FixedExportTest, ANameThatBeginsLikeAFormulaIsMarkedAsText) {
+  for (const char* name : {"=1+1", "+1+1", "-1+1", "@SUM(1,1)", " =1+1"}) {
+    corn().cropType = name;
+    openFixed();
+    define(3, "50");
+    run();
+    EXPECT_THAT(folder.read("trend.xls"), HasSubstr("<td>Crop:</td><td sdnum='1033;0;@' "
+                                                    "style='mso-number-format:\"\\@\"'>" +
+                                                    std::string(name) + "</td>"));
+  }
+}
+
 class VariableExportTest : public ExportTest {
  protected:
   VariableExportTest() {
@@ -532,7 +570,8 @@ std::optional<std::string> cellsOf(const TemporaryFolder& folder) {
   const std::string there = folder.path().string();
   const std::string command =
       "cd '" + there + "' && HOME='" + there +
-      "' timeout 120 soffice --headless --infilter='HTML (StarCalc)' --convert-to csv trend.xls "
+      "' timeout 120 soffice --headless --infilter='HTML (StarCalc)' --convert-to 'csv:Text - txt - csv "
+      "(StarCalc):44,34,76' trend.xls "
       ">/dev/null 2>&1";
   if (std::system(command.c_str()) != 0) return "";
   return folder.read("trend.csv");
@@ -548,6 +587,30 @@ TEST_F(FixedExportTest, ASpreadsheetProgramFindsTheCells) {
     EXPECT_THAT(*cells, HasSubstr(cell));
   }
   EXPECT_THAT(*cells, Not(HasSubstr("<td")));
+}
+
+TEST_F(VariableExportTest, NamesAreTextAndNoFormulas) {
+  corn().cropType = "=1+1&<i>";
+  corn().cropUnitsArray = {"<u", "b&u"};
+  openVariable();
+  run(0, "5, 6");
+  const std::string page = folder.read("trend.xls");
+  const std::string mark = " sdnum='1033;0;@' style='mso-number-format:\"\\@\"'>";
+  EXPECT_THAT(page, HasSubstr("<td></td><th" + mark + "=1+1&amp;&lt;i> Crop Price</th>"));
+  EXPECT_THAT(page, HasSubstr("<tr><td valign=top" + mark + "=1+1&amp;&lt;i></td><td valign=top>100</td>"));
+  EXPECT_THAT(page, HasSubstr("1st Best Options for =1+1&amp;&lt;i> Crop Price"));
+  EXPECT_THAT(page, HasSubstr("<td valign=top>$5.00 / &lt;u</td>"));
+  EXPECT_THAT(page, HasSubstr(" b&amp;u/ac</td>"));
+}
+
+TEST_F(FixedExportTest, ASpreadsheetProgramReadsNamesAsTheyAre) {
+  corn().cropType = "=1+1&<i>Кукуруза";
+  openFixed();
+  define(3, "50");
+  run();
+  const std::optional<std::string> cells = cellsOf(folder);
+  if (!cells) GTEST_SKIP() << "LibreOffice is not installed";
+  EXPECT_THAT(*cells, HasSubstr("Crop:,=1+1&<i>Кукуруза\n"));
 }
 
 TEST_F(VariableExportTest, ASpreadsheetProgramFindsTheCells) {
