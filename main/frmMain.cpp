@@ -79,7 +79,7 @@ frmMain::frmMain(Desk& desk, Services& services, ProgramState& state, SecondaryW
           {*this, pneMain, pneIrrigCosts, *tempIrrigationCosts, state, trends, cropFiles, summaryResults}),
       keeper(desk, farmControls),
       farms(*this, services, keeper, farmControls, files.state, files.recovers),
-      go(*this, state),
+      go(*this, state, windows),
       losses_(desk, keeper, notices),
       services_(services),
       state_(state),
