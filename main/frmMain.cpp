@@ -479,8 +479,10 @@ void frmMain::wireLosses() {
 void frmMain::wireSinceLastRun() {
   const auto follow = [this] {
     if (pneResults.visible()) sinceLastRun_.follow(keeper.document().inputs);
+    if (pneMain.visible() && sinceLastRun_.hasRun()) sinceLastRun_.mark(keeper.document().inputs);
   };
   pneResults.onStateChange.connect(follow);
+  pneMain.onStateChange.connect(follow);
   keeper.onChange.connect(follow);
   farms.onTake.connect([this] { sinceLastRun_.forget(); });
 }
