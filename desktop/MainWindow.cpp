@@ -62,7 +62,9 @@ void focusFirst(QWidget* page) {
 
 MainWindow::MainWindow(frmMain& window, Binder& binder, std::function<void(const QString&)> showTopic)
     : window_(window), binder_(binder), showTopic_(std::move(showTopic)) {
-  setMinimumSize(smallest);
+  // A larger font needs more width for the buttons below the page, as far as the screen has it.
+  const QSize wide(scaled(smallest.width()), 0);
+  setMinimumSize(smallest.expandedTo(wide.boundedTo(screen()->availableSize())));
   setAcceptDrops(true);
   acts_ = window.desk().onActing.connectScoped([this](Control&) { acting_ = true; });
   acted_ = window.desk().onActed.connectScoped([this] { acting_ = false; });

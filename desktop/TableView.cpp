@@ -28,11 +28,12 @@ constexpr int sidePadding = 8;
 constexpr int rounding = 1;     // of the width of a text, which would be cut otherwise
 constexpr int linePadding = 3;  // above and below a line
 constexpr int mostBar = 50;
-constexpr int leastBar = 16;  // where the columns need the room
+constexpr int leastBar = 16;  // where the columns need the room; with less, there are none
 constexpr int barHeight = 8;
 constexpr int barGap = 6;
 constexpr int bandWidth = 3;
-constexpr int leastText = 110;  // of a column of texts that does not get the room that it needs
+constexpr int leastHeading = 130;  // of a column whose heading is long
+constexpr int leastText = 110;     // of a column of texts that does not get the room that it needs
 constexpr int fewestLines = 3;
 constexpr int usualLines = 4;
 
@@ -132,7 +133,7 @@ class TablePainter : public QStyledItemDelegate {
       painter->fillRect(QRect(option.rect.topLeft(), QSize(scaled(bandWidth), option.rect.height())),
                         colours.brand);
     }
-    if (cell.bar) {
+    if (cell.bar && model_.barRoom > 0) {
       const QRect bar = barOf(cell, option.rect, isLeft(column));
       if (!bar.isEmpty()) painter->fillRect(bar, column.water ? colours.water : faint(colours, scheme));
     }
@@ -183,7 +184,7 @@ class TablePainter : public QStyledItemDelegate {
   /// The room for the text of a cell.
   [[nodiscard]] QRect roomOf(const Table::Cell& cell, const QRect& rect, bool left) const {
     QRect room = rect.adjusted(scaled(sidePadding), 0, -scaled(sidePadding), 0);
-    if (!cell.bar) return room;
+    if (!cell.bar || model_.barRoom == 0) return room;
     const QRect bar = barOf(cell, rect, left);
     if (!left) {
       room.setRight(bar.left() - scaled(barGap));
@@ -397,14 +398,15 @@ QList<int> TableView::widthsWith(int barRoom, bool allIndicators) const {
     const bool indicates =
         allIndicators ? table_->columns()[placeAt(column)].sorts : table_->sortColumn() == placeAt(column);
     int width = std::max(one.text, one.heading + (indicates ? indicator : 0));
-    if (one.besideBar >= 0) width = std::max(width, one.besideBar + scaled(barGap) + barRoom);
+    const int bar = barRoom > 0 ? scaled(barGap) + barRoom : 0;
+    if (one.besideBar >= 0) width = std::max(width, one.besideBar + bar);
     widths << width + 2 * scaled(sidePadding);
   }
   return widths;
 }
 
 /// Makes the longest texts shorter, all to the same width, until `excess` is gone or they are at their least.
-/// No heading is cut.
+/// No short heading is cut.
 void TableView::cutTexts(QList<int>& widths, int excess) const {
   QList<int> texts;
   for (int column = 0; column < widths.size(); ++column) {
@@ -412,7 +414,7 @@ void TableView::cutTexts(QList<int>& widths, int excess) const {
     if (isLeft(one) && !one.water) texts << column;
   }
   const auto cut = [&](int column, int most) {
-    const int heading = columns_[column].heading + 2 * scaled(sidePadding);
+    const int heading = std::min(columns_[column].heading + 2 * scaled(sidePadding), scaled(leastHeading));
     return std::min(widths[column], std::max(most, heading));
   };
   const auto gained = [&](int most) {
@@ -440,6 +442,10 @@ void TableView::spread() {
   if (sum(widths) > room) widths = widthsWith(model_->barRoom, false);
   while (sum(widths) > room && model_->barRoom > scaled(leastBar))
     widths = widthsWith(--model_->barRoom, false);
+  if (sum(widths) > room) {
+    model_->barRoom = 0;
+    widths = widthsWith(0, false);
+  }
   if (sum(widths) > room) cutTexts(widths, sum(widths) - room);
   int rest = room - sum(widths);
   rest = std::max(rest, 0);
