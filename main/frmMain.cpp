@@ -106,7 +106,7 @@ frmMain::frmMain(Desk& desk, Services& services, ProgramState& state, SecondaryW
   wireLive();
   wireQuestions();
   wireWishes();
-  desk.onActed.connect([this] {
+  desk.onSettled.connect([this] {
     if (pneMain.visible()) pneMain.showHints(state_.FineFactor);
   });
 }
