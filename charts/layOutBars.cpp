@@ -11,7 +11,7 @@ namespace verdalis {
 namespace {
 
 constexpr double highestRow = 30;
-constexpr double mostForNames = 0.4;  // of the width
+constexpr double mostForNames = 0.5;  // of the width
 constexpr double mostForTexts = 0.2;  // of the width, at each side of the bars
 
 Paint paintOf(BarChart::Bar::Kind kind) {

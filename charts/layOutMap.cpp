@@ -102,9 +102,9 @@ class MapLayout {
     if (empty_) return entries;
     if (hasNow()) entries.push_back({LegendEntry::Kind::here, 0, "now"});
     if (!byCategory_) {
-      entries.push_back({LegendEntry::Kind::scale, 0,
-                         shortNumber(values_.low, data_.valueStyle) + " to " +
-                             shortNumber(values_.high, data_.valueStyle)});
+      const std::string low = shortNumber(values_.low, data_.valueStyle);
+      const std::string high = shortNumber(values_.high, data_.valueStyle);
+      entries.push_back({LegendEntry::Kind::scale, 0, low == high ? "all at " + low : low + " to " + high});
       return entries;
     }
     for (const std::size_t category : std::set<std::size_t>(data_.category.begin(), data_.category.end())) {

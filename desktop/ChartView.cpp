@@ -1,6 +1,7 @@
 #include "desktop/ChartView.h"
 
 #include <QAccessible>
+#include <QAccessibleWidget>
 #include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
@@ -35,6 +36,14 @@ bool isSame(const std::optional<Target>& a, const Target* b) {
   return a->kind == b->kind && a->row == b->row && a->column == b->column;
 }
 
+/// Tells a reader that does not see a chart that it is one.
+QAccessibleInterface* readChart(const QString& name, QObject* object) {
+  auto* chart =
+      name == QLatin1String("verdalis::desktop::ChartView") ? qobject_cast<ChartView*>(object) : nullptr;
+  return chart == nullptr ? nullptr
+                          : new QAccessibleWidget(chart, QAccessible::Chart);  // the toolkit owns it
+}
+
 /// A title as the name of a file.
 QString fileName(const QString& title) {
   QString name;
@@ -46,6 +55,8 @@ QString fileName(const QString& title) {
 }  // namespace
 
 ChartView::ChartView(QWidget* parent) : QWidget(parent) {
+  static const bool isInstalled = (QAccessible::installFactory(readChart), true);
+  static_cast<void>(isInstalled);
   setMouseTracking(true);
   setFocusPolicy(Qt::StrongFocus);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);

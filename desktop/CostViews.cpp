@@ -3,10 +3,13 @@
 #include <QFrame>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPointer>
 #include <QPushButton>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include "desktop/FieldForm.h"
+#include "desktop/FieldMarks.h"
 #include "screens/InputCostsTable.h"
 
 namespace verdalis::desktop {
@@ -46,6 +49,28 @@ QPushButton* mainButton(Binder& binder, Button& button) {
   return binder.bind(button, widget);
 }
 
+/// Marks the fields with hints; a moment after the key, because marking takes longer than a key may.
+void followHints(PageHints& hints, Binder& binder, QWidget* page) {
+  constexpr int delay = 120;  // milliseconds
+  auto* marks = new FieldMarks(binder, page);
+  auto* timer = new QTimer(page);
+  timer->setSingleShot(true);
+  timer->setInterval(delay);
+  QObject::connect(timer, &QTimer::timeout, marks, [marks, &hints] { marks->mark(hints.hints()); });
+  hints.onHints.connect([timer = QPointer(timer)] {
+    if (timer) timer->start();
+  });
+}
+
+/// The heading of a page, and beside it the hint.
+QHBoxLayout* headingLine(QLabel* heading, Binder& binder, Label& hint) {
+  auto* line = new QHBoxLayout;
+  line->setSpacing(24);
+  line->addWidget(sizedLabel(heading));
+  line->addWidget(hintLine(binder, hint), 1);
+  return line;
+}
+
 /// Tells beside the button that applies the values that this is still to be done.
 QLabel* unappliedLabel(Binder& binder, Label& control) {
   return binder.bind(control, fixedLabel({}, "caution"), QObject::tr("Not applied"));
@@ -61,8 +86,9 @@ QPushButton* backButton(Binder& binder, Button& button) {
 
 QWidget* inputCostsView(InputCostsPane& pane, Binder& binder) {
   const PageWithButtons view = pageWithButtons();
-  auto* header = sizedLabel(fixedLabel({}, "heading"));
-  view.body->addWidget(binder.bind(pane.lblHeader, header));
+  view.body->addLayout(
+      headingLine(binder.bind(pane.lblHeader, fixedLabel({}, "heading")), binder, pane.lblHint));
+  followHints(pane.hints, binder, view.widget);
 
   FieldForm form(binder, pane.cmdHelp, formFields(pane));
   const auto groups = InputCostsPane::groups();
@@ -117,7 +143,9 @@ QWidget* inputCostsView(InputCostsPane& pane, Binder& binder) {
 
 QWidget* irrigCostsView(IrrigCostsPane& pane, Binder& binder) {
   const PageWithButtons view = pageWithButtons();
-  view.body->addWidget(sizedLabel(fixedLabel(plain(IrrigCostsPane::title), "heading")));
+  view.body->addLayout(
+      headingLine(fixedLabel(plain(IrrigCostsPane::title), "heading"), binder, pane.lblHint));
+  followHints(pane.hints, binder, view.widget);
   FieldForm form(binder, pane.cmdHelp, formFields(pane));
   const auto groups = IrrigCostsPane::groups();
   auto* columns = new QHBoxLayout;

@@ -48,10 +48,15 @@ QHash<QString, int> FieldForm::columnsOfHeads(int group) const {
   return heads;
 }
 
-QWidget* FieldForm::widget(const FormField& field) {
+QWidget* FieldForm::widget(const FormField& field, int place) {
   const FieldRow& row = *field.row;
-  const QString label =
-      row.column.empty() ? text(row.label) : text(row.label) + QLatin1String(", ") + text(row.column);
+  QString label = text(row.label);
+  const QString head =
+      row.column.empty() && place > 0 ? QObject::tr("field %1").arg(place + 1) : text(row.column);
+  if (!head.isEmpty()) {
+    if (label.endsWith(QLatin1Char(':'))) label.chop(1);
+    label += QLatin1String(", ") + head;
+  }
   QWidget* widget = nullptr;
   if (field.box != nullptr) widget = binder_.bind(*field.box, numberField(9), label);
   if (field.list != nullptr) {
@@ -85,7 +90,7 @@ Card FieldForm::group(const FormGroup& group, int index, CardWidth width) {
   }
   auto* grid = new QGridLayout;
   grid->setHorizontalSpacing(8);
-  grid->setVerticalSpacing(5);
+  grid->setVerticalSpacing(3);
   // Fields stand at the right edge of a narrow card, and near their labels in a wide one.
   grid->setColumnStretch(width == CardWidth::wide ? lastColumn + 1 : 0, 1);
   grid->setColumnMinimumWidth(0, width == CardWidth::wide ? 200 : 0);
@@ -107,7 +112,7 @@ void FieldForm::addLine(const Line& fields, const QHash<QString, int>& heads, QG
   grid->addWidget(label, line, 0);
   int place = 0;
   for (const FormField* field : fields) {
-    QWidget* shown = widget(*field);
+    QWidget* shown = widget(*field, place);
     if (shown == nullptr) continue;
     if (label->buddy() == nullptr) label->setBuddy(shown);
     const int column = 1 + 2 * heads.value(text(field->row->column), place++);

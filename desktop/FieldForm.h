@@ -58,7 +58,7 @@ class FieldForm {
   /// For each column head of a group, the place in its line of the fields under it.
   [[nodiscard]] QHash<QString, int> columnsOfHeads(int group) const;
 
-  [[nodiscard]] QWidget* widget(const FormField& field);
+  [[nodiscard]] QWidget* widget(const FormField& field, int place);
   [[nodiscard]] QWidget* unit(const FormField& field);
   void addLine(const Line& fields, const QHash<QString, int>& heads, QGridLayout* grid, int line);
   void showOptimal(const FormField& field);

@@ -10,6 +10,7 @@
 #include <QStyle>
 #include <QStyleOptionSlider>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "desktop/ChartView.h"
 #include "desktop/Keys.h"
@@ -22,6 +23,7 @@ namespace {
 
 constexpr int slidersWidth = 380;
 constexpr int planLines = 5;  // with the headings
+constexpr int fewestFields = 2;
 constexpr int lineHeight = 24;
 constexpr int leastMap = 200;
 
@@ -101,6 +103,11 @@ class LiveView : public QWidget {
     const Card plan = card(tr("Best plan"));
     auto* table = binder_.bind(pane_.tblLive, new TableView, tr("Best plan"));
     table->setFixedHeight(planLines * scaled(lineHeight));
+    // Other farms have fewer fields, and the map takes the room.
+    binder_.alsoWatch(pane_.tblLive, [this, table] {
+      const auto fields = static_cast<int>(pane_.tblLive.places());
+      if (fields > 0) table->setFixedHeight((std::max(fields, fewestFields) + 1) * scaled(lineHeight));
+    });
     plan.body->addWidget(table);
     plan.body->addWidget(wrapped(binder_, pane_.lblLiveFault, "caution"));
     auto* total = new QHBoxLayout;

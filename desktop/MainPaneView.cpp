@@ -28,7 +28,7 @@
 namespace verdalis::desktop {
 namespace {
 
-constexpr int rowHeight = 31;
+constexpr int rowHeight = 29;
 constexpr int visibleRows = cropFrameHolderHeight / cropRowHeight;
 
 /// Columns of the crop table.
@@ -53,28 +53,6 @@ void setColumns(QGridLayout* grid) {
 
 constexpr int hintDelay = 120;  // milliseconds from a change to the marks of the fields
 
-constexpr const char* ownTip = "ownTip";  // the tool tip of a field without a hint
-
-/// The hint beside the heading of a card. It takes no room from the page. Its label is in no layout, so that
-/// another text does not lay the page out again with each key.
-class HintLine : public QWidget {
- public:
-  HintLine(Binder& binder, Label& control) {
-    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    label_ = fixedLabel({}, "caution");
-    label_->setParent(this);
-    binder.bind(control, label_, QObject::tr("Hint"));
-  }
-
-  [[nodiscard]] QSize sizeHint() const override { return {scaled(300), fontMetrics().lineSpacing()}; }
-
- protected:
-  void resizeEvent(QResizeEvent*) override { label_->setGeometry(rect()); }
-
- private:
-  QLabel* label_;
-};
-
 const FieldRow* rowOf(std::string_view control) {
   for (const FieldRow& row : MainPane::fields()) {
     if (row.control == control) return &row;
@@ -85,7 +63,7 @@ const FieldRow* rowOf(std::string_view control) {
 }  // namespace
 
 MainPaneView::MainPaneView(MainPane& pane, WishesCard& wishes, Binder& binder)
-    : pane_(pane), binder_(binder) {
+    : pane_(pane), binder_(binder), marks_(new FieldMarks(binder, this)) {
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   const PageWithButtons view = pageWithButtons();
@@ -106,13 +84,13 @@ MainPaneView::MainPaneView(MainPane& pane, WishesCard& wishes, Binder& binder)
   // Marking takes longer than a key may.
   hints_.setSingleShot(true);
   hints_.setInterval(hintDelay);
-  connect(&hints_, &QTimer::timeout, this, [this] { showHints(); });
+  connect(&hints_, &QTimer::timeout, this, [this] { marks_->mark(pane_.hints(), pane_.changes()); });
   hintChanges_ = pane_.onHints.connectScoped([this] { hints_.start(); });
-  showHints();
+  hints_.start();
 }
 
 QWidget* MainPaneView::farmCard() {
-  const Card farm = card(tr("Farm and water"), new HintLine(binder_, pane_.lblFarmHint));
+  const Card farm = card(tr("Farm and water"), hintLine(binder_, pane_.lblFarmHint));
   auto* grid = new QGridLayout;
   grid->setHorizontalSpacing(10);
   grid->setVerticalSpacing(5);
@@ -130,7 +108,9 @@ QWidget* MainPaneView::farmCard() {
     ++line;
   };
   const auto number = [&](TextBox& box) {
-    return binder_.bind(box, numberField(), plain(rowOf(box.name())->label));
+    auto* field = binder_.bind(box, numberField(), plain(rowOf(box.name())->label));
+    tellRange(box, field);
+    return field;
   };
   const auto combo = [&](ComboBox& box) {
     auto* widget = new QComboBox;
@@ -151,6 +131,7 @@ QWidget* MainPaneView::farmCard() {
   place("lblVolume", volume, tr("ac-in"));
   auto* rain = combo(pane_.txtAnnRain);
   rain->lineEdit()->setAlignment(Qt::AlignRight);
+  tellRange(pane_.txtAnnRain, rain);
   place("txtAnnRain", rain, tr("inches"));
   place("txtEff", number(pane_.txtEff), tr("%"));
   QWidget* soil = combo(pane_.txtSoil);
@@ -195,7 +176,7 @@ QWidget* MainPaneView::landCard() {
 }
 
 QWidget* MainPaneView::cropCard() {
-  const Card crops = card(plain(pane_.cropBox.caption()), new HintLine(binder_, pane_.lblCropsHint));
+  const Card crops = card(plain(pane_.cropBox.caption()), hintLine(binder_, pane_.lblCropsHint));
   binder_.bind(pane_.cropBox, crops.frame);
   auto* heads = new QGridLayout;
   setColumns(heads);
@@ -334,6 +315,8 @@ void MainPaneView::rebuildRows() {
     grid->addWidget(unitLabel(record->lblYieldUnits, yieldUnitColumn), 0, yieldUnitColumn);
     place(binder_.bind(record->cmdInputCosts, new QPushButton, tr("Costs and returns of %1").arg(crop)),
           costsColumn, cropColumns[1].helpIndex);
+    tellRange(record->txtPrice, binder_.widget(record->txtPrice));
+    tellRange(record->txtMaxYield, binder_.widget(record->txtMaxYield));
   }
   lines->addStretch();
   rowsArea_->setWidget(rows_);
@@ -341,6 +324,7 @@ void MainPaneView::rebuildRows() {
   rowsArea_->viewport()->setAutoFillBackground(false);
   const int shown = std::min(visibleRows, static_cast<int>(pane_.cr.size()));
   rowsArea_->setFixedHeight(shown * scaled(rowHeight));
+  hints_.start();  // the new fields have no marks yet
   placeScroll();
   orderRows();
 }
@@ -415,36 +399,14 @@ void MainPaneView::placeScroll() {
     inner->setValue(static_cast<int>(static_cast<qint64>(bar.value()) * inner->maximum() / bar.maximum()));
 }
 
+void MainPaneView::tellRange(const Control& control, QWidget* field) {
+  marks_->tellRange(field, [this, &control] { return pane_.rangeOf(control); });
+}
+
 void MainPaneView::drawPictures() {
   const Scheme scheme = schemeOf(QWidget::palette());
   for (std::size_t i = 0; i < landSplits_.size(); ++i) {
     landSplits_[i]->setIcon(landSplitPicture(landDivisions().at(i).percentages, scheme));
-  }
-}
-
-/// Marks the fields that have hints and puts these into their tool tips.
-void MainPaneView::showHints() {
-  const auto mark = [](QWidget* field, bool on) {
-    field->setProperty("caution", on);
-    field->style()->unpolish(field);
-    field->style()->polish(field);
-  };
-  for (const QPointer<QWidget>& field : hinted_) {
-    if (!field) continue;
-    field->setToolTip(field->property(ownTip).toString());
-    mark(field, false);
-  }
-  hinted_.clear();
-  for (const FieldHint& hint : pane_.hints()) {
-    QWidget* field = binder_.widget(*hint.field);
-    if (field == nullptr) continue;
-    const bool first = std::find(hinted_.begin(), hinted_.end(), field) == hinted_.end();
-    if (first) {
-      field->setProperty(ownTip, field->toolTip());
-      hinted_.emplace_back(field);
-      mark(field, true);
-    }
-    field->setToolTip(first ? qText(hint.text) : field->toolTip() + QLatin1Char('\n') + qText(hint.text));
   }
 }
 

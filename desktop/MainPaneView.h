@@ -1,10 +1,10 @@
 #pragma once
 
-#include <QPointer>
 #include <QTimer>
 #include <QWidget>
 #include <vector>
 
+#include "desktop/FieldMarks.h"
 #include "desktop/Page.h"
 #include "desktop/Theme.h"
 #include "screens/MainPane.h"
@@ -44,14 +44,14 @@ class MainPaneView : public QWidget {
   [[nodiscard]] bool goThroughRows(const QObject* from, int key);
   void placeScroll();
   void drawPictures();
-  void showHints();
+  void tellRange(const Control& control, QWidget* field);
 
   MainPane& pane_;
   Binder& binder_;
   Connection rowChanges_;
   Connection hintChanges_;
   QTimer hints_;
-  std::vector<QPointer<QWidget>> hinted_;  ///< Fields that are marked now
+  FieldMarks* marks_;
   QGridLayout* heads_ = nullptr;
   QWidget* beforeRows_ = nullptr;  ///< The last one that Tab stops at before the crop rows
   QScrollArea* rowsArea_ = nullptr;

@@ -62,7 +62,9 @@ void focusFirst(QWidget* page) {
 
 MainWindow::MainWindow(frmMain& window, Binder& binder, std::function<void(const QString&)> showTopic)
     : window_(window), binder_(binder), showTopic_(std::move(showTopic)) {
-  setMinimumSize(smallest);
+  // A larger font needs more width for the buttons below the page, as far as the screen has it.
+  const QSize wide(scaled(smallest.width()), 0);
+  setMinimumSize(smallest.expandedTo(wide.boundedTo(screen()->availableSize())));
   setAcceptDrops(true);
   acts_ = window.desk().onActing.connectScoped([this](Control&) { acting_ = true; });
   acted_ = window.desk().onActed.connectScoped([this] { acting_ = false; });
@@ -120,7 +122,10 @@ MainWindow::MainWindow(frmMain& window, Binder& binder, std::function<void(const
   build(pages_.value(&window_.pneMain));
 
   // However the focus has come to a field, by a letter, an arrow or after a failed test: it is in sight.
-  connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { bringIntoSight(now); });
+  // What is pressed by the mouse must not move away below it: then the release would miss it.
+  connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+    if (QApplication::mouseButtons() == Qt::NoButton) bringIntoSight(now);
+  });
   auto* help = new QShortcut(QKeySequence(Qt::Key_F1), this);
   connect(help, &QShortcut::activated, this, &MainWindow::showHelpOfFocus);
   addBarKeys();
@@ -256,9 +261,10 @@ void MainWindow::showTopPane() {
   QWidget* page = pages_.value(&window_.panes.top());
   if (page == nullptr || page == stack_->currentWidget()) return;
   build(page);
-  stack_->setCurrentWidget(page);
-  // A page that was in use before has the focus where it was.
+  // A page that was in use before has the focus where it was. The stack gives it to any control of a new
+  // page.
   const QWidget* last = page->focusWidget();
+  stack_->setCurrentWidget(page);
   if (last == nullptr || !takesWork(last)) focusFirst(page);
 }
 

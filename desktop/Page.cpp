@@ -40,13 +40,15 @@ Card card(const QString& heading, QWidget* besideHeading) {
   auto* frame = new QFrame;
   setRole(frame, "card");
   auto* body = new QVBoxLayout(frame);
-  body->setContentsMargins(16, 12, 16, 14);
+  body->setContentsMargins(16, 10, 16, 12);
   body->setSpacing(8);
   if (!heading.isEmpty()) {
     auto* line = new QHBoxLayout;
     line->addWidget(fixedLabel(heading, "heading"));
-    if (besideHeading != nullptr) line->addWidget(besideHeading);
-    line->addStretch();
+    const bool fills =
+        besideHeading != nullptr && (besideHeading->sizePolicy().expandingDirections() & Qt::Horizontal) != 0;
+    if (besideHeading != nullptr) line->addWidget(besideHeading, fills ? 1 : 0);
+    if (!fills) line->addStretch();
     body->addLayout(line);
   }
   return {frame, body};
@@ -59,12 +61,12 @@ Page page(int width) {
   area->setFocusPolicy(Qt::ClickFocus);  // Tab stops only at the controls, which scroll into view
   auto* ground = new QWidget;
   auto* centring = new QHBoxLayout(ground);
-  centring->setContentsMargins(24, 12, 24, 14);
+  centring->setContentsMargins(24, 10, 24, 10);
   auto* content = new QWidget;
   addCentred(centring, content, width);
   auto* body = new QVBoxLayout(content);
   body->setContentsMargins(0, 0, 0, 0);
-  body->setSpacing(12);
+  body->setSpacing(10);
   area->setWidget(ground);
   return {area, body};
 }
@@ -88,7 +90,7 @@ QHBoxLayout* footerOf(QVBoxLayout* layout, std::optional<int> width) {
   buttons->setContentsMargins(0, 0, 0, 0);
   buttons->setSpacing(10);
   auto* centring = new QHBoxLayout(bar);
-  centring->setContentsMargins(24, 10, 24, 12);
+  centring->setContentsMargins(24, 9, 24, 10);
   addCentred(centring, row, width);
   layout->addWidget(bar);
   return buttons;

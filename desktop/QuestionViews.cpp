@@ -23,7 +23,7 @@ constexpr int widest = 1500;  // pixels at the default font size, as all lengths
 constexpr int leastChart = 220;
 constexpr int progressWidth = 180;
 constexpr int inputListWidth = 220;
-constexpr int seasonNameWidth = 130;
+constexpr int seasonNameWidth = 115;
 constexpr int seasonsInALine = 3;
 constexpr double amountScale = 1.25;
 constexpr int betweenTicks = 100;  // milliseconds
@@ -35,6 +35,8 @@ struct Shares {
 };
 constexpr Shares narrowTable{5, 3};
 constexpr Shares wideTable{4, 5};
+constexpr Shares longNames{1, 1};
+constexpr Shares manyColumns{4, 7};
 
 /// What all pages have. The fields of the page are added to `fields`.
 class QuestionView : public QWidget {
@@ -46,13 +48,13 @@ class QuestionView : public QWidget {
     layout->addWidget(view.widget);
     auto* head = new QVBoxLayout;
     head->setSpacing(2);
-    head->addWidget(sizedLabel(fixedLabel(plain(pane_.caption()), "heading")));
-    head->addWidget(wrapped(binder_, pane_.lblAbout, "muted"));
     auto* top = new QHBoxLayout;
     top->setSpacing(24);
-    top->addLayout(head, 1);
+    top->addWidget(sizedLabel(fixedLabel(plain(pane_.caption()), "heading")));
     top->addWidget(statusLine(), 1);
-    view.body->addLayout(top);
+    head->addLayout(top);
+    head->addWidget(wrapped(binder_, pane_.lblAbout, "muted"));
+    view.body->addLayout(head);
     auto* middle = new QHBoxLayout;
     middle->setSpacing(12);
     middle->addWidget(chartCard(), shares.chart);
@@ -186,7 +188,8 @@ class QuestionView : public QWidget {
 
   QWidget* tableCard() {
     const Card table = card();
-    table.body->addWidget(binder_.bind(pane_.table, new TableView, tr("Table")), 1);
+    table.body->addWidget(
+        binder_.bind(pane_.table, new TableView, tr("%1, table").arg(plain(pane_.caption()))), 1);
     return table.frame;
   }
 
@@ -202,7 +205,7 @@ class QuestionView : public QWidget {
 }  // namespace
 
 QWidget* mixesView(MixesPane& pane, Binder& binder) {
-  auto* view = new QuestionView(pane, binder, wideTable);
+  auto* view = new QuestionView(pane, binder, longNames);
   view->addField(pane.txtMixes, QObject::tr("The best"), QObject::tr("mixes"));
   view->addStretch();
   return view;
@@ -228,7 +231,7 @@ QWidget* switchView(SwitchPane& pane, Binder& binder) {
 }
 
 QWidget* seasonsView(SeasonsPane& pane, Binder& binder) {
-  auto* view = new QuestionView(pane, binder, wideTable);
+  auto* view = new QuestionView(pane, binder, manyColumns);
   auto* grid = new QGridLayout;
   grid->setHorizontalSpacing(6);
   grid->setVerticalSpacing(4);
@@ -246,6 +249,7 @@ QWidget* seasonsView(SeasonsPane& pane, Binder& binder) {
     const QString which = QObject::tr("Season %1").arg(++place);
     auto* name = binder.bind(line->txtSeason, new QLineEdit, which);
     name->setFixedWidth(scaled(seasonNameWidth));
+    if (place == 1) name->setProperty(firstFocus, true);
     grid->addWidget(name, row, column);
     grid->addWidget(binder.bind(line->txtRain, numberField(4), QObject::tr("%1, rain").arg(which)), row,
                     column + 1);

@@ -62,7 +62,7 @@ QWidget* columnHeads() {
   return heads;
 }
 
-QWidget* fieldRow(ResultHolder& row, Binder& binder) {
+QWidget* fieldRow(ResultHolder& row, int number, Binder& binder) {
   auto* frame = new QFrame;
   frame->setMinimumHeight(scaled(rowHeight));
   auto* grid = new QGridLayout(frame);
@@ -76,7 +76,8 @@ QWidget* fieldRow(ResultHolder& row, Binder& binder) {
     widget->setWordWrap(true);
     grid->addWidget(binder.bind(*label, widget), 0, column++);
   }
-  auto* details = binder.bind(row.cmdDetails, new QPushButton);
+  auto* details =
+      binder.bind(row.cmdDetails, new QPushButton, QObject::tr("Details of field %1").arg(number));
   details->setFixedWidth(scaled(columnWidths.back()));
   grid->addWidget(details, 0, column);
   return binder.bind(row, frame);
@@ -97,8 +98,8 @@ class SideBySide : public QWidget {
     layout_->setContentsMargins(0, 0, 0, 0);
     layout_->setSpacing(spacing);
     layout_->setSizeConstraint(QLayout::SetNoConstraint);
-    layout_->addWidget(left, 3);
-    layout_->addWidget(right, 2);
+    layout_->addWidget(left, 2);
+    layout_->addWidget(right, 1);
   }
 
   [[nodiscard]] QSize minimumSizeHint() const override {
@@ -160,8 +161,9 @@ QWidget* resultsView(Results& results, Binder& binder, const QString& heading, Q
   const Card table = card();
   table.body->setSpacing(0);
   table.body->addWidget(columnHeads());
+  int number = 0;
   for (ResultHolder& row : results.rh)
-    table.body->addWidget(fieldRow(row, binder));
+    table.body->addWidget(fieldRow(row, ++number, binder));
   auto* total = new QHBoxLayout;
   total->addStretch();
   total->addWidget(binder.bind(results.lblFarmProfit, fixedLabel({}, "muted"),

@@ -5,11 +5,13 @@
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QPainter>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
+#include <QToolTip>
 #include <algorithm>
 #include <cmath>
 #include <numeric>
@@ -23,12 +25,15 @@ namespace {
 
 // Lengths in pixels at the default font size.
 constexpr int sidePadding = 8;
+constexpr int rounding = 1;     // of the width of a text, which would be cut otherwise
 constexpr int linePadding = 3;  // above and below a line
-constexpr int barRoom = 50;
+constexpr int mostBar = 50;
+constexpr int leastBar = 16;  // where the columns need the room; with less, there are none
 constexpr int barHeight = 8;
 constexpr int barGap = 6;
 constexpr int bandWidth = 3;
-constexpr int leastText = 110;  // of a column of texts that does not get the room that it needs
+constexpr int leastHeading = 130;  // of a column whose heading is long
+constexpr int leastText = 110;     // of a column of texts that does not get the room that it needs
 constexpr int fewestLines = 3;
 constexpr int usualLines = 4;
 
@@ -96,6 +101,8 @@ class TableModel : public QAbstractTableModel {
 
   [[nodiscard]] const Table& table() const { return *table_; }
 
+  int barRoom = 0;  ///< For the longest bar, in pixels
+
  private:
   [[nodiscard]] QVariant alignment(int column) const {
     const bool left = isLeft(table_->columns()[placeAt(column)]);
@@ -126,19 +133,11 @@ class TablePainter : public QStyledItemDelegate {
       painter->fillRect(QRect(option.rect.topLeft(), QSize(scaled(bandWidth), option.rect.height())),
                         colours.brand);
     }
-    QRect room = option.rect.adjusted(scaled(sidePadding), 0, -scaled(sidePadding), 0);
-    if (cell.bar) {
-      const int length = static_cast<int>(std::lround(std::clamp(*cell.bar, 0.0, 1.0) * scaled(barRoom)));
-      QRect bar(room.left(), 0, length, scaled(barHeight));
-      if (isLeft(column)) {
-        if (length > 0) room.setLeft(bar.right() + scaled(barGap));
-      } else {
-        bar.moveLeft(room.right() - scaled(barRoom) + 1);
-        room.setRight(bar.left() - scaled(barGap));
-      }
-      bar.moveTop(option.rect.top() + (option.rect.height() - bar.height()) / 2);
-      if (length > 0) painter->fillRect(bar, column.water ? colours.water : faint(colours, scheme));
+    if (cell.bar && model_.barRoom > 0) {
+      const QRect bar = barOf(cell, option.rect, isLeft(column));
+      if (!bar.isEmpty()) painter->fillRect(bar, column.water ? colours.water : faint(colours, scheme));
     }
+    const QRect room = roomOf(cell, option.rect, isLeft(column));
     QFont font = option.font;
     if (cell.strong) font.setWeight(QFont::DemiBold);
     painter->setFont(font);
@@ -157,7 +156,44 @@ class TablePainter : public QStyledItemDelegate {
     painter->restore();
   }
 
+  /// A text that is cut is told as a whole where the pointer rests.
+  bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                 const QModelIndex& at) override {
+    if (event->type() != QEvent::ToolTip || !model_.isInside(at))
+      return QStyledItemDelegate::helpEvent(event, view, option, at);
+    const Table::Cell cell = model_.cell(at);
+    const QString text = qText(cell.text);
+    QFont font = option.font;
+    if (cell.strong) font.setWeight(QFont::DemiBold);
+    const bool left = isLeft(model_.table().columns()[placeAt(at.column())]);
+    const bool fits = QFontMetrics(font).horizontalAdvance(text) <= roomOf(cell, option.rect, left).width();
+    QToolTip::showText(event->globalPos(), fits ? QString() : text, view);
+    return true;
+  }
+
  private:
+  /// The place of a bar: in front of a text at the left, behind one at the right.
+  [[nodiscard]] QRect barOf(const Table::Cell& cell, const QRect& rect, bool left) const {
+    const QRect room = rect.adjusted(scaled(sidePadding), 0, -scaled(sidePadding), 0);
+    const int length = static_cast<int>(std::lround(std::clamp(*cell.bar, 0.0, 1.0) * model_.barRoom));
+    const int height = scaled(barHeight);
+    return {left ? room.left() : room.right() - model_.barRoom + 1, rect.top() + (rect.height() - height) / 2,
+            length, height};
+  }
+
+  /// The room for the text of a cell.
+  [[nodiscard]] QRect roomOf(const Table::Cell& cell, const QRect& rect, bool left) const {
+    QRect room = rect.adjusted(scaled(sidePadding), 0, -scaled(sidePadding), 0);
+    if (!cell.bar || model_.barRoom == 0) return room;
+    const QRect bar = barOf(cell, rect, left);
+    if (!left) {
+      room.setRight(bar.left() - scaled(barGap));
+    } else if (!bar.isEmpty()) {
+      room.setLeft(bar.right() + scaled(barGap));
+    }
+    return room;
+  }
+
   static QColor tint(const Accents& colours, Scheme scheme) {
     return mixed(colours.brand, colours.card, scheme == Scheme::dark ? 0.22 : 0.12);
   }
@@ -197,6 +233,7 @@ TableView::TableView(QWidget* parent) : QTableView(parent), model_(new TableMode
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   horizontalHeader()->setSectionsClickable(true);
   horizontalHeader()->setHighlightSections(false);
+  horizontalHeader()->setTextElideMode(Qt::ElideRight);
   horizontalHeader()->setMinimumSectionSize(scaled(24));
   setRole(this, "records");
   connect(horizontalHeader(), &QHeaderView::sectionClicked, this, &TableView::clickHeading);
@@ -209,6 +246,7 @@ void TableView::setTable(Table& table) {
   revision_ = table.revision();
   model_->setTable(table_);
   measure();
+  describe();
   showIndicator();
   showCurrent();
 }
@@ -221,9 +259,21 @@ void TableView::follow() {
     model_->readAnew();
     following_ = false;
     measure();
+    describe();
     showIndicator();
   }
   showCurrent();
+}
+
+/// What a reader that does not see the table is told of it.
+void TableView::describe() {
+  QStringList headings;
+  for (const Table::Column& column : table_->columns()) {
+    if (!column.heading.empty()) headings << qText(column.heading);
+  }
+  const auto places = static_cast<int>(table_->places());
+  setAccessibleDescription((places == 1 ? tr("1 line: %1") : tr("%1 lines: %2").arg(places))
+                               .arg(headings.join(QStringLiteral(", "))));
 }
 
 void TableView::showIndicator() {
@@ -234,8 +284,20 @@ void TableView::showIndicator() {
                           table_->sortsDown() ? Qt::DescendingOrder : Qt::AscendingOrder);
 }
 
+/// Of a change of the current record, only the two lines are painted anew.
 void TableView::showCurrent() {
   following_ = true;
+  const auto repaint = [this](std::optional<std::size_t> record) {
+    const auto place = record ? table_->placeOf(*record) : std::nullopt;
+    if (!place) return;
+    const int row = static_cast<int>(*place);
+    viewport()->update(0, rowViewportPosition(row), viewport()->width(), rowHeight(row));
+  };
+  if (shown_ != table_->current()) {
+    repaint(shown_);
+    shown_ = table_->current();
+    repaint(shown_);
+  }
   const auto place = table_->current() ? table_->placeOf(*table_->current()) : std::nullopt;
   if (place) {
     const QModelIndex at = model_->index(static_cast<int>(*place), std::max(0, currentIndex().column()));
@@ -245,7 +307,6 @@ void TableView::showCurrent() {
     setCurrentIndex({});
   }
   following_ = false;
-  viewport()->update();
 }
 
 void TableView::chooseRow(int row) {
@@ -302,45 +363,91 @@ void TableView::contextMenuEvent(QContextMenuEvent* event) {
 void TableView::measure() {
   const QFontMetrics metrics = fontMetrics();
   verticalHeader()->setDefaultSectionSize(metrics.height() + 2 * scaled(linePadding));
-  needed_.clear();
+  columns_.clear();
   if (table_ == nullptr) return;
   QFont bold = font();
   bold.setWeight(QFont::DemiBold);
   const QFontMetrics strong(bold);
   const std::size_t places = table_->places();
   const std::size_t step = std::max<std::size_t>(1, places / measuredRows);
-  const int indicator = style()->pixelMetric(QStyle::PM_HeaderMarkSize, nullptr, this) + scaled(barGap);
   for (std::size_t column = 0; column < table_->columns().size(); ++column) {
-    int width = strong.horizontalAdvance(qText(table_->columns()[column].heading)) +
-                (table_->columns()[column].sorts ? indicator : 0);
+    ColumnWidths widths;
+    widths.heading = strong.horizontalAdvance(qText(table_->columns()[column].heading)) + rounding;
     const auto take = [&](std::size_t place) {
       const Table::Cell cell = table_->cell(table_->record(place), column);
-      int wanted = (cell.strong ? strong : metrics).horizontalAdvance(qText(cell.text));
-      if (cell.bar) wanted += scaled(barRoom) + scaled(barGap);
-      width = std::max(width, wanted);
+      const int wanted = (cell.strong ? strong : metrics).horizontalAdvance(qText(cell.text)) + rounding;
+      int& widest = cell.bar ? widths.besideBar : widths.text;
+      widest = std::max(widest, wanted);
     };
     for (std::size_t place = 0; place < std::min(places, measuredRows); ++place)
       take(place);
     for (std::size_t place = measuredRows; place < places; place += step)
       take(place);
-    needed_ << width + 2 * scaled(sidePadding);
+    columns_ << widths;
   }
   spread();
 }
 
-/// Gives each column what it needs, and shares the rest of the width among all. Where it is not enough, long
-/// texts are cut first.
-void TableView::spread() {
-  if (needed_.isEmpty() || horizontalHeader()->count() != needed_.size()) return;
-  QList<int> widths = needed_;
-  int rest = viewport()->width() - std::accumulate(widths.begin(), widths.end(), 0);
-  for (int column = 0; rest < 0 && column < widths.size(); ++column) {
-    const Table::Column& one = table_->columns()[placeAt(column)];
-    if (!isLeft(one) || one.water) continue;
-    const int cut = std::clamp(widths[column] - scaled(leastText), 0, -rest);
-    widths[column] -= cut;
-    rest += cut;
+/// The widths for all texts, with bars of this length, and with or without room to show that a column is
+/// sorted.
+QList<int> TableView::widthsWith(int barRoom, bool allIndicators) const {
+  const int indicator = style()->pixelMetric(QStyle::PM_HeaderMarkSize, nullptr, this) + scaled(barGap);
+  QList<int> widths;
+  for (int column = 0; column < columns_.size(); ++column) {
+    const ColumnWidths& one = columns_[column];
+    const bool indicates =
+        allIndicators ? table_->columns()[placeAt(column)].sorts : table_->sortColumn() == placeAt(column);
+    int width = std::max(one.text, one.heading + (indicates ? indicator : 0));
+    const int bar = barRoom > 0 ? scaled(barGap) + barRoom : 0;
+    if (one.besideBar >= 0) width = std::max(width, one.besideBar + bar);
+    widths << width + 2 * scaled(sidePadding);
   }
+  return widths;
+}
+
+/// Makes the longest texts shorter, all to the same width, until `excess` is gone or they are at their least.
+/// No short heading is cut.
+void TableView::cutTexts(QList<int>& widths, int excess) const {
+  QList<int> texts;
+  for (int column = 0; column < widths.size(); ++column) {
+    const Table::Column& one = table_->columns()[placeAt(column)];
+    if (isLeft(one) && !one.water) texts << column;
+  }
+  const auto cut = [&](int column, int most) {
+    const int heading = std::min(columns_[column].heading + 2 * scaled(sidePadding), scaled(leastHeading));
+    return std::min(widths[column], std::max(most, heading));
+  };
+  const auto gained = [&](int most) {
+    return std::accumulate(texts.begin(), texts.end(), 0,
+                           [&](int sum, int column) { return sum + widths[column] - cut(column, most); });
+  };
+  int most = scaled(leastText);
+  for (const int column : texts)
+    most = std::max(most, widths[column]);
+  while (most > scaled(leastText) && gained(most) < excess)
+    --most;
+  for (const int column : texts)
+    widths[column] = cut(column, most);
+}
+
+/// Gives each column what it needs, and shares the rest of the width among all. Where it is not enough, the
+/// headings lose the room for a sign of sorting that they do not show, then the bars become shorter, and then
+/// the longest texts.
+void TableView::spread() {
+  if (columns_.isEmpty() || horizontalHeader()->count() != columns_.size()) return;
+  const int room = viewport()->width();
+  const auto sum = [](const QList<int>& widths) { return std::accumulate(widths.begin(), widths.end(), 0); };
+  model_->barRoom = scaled(mostBar);
+  QList<int> widths = widthsWith(model_->barRoom, true);
+  if (sum(widths) > room) widths = widthsWith(model_->barRoom, false);
+  while (sum(widths) > room && model_->barRoom > scaled(leastBar))
+    widths = widthsWith(--model_->barRoom, false);
+  if (sum(widths) > room) {
+    model_->barRoom = 0;
+    widths = widthsWith(0, false);
+  }
+  if (sum(widths) > room) cutTexts(widths, sum(widths) - room);
+  int rest = room - sum(widths);
   rest = std::max(rest, 0);
   const auto count = static_cast<int>(widths.size());
   for (int column = 0; column < count; ++column) {

@@ -2,6 +2,7 @@
 
 #include <QTableView>
 #include <cstdint>
+#include <optional>
 
 #include "controls/Table.h"
 
@@ -39,15 +40,26 @@ class TableView : public QTableView {
  private:
   void chooseRow(int row);
   void clickHeading(int column);
+  void describe();
   void showIndicator();
   void showCurrent();
   void measure();
   void spread();
+  [[nodiscard]] QList<int> widthsWith(int barRoom, bool allIndicators) const;
+  void cutTexts(QList<int>& widths, int excess) const;
 
   Table* table_ = nullptr;
   TableModel* model_;
   std::uint64_t revision_ = 0;
-  QList<int> needed_;  ///< Widths of the columns for what they contain
+  /// What stands in a column, in pixels.
+  struct ColumnWidths {
+    int heading = 0;
+    int text = 0;
+    int besideBar = -1;  ///< Texts with a bar; -1 if there are none
+  };
+
+  QList<ColumnWidths> columns_;
+  std::optional<std::size_t> shown_;  ///< The current record that is painted
   bool following_ = false;
 };
 

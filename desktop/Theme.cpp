@@ -81,6 +81,7 @@ QString styleSheet(Scheme scheme) {
     QPushButton[role="main"] { background: @brand; color: @brandText; border: 2px solid @brand; font-weight: 600;
                                padding: 9px 26px; }
     QPushButton[role="main"]:focus { border: 2px solid @text; }
+    QPushButton[role="main"]:disabled { background: @line; border-color: @line; color: @disabled; }
     QPushButton[role="help"] { border-radius: 10px; min-width: 18px; max-width: 18px; min-height: 18px;
                                max-height: 18px; padding: 0; color: @muted; }
     QPushButton[role="help"]:focus { padding: 0; color: @brand; }
@@ -105,6 +106,10 @@ QString styleSheet(Scheme scheme) {
     QSlider::handle:horizontal:focus { background: @brand; }
     QLineEdit[caution="true"], QComboBox[caution="true"] { border: 1px solid @cautionText; }
     QLineEdit[caution="true"]:focus, QComboBox[caution="true"]:focus { border: 2px solid @cautionText; }
+    QLineEdit[changed="true"], QComboBox[changed="true"] { background: @changed; border-left: 4px solid @water;
+                                                           padding-left: 3px; }
+    QCheckBox[changed="true"], QRadioButton[changed="true"] { background: @changed; border-radius: 4px; }
+    QPushButton[changed="true"] { background: @changed; border-left: 4px solid @water; padding-left: 11px; }
     QFrame#footer { background: @card; border: none; border-top: 1px solid @line; }
     QTableWidget { background: @base; gridline-color: @line; border: 1px solid @line; border-radius: 4px;
                    selection-background-color: @brand; selection-color: @brandText; }
@@ -131,6 +136,7 @@ QString styleSheet(Scheme scheme) {
     QHeaderView { background: @card; border: none; }
     QHeaderView::section { background: @card; color: @muted; border: none; border-bottom: 1px solid @line;
                            padding: 4px 8px; font-weight: 600; }
+    QTableCornerButton::section { background: @card; border: none; border-bottom: 1px solid @line; }
     QProgressBar { background: @line; color: @text; border: none; border-radius: 4px; text-align: center; }
     QProgressBar::chunk { background: @brand; border-radius: 4px; }
     QComboBox QAbstractItemView { background: @card; border: 1px solid @line; outline: 0;
@@ -156,6 +162,8 @@ QString styleSheet(Scheme scheme) {
   put("scroll", colours.scroll);
   put("warning", colours.warning);
   put("activeRow", colours.activeRow);
+  put("water", colours.water);
+  put("changed", colours.changed);
   put("caution", colours.caution);
   put("cautionLine", colours.cautionLine);
   put("cautionText", colours.cautionText);
@@ -234,12 +242,12 @@ QPalette palette(Scheme scheme) {
 Accents accents(Scheme scheme) {
   if (scheme == Scheme::dark) {
     return {QColor(0x7CC48A), QColor(0x10210F), QColor(0x232926), QColor(0x3D4641), QColor(0xA3ADA6),
-            QColor(0xFF8A70), QColor(0x2B332E), QColor(0x5E8F5A), QColor(0x6FB3D9), QColor(0x3A3219),
-            QColor(0x66572A), QColor(0xE3B341), QColor(0x59645D)};
+            QColor(0xFF8A70), QColor(0x2B332E), QColor(0x5E8F5A), QColor(0x6FB3D9), QColor(0x1C3342),
+            QColor(0x3A3219), QColor(0x66572A), QColor(0xE3B341), QColor(0x59645D)};
   }
   return {QColor(0x2E6B3A), QColor(0xFFFFFF), QColor(0xFFFFFF), QColor(0xD3D9D2), QColor(0x5C665F),
-          QColor(0xC0392B), QColor(0xF3F3F3), QColor(0x8DB87C), QColor(0x2F7FB0), QColor(0xFDF3D8),
-          QColor(0xE6CF94), QColor(0x8A5A00), QColor(0xBCC5BD)};
+          QColor(0xC0392B), QColor(0xF3F3F3), QColor(0x8DB87C), QColor(0x2F7FB0), QColor(0xE4F0F8),
+          QColor(0xFDF3D8), QColor(0xE6CF94), QColor(0x8A5A00), QColor(0xBCC5BD)};
 }
 
 QColor textColor(QRgb color, Scheme scheme) {

@@ -55,6 +55,7 @@ struct Accents {
   QColor activeRow;  ///< Background of a ticked crop
   QColor field;      ///< Land in a land split picture
   QColor water;
+  QColor changed;      ///< Background of a field that has changed since the last run
   QColor caution;      ///< Background of a notice
   QColor cautionLine;  ///< Border of a notice
   QColor cautionText;  ///< Text of a hint

@@ -1,5 +1,7 @@
 #include "main/GoMenu.h"
 
+#include <initializer_list>
+
 #include "main/frmMain.h"
 
 namespace verdalis {
@@ -15,7 +17,8 @@ const Results& trendResults(const frmMain& window) {
 
 }  // namespace
 
-GoMenu::GoMenu(frmMain& window, ProgramState& state) : window_(window), state_(state) {
+GoMenu::GoMenu(frmMain& window, ProgramState& state, SecondaryWindows& windows)
+    : window_(window), state_(state) {
   const auto connect = [this](MenuEntry& entry, void (GoMenu::*go)()) {
     entry.onClick.connect([this, go] {
       if (!window_.isRunning()) (this->*go)();
@@ -26,7 +29,18 @@ GoMenu::GoMenu(frmMain& window, ProgramState& state) : window_(window), state_(s
   connect(window.menus.mnuGoTrend, &GoMenu::goTrend);
   connect(window.menus.mnuGoSummary, &GoMenu::goSummary);
   connect(window.menus.mnuGoCompare, &GoMenu::goCompare);
-  window.desk().onActed.connect([this] { refresh(); });
+  windows.onCreated.connect([this](Window& created) {
+    auto* const progress = dynamic_cast<frmUpdating*>(&created);
+    if (progress == nullptr) return;
+    progress->onStateChange.connect([this, progress] {
+      running_ = progress->isOpen();
+      refresh();
+    });
+  });
+  window.desk().onActed.connect([this] {
+    running_ = false;  // a run that has failed leaves its window open
+    refresh();
+  });
 }
 
 void GoMenu::forgetResults() {
@@ -74,10 +88,18 @@ void GoMenu::refresh() {
   const Frame& top = window_.panes.top();
   if (&top != &window_.trends.pneBatchSetup1 && &top != &window_.pneDetails) atTrendResults_ = false;
   const auto isOf = [](const Option& first, const Option& former) { return first && first != former; };
-  window_.menus.mnuGoResults.setEnabled(isOf(firstOf(window_.theResults), formerResult_));
-  window_.menus.mnuGoTrend.setEnabled(isOf(firstOf(trendResults(window_)), formerTrend_));
-  window_.menus.mnuGoSummary.setEnabled(!window_.summaryResults.empty());
-  window_.menus.mnuGoCompare.setEnabled(!window_.summaryResults.empty());
+  MainMenus& menus = window_.menus;
+  menus.mnuGoMain.setEnabled(!running_);
+  menus.mnuGoResults.setEnabled(!running_ && isOf(firstOf(window_.theResults), formerResult_));
+  menus.mnuGoTrend.setEnabled(!running_ && isOf(firstOf(trendResults(window_)), formerTrend_));
+  menus.mnuGoSummary.setEnabled(!running_ && !window_.summaryResults.empty());
+  menus.mnuGoCompare.setEnabled(!running_ && !window_.summaryResults.empty());
+  const bool explores = !running_ && !window_.farmControls.isTrying();
+  for (MenuEntry* entry : std::initializer_list<MenuEntry*>{
+           &menus.mnuMixes, &menus.mnuWater, &menus.mnuSwitch, &menus.mnuSeasons, &menus.mnuInputs,
+           &menus.mnuMap, &menus.mnuLive}) {
+    entry->setEnabled(explores);
+  }
 }
 
 }  // namespace verdalis

@@ -7,12 +7,15 @@
 
 namespace verdalis {
 
+class SecondaryWindows;
 class frmMain;
 
-/// The menu Go: leads from any page to each page that has something to show.
+/// The menu Go: leads from any page to each page that has something to show. Its entries and those of the
+/// menu Explore can be used only while they lead somewhere: not during a run, and those of Explore not while
+/// a trend tries values.
 class GoMenu {
  public:
-  GoMenu(frmMain& window, ProgramState& state);
+  GoMenu(frmMain& window, ProgramState& state, SecondaryWindows& windows);
 
   /// Another farm has been put into the window: the results of the former one are not offered any more.
   void forgetResults();
@@ -37,6 +40,7 @@ class GoMenu {
   Option formerResult_;  ///< The first option of the former farm; nullptr if there is none
   Option formerTrend_;
   bool atTrendResults_ = false;
+  bool running_ = false;  ///< The progress window of a run is open
 };
 
 }  // namespace verdalis

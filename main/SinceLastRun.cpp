@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "main/Comparison.h"
+#include "main/changedFields.h"
 #include "results/OptionRows.h"
 #include "results/figures.h"
 #include "results/passOver.h"
@@ -114,13 +115,18 @@ void SinceLastRun::runEnded(const FarmInputs& inputs) {
     const std::string changes = changesInWords(last_->inputs, inputs);
     if (!changes.empty()) {
       passOver([&] {
-        text = "Since the last run: " + changes + ": " + wholeDollars(last_->netReturn) + " to " +
-               wholeDollars(*now) + " /acre (" + signedDollars(*now - last_->netReturn) + ")";
+        const std::string before = wholeDollars(last_->netReturn);
+        const std::string after = wholeDollars(*now);
+        text = "Since the last run: " + changes + ": ";
+        text += before == after
+                    ? "still " + after + " /acre"
+                    : before + " to " + after + " /acre (" + signedDollars(*now - last_->netReturn) + ")";
       });
     }
   }
   show(results_.lblSinceLast, text);
   show(results_.lblOutdated, "");
+  pane_.setChanges({});
   last_.reset();
   if (now) last_ = Run{inputs, *now};
 }
@@ -130,8 +136,13 @@ void SinceLastRun::follow(const FarmInputs& inputs) {
   show(results_.lblOutdated, outdated ? "Inputs have changed since this run." : "");
 }
 
+void SinceLastRun::mark(const FarmInputs& inputs) {
+  pane_.setChanges(last_ ? changedFields(pane_, last_->inputs, inputs) : std::vector<FieldHint>());
+}
+
 void SinceLastRun::forget() {
   last_.reset();
+  pane_.setChanges({});
   show(results_.lblSinceLast, "");
   show(results_.lblOutdated, "");
 }

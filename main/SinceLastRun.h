@@ -5,20 +5,27 @@
 
 #include "document/FarmDocument.h"
 #include "results/Results.h"
+#include "screens/MainPane.h"
 
 namespace verdalis {
 
 /// Tells on the results page what has changed since the run before, and whether the inputs have changed since
-/// the run.
+/// the run; and marks the changed fields of the main page.
 class SinceLastRun {
  public:
-  explicit SinceLastRun(Results& results) : results_(results) {}
+  SinceLastRun(Results& results, MainPane& pane) : results_(results), pane_(pane) {}
 
   /// A run has ended, and its options are on show. `inputs` are those that it was started with.
   void runEnded(const FarmInputs& inputs);
 
   /// The inputs are these now.
   void follow(const FarmInputs& inputs);
+
+  /// Whether a run has ended since the farm was opened.
+  [[nodiscard]] bool hasRun() const { return last_.has_value(); }
+
+  /// Marks the fields of the main page that are not as in the last run.
+  void mark(const FarmInputs& inputs);
 
   /// Another farm is opened: the next run has none before it.
   void forget();
@@ -30,6 +37,7 @@ class SinceLastRun {
   };
 
   Results& results_;
+  MainPane& pane_;
   std::optional<Run> last_;
 };
 

@@ -79,7 +79,7 @@ frmMain::frmMain(Desk& desk, Services& services, ProgramState& state, SecondaryW
           {*this, pneMain, pneIrrigCosts, *tempIrrigationCosts, state, trends, cropFiles, summaryResults}),
       keeper(desk, farmControls),
       farms(*this, services, keeper, farmControls, files.state, files.recovers),
-      go(*this, state),
+      go(*this, state, windows),
       losses_(desk, keeper, notices),
       services_(services),
       state_(state),
@@ -479,8 +479,10 @@ void frmMain::wireLosses() {
 void frmMain::wireSinceLastRun() {
   const auto follow = [this] {
     if (pneResults.visible()) sinceLastRun_.follow(keeper.document().inputs);
+    if (pneMain.visible() && sinceLastRun_.hasRun()) sinceLastRun_.mark(keeper.document().inputs);
   };
   pneResults.onStateChange.connect(follow);
+  pneMain.onStateChange.connect(follow);
   keeper.onChange.connect(follow);
   farms.onTake.connect([this] { sinceLastRun_.forget(); });
 }

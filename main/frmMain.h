@@ -204,7 +204,7 @@ class frmMain : public Window {
   void wireSinceLastRun();
 
   LossNotices losses_;
-  SinceLastRun sinceLastRun_{theResults};
+  SinceLastRun sinceLastRun_{theResults, pneMain};
   FarmDocument untouched_;
   Services& services_;
   ProgramState& state_;

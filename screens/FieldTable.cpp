@@ -5,6 +5,7 @@
 #include "model/Fuel.h"
 #include "screens/modInputTest.h"
 #include "screens/rangeTest.h"
+#include "text/encoding.h"
 
 namespace verdalis {
 Limit::Cell Limit::of(std::string_view key) const {
@@ -28,6 +29,13 @@ std::string testLabelOf(const FieldRow& row, std::string_view cropType) {
   const std::size_t mark = label.find(cropMark);
   if (mark != std::string::npos) label.replace(mark, cropMark.size(), cropType);
   return label;
+}
+
+std::string fieldName(const FieldRow& row) {
+  const std::size_t end = row.label.find_last_not_of(": ");
+  std::string name(row.label.substr(0, end == std::string_view::npos ? 0 : end + 1));
+  if (!row.column.empty()) name += ", " + lowerCase(std::string(row.column));
+  return name;
 }
 
 std::optional<std::string> fieldFault(const FieldRow& row, std::string_view key, const std::string& text) {

@@ -92,6 +92,9 @@ struct FieldGroup {
 /// The label of a row's test, with the name of the crop inserted.
 [[nodiscard]] std::string testLabelOf(const FieldRow& row, std::string_view cropType);
 
+/// The name of a field in a sentence, such as "Nitrogen, rate".
+[[nodiscard]] std::string fieldName(const FieldRow& row);
+
 /// Message that rejects a text of the row's field; nothing if it passes. `key` is the name of the crop or the
 /// fuel.
 [[nodiscard]] std::optional<std::string> fieldFault(const FieldRow& row, std::string_view key,

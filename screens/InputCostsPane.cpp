@@ -47,6 +47,7 @@ void InputCostsPane::wire() {
   for (const InputCostsField& field : fields()) {
     TextBox& box = this->*field.box;
     wireField(box, field.row, services_.messageBox, [this] { return cropType(); });
+    hints.add(box, fieldName(field.row), field.box == &InputCostsPane::txtStand);
     if (field.recomputes != Recomputes::nothing) box.onChange.connect([this, &field] { boxChanged(field); });
   }
   cmdDefault.onClick.connect([this] { showDefaults(); });
@@ -81,6 +82,7 @@ void InputCostsPane::open(std::shared_ptr<Crop> crop) {
   }
   showSubtotals();
   unapplied_.opened();
+  hints.refresh();
 }
 
 void InputCostsPane::fill(const Crop& crop) {

@@ -12,6 +12,7 @@
 #include "controls/services.h"
 #include "model/Crop.h"
 #include "screens/FieldTable.h"
+#include "screens/PageHints.h"
 #include "screens/UnappliedMark.h"
 
 namespace verdalis {
@@ -86,6 +87,8 @@ class InputCostsPane : public Frame {
   Button cmdCancel{*this, "cmdCancel(1)", "Cancel"};
   HelpButtons cmdHelp{*this, {11, 12, 13, 14, 21, 22, 23, 24}};
   Label lblNotApplied{*this, "lblCostsNotApplied", "Not applied"};  ///< While the fields differ from the crop
+  Label lblHint{*this, "lblCostsHint"};  ///< How a field is read, where that is not what it looks like
+  PageHints hints{*this, lblHint};
 
   /// The fields and their groups, in display order.
   [[nodiscard]] static std::span<const InputCostsField> fields();

@@ -160,6 +160,7 @@ void IrrigCostsPane::wire() {
     if (field.box == nullptr) continue;
     TextBox& box = this->*field.box;
     wireField(box, field.row, services_.messageBox, [this] { return cboFuelType.text(); });
+    hints.add(box, fieldName(field.row));
     box.onChange.connect([this, &field] {
       showCosts();
       if (field.changesHint) showInchHint();
@@ -177,6 +178,7 @@ void IrrigCostsPane::open() {
   showInchHint();
   emptyZeroTexts(window());
   unapplied_.opened();
+  hints.refresh();
 }
 
 void IrrigCostsPane::showDefaults() {

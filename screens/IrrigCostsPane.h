@@ -15,6 +15,7 @@
 #include "controls/services.h"
 #include "model/IrrigationCosts.h"
 #include "screens/FieldTable.h"
+#include "screens/PageHints.h"
 #include "screens/UnappliedMark.h"
 
 namespace verdalis {
@@ -55,7 +56,9 @@ class IrrigCostsPane : public Frame {
   Label lblInchHint{*this, "lblInchHint"};
   Label lblFuelUnit{*this, "lblFuelUnit"};  ///< What the price of the fuel counts in
   Label lblNotApplied{*this, "lblPlantNotApplied",
-                      "Not applied"};  ///< While the fields differ from the plant
+                      "Not applied"};    ///< While the fields differ from the plant
+  Label lblHint{*this, "lblPlantHint"};  ///< How a field is read, where that is not what it looks like
+  PageHints hints{*this, lblHint};
   Button Command4{*this, "Command4", "Clear all values on this page"};
   Button cmdDefaultIrrigCosts{*this, "cmdDefaultIrrigCosts", "Load Default Values"};
   Button Command9{*this, "Command9", "Apply Costs"};

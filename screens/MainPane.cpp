@@ -133,7 +133,16 @@ void MainPane::warnOfCapacity() {
   }
 }
 
+void MainPane::setChanges(std::vector<FieldHint> changes) {
+  if (changes == changes_) return;
+  changes_ = std::move(changes);
+  onHints();
+}
+
 void MainPane::unloadRows() {
+  // These name fields that go now.
+  hints_.clear();
+  changes_.clear();
   cr.resize(1);
 }
 

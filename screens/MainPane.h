@@ -87,7 +87,15 @@ class MainPane : public Frame {
   /// Updates cmdStatus and the hints. `factor` is the irrigation iteration factor.
   void showHints(std::int16_t factor);
 
-  /// The hints are others than before.
+  /// The fields that have changed since the last run, with what they were then.
+  [[nodiscard]] const std::vector<FieldHint>& changes() const { return changes_; }
+  void setChanges(std::vector<FieldHint> changes);
+
+  /// What is usual for a field, as far as the program knows, such as "Yields are known from 11 to 21 inches
+  /// of rain."; empty if it knows nothing. Worked out anew with each call.
+  [[nodiscard]] std::string rangeOf(const Control& field) const;
+
+  /// The hints or the changes are others than before.
   Event<> onHints;
 
   /// Updates lblVolume.
@@ -129,6 +137,7 @@ class MainPane : public Frame {
   Services& services_;
   std::shared_ptr<IrrigationCosts> tempIrrigationCosts_;
   std::vector<FieldHint> hints_;
+  std::vector<FieldHint> changes_;
   std::optional<MissingInput> missing_;
 
   /// The number of water splits, which takes milliseconds to count for a high factor.

@@ -13,10 +13,12 @@
 
 namespace verdalis {
 
-/// What a user should know about a field before a run.
+/// What a user should know about a field.
 struct FieldHint {
   const Control* field = nullptr;
   std::string text;  ///< Such as "Total acres: read as 1. Leave out the comma."
+
+  friend bool operator==(const FieldHint&, const FieldHint&) = default;
 };
 
 /// How a run reads a number, where that is not what the text looks like; nothing where it is.

@@ -1,7 +1,9 @@
 #include <algorithm>
+#include <utility>
 
 #include "model/LandDivision.h"
 #include "screens/MainPane.h"
+#include "screens/typicalRanges.h"
 #include "text/numbers.h"
 
 namespace verdalis {
@@ -30,9 +32,7 @@ void MainPane::showHints(std::int16_t factor) {
   lblCropsHint.setCaption(captionOf(crops));
   farm.insert(farm.end(), crops.begin(), crops.end());
   add(farm, txtArraySize, readingHint(keepCaption, txtArraySize.text()));
-  const bool same = std::equal(
-      farm.begin(), farm.end(), hints_.begin(), hints_.end(),
-      [](const FieldHint& a, const FieldHint& b) { return a.field == b.field && a.text == b.text; });
+  const bool same = farm == hints_;
   hints_ = std::move(farm);
   if (!same) onHints();
 }
@@ -85,10 +85,34 @@ std::vector<FieldHint> MainPane::cropHints() const {
   for (const auto& row : cr) {
     if (!row->isActive()) continue;
     const std::string crop = shownCaption(row->GetCrop());
-    add(hints, row->txtPrice, readingHint("Price of " + crop, row->txtPrice.text()));
-    add(hints, row->txtMaxYield, readingHint("Maximum yield of " + crop, row->txtMaxYield.text()));
+    for (const auto& [what, box] :
+         {std::pair("Price", &row->txtPrice), std::pair("Maximum yield", &row->txtMaxYield)}) {
+      if (!box->visible()) continue;
+      const std::string name = std::string(what) + " of " + crop;
+      add(hints, *box,
+          box->text().empty() ? name + ": empty, so it counts as 0." : readingHint(name, box->text()));
+    }
   }
   return hints;
+}
+
+std::string MainPane::rangeOf(const Control& field) const {
+  std::vector<const Crop*> chosen;
+  std::vector<const Crop*> all;
+  for (const auto& row : cr) {
+    if (!row->Crop || !row->Crop->yieldTable) continue;
+    all.push_back(row->Crop.get());
+    if (row->isActive()) chosen.push_back(row->Crop.get());
+    if (&field == &row->txtPrice) return priceRange(*row->Crop);
+    if (&field == &row->txtMaxYield)
+      return maxYieldRange(*row->Crop, row->txtMaxYield.text(), txtAnnRain.text());
+  }
+  const std::vector<const Crop*>& crops = chosen.empty() ? all : chosen;
+  if (&field == &txtArea) return acresRange(*tempIrrigationCosts_, txtMax.text());
+  if (&field == &txtMax) return waterRange(crops, txtEff.text());
+  if (&field == &txtAnnRain) return rainRange(crops);
+  if (&field == &txtEff) return efficiencyRange();
+  return {};
 }
 
 void MainPane::goToMissing() {

@@ -131,8 +131,13 @@ class VariableTrend {
   [[nodiscard]] std::string summary(const std::vector<ChartLine::Point>& points, std::size_t changes) const {
     const ChartLine::Point& first = points.front();
     const ChartLine::Point& last = points.back();
+    const bool level = std::all_of(points.begin(), points.end(), [&](const ChartLine::Point& point) {
+      return money(point.y) == money(first.y);
+    });
     return "From " + styled(first.x, x_.style) + " to " + styled(last.x, x_.style) +
-           " the best net return goes from " + money(first.y) + " to " + money(last.y) + " per acre. " +
+           (level ? " the best net returns are all at " + money(first.y)
+                  : " the best net return goes from " + money(first.y) + " to " + money(last.y)) +
+           " per acre. " +
            (changes == 0 ? "The crops stay the same." : "The crops change " + times(changes) + ".");
   }
 
@@ -158,6 +163,7 @@ double netReturnAt(const TrendOptionArray& options, std::size_t row, std::size_t
 }
 
 std::string rangeText(double low, double high) {
+  if (money(low) == money(high)) return "The net returns per acre are all at " + money(low) + ".";
   return "The net return per acre is from " + money(low) + " to " + money(high) + ".";
 }
 

@@ -7,6 +7,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 
 #include "desktop/Desktop.h"
 #include "desktop/TableView.h"
@@ -22,11 +24,12 @@ using namespace verdalis;
 /// The program with the saved farm of the example, after the welcome window.
 class Shown {
  public:
-  Shown() {
+  explicit Shown(int customCrops = 0) {
     const std::filesystem::path home = folder_.path().toStdString();
     std::filesystem::copy(VERDALIS_SOURCE_DIR "/crops", home / "crops",
                           std::filesystem::copy_options::recursive);
     std::filesystem::copy(VERDALIS_SOURCE_DIR "/examples/high-plains/inputs.txt", home / "inputs.txt");
+    addCropsLikeCorn(home / "crops", customCrops);
     desktop_ = std::make_unique<desktop::Desktop>(home, QStringLiteral(VERDALIS_SOURCE_DIR "/help/HTML"));
   }
 
@@ -43,6 +46,18 @@ class Shown {
   [[nodiscard]] QWidget* widget(const Control& control) { return desktop_->binder().widget(control); }
 
  private:
+  static void addCropsLikeCorn(const std::filesystem::path& crops, int count) {
+    std::ifstream corn(crops / "corn.txt", std::ios::binary);
+    const std::string text((std::istreambuf_iterator<char>(corn)), std::istreambuf_iterator<char>());
+    const std::string head = "CROP=Corn";
+    std::filesystem::create_directories(crops / "custom");
+    for (int i = 0; i < count; ++i) {
+      const std::string name = "Crop " + std::to_string(i);
+      std::ofstream file(crops / "custom" / (name + ".txt"), std::ios::binary);
+      file << "CROP=" << name << text.substr(text.find(head) + head.size());
+    }
+  }
+
   QTemporaryDir folder_;
   std::unique_ptr<desktop::Desktop> desktop_;
 };
@@ -121,6 +136,42 @@ void liveFrame(benchmark::State& state) {
   }
 }
 BENCHMARK(liveFrame)->Unit(benchmark::kMillisecond);
+
+/// The same for four fields, ten crops and an iteration factor of 20.
+void liveFrameOfManyCrops(benchmark::State& state) {
+  Shown shown(4);
+  shown.start();
+  frmMain& main = shown.program().main();
+  shown.program().state.FineFactor = 20;
+  main.pneMain.Option1[4]->click();
+  main.pneMain.Command7.click();
+  int crops = 0;
+  for (const auto& row : main.pneMain.cr) {
+    if (row->GetCrop() == "Fallow") continue;
+    if (!row->isActive()) row->chkCrop.click();
+    if (row->Crop->Custom) {
+      row->txtPrice.type("5." + std::to_string(crops));
+      row->txtMaxYield.type("20" + std::to_string(crops % 10));
+    }
+    ++crops;
+  }
+  main.menus.mnuLive.click();
+  if (crops != 10 || main.pneLive.sliders.empty()) {
+    state.SkipWithError("not the farm that was meant");
+    return;
+  }
+  QWidget* page = shown.widget(main.pneLive);
+  ScrollBar& bar = main.pneLive.sliders.front()->bar;
+  const int from = bar.value();
+  bool up = false;
+  for (auto _ : state) {
+    up = !up;
+    bar.scroll(up ? from + 1 : from);
+    page->repaint();
+    QCoreApplication::processEvents();
+  }
+}
+BENCHMARK(liveFrameOfManyCrops)->Unit(benchmark::kMillisecond);
 
 void nextOptionToRepaint(benchmark::State& state) {
   Shown shown;

@@ -1,4 +1,5 @@
-// Draws every pane of the program into picture files: verdalis-screenshots FOLDER light|dark SUFFIX HOME.
+// Draws every pane of the program into picture files:
+// verdalis-screenshots FOLDER light|dark SUFFIX HOME [FONT], where FONT is the size of the font as a factor.
 
 #include <QApplication>
 #include <QDir>
@@ -14,6 +15,7 @@
 
 #include "desktop/Desktop.h"
 #include "desktop/HelpViewer.h"
+#include "desktop/Page.h"
 #include "desktop/Theme.h"
 
 namespace {
@@ -36,6 +38,18 @@ class Photographer {
   QString folder_;
   QString suffix_;
 };
+
+/// The usual window; with a larger font, one that fits on a screen.
+QSize windowSize() {
+  return QSize(scaled(1180), scaled(820)).boundedTo({1900, 1000});
+}
+
+/// Until the marks of fields are there, which come a moment after a key.
+void waitForMarks() {
+  QEventLoop wait;
+  QTimer::singleShot(300, &wait, &QEventLoop::quit);
+  wait.exec();
+}
 
 void typeFarm(MainPane& pane) {
   pane.txtArea.type("125");
@@ -71,7 +85,7 @@ void photographBars(Desktop& desktop, const Photographer& camera) {
   main.recovery.cmdDiscardRecovery.click();
   main.notices.dismiss();
   main.notices.dismiss();
-  window->resize(1180, 820);
+  window->resize(windowSize());
 }
 
 void photographQuestions(Desktop& desktop, const Photographer& camera) {
@@ -112,16 +126,19 @@ void photograph(Desktop& desktop, const Photographer& camera) {
   desktop.program().welcome.Command1.click();
   MainWindow* window = desktop.mainWindow();
   frmMain& main = desktop.program().main();
-  window->resize(1180, 820);
+  window->resize(windowSize());
   typeFarm(main.pneMain);
   camera.take(window, QStringLiteral("main"));
   window->resize(1024, 700);
   camera.take(window, QStringLiteral("main-small"));
-  window->resize(1180, 820);
+  window->resize(windowSize());
   photographQuestions(desktop, camera);
   photographBars(desktop, camera);
   main.pneMain.cr[1]->cmdInputCosts.click();
   camera.take(window, QStringLiteral("costs-grain"));
+  main.pneInputCosts.txtMiscCost.type("1,250");
+  waitForMarks();
+  camera.take(window, QStringLiteral("costs-hint"));
   main.pneInputCosts.cmdCancel.click();
   main.pneMain.cr[0]->chkCrop.click();
   main.pneMain.cr[0]->cmdInputCosts.click();
@@ -132,6 +149,19 @@ void photograph(Desktop& desktop, const Photographer& camera) {
   main.pneIrrigCosts.cmdCancel.click();
   main.pneMain.Command1.click();
   camera.take(window, QStringLiteral("results"));
+  main.theResults.Command1.click();
+  main.pneMain.cr[1]->txtPrice.type("4.60");
+  main.pneMain.txtMax.type("12");
+  main.pneMain.txtAnnRain.type("26");
+  main.pneMain.Option1[4]->click();
+  main.pneMain.cr[5]->chkCrop.click();
+  waitForMarks();
+  camera.take(window, QStringLiteral("main-changed"));
+  main.pneMain.txtAnnRain.type("17");
+  main.pneMain.Option1[3]->click();
+  main.pneMain.cr[5]->chkCrop.click();
+  main.pneMain.Command1.click();
+  camera.take(window, QStringLiteral("results-again"));
   main.theResults.rh[0].cmdDetails.click();
   camera.take(window, QStringLiteral("details"));
   main.theDetails.Command3.click();
@@ -235,10 +265,14 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setApplicationName(QStringLiteral("verdalis-screenshots"));
   const QStringList arguments = QApplication::arguments();
-  if (arguments.size() != 5) {
-    std::cerr << "usage: verdalis-screenshots FOLDER light|dark SUFFIX HOME\n";
+  const double font = arguments.size() > 5 ? arguments[5].toDouble() : 1;
+  if (arguments.size() < 5 || arguments.size() > 6 || !(font > 0)) {
+    std::cerr << "usage: verdalis-screenshots FOLDER light|dark SUFFIX HOME [FONT]\n";
     return 2;
   }
+  QFont sized = QApplication::font();
+  sized.setPointSizeF(sized.pointSizeF() * font);
+  QApplication::setFont(sized);
   applyTheme(application, arguments[2] == QLatin1String("dark") ? Scheme::dark : Scheme::light);
   Desktop desktop(std::filesystem::path(programText(arguments[4])), QStringLiteral(VERDALIS_HELP));
   const Photographer camera(arguments[1], arguments[3]);

@@ -1,5 +1,7 @@
 #include <QLabel>
 #include <QLineEdit>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSlider>
 
 #include "tests/desktop/RunningDesktop.h"
@@ -52,6 +54,22 @@ TEST_F(Habit, HintsMarkTheirFieldsAndTheStatusLeadsToWhatIsMissing) {
   type("txtArea", "1250");
   EXPECT_TRUE(QTest::qWaitFor([&] { return !isMarked(); }));
   EXPECT_EQ(area->toolTip(), QString());
+}
+
+TEST_F(Habit, AButtonAtTheEdgeOfThePageDoesNotMoveAwayBelowTheMouse) {
+  start();
+  window()->resize(1180, 720);
+  QTest::qWait(50);
+  QWidget* button = widget("Command7");
+  auto* area = desktop().mainWindow()->currentPage()->findChild<QScrollArea*>();
+  ASSERT_NE(area, nullptr);
+  // So far up that only the upper half of the button is in sight.
+  const int middle = button->mapTo(area->widget(), QPoint(0, button->height() / 2)).y();
+  area->viewport()->window()->resize(1180, window()->height() + middle - area->viewport()->height());
+  QTest::qWait(50);
+  area->verticalScrollBar()->setValue(middle - area->viewport()->height());
+  QTest::mouseClick(button, Qt::LeftButton, {}, QPoint(20, 5));
+  EXPECT_EQ(control<TextBox>("cr(1).txtPrice").text(), "6.52");
 }
 
 TEST_F(Habit, APageIsMadeWhenItIsShownForTheFirstTime) {

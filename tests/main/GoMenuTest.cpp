@@ -119,5 +119,33 @@ TEST_F(GoMenuOnAFarm, NothingMovesDuringARun) {
   EXPECT_EQ(pane(), "pneResults");
 }
 
+TEST_F(GoMenuOnAFarm, EntriesThatLeadNowhereAreOff) {
+  const MainMenus& menus = main.menus;
+  evaluate();
+  running.press("theResults.Command1");
+  EXPECT_TRUE(menus.mnuWater.enabled());
+  EXPECT_TRUE(menus.mnuGoResults.enabled());
+  bool looked = false;
+  running.fakes.eventPump.onPump = [&] {
+    looked = true;
+    EXPECT_FALSE(menus.mnuWater.enabled());
+    EXPECT_FALSE(menus.mnuLive.enabled());
+    EXPECT_FALSE(menus.mnuGoResults.enabled());
+    EXPECT_FALSE(menus.mnuGoMain.enabled());
+  };
+  running.press("Command1");
+  running.fakes.eventPump.onPump = nullptr;
+  EXPECT_TRUE(looked);
+  EXPECT_TRUE(menus.mnuWater.enabled());
+  EXPECT_TRUE(menus.mnuGoMain.enabled());
+  running.press("theResults.Command1");
+  runVariable(1, 0, "4, 5");
+  EXPECT_FALSE(menus.mnuWater.enabled());
+  EXPECT_FALSE(menus.mnuLive.enabled());
+  EXPECT_TRUE(menus.mnuGoMain.enabled());
+  running.choose("mnuGoMain");
+  EXPECT_TRUE(menus.mnuWater.enabled());
+}
+
 }  // namespace
 }  // namespace verdalis::testing
