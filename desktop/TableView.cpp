@@ -122,7 +122,7 @@ class TablePainter : public QStyledItemDelegate {
   void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& at) const override {
     if (!model_.isInside(at)) return;
     const Scheme scheme = schemeOf(option.palette);
-    const Accents colours = accents(scheme);
+    const Accents& colours = coloursOf(scheme);
     const Table& table = model_.table();
     const std::size_t record = table.record(placeAt(at.row()));
     const Table::Column& column = table.columns()[placeAt(at.column())];
@@ -144,11 +144,16 @@ class TablePainter : public QStyledItemDelegate {
     painter->setPen(option.palette.color(
         option.state.testFlag(QStyle::State_Enabled) ? QPalette::Normal : QPalette::Disabled,
         QPalette::Text));
-    const QString text = QFontMetrics(font).elidedText(qText(cell.text), Qt::ElideRight, room.width());
-    painter->drawText(room,
-                      static_cast<int>((isLeft(column) ? Qt::AlignLeft : Qt::AlignRight)) | Qt::AlignVCenter |
-                          Qt::TextSingleLine,
-                      text);
+    // At a place, not in a rectangle: that takes a layout for each text.
+    const QFontMetrics letters(font);
+    QString text = qText(cell.text);
+    int width = letters.horizontalAdvance(text);
+    if (width > room.width()) {
+      text = letters.elidedText(text, Qt::ElideRight, room.width());
+      width = letters.horizontalAdvance(text);
+    }
+    painter->drawText(isLeft(column) ? room.left() : room.right() - width + 1,
+                      room.top() + (room.height() - letters.height()) / 2 + letters.ascent(), text);
     if (option.state.testFlag(QStyle::State_HasFocus)) {
       painter->setPen(colours.brand);
       painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
@@ -172,6 +177,13 @@ class TablePainter : public QStyledItemDelegate {
   }
 
  private:
+  /// Made once, because each cell asks for them.
+  static const Accents& coloursOf(Scheme scheme) {
+    static const Accents light = accents(Scheme::light);
+    static const Accents dark = accents(Scheme::dark);
+    return scheme == Scheme::dark ? dark : light;
+  }
+
   /// The place of a bar: in front of a text at the left, behind one at the right.
   [[nodiscard]] QRect barOf(const Table::Cell& cell, const QRect& rect, bool left) const {
     const QRect room = rect.adjusted(scaled(sidePadding), 0, -scaled(sidePadding), 0);

@@ -479,11 +479,12 @@ void frmMain::wireLosses() {
 void frmMain::wireSinceLastRun() {
   const auto follow = [this] {
     if (pneResults.visible()) sinceLastRun_.follow(keeper.document().inputs);
-    if (pneMain.visible() && sinceLastRun_.hasRun()) sinceLastRun_.mark(keeper.document().inputs);
   };
   pneResults.onStateChange.connect(follow);
-  pneMain.onStateChange.connect(follow);
   keeper.onChange.connect(follow);
+  desk().onSettled.connect([this] {
+    if (pneMain.visible() && sinceLastRun_.hasRun()) sinceLastRun_.mark(keeper.document().inputs);
+  });
   farms.onTake.connect([this] { sinceLastRun_.forget(); });
 }
 

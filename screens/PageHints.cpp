@@ -5,7 +5,7 @@
 namespace verdalis {
 
 PageHints::PageHints(Frame& page, Label& label) : page_(page), label_(label) {
-  acts_ = page_.desk().onActed.connectScoped([this] {
+  acts_ = page_.desk().onSettled.connectScoped([this] {
     if (page_.visible()) refresh();
   });
 }

@@ -173,7 +173,7 @@ void liveFrameOfManyCrops(benchmark::State& state) {
 }
 BENCHMARK(liveFrameOfManyCrops)->Unit(benchmark::kMillisecond);
 
-void nextOptionToRepaint(benchmark::State& state) {
+void nextOption(benchmark::State& state, bool whole) {
   Shown shown;
   shown.start();
   frmMain& main = shown.program().main();
@@ -190,11 +190,22 @@ void nextOptionToRepaint(benchmark::State& state) {
     forward = !forward;
     QTest::mouseClick(shown.widget(forward ? main.theResults.cmdAdvance : main.theResults.cmdPrevious),
                       Qt::LeftButton);
-    page->repaint();
+    if (whole) page->repaint();
     QCoreApplication::processEvents();
   }
 }
+
+/// The whole page is painted.
+void nextOptionToRepaint(benchmark::State& state) {
+  nextOption(state, true);
+}
 BENCHMARK(nextOptionToRepaint)->Unit(benchmark::kMicrosecond);
+
+/// Only what has changed is painted, as on a screen.
+void nextOptionAsOnAScreen(benchmark::State& state) {
+  nextOption(state, false);
+}
+BENCHMARK(nextOptionAsOnAScreen)->Unit(benchmark::kMicrosecond);
 
 /// Opens the custom crop editor with its largest grid: 33 rows of 24 yields.
 CustomCropPane& openLargestGrid(Shown& shown) {
