@@ -24,6 +24,18 @@ lxw_col_t columnOf(SheetPlace place) {
   return static_cast<lxw_col_t>(place.column);
 }
 
+/// A style of further decimals where a number has them, as one for this number.
+NumberStyle shownStyle(double number, NumberStyle style) {
+  if (!style.exact) return style;
+  NumberStyle bare = style;
+  bare.before.clear();
+  bare.after.clear();
+  const std::string text = styled(number, bare);
+  const std::size_t point = text.find('.');
+  style.decimals = point == std::string::npos ? 0 : static_cast<int>(text.size() - point - 1);
+  return style;
+}
+
 void requireInside(SheetPlace place) {
   if (place.row < Sheet::mostRows && place.column < Sheet::mostColumns) return;
   throw RunTimeError(
@@ -69,7 +81,7 @@ void Sheet::write(SheetPlace place, double number, const NumberStyle& style, Boo
     return;
   }
   requireInside(place);
-  look.number = numberFormat(style);
+  look.number = numberFormat(shownStyle(number, style));
   require(worksheet_write_number(sheet_, rowOf(place), columnOf(place), number, book_.format(look)));
   widen(place.column, widthOf(styled(number, style)) + 1);
 }

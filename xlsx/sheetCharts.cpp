@@ -90,6 +90,8 @@ class Lines {
       : sheet_(sheet), chart_(chart), data_(data) {}
 
   std::size_t put(SheetPlace place) {
+    const auto isEmpty = [](const ChartLine& line) { return line.points.empty(); };
+    if (std::all_of(data_.lines.begin(), data_.lines.end(), isEmpty)) return place.row;
     lxw_chart* const made = makeChart(sheet_, chart_, LXW_CHART_SCATTER_STRAIGHT_WITH_MARKERS);
     const auto height = static_cast<std::size_t>(std::ceil(linesHeight / rowHeight)) + 1;
     head_ = {place.row + height, place.column};
@@ -246,10 +248,10 @@ class Bars {
       : sheet_(sheet), chart_(chart), data_(data), count_(std::min(data.bars.size(), mostBars)) {}
 
   std::size_t put(SheetPlace place) {
+    if (count_ == 0) return place.row;
     const double height = 120 + 26 * static_cast<double>(count_);
     const std::size_t head = place.row + static_cast<std::size_t>(std::ceil(height / rowHeight)) + 1;
     sheet_.writeLine({head, place.column}, "The numbers of the chart", caption());
-    if (count_ == 0) return head + 1;
     first_ = head + 2;
     column_ = place.column;
     lxw_chart* const made = makeChart(sheet_, chart_, data_.base ? LXW_CHART_BAR : LXW_CHART_BAR_STACKED);
