@@ -84,6 +84,7 @@ lxw_format* Book::format(const Look& look) {
     format_set_bottom_color(format, borderColour);
   }
   if (look.right) format_set_align(format, LXW_ALIGN_RIGHT);
+  if (look.indented) format_set_indent(format, 1);
   if (look.fill != 0) format_set_bg_color(format, look.fill);
   if (!look.number.empty()) format_set_num_format(format, look.number.c_str());
   known->second = format;

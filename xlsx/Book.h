@@ -24,6 +24,7 @@ class Book {
     Kind kind = Kind::plain;
     bool strong = false;
     bool right = false;
+    bool indented = false;   ///< Apart from the numbers of the column before
     std::uint32_t fill = 0;  ///< A colour such as 0xDDEBF7; 0 for none
     std::string number;      ///< See numberFormat(); empty for texts
 

@@ -67,7 +67,7 @@ void Sheet::put(SheetPlace place, std::string_view text, const Book::Look& look)
 
 void Sheet::write(SheetPlace place, std::string_view text, const Book::Look& look) {
   put(place, text, look);
-  widen(place.column, widthOf(text));
+  widen(place.column, widthOf(text) + 1);
 }
 
 void Sheet::writeLine(SheetPlace place, std::string_view text, const Book::Look& look) {
@@ -93,6 +93,7 @@ void Sheet::write(SheetPlace place, const HandoutCell& cell, const HandoutColumn
   } else if (const auto* const text = std::get_if<std::string>(&cell)) {
     Book::Look aligned = look;
     aligned.right = column.number;
+    aligned.indented = !column.number && place.column > 0;
     write(place, *text, aligned);
   }
 }
@@ -101,10 +102,11 @@ std::size_t Sheet::writeHead(SheetPlace place, const std::string& text, bool rig
   Book::Look look;
   look.kind = Book::Look::Kind::head;
   look.right = right;
+  look.indented = !right && place.column > 0;
   put(place, text, look);
   const std::vector<std::string> lines = brokenIntoLines(text, mostHeadWidth);
   for (const std::string& line : lines)
-    widen(place.column, widthOf(line) + 1);
+    widen(place.column, widthOf(line) + 2);
   return lines.size();
 }
 

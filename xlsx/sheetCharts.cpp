@@ -261,10 +261,9 @@ class Bars {
     } else {
       addParts(made);
     }
-    setAxis(made->y_axis, data_.x);
-    chart_axis_set_reverse(made->x_axis);  // the first bar on top
-    chart_axis_set_label_position(made->x_axis, LXW_CHART_AXIS_LABEL_POSITION_LOW);
-    chart_axis_set_crossing_max(made->x_axis);
+    setAxis(made->x_axis, data_.x);
+    chart_axis_set_reverse(made->y_axis);  // the first bar on top, and then the numbers too
+    chart_axis_set_label_position(made->y_axis, LXW_CHART_AXIS_LABEL_POSITION_LOW);
     chart_set_series_gap(made, 50);
     static_cast<void>(insert(sheet_, made, chart_, place, height));
     return first_ + count_ + 1;
@@ -311,7 +310,7 @@ class Bars {
     chart_series_set_name(addSeries(made, 5, lossColour), "Lowest");
     chart_series_set_name(addSeries(made, 6, gainColour), "Highest");
     chart_set_series_overlap(made, 100);
-    chart_axis_set_name(made->y_axis, ("Change against now, " + styled(base, data_.x.style)).c_str());
+    chart_axis_set_name(made->x_axis, ("Change against now, " + styled(base, data_.x.style)).c_str());
     chart_legend_set_position(made, LXW_CHART_LEGEND_NONE);
   }
 

@@ -108,10 +108,12 @@ class SectionSheet {
     const bool above = lines.size() <= mostLinesAbove || section_.tables.empty();
     if (above) writeLines(lines);
     const std::size_t charts = row_ + 2;  // below the first head, so that it scrolls with the rows
+    const bool first = section_.tables.size() > 1;
+    if (first) putCharts({row_ + 1, 0});
     for (const HandoutTable& table : section_.tables)
       writeTable(table);
     if (!above) writeLines(lines);
-    writeCharts(charts);
+    if (!first) writeCharts(charts);
     sheet_.finish();
   }
 
@@ -152,13 +154,17 @@ class SectionSheet {
     rows_ += table.rows.size();
   }
 
-  /// Beside narrow tables and long ones, and below the others.
+  /// Beside a table that is narrow or long, and below another one. Several tables follow the charts.
   void writeCharts(std::size_t top) {
     const bool beside = !section_.tables.empty() &&
                         (sheet_.widthOfColumns(columns_) <= widestBeside || rows_ > mostRowsAboveCharts);
-    SheetPlace place{beside ? top : row_ + 1, beside ? columns_ + 1 : 0};
+    putCharts({beside ? top : row_ + 1, beside ? columns_ + 1 : 0});
+  }
+
+  void putCharts(SheetPlace place) {
     for (const Chart& chart : section_.charts)
       place.row = putChart(sheet_, chart, place) + 1;
+    if (!section_.charts.empty() && place.column == 0) row_ = place.row;
   }
 
   Sheet& sheet_;
@@ -216,13 +222,13 @@ std::string writeWorkbook(const Handout& handout) {
     Book book(file, folder.path());
     setProperties(book.book(), handout);
     SheetNames names;
-    const std::string about = join({handout.title, handout.farm, handout.letterhead, handout.date});
     const HandoutSection empty{handout.title, {"There is nothing to show."}, {}, {}};
     const std::size_t count = std::max<std::size_t>(handout.sections.size(), 1);
     for (std::size_t i = 0; i < count; ++i) {
       const HandoutSection& section = i < handout.sections.size() ? handout.sections[i] : empty;
       Sheet sheet(book, names.nameFor(section.title));
-      SectionSheet(sheet, section).fill(about);
+      const std::string title = handout.title == section.title ? "" : handout.title;
+      SectionSheet(sheet, section).fill(join({title, handout.farm, handout.letterhead, handout.date}));
     }
     book.close();
   }
