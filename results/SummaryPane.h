@@ -46,6 +46,7 @@ class SummaryPane : public Frame {
   Grid fgsummary{*this, "fgsummary", 12, 2};
   Button cmdExcelSave{*this, "cmdExcelSave", "Save table to CSV"};
   Button cmdCompare{*this, "cmdCompare", "Compare"};  ///< Visible while there are saved options
+  Button cmdExport{*this, "cmdExport", "Export..."};  ///< A workbook; visible while there are saved options
   Button cmdCancel{*this, "cmdCancel(2)", "Back"};
 
   /// The action of the menu entry "Summary Table": builds the table from the saved options and raises
@@ -82,6 +83,9 @@ class SummaryPane : public Frame {
   Event<> onShowPane;
 
   Event<> onBack;
+
+  /// cmdExport
+  Event<> onExport;
 
   /// The user wants to see the saved options side by side.
   Event<> onCompare;
