@@ -9,6 +9,7 @@
 #include "engine/Farm.h"
 #include "explore/FarmInput.h"
 #include "explore/seasons.h"
+#include "handout/Handout.h"
 #include "questions/values.h"
 
 namespace verdalis {
@@ -17,6 +18,7 @@ namespace verdalis {
 struct ExploredFarm {
   Farm farm;
   std::vector<Season> seasons;  ///< Of its farm file
+  Handout handout;              ///< Of a workbook, with the inputs
 };
 
 /// The farm of the request as numbers.

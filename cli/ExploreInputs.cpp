@@ -10,7 +10,9 @@
 #include "cli/ExploreQuestions.h"
 #include "cli/TextTable.h"
 #include "cli/textOptions.h"
+#include "cli/workbook.h"
 #include "explore/inputs.h"
+#include "questions/inputsAnswer.h"
 #include "questions/values.h"
 
 namespace verdalis {
@@ -98,7 +100,9 @@ class ExploreInputs : public ExploreQuestion {
     const std::optional<InputsResult> found =
         exploreInputs(call.farm, percent, boundsOf, call.state, call.hooks);
     const InputsResult result = answered(found);
-    if (call.format == "json") {
+    if (call.format == workbookFormat) {
+      call.section = inputsSection(call.farm, result, percent);
+    } else if (call.format == "json") {
       writeJson(out, call.farm, result);
     } else if (call.format == "csv") {
       writeCsv(out, result);

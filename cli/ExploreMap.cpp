@@ -9,7 +9,9 @@
 #include "cli/ExploreQuestions.h"
 #include "cli/TextTable.h"
 #include "cli/textOptions.h"
+#include "cli/workbook.h"
 #include "explore/inputMap.h"
+#include "questions/mapAnswer.h"
 #include "text/numbers.h"
 #include "text/quote.h"
 
@@ -146,7 +148,9 @@ class ExploreMap : public ExploreQuestion {
     }
     const InputMap map = answered(exploreMap(call.farm, {x.input, x.range.values()},
                                              {y.input, y.range.values()}, call.state, call.hooks));
-    if (call.format == "json") {
+    if (call.format == workbookFormat) {
+      call.section = mapSection(call.farm, map);
+    } else if (call.format == "json") {
       writeJson(out, call.farm, map);
     } else if (call.format == "csv") {
       writeCsv(out, map);

@@ -10,7 +10,9 @@
 #include "cli/ExploreQuestions.h"
 #include "cli/TextTable.h"
 #include "cli/textOptions.h"
+#include "cli/workbook.h"
 #include "explore/seasons.h"
+#include "questions/seasonsAnswer.h"
 #include "questions/values.h"
 #include "text/quote.h"
 
@@ -167,7 +169,9 @@ class ExploreSeasons : public ExploreQuestion {
   void answer(const ExploreCall& call, std::ostream& out) override {
     const std::vector<Season> seasons = texts_.empty() ? seasonsOfFarm(call) : readSeasons(texts_);
     const SeasonsResult result = answered(exploreSeasons(call.farm, seasons, call.state, call.hooks));
-    if (call.format == "json") {
+    if (call.format == workbookFormat) {
+      call.section = seasonsSection(call.farm, result);
+    } else if (call.format == "json") {
       writeJson(out, call.farm, result);
     } else if (call.format == "csv") {
       writeCsv(out, result);

@@ -10,7 +10,9 @@
 #include "cli/ExploreSwitchTable.h"
 #include "cli/JsonWriter.h"
 #include "cli/textOptions.h"
+#include "cli/workbook.h"
 #include "explore/switchPrices.h"
+#include "questions/switchAnswer.h"
 #include "text/numbers.h"
 #include "text/quote.h"
 
@@ -65,7 +67,9 @@ class ExploreSwitch : public ExploreQuestion {
     const auto [input, from, to] = range(call.farm);
     const SwitchAnswer result{input, unitOf(input, call.farm), valueOf(call.farm, input),
                               answered(switchPrices(call.farm, input, from, to, call.state, call.hooks))};
-    if (call.format == "json") {
+    if (call.format == workbookFormat) {
+      call.section = switchSection(call.farm, result);
+    } else if (call.format == "json") {
       writeJson(out, call.farm, result);
     } else if (call.format == "csv") {
       writeCsv(out, result);

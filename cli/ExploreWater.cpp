@@ -10,8 +10,10 @@
 #include "cli/TextTable.h"
 #include "cli/drawCurve.h"
 #include "cli/textOptions.h"
+#include "cli/workbook.h"
 #include "engine/MakingSplits.h"
 #include "explore/water.h"
+#include "questions/waterAnswer.h"
 #include "text/numbers.h"
 
 namespace verdalis {
@@ -122,7 +124,9 @@ class ExploreWater : public ExploreQuestion {
   void answer(const ExploreCall& call, std::ostream& out) override {
     const std::vector<double> asked = amounts(call.farm);
     const WaterResult result = answered(exploreWater(call.farm, asked, call.state, call.hooks));
-    if (call.format == "json") {
+    if (call.format == workbookFormat) {
+      call.section = waterSection(call.farm, result);
+    } else if (call.format == "json") {
       writeJson(out, call.farm, result);
     } else if (call.format == "csv") {
       writeCsv(out, result);

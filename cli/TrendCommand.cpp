@@ -13,8 +13,11 @@
 #include "cli/output.h"
 #include "cli/relaxation.h"
 #include "cli/textOptions.h"
+#include "cli/workbook.h"
+#include "document/farmHandout.h"
 #include "explore/bestPlan.h"
 #include "model/EfficiencyFraction.h"
+#include "results/optionsSection.h"
 #include "text/RunTimeError.h"
 #include "text/numbers.h"
 #include "text/quote.h"
@@ -23,6 +26,8 @@
 #include "trend/VariableTrendExport.h"
 #include "trend/exportText.h"
 #include "trend/runTrend.h"
+#include "trend/trendSection.h"
+#include "xlsx/writeWorkbook.h"
 
 namespace verdalis {
 namespace {
@@ -37,6 +42,7 @@ struct Page {
 struct Findings {
   TrendResult result;
   Page page;
+  std::vector<HandoutSection> sections;  ///< Of a workbook
 };
 
 /// The finished output of a trend.
@@ -158,6 +164,12 @@ class TrendRun {
     Findings findings;
     describeVariable(findings.result);
     describeSteps(outcome, findings.result);
+    if (request_.format == workbookFormat) {
+      const TrendedInput input{
+          processes_[0].crop + " " + trendVariable(processes_[0].process.VariableIndex).label, units()};
+      const std::vector<TrendedStep> steps = stepsOf(outcome);
+      findings.sections = {variableTrendSection(steps, input), variableTrendFieldsSection(steps, input)};
+    }
     requirePlan(std::all_of(findings.result.steps.begin(), findings.result.steps.end(),
                             [](const TrendStep& step) { return step.result.options.empty(); }));
     if (request_.exportFile) {
@@ -189,6 +201,11 @@ class TrendRun {
     const TrendOutcome outcome = run();
 
     describeCombinations(outcome, findings.result);
+    if (request_.format == workbookFormat) {
+      findings.sections = {fixedTrendSection(outcome.grid, EfficiencyFraction),
+                           optionsSection(ListedOptions::inOrder(outcome.shown, EfficiencyFraction, true)),
+                           fixedTrendFieldsSection(outcome.grid, EfficiencyFraction)};
+    }
     if (request_.exportFile) {
       findings.page = makePage([&](std::string& page) {
         const auto variables = trendedVariables(trend_.processes);
@@ -343,14 +360,19 @@ Page findTrend(const TrendArguments& request, std::size_t number, Reports& repor
                std::ostream& text) {
   const std::unique_ptr<TypedFarm> typed = makeFarm(request.farm, messages);
   requireReady(request.farm, *typed);
+  const FarmDocument before = typed->document();  // a trend leaves its last values in the inputs
   Progress progress(asTerminal(messages.stream()), typed->state());
   TrendRun run(request, *typed, progress, messages);
-  if (number == 0 && !request.exportFile) {
+  if (number == 0 && !request.exportFile && request.format != workbookFormat) {
     run.writeVariable(text);
     return {};
   }
   Findings findings = number == 0 ? run.runVariable() : run.runFixed(number, reports);
-  writeTrend(text, findings.result, request.format);
+  if (request.format == workbookFormat) {
+    text << writeWorkbook(farmHandout("Trend", std::move(findings.sections), before, typed->library()));
+  } else {
+    writeTrend(text, findings.result, request.format);
+  }
   return std::move(findings.page);
 }
 
@@ -385,9 +407,9 @@ const CLI::App& addTrendCommand(CLI::App& app, TrendArguments& request) {
       "Run a fixed trend on option K of the evaluation, counted from 1\n(default: a variable trend)");
   addTrendProcessOptions(command, "2", request.processes[1]);
   addFileOption(command, "--export", "FILE", request.exportFile, "Also write the spreadsheet export");
-  command.add_option("--format", request.format, "table, csv or json (default: table)")
+  command.add_option("--format", request.format, "table, csv, json or xlsx (default: table)")
       ->type_name("FORMAT")
-      ->check(CLI::IsMember(optionsFormats()));
+      ->check(CLI::IsMember(formatsWithWorkbook()));
   addFileOption(command, "--output", "FILE", request.output, "Write to this file instead of standard output");
   addReportOptions(command, request.reports);
   return command;
@@ -395,6 +417,7 @@ const CLI::App& addTrendCommand(CLI::App& app, TrendArguments& request) {
 
 void trend(const TrendArguments& request, std::ostream& out, Messages& messages) {
   requireKind(request);
+  requirePlaceFor(request.format, request.output, out);
   Reports reports(request.reports);
   // The text is complete before its first byte is written.
   Outcome outcome;

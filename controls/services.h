@@ -46,8 +46,9 @@ class MessageBoxService {
 struct FileQuestion {
   std::string title;
   std::filesystem::path folder;
-  std::string filter;            ///< Such as "Excel Worksheet (*.xls)|*.xls"
-  std::string defaultExtension;  ///< Without the dot; added when saving under a name without extension
+  std::string filter;              ///< Such as "Excel Worksheet (*.xls)|*.xls"
+  std::string defaultExtension;    ///< Without the dot; added when saving under a name without extension
+  std::string suggestedName = {};  ///< To save under, without a folder; empty for none
 };
 
 class FileChooserService {

@@ -165,7 +165,9 @@ class CompareView : public QWidget {
     back_ = binder_.bind(pane_.cmdBack, new QPushButton);
     copy_ = binder_.bind(pane_.cmdCopy, new QPushButton);
     buttons->addWidget(back_);
+    export_ = binder_.bind(pane_.cmdExport, new QPushButton);
     buttons->addStretch();
+    buttons->addWidget(export_);
     buttons->addWidget(copy_);
     addShortcut(binder_, this, QKeySequence(Qt::Key_Escape), pane_.cmdBack);
     boxChanges_ = pane_.onBoxesChanged.connectScoped([this] { rebuildBoxes(); });
@@ -197,8 +199,8 @@ class CompareView : public QWidget {
     const int lines = (static_cast<int>(order.size()) + boxesInALine - 1) / boxesInALine;
     boxes_->setFixedHeight(std::min(lines, visibleLines) * scaled(boxHeight));
     boxes_->setVisible(lines > 0);
-    for (QWidget* last :
-         {static_cast<QWidget*>(table_), static_cast<QWidget*>(back_), static_cast<QWidget*>(copy_)}) {
+    for (QWidget* last : {static_cast<QWidget*>(table_), static_cast<QWidget*>(back_),
+                          static_cast<QWidget*>(export_), static_cast<QWidget*>(copy_)}) {
       order.push_back(last);
     }
     for (std::size_t i = 0; i + 1 < order.size(); ++i)
@@ -217,6 +219,7 @@ class CompareView : public QWidget {
   QScrollArea* boxes_ = nullptr;
   ComparisonTable* table_ = nullptr;
   QPushButton* back_ = nullptr;
+  QPushButton* export_ = nullptr;
   QPushButton* copy_ = nullptr;
   Connection boxChanges_;
 };

@@ -168,6 +168,11 @@ QWidget* noticeView(NoticeBar& notices, Binder& binder) {
     const QString caption = plain(notices.cmdNotice.caption());
     action->setAccessibleName(caption.isEmpty() ? QObject::tr("Act on this notice") : caption);
   });
+  QPushButton* second = addButton(parts, notices.cmdNotice2, binder);
+  binder.alsoWatch(notices.cmdNotice2, [&notices, second] {
+    const QString caption = plain(notices.cmdNotice2.caption());
+    second->setAccessibleName(caption.isEmpty() ? QObject::tr("Also act on this notice") : caption);
+  });
   QPushButton* close = addButton(parts, notices.cmdNoticeClose, binder, QObject::tr("Close this notice"));
   setRole(close, "close");
   close->setToolTip(QObject::tr("Close this notice"));

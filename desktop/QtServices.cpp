@@ -8,6 +8,7 @@
 #include <QIcon>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QStandardPaths>
 #include <QUrl>
 
 #include "desktop/Binder.h"
@@ -133,6 +134,11 @@ std::optional<std::filesystem::path> QtServices::chooseSave(const FileQuestion& 
   QFileDialog dialog(QApplication::activeWindow(), qText(question.title));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setDefaultSuffix(qText(question.defaultExtension));
+  if (!question.suggestedName.empty()) {
+    if (question.folder.empty())
+      dialog.setDirectory(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    dialog.selectFile(qText(question.suggestedName));
+  }
   return chosen(dialog, question);
 }
 

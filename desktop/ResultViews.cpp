@@ -220,6 +220,7 @@ QWidget* resultsView(Results& results, Binder& binder, const QString& heading, Q
 
   view.buttons->addWidget(binder.bind(results.Command1, new QPushButton));
   view.buttons->addStretch();
+  view.buttons->addWidget(binder.bind(results.cmdExport, new QPushButton));
   view.buttons->addWidget(binder.bind(results.Command2, new QPushButton));
   view.buttons->addWidget(binder.bind(results.cmdSaveResult, new QPushButton));
   addShortcut(binder, view.widget, QKeySequence(Qt::Key_Escape), results.Command1);

@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <utility>
 
+#include "handout/addCells.h"
+
 namespace verdalis {
 namespace {
 
@@ -37,6 +39,7 @@ ComparePane::ComparePane(Frame& window, Services& services, std::function<const 
     : Frame(window, "pneCompare"), services_(services), saved_(std::move(saved)) {
   setCaption("Compare Saved Options");
   cmdCopy.onClick.connect([this] { services_.clipboard.setText(tabSeparated(fgCompare)); });
+  cmdExport.onClick.connect([this] { onExport(); });
   cmdBack.onClick.connect([this] { onBack(); });
 }
 
@@ -103,9 +106,34 @@ void ComparePane::compare() {
   } else {
     lblCompare.setCaption(ticked.size() == 1 ? oneTicked : severalTicked);
   }
-  showRows(ticked, compareOptions(ticked, optionToPrice));
+  names_.clear();
+  for (const ComparedOption& option : ticked)
+    names_.push_back(option.name);
+  comparison_ = compareOptions(ticked, optionToPrice);
+  showRows(ticked, comparison_);
   fgCompare.setVisible(!ticked.empty());
   cmdCopy.setEnabled(!ticked.empty());
+  cmdExport.setEnabled(!ticked.empty());
+}
+
+HandoutSection ComparePane::section() const {
+  HandoutTable table{"", {{"", "", false, {}}}, {}};
+  for (const std::string& name : names_)
+    table.columns.push_back({name, "", true, {"", "", 2, true, false}});
+  for (const ComparisonRow& line : comparison_.rows) {
+    HandoutRow row;
+    row.strong = line.section;
+    addText(row, line.head + (line.unit.empty() ? "" : " (" + line.unit + ")"));
+    for (std::size_t i = 0; i < line.cells.size(); ++i) {
+      if (i < line.numbers.size()) {
+        addNumber(row, line.numbers[i]);
+      } else {
+        addText(row, line.cells[i]);
+      }
+    }
+    table.rows.push_back(std::move(row));
+  }
+  return {"Comparison", {lblCompare.caption()}, {}, {std::move(table)}};
 }
 
 void ComparePane::showRows(const std::vector<ComparedOption>& options, const Comparison& comparison) {

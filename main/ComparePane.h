@@ -12,6 +12,7 @@
 #include "controls/displays.h"
 #include "controls/inputs.h"
 #include "controls/services.h"
+#include "handout/Handout.h"
 #include "main/Comparison.h"
 
 namespace verdalis {
@@ -29,6 +30,7 @@ class ComparePane : public Frame {
   std::vector<std::unique_ptr<CheckBox>> chkCompare;  ///< One for each saved option
   Grid fgCompare{*this, "fgCompare", 1, 1};
   Button cmdCopy{*this, "cmdCopy", "Copy"};
+  Button cmdExport{*this, "cmdExport", "Export..."};
   Button cmdBack{*this, "cmdBack", "Back"};
 
   /// Options that are ticked when the pane is opened: the latest ones.
@@ -46,6 +48,12 @@ class ComparePane : public Frame {
   /// Whether a row of the grid starts a section. Its column 1 may contain a note on the section.
   [[nodiscard]] bool isSection(int row) const;
 
+  /// The comparison for a report or a workbook.
+  [[nodiscard]] HandoutSection section() const;
+
+  /// cmdExport
+  Event<> onExport;
+
   /// The pane must be shown, even if it already is.
   Event<> onShowPane;
 
@@ -62,9 +70,11 @@ class ComparePane : public Frame {
 
   Services& services_;
   std::function<const SavedOptions&()> saved_;
-  SavedOptions options_;        ///< Those of the check boxes
-  std::vector<bool> sections_;  ///< By row of the grid
-  bool setting_ = false;        ///< The check boxes are being set; the comparison follows at the end
+  SavedOptions options_;            ///< Those of the check boxes
+  std::vector<bool> sections_;      ///< By row of the grid
+  std::vector<std::string> names_;  ///< Of the options in the grid
+  Comparison comparison_;           ///< What the grid shows
+  bool setting_ = false;            ///< The check boxes are being set; the comparison follows at the end
 };
 
 /// The cells of a grid for a spreadsheet: tabs between columns, a line for each row.

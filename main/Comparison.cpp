@@ -85,6 +85,9 @@ void addNetReturns(const std::vector<ComparedOption>& options, const std::vector
   ComparisonRow farm{"Net return of the farm", {}};
   ComparisonRow behind{"Compared with the best", {}};
   ComparisonRow acre{"Net return per acre", {}};
+  farm.unit = "$";
+  behind.unit = "$ less";
+  acre.unit = "$/acre";
   Figure most;
   for (const NetReturns& each : netReturns) {
     if (each.farm && (!most || *each.farm > *most)) most = each.farm;
@@ -92,11 +95,13 @@ void addNetReturns(const std::vector<ComparedOption>& options, const std::vector
   for (std::size_t i = 0; i < options.size(); ++i) {
     const Figure& net = netReturns[i].farm;
     farm.cells.push_back(shown(net, wholeDollars));
+    farm.numbers.push_back(net);
     const Figure gap = net ? figure([&] { return *most - *net; }) : std::nullopt;
     const std::string less = shown(gap, wholeDollars);
     const bool best = less == wholeDollars(0);
     comparison.best.push_back(best && options.size() > 1);
     behind.cells.push_back(best ? "best" : less + (gap ? " less" : ""));
+    behind.numbers.push_back(gap);
     const Figure perAcreOfFarm = net ? figure([&] {
       double acres = 0;
       for (const SavedOptionField& field : options[i].saved->fields)
@@ -105,6 +110,7 @@ void addNetReturns(const std::vector<ComparedOption>& options, const std::vector
     })
                                      : std::nullopt;
     acre.cells.push_back(shown(perAcreOfFarm, [](double value) { return dollarsAnAcre(value, "###,##0"); }));
+    acre.numbers.push_back(perAcreOfFarm);
   }
   comparison.rows.push_back(std::move(farm));
   if (options.size() > 1) comparison.rows.push_back(std::move(behind));
@@ -143,7 +149,21 @@ bool sellsNothing(const SavedOptionField& field) {
 struct FieldRowOfComparison {
   const char* head;
   std::string (*text)(const SavedOption& option, const SavedOptionField& field, const Figure& net);
+  const char* unit = "";
+  Figure (*number)(const SavedOption& option, const SavedOptionField& field, const Figure& net) = nullptr;
 };
+
+Figure grossOf(const SavedOption& option, const SavedOptionField& field) {
+  return figure([&] { return grossFromNet(field.depth, efficiencyOf(option)); });
+}
+
+Figure anAcreOf(const SavedOptionField& field, const Figure& net) {
+  return net ? figure([&] { return perAcre(*net, field.acres); }) : Figure();
+}
+
+Figure unlessNothing(const SavedOptionField& field, double number) {
+  return sellsNothing(field) ? Figure() : Figure(number);
+}
 
 std::string depthText(double depth) {
   return inches(depth, "#0.0");
@@ -151,27 +171,49 @@ std::string depthText(double depth) {
 
 constexpr std::array<FieldRowOfComparison, 7> fieldRows{{
     {"Crop", [](const SavedOption&, const SavedOptionField& field, const Figure&) { return field.crop; }},
-    {"Acres", [](const SavedOption&, const SavedOptionField& field,
-                 const Figure&) { return generalText(field.acres); }},
+    {"Acres",
+     [](const SavedOption&, const SavedOptionField& field, const Figure&) {
+       return generalText(field.acres);
+     },
+     "ac",
+     [](const SavedOption&, const SavedOptionField& field, const Figure&) { return Figure(field.acres); }},
     {"Gross Irrigation",
      [](const SavedOption& option, const SavedOptionField& field, const Figure&) {
-       return shown(figure([&] { return grossFromNet(field.depth, efficiencyOf(option)); }), depthText);
+       return shown(grossOf(option, field), depthText);
+     },
+     "in",
+     [](const SavedOption& option, const SavedOptionField& field, const Figure&) {
+       return grossOf(option, field);
      }},
     {"Net Irrigation",
-     [](const SavedOption&, const SavedOptionField& field, const Figure&) { return depthText(field.depth); }},
-    {"Yield", [](const SavedOption&, const SavedOptionField& field,
-                 const Figure&) { return sellsNothing(field) ? noValue : cropOf(field).yieldToString(); }},
+     [](const SavedOption&, const SavedOptionField& field, const Figure&) { return depthText(field.depth); },
+     "in",
+     [](const SavedOption&, const SavedOptionField& field, const Figure&) { return Figure(field.depth); }},
+    {"Yield",
+     [](const SavedOption&, const SavedOptionField& field, const Figure&) {
+       return sellsNothing(field) ? noValue : cropOf(field).yieldToString();
+     },
+     "units/acre",
+     [](const SavedOption&, const SavedOptionField& field, const Figure&) {
+       return unlessNothing(field, field.yield);
+     }},
     {"Price",
      [](const SavedOption&, const SavedOptionField& field, const Figure&) {
        const Crop crop = cropOf(field);
        return sellsNothing(field) ? noValue
                                   : "$" + formatNumber(crop.price, "###,##0.00") + "/" + crop.priceUnits();
+     },
+     "$/unit",
+     [](const SavedOption&, const SavedOptionField& field, const Figure&) {
+       return unlessNothing(field, field.price);
      }},
     {"Net Return",
      [](const SavedOption&, const SavedOptionField& field, const Figure& net) {
-       const Figure anAcre =
-           net ? figure([&] { return perAcre(*net, field.acres); }) : std::optional<double>();
-       return shown(anAcre, [](double value) { return dollarsAnAcre(value, "###,##0"); });
+       return shown(anAcreOf(field, net), [](double value) { return dollarsAnAcre(value, "###,##0"); });
+     },
+     "$/acre",
+     [](const SavedOption&, const SavedOptionField& field, const Figure& net) {
+       return anAcreOf(field, net);
      }},
 }};
 
@@ -183,12 +225,16 @@ void addFields(const std::vector<ComparedOption>& options, const std::vector<Net
   for (std::size_t i = 0; i < most; ++i) {
     comparison.rows.push_back({"Field " + std::to_string(i + 1), {}, true});
     for (const FieldRowOfComparison& fieldRow : fieldRows) {
-      ComparisonRow row{fieldRow.head, {}};
+      ComparisonRow row{fieldRow.head, {}, false, fieldRow.unit};
       for (std::size_t k = 0; k < options.size(); ++k) {
         const SavedOption& saved = *options[k].saved;
         row.cells.push_back(i < saved.fields.size()
                                 ? fieldRow.text(saved, saved.fields[i], netReturns[k].fields[i])
                                 : std::string());
+        if (fieldRow.number == nullptr) continue;
+        row.numbers.push_back(i < saved.fields.size()
+                                  ? fieldRow.number(saved, saved.fields[i], netReturns[k].fields[i])
+                                  : Figure());
       }
       comparison.rows.push_back(std::move(row));
     }

@@ -22,6 +22,10 @@ struct ComparisonRow {
   std::string head;
   std::vector<std::string> cells;  ///< One for each option; at the start of a section one note, or none
   bool section = false;            ///< Starts a section
+  std::string unit = {};           ///< Of `numbers`, such as "$/acre"
+
+  /// The numbers that the cells tell, with all their digits; empty for a row of texts.
+  std::vector<std::optional<double>> numbers = {};
 };
 
 /// Saved options side by side: their net returns, the inputs that differ, and their fields.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <ctime>
+#include <string_view>
 #include <utility>
 
 #include "controls/ask.h"
@@ -9,6 +10,7 @@
 #include "document/recoveryMark.h"
 #include "main/frmMain.h"
 #include "text/RunTimeError.h"
+#include "text/encoding.h"
 #include "text/quote.h"
 
 namespace verdalis {
@@ -108,6 +110,24 @@ std::string FarmFiles::farmName() const {
   return nameOf(keeper_.document(), path());
 }
 
+std::string FarmFiles::fileName(const std::string& what, const std::string& ending) const {
+  constexpr std::size_t mostBytes = 120;
+  const std::string farm = farmName();
+  std::string name = farm.empty() && what.empty() ? "Farm" : farm;
+  if (!what.empty()) name += (name.empty() ? "" : " - ") + what;
+  for (char& c : name) {
+    if (static_cast<unsigned char>(c) < 0x20U ||
+        std::string_view("/\\:*?\"<>|").find(c) != std::string_view::npos)
+      c = ' ';
+  }
+  if (name.size() > mostBytes) name.resize(mostBytes);
+  while (!name.empty() && !isUtf8(name))
+    name.pop_back();
+  // A name that begins with a dot is hidden.
+  const std::size_t begin = name.find_first_not_of(" .");
+  return (begin == std::string::npos ? "Farm" : name.substr(begin)) + ending;
+}
+
 // New, Open, Save
 
 bool FarmFiles::mayLeave() {
@@ -186,9 +206,11 @@ bool FarmFiles::save() {
 
 bool FarmFiles::saveAs() {
   if (window_.isRunning()) return false;
-  const auto path = askToSave(window_.desk(), services_.fileChooser,
-                              {"Save the Farm", place_ ? place_->path.parent_path() : fs::path(), filter,
-                               std::string(farmFileExtension.substr(1))});
+  const auto path =
+      askToSave(window_.desk(), services_.fileChooser,
+                {"Save the Farm", place_ ? place_->path.parent_path() : fs::path(), filter,
+                 std::string(farmFileExtension.substr(1)),
+                 place_ ? place_->path.filename().string() : fileName("", std::string(farmFileExtension))});
   return path && saveTo(fs::absolute(*path), false);
 }
 

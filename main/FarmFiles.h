@@ -27,6 +27,10 @@ class FarmFiles {
   /// The open farm file; nothing for a farm without one.
   [[nodiscard]] std::optional<std::filesystem::path> path() const;
 
+  /// A name for a file about the farm: the name of the farm, then `what`; only what a file name may hold.
+  /// \param ending such as ".xlsx"
+  [[nodiscard]] std::string fileName(const std::string& what, const std::string& ending) const;
+
   /// Begins after the main window is loaded: offers the recovery copies of former programs.
   void start();
 

@@ -6,7 +6,8 @@
 namespace verdalis {
 
 NoticeBar::NoticeBar(Frame& window) : Frame(window, "noticeBar") {
-  cmdNotice.onClick.connect([this] { act(); });
+  cmdNotice.onClick.connect([this] { act(&Notice::action); });
+  cmdNotice2.onClick.connect([this] { act(&Notice::action2); });
   cmdNoticeClose.onClick.connect([this] { dismiss(); });
   refresh();
 }
@@ -34,12 +35,12 @@ void NoticeBar::setAside(bool aside) {
   refresh();
 }
 
-void NoticeBar::act() {
-  if (notices_.empty() || !notices_.front().action) return;
+void NoticeBar::act(std::function<void()> Notice::*action) {
+  if (notices_.empty() || !(notices_.front().*action)) return;
   const Notice notice = notices_.front();
   dismiss();
   try {
-    notice.action();
+    (notice.*action)();
   } catch (...) {
     tell(notice);
     throw;
@@ -56,6 +57,8 @@ void NoticeBar::refresh() {
   lblNoticeCount.setVisible(shown && notices_.size() > 1);
   cmdNotice.setCaption(front.actionCaption);
   cmdNotice.setVisible(shown && front.action && !front.actionCaption.empty());
+  cmdNotice2.setCaption(front.actionCaption2);
+  cmdNotice2.setVisible(shown && front.action2 && !front.actionCaption2.empty());
   cmdNoticeClose.setVisible(shown);
   setVisible(shown);
 }

@@ -20,6 +20,10 @@ struct Notice {
   /// again. If it throws, the notice stays.
   std::function<void()> action = {};
 
+  /// A second button, such as "Open folder", in the same way.
+  std::string actionCaption2 = {};
+  std::function<void()> action2 = {};
+
   /// What it is about, for a notice that is brought up to date or withdrawn later: a new notice replaces the
   /// one about the same. Empty for a notice on its own.
   std::string about = {};
@@ -34,6 +38,7 @@ class NoticeBar : public Frame {
   Label lblNotice{*this, "lblNotice"};
   Label lblNoticeCount{*this, "lblNoticeCount"};  ///< Such as "1 of 3"; invisible for a single notice
   Button cmdNotice{*this, "cmdNotice", ""};       ///< Visible only if the notice has an action
+  Button cmdNotice2{*this, "cmdNotice2", ""};     ///< Visible only if it has a second one
   Button cmdNoticeClose{*this, "cmdNoticeClose", "\u00D7"};
 
   /// Puts a notice in front of the others. One with the same text, or about the same, is removed.
@@ -52,7 +57,7 @@ class NoticeBar : public Frame {
   [[nodiscard]] const std::vector<Notice>& all() const { return notices_; }
 
  private:
-  void act();
+  void act(std::function<void()> Notice::*action);
   void refresh();
 
   std::vector<Notice> notices_;

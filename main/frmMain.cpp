@@ -106,6 +106,7 @@ frmMain::frmMain(Desk& desk, Services& services, ProgramState& state, SecondaryW
   wireLive();
   wireQuestions();
   wireWishes();
+  wireExports();
   desk.onSettled.connect([this] {
     if (pneMain.visible()) pneMain.showHints(state_.FineFactor);
   });

@@ -19,6 +19,7 @@
 #include "engine/Farm.h"
 #include "engine/ProgramState.h"
 #include "engine/RunHooks.h"
+#include "handout/Handout.h"
 #include "main/ComparePane.h"
 #include "main/CustomCropNotices.h"
 #include "main/FarmFiles.h"
@@ -180,6 +181,9 @@ class frmMain : public Window {
   void wireNotices();
   void wireQuestions();
   void wireWishes();
+  void wireExports();
+  void exportAnswer(const std::string& title, const FarmInputs& inputs,
+                    const std::function<std::vector<HandoutSection>()>& answer);
   void tellNoPlan();
   void markOutdated();
   [[nodiscard]] std::vector<Season> farmSeasons() const;

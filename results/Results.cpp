@@ -38,6 +38,7 @@ void Results::connect() {
   cmdSaveResult.onClick.connect([this] { saveResult(); });
   cmdBatchThis.onClick.connect([this] { batchThis(); });
   Command1.onClick.connect([this] { onBack(state_.TrendMode ? BackTo::trendSetup : BackTo::main); });
+  cmdExport.onClick.connect([this] { onExport(); });
   Command2.onClick.connect([this] { onPrint(); });
   cmdExcel.onClick.connect([this] { onExcel(); });
   for (ResultHolder& row : rh) {

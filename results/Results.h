@@ -78,6 +78,7 @@ class Results : public Frame {
   AllOptions all;
   Button cmdSaveResult{*this, "cmdSaveResult", "Compare this option"};
   Button Command2{*this, "Command2", "Print Results"};
+  Button cmdExport{*this, "cmdExport", "Export..."};  ///< A workbook
   Button Command1{*this, "Command1", "Back"};
 
   Frame batchDisplay{*this, "batchDisplay"};
@@ -103,6 +104,7 @@ class Results : public Frame {
   Event<BackTo> onBack;
   Event<> onPrint;
   Event<> onExcel;
+  Event<> onExport;                       ///< cmdExport
   Event<const std::string&> onHelpTopic;  ///< The help topic
 
   /// A help note: its text, its title, and the height of its window in layout units.

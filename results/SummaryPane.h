@@ -14,6 +14,7 @@
 #include "controls/Grid.h"
 #include "controls/displays.h"
 #include "controls/services.h"
+#include "handout/Handout.h"
 #include "model/Field.h"
 #include "model/FieldCollection.h"
 
@@ -45,6 +46,7 @@ class SummaryPane : public Frame {
   Grid fgsummary{*this, "fgsummary", 12, 2};
   Button cmdExcelSave{*this, "cmdExcelSave", "Save table to CSV"};
   Button cmdCompare{*this, "cmdCompare", "Compare"};  ///< Visible while there are saved options
+  Button cmdExport{*this, "cmdExport", "Export..."};  ///< A workbook; visible while there are saved options
   Button cmdCancel{*this, "cmdCancel(2)", "Back"};
 
   /// The action of the menu entry "Summary Table": builds the table from the saved options and raises
@@ -67,6 +69,10 @@ class SummaryPane : public Frame {
   /// An option in words, such as "Saved Option #2: Corn 94, Wheat 31".
   [[nodiscard]] std::string describe(std::size_t option) const;
 
+  /// The saved options for a report or a workbook.
+  /// \param rows the most rows; nothing for all
+  [[nodiscard]] HandoutSection section(std::optional<std::size_t> rows = std::nullopt) const;
+
   /// The option that the pane asks about; nothing while it does not ask.
   [[nodiscard]] std::optional<std::size_t> asksAbout() const { return asksAbout_; }
 
@@ -77,6 +83,9 @@ class SummaryPane : public Frame {
   Event<> onShowPane;
 
   Event<> onBack;
+
+  /// cmdExport
+  Event<> onExport;
 
   /// The user wants to see the saved options side by side.
   Event<> onCompare;
