@@ -14,6 +14,7 @@ struct NumberStyle {
   std::string after;   ///< Such as " in"
   int decimals = 0;
   bool thousands = false;  ///< 37117 as "37,117"
+  bool exact = false;      ///< Further decimals where a number has them
 };
 
 /// A number in this style; the sign stands before the prefix: "-$1,200".

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cmath>
 #include <string>
 
@@ -5,11 +6,23 @@
 #include "text/numbers.h"
 
 namespace verdalis {
+namespace {
+
+/// How many decimals a number has; 0 for one that is written with an exponent.
+int decimalsOf(double value) {
+  const std::string text = generalText(value);
+  const std::size_t point = text.find('.');
+  if (point == std::string::npos || text.find('E') != std::string::npos) return 0;
+  return static_cast<int>(text.size() - point - 1);
+}
+
+}  // namespace
 
 std::string styled(double value, const NumberStyle& style) {
   if (!std::isfinite(value)) return {};
+  const int decimals = style.exact ? std::max(style.decimals, decimalsOf(value)) : style.decimals;
   std::string pattern = style.thousands ? "#,##0" : "0";
-  if (style.decimals > 0) pattern += "." + std::string(static_cast<std::size_t>(style.decimals), '0');
+  if (decimals > 0) pattern += "." + std::string(static_cast<std::size_t>(decimals), '0');
   const std::string digits = formatNumber(value, pattern);
   // A minus sign stands before the unit, and zero has none.
   if (digits.front() == '-') return "-" + style.before + digits.substr(1) + style.after;

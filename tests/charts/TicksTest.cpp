@@ -67,5 +67,14 @@ TEST(Ticks, NumbersThatAreNoneAreHeld) {
   EXPECT_EQ(shortNumber(1e20, dollars), "$1E+20");
 }
 
+TEST(Styled, AnExactStyleKeepsTheDecimalsOfANumber) {
+  const NumberStyle exact{"$", "", 2, true, true};
+  EXPECT_EQ(styled(1234.5, exact), "$1,234.50");
+  EXPECT_EQ(styled(-0.2155, exact), "-$0.2155");
+  EXPECT_EQ(styled(17, {"", "", 0, true, true}), "17");
+  EXPECT_EQ(styled(1e20, {"", "", 0, false, true}), "100000000000000000000");
+  EXPECT_EQ(styled(0.2155, {"$", "", 2, true}), "$0.22");
+}
+
 }  // namespace
 }  // namespace verdalis
