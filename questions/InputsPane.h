@@ -1,5 +1,7 @@
 #pragma once
 
+#include <memory>
+
 #include "explore/inputs.h"
 #include "questions/QuestionPane.h"
 
@@ -17,7 +19,8 @@ class InputsPane : public QuestionPane {
   [[nodiscard]] Work question(const Farm& farm) override;
 
  private:
-  void show(const InputsResult& result, double percent);
+  void show(const std::shared_ptr<const Farm>& farm, const std::shared_ptr<const InputsResult>& found,
+            double percent);
 };
 
 }  // namespace verdalis

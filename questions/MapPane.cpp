@@ -1,12 +1,11 @@
 #include "questions/MapPane.h"
 
 #include <algorithm>
-#include <limits>
 #include <utility>
 
 #include "explore/inputs.h"
 #include "questions/inputTexts.h"
-#include "questions/mapChart.h"
+#include "questions/mapAnswer.h"
 #include "questions/planText.h"
 #include "text/numbers.h"
 
@@ -17,31 +16,6 @@ constexpr const char* usualPoints = "41";
 
 std::string percentText(std::size_t part, std::size_t whole) {
   return formatNumber(100 * static_cast<double>(part) / static_cast<double>(whole), "0.0") + " %";
-}
-
-/// The part of a map that a mix has.
-struct Share {
-  std::size_t points = 0;
-  double least = std::numeric_limits<double>::infinity();  ///< Net return, dollars
-  double most = -std::numeric_limits<double>::infinity();
-};
-
-std::vector<Share> sharesOf(const InputMap& map) {
-  std::vector<Share> shares(map.mixes.size());
-  for (std::size_t point = 0; point < map.mix.size(); ++point) {
-    Share& share = shares[map.mix[point]];
-    ++share.points;
-    share.least = std::min(share.least, map.profit[point]);
-    share.most = std::max(share.most, map.profit[point]);
-  }
-  return shares;
-}
-
-MapChart chartOf(const Farm& farm, const InputMap& map) {
-  MapChart chart = mapChart(farm, map);
-  chart.now = ChartLine::Point{valueOf(farm, map.x.input), valueOf(farm, map.y.input), {}};
-  chart.picks = true;
-  return chart;
 }
 
 /// All points, for a spreadsheet.
@@ -61,10 +35,7 @@ std::vector<std::vector<std::string>> pointsOf(const InputMap& map) {
 }  // namespace
 
 MapPane::MapPane(Frame& window, Services& services, FarmToExplore farm)
-    : QuestionPane(window, "pneMap", "Map",
-                   "What is grown, and for how much, over the values of two inputs. Each cell is the best of "
-                   "all plans for its values.",
-                   services, std::move(farm)) {
+    : QuestionPane(window, "pneMap", "Map", aboutMap, services, std::move(farm)) {
   for (Axis* axis : {&x, &y}) {
     axis->cboInput.onClick.connect([axis] { axis->picked = true; });
     watch(axis->cboInput);
@@ -132,34 +103,26 @@ QuestionPane::Work MapPane::question(const Farm& farm) {
   return [this, own, across, upwards](ProgramState& state, RunHooks& hooks) -> Show {
     auto map = exploreMap(*own, across, upwards, state, hooks);
     if (!map) return nullptr;
-    return [this, own, map = std::move(*map)] { show(*own, map); };
+    return [this, own, found = std::make_shared<const InputMap>(std::move(*map))] { show(own, found); };
   };
 }
 
-void MapPane::show(const Farm& farm, const InputMap& map) {
-  const std::vector<Share> shares = sharesOf(map);
+void MapPane::show(const std::shared_ptr<const Farm>& farm, const std::shared_ptr<const InputMap>& found) {
+  const InputMap& map = *found;
+  const std::vector<MixShare> shares = sharesOf(map);
   std::vector<Row> rows;
   for (std::size_t mix = 0; mix < map.mixes.size(); ++mix) {
-    const Share& share = shares[mix];
+    const MixShare& share = shares[mix];
     rows.push_back({{mixText(map.mixes[mix]), percentText(share.points, map.mix.size()),
                      dollarsText(share.least), dollarsText(share.most)},
                     {static_cast<double>(mix), static_cast<double>(share.points), share.least, share.most},
                     false});
   }
-  const auto [least, most] = std::minmax_element(map.profit.begin(), map.profit.end());
-  const std::string summary = std::to_string(map.mixes.size()) +
-                              (map.mixes.size() == 1 ? " mix is" : " mixes are") + " the best somewhere.";
-  showAnswer({"What is grown", summary, chartOf(farm, map), {}},
-             {{"Mix", Table::Align::left}, {"Share"}, {"Least"}, {"Most"}}, std::move(rows));
+  showAnswer(mapAnswer(*farm, map), {{"Mix", Table::Align::left}, {"Share"}, {"Least"}, {"Most"}},
+             std::move(rows), [farm, found](auto most) { return mapSection(*farm, *found, most); });
   Chart drawn = *chart.chart();
   drawn.table = pointsOf(map);
   chart.setChart(std::move(drawn));
-  showFigures(summary,
-              {{"Points", formatNumber(static_cast<double>(map.mix.size()), "###,##0")},
-               {"Least net return", dollarsText(*least)},
-               {"Most net return", dollarsText(*most)}},
-              "Water counts in whole acre-inches over the farm, and rain in whole inches, so a small farm "
-              "shows steps.");
 }
 
 std::string MapPane::copyText() const {

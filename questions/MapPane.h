@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -40,7 +41,7 @@ class MapPane : public QuestionPane {
  private:
   void prepareAxis(Axis& axis, const Farm& farm, std::size_t preferred);
   [[nodiscard]] static MapAxis readAxis(const Axis& axis, const std::string& name, const Farm& farm);
-  void show(const Farm& farm, const InputMap& map);
+  void show(const std::shared_ptr<const Farm>& farm, const std::shared_ptr<const InputMap>& found);
 };
 
 }  // namespace verdalis

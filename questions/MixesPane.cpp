@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "explore/mixes.h"
-#include "questions/inputTexts.h"
+#include "questions/mixesAnswer.h"
 #include "questions/planText.h"
 #include "questions/values.h"
 
@@ -22,22 +22,10 @@ std::int16_t mixCountOf(const std::string& text) {
   return static_cast<std::int16_t>(count);
 }
 
-BarChart chartOf(const std::vector<Plan>& plans) {
-  BarChart chart{returnAxis(), {}, {}};
-  for (std::size_t i = 0; i < plans.size(); ++i) {
-    chart.bars.push_back({mixText(mixOf(plans[i])), 0, plans[i].profit, "", dollarsText(plans[i].profit),
-                          i == 0 ? BarChart::Bar::Kind::total : BarChart::Bar::Kind::plain, i});
-  }
-  return chart;
-}
-
 }  // namespace
 
 MixesPane::MixesPane(Frame& window, Services& services, FarmToExplore farm)
-    : QuestionPane(window, "pneMixes", "Mixes",
-                   "The best plan of each mix: what is grown on how many acres, whatever field it stands on "
-                   "and however the water is given.",
-                   services, std::move(farm)) {
+    : QuestionPane(window, "pneMixes", "Mixes", aboutMixes, services, std::move(farm)) {
   watch(txtMixes);
 }
 
@@ -51,11 +39,15 @@ QuestionPane::Work MixesPane::question(const Farm& farm) {
   return [this, own, count](ProgramState& state, RunHooks& hooks) -> Show {
     auto plans = exploreMixes(*own, count, state, hooks);
     if (!plans) return nullptr;
-    return [this, plans = std::move(*plans)] { show(plans); };
+    return [this, own, found = std::make_shared<const std::vector<Plan>>(std::move(*plans))] {
+      show(own, found);
+    };
   };
 }
 
-void MixesPane::show(const std::vector<Plan>& plans) {
+void MixesPane::show(const std::shared_ptr<const Farm>& farm,
+                     const std::shared_ptr<const std::vector<Plan>>& found) {
+  const std::vector<Plan>& plans = *found;
   const double best = plans.front().profit;
   std::vector<Row> rows;
   for (std::size_t i = 0; i < plans.size(); ++i) {
@@ -65,21 +57,13 @@ void MixesPane::show(const std::vector<Plan>& plans) {
                     {static_cast<double>(i + 1)},
                     i == 0});
   }
-  const std::string name = mixText(mixOf(plans.front()));
-  const std::string summary = "The best mix is " + name + ".";
-  showAnswer({"Best net return of each mix", summary, chartOf(plans), {}},
+  showAnswer(mixesAnswer(*farm, plans),
              {{"#"},
               {"Mix", Table::Align::left},
               {"Net return", Table::Align::right, false},
               {"Behind", Table::Align::right, false},
               {"Fields and gross inches", Table::Align::left, false}},
-             std::move(rows));
-  std::vector<FigureText> texts{{"Best net return", dollarsText(best)}};
-  if (plans.size() > 1) {
-    texts.push_back({"The second mix is behind by", dollarsText(best - plans[1].profit)});
-    texts.push_back({"The last one by", dollarsText(best - plans.back().profit)});
-  }
-  showFigures(std::to_string(plans.size()) + (plans.size() == 1 ? " mix" : " mixes"), texts, summary);
+             std::move(rows), [farm, found](auto most) { return mixesSection(*farm, *found, most); });
 }
 
 }  // namespace verdalis

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <vector>
 
 #include "explore/bestPlan.h"
@@ -19,7 +20,7 @@ class MixesPane : public QuestionPane {
   [[nodiscard]] Work question(const Farm& farm) override;
 
  private:
-  void show(const std::vector<Plan>& plans);
+  void show(const std::shared_ptr<const Farm>& farm, const std::shared_ptr<const std::vector<Plan>>& found);
 };
 
 }  // namespace verdalis

@@ -161,6 +161,7 @@ void QuestionPane::clearAnswer() {
   chart.setChart({});
   table.setContents({}, {});
   showFigures({}, {});
+  section_ = nullptr;
   cmdCopy.setEnabled(false);
 }
 
@@ -217,7 +218,7 @@ void QuestionPane::refuse(const std::string& name, const std::string& what) {
   throw std::invalid_argument(name + ": " + what + (ends ? "" : "."));
 }
 
-void QuestionPane::showFigures(const std::string& heading, const std::vector<FigureText>& texts,
+void QuestionPane::showFigures(const std::string& heading, const std::vector<AnswerFigure>& texts,
                                const std::string& note) {
   lblFigures.setCaption(heading);
   for (std::size_t i = 0; i < figures.size(); ++i) {
@@ -245,10 +246,12 @@ void QuestionPane::showRows(std::vector<Table::Column> columns, std::vector<Row>
   table.setContents(std::move(columns), std::move(contents));
 }
 
-void QuestionPane::showAnswer(Chart drawn, const std::vector<Table::Column>& columns, std::vector<Row> rows) {
+void QuestionPane::showAnswer(Answer answer, const std::vector<Table::Column>& columns, std::vector<Row> rows,
+                              MakeSection section) {
   std::vector<std::string> headings;
   for (const Table::Column& column : columns)
     headings.push_back(column.heading);
+  Chart& drawn = answer.chart;
   drawn.table.push_back(std::move(headings));
   for (const Row& row : rows)
     drawn.table.push_back(row.cells);
@@ -259,6 +262,12 @@ void QuestionPane::showAnswer(Chart drawn, const std::vector<Table::Column>& col
     bars->x.title.clear();
   chart.setChart(std::move(drawn));
   showRows(columns, std::move(rows));
+  showFigures(answer.heading, answer.figures, answer.note);
+  section_ = std::move(section);
+}
+
+HandoutSection QuestionPane::section(std::optional<std::size_t> rows) const {
+  return section_ ? section_(rows) : HandoutSection();
 }
 
 }  // namespace verdalis

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -18,6 +19,8 @@
 #include "engine/Farm.h"
 #include "engine/ProgramState.h"
 #include "engine/RunHooks.h"
+#include "handout/Handout.h"
+#include "questions/Answer.h"
 
 namespace verdalis {
 
@@ -63,6 +66,14 @@ class QuestionPane : public Frame {
 
   /// Asks again with the present farm.
   void ask();
+
+  /// Whether there is an answer.
+  [[nodiscard]] bool hasAnswer() const { return section_ != nullptr; }
+
+  /// The answer for a report or a workbook; empty if there is none.
+  /// \param rows the most rows of a table; nothing for all
+  /// \throws RunTimeError (overflow) for a number that cannot be shown
+  [[nodiscard]] HandoutSection section(std::optional<std::size_t> rows = std::nullopt) const;
 
   /// The farm has changed, or is again as it was when the question was asked.
   void setOutdated(bool outdated);
@@ -130,28 +141,27 @@ class QuestionPane : public Frame {
     }
   }
 
-  struct FigureText {
-    std::string what;
-    std::string amount;
-  };
-  void showFigures(const std::string& heading, const std::vector<FigureText>& texts,
-                   const std::string& note = {});
-
-  /// Shows rows of texts in the table. Columns of numbers sort by `numbers`, if there are any.
+  /// A row of texts. Columns of numbers sort by `numbers`, if there are any.
   struct Row {
     std::vector<std::string> cells;
     std::vector<double> numbers;  ///< By column; may be shorter than `cells`
     bool strong = false;
   };
-  void showRows(std::vector<Table::Column> columns, std::vector<Row> rows);
 
-  /// Shows a chart together with the rows that it is drawn from.
-  void showAnswer(Chart drawn, const std::vector<Table::Column>& columns, std::vector<Row> rows);
+  /// Makes the section of an answer; see section().
+  using MakeSection = std::function<HandoutSection(std::optional<std::size_t> rows)>;
+
+  /// Shows an answer together with the rows that its chart is drawn from.
+  void showAnswer(Answer answer, const std::vector<Table::Column>& columns, std::vector<Row> rows,
+                  MakeSection section);
 
   /// The text that cmdCopy copies.
   [[nodiscard]] virtual std::string copyText() const { return table.tabSeparated(); }
 
  private:
+  void showFigures(const std::string& heading, const std::vector<AnswerFigure>& texts,
+                   const std::string& note = {});
+  void showRows(std::vector<Table::Column> columns, std::vector<Row> rows);
   [[noreturn]] static void refuse(const std::string& name, const std::string& what);
   void clearAnswer();
   void start(Work work);
@@ -169,6 +179,7 @@ class QuestionPane : public Frame {
   std::shared_ptr<QuestionJob> job_;
   std::vector<Offered> offered_;
   bool filling_ = false;
+  MakeSection section_;  ///< Of the answer on show; none without one
 };
 
 /// Rows of texts for a spreadsheet: tabs between columns, a line for each row.

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "questions/inputTexts.h"
 #include "questions/planText.h"
+#include "questions/seasonsAnswer.h"
 #include "questions/values.h"
 
 namespace verdalis {
@@ -12,45 +12,11 @@ namespace {
 
 constexpr double safestRank = 0;
 
-ChartLine lineOf(const std::string& name, const std::vector<Season>& seasons,
-                 const std::vector<double>& profits) {
-  ChartLine line{name, {}, true, true};
-  for (std::size_t i = 0; i < seasons.size(); ++i)
-    line.points.push_back({seasons[i].rain, profits[i], {}});
-  std::stable_sort(line.points.begin(), line.points.end(),
-                   [](const ChartLine::Point& a, const ChartLine::Point& b) { return a.x < b.x; });
-  return line;
-}
-
-LineChart chartOf(const Farm& farm, const SeasonsResult& result) {
-  const FarmInput rain{FarmInput::Kind::rain, {}};
-  LineChart chart{{"rain of the season, inches", inputStyle(rain)},
-                  {"Net return of the farm", returnAxis().style},
-                  {},
-                  {},
-                  {},
-                  {}};
-  std::vector<Season> seasons;
-  std::vector<double> own;
-  for (const SeasonBest& season : result.seasons) {
-    seasons.push_back(season.season);
-    own.push_back(season.best.profit);
-  }
-  chart.lines.push_back(lineOf("Best of each season", seasons, own));
-  chart.lines.push_back(lineOf("Best average", seasons, result.options.front().profits));
-  chart.lines.push_back(lineOf("Safest", seasons, result.safest.profits));
-  chart.markers.push_back({ChartMarker::Kind::now, farm.rain, "now " + valueText(farm.rain) + " in"});
-  return chart;
-}
-
 }  // namespace
 
 SeasonsPane::SeasonsPane(Frame& window, Services& services, FarmToExplore farm,
                          std::function<std::vector<Season>()> farmSeasons)
-    : QuestionPane(window, "pneSeasons", "Seasons",
-                   "What if it stays dry? Plans are chosen before the season is known; their net returns "
-                   "differ by season.",
-                   services, std::move(farm)),
+    : QuestionPane(window, "pneSeasons", "Seasons", aboutSeasons, services, std::move(farm)),
       farmSeasons_(std::move(farmSeasons)) {
   for (std::size_t i = 0; i < mostSeasons; ++i) {
     lines.push_back(std::make_unique<Line>(*this, i));
@@ -135,11 +101,14 @@ QuestionPane::Work SeasonsPane::question(const Farm& farm) {
   return [this, own, seasons = seasons()](ProgramState& state, RunHooks& hooks) -> Show {
     auto result = exploreSeasons(*own, seasons, state, hooks);
     if (!result) return nullptr;
-    return [this, own, result = std::move(*result)] { show(*own, result); };
+    return
+        [this, own, found = std::make_shared<const SeasonsResult>(std::move(*result))] { show(own, found); };
   };
 }
 
-void SeasonsPane::show(const Farm& farm, const SeasonsResult& result) {
+void SeasonsPane::show(const std::shared_ptr<const Farm>& farm,
+                       const std::shared_ptr<const SeasonsResult>& found) {
+  const SeasonsResult& result = *found;
   std::vector<Table::Column> columns{{"Plan", Table::Align::left}, {"Average"}, {"Worst"}, {"Regret"}};
   for (const SeasonBest& season : result.seasons)
     columns.push_back({printable(season.season.name)});
@@ -159,18 +128,8 @@ void SeasonsPane::show(const Farm& farm, const SeasonsResult& result) {
   add("Safest", safestRank, result.safest, true);
   for (std::size_t i = 0; i < result.options.size(); ++i)
     add(std::to_string(i + 1), static_cast<double>(i + 1), result.options[i], false);
-  const SeasonPlan& best = result.options.front();
-  const std::string summary = "The best average is " + dollarsText(best.average) + "; the safest plan has " +
-                              dollarsText(result.safest.average) + ".";
-  showAnswer({"Net return of the farm by season", summary, chartOf(farm, result), {}}, columns,
-             std::move(rows));
-  showFigures("Before the season is known",
-              {{"Best average", dollarsText(best.average)},
-               {"Its worst season", dollarsText(best.worst)},
-               {"The safest plan, average", dollarsText(result.safest.average)},
-               {"The safest, worst season", dollarsText(result.safest.worst)}},
-              "Regret is the most that a plan falls behind the best plan of a season; the safest plan has "
-              "the least of all plans.");
+  showAnswer(seasonsAnswer(*farm, *found), columns, std::move(rows),
+             [farm, found](auto most) { return seasonsSection(*farm, *found, most); });
 }
 
 }  // namespace verdalis

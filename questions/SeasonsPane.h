@@ -41,7 +41,7 @@ class SeasonsPane : public QuestionPane {
   void setCount(std::size_t count);
   void addSeason();
   [[nodiscard]] std::vector<Season> seasons() const;
-  void show(const Farm& farm, const SeasonsResult& result);
+  void show(const std::shared_ptr<const Farm>& farm, const std::shared_ptr<const SeasonsResult>& found);
 
   std::function<std::vector<Season>()> farmSeasons_;
   std::size_t count_ = 0;

@@ -7,6 +7,7 @@
 #include "explore/inputs.h"
 #include "questions/inputTexts.h"
 #include "questions/planText.h"
+#include "questions/switchAnswer.h"
 #include "questions/values.h"
 
 namespace verdalis {
@@ -31,30 +32,10 @@ std::string unitOf(const FarmInput& input, const Farm& farm) {
   return found == farm.crops.end() ? std::string() : (*found)->priceUnits();
 }
 
-LineChart chartOf(const Farm& farm, const SwitchAnswer& answer, const SwitchTexts& texts) {
-  LineChart chart{inputAxis(answer.input, farm), returnAxis(), {}, {}, cropNames(farm), ChartStrip()};
-  ChartLine line;
-  for (std::size_t i = 0; i < answer.segments.size(); ++i) {
-    const SwitchSegment& segment = answer.segments[i];
-    line.points.push_back({segment.from, segment.profitFrom, i});
-    if (i > 0) chart.markers.push_back({ChartMarker::Kind::change, segment.from, ""});
-    chart.strip->boxes.push_back({segment.from, segment.to, categoriesOf(segment.fields, chart.categories)});
-  }
-  const std::size_t last = answer.segments.size() - 1;
-  line.points.push_back({answer.segments[last].to, answer.segments[last].profitTo, last});
-  chart.lines.push_back(std::move(line));
-  if (answer.now >= answer.segments.front().from && answer.now <= answer.segments.back().to)
-    chart.markers.push_back({ChartMarker::Kind::now, answer.now, "now " + texts.now});
-  return chart;
-}
-
 }  // namespace
 
 SwitchPane::SwitchPane(Frame& window, Services& services, FarmToExplore farm)
-    : QuestionPane(window, "pneSwitch", "Switch Prices",
-                   "At which price another plan becomes the best. The corners are found exactly, not by "
-                   "trying values.",
-                   services, std::move(farm)) {
+    : QuestionPane(window, "pneSwitch", "Switch Prices", aboutSwitch, services, std::move(farm)) {
   cboInput.onClick.connect([this] { picked_ = true; });
   watch(cboInput);
   watch(txtFrom);
@@ -94,30 +75,25 @@ QuestionPane::Work SwitchPane::question(const Farm& farm) {
   return [this, own, input = *input, from, to](ProgramState& state, RunHooks& hooks) -> Show {
     auto segments = switchPrices(*own, input, from, to, state, hooks);
     if (!segments) return nullptr;
-    const SwitchAnswer answer{input, unitOf(input, *own), valueOf(*own, input), std::move(*segments)};
-    return [this, own, answer] { show(*own, answer); };
+    const auto found = std::make_shared<const SwitchAnswer>(
+        SwitchAnswer{input, unitOf(input, *own), valueOf(*own, input), std::move(*segments)});
+    return [this, own, found] { show(own, found); };
   };
 }
 
-void SwitchPane::show(const Farm& farm, const SwitchAnswer& answer) {
-  const SwitchTexts texts = switchTexts(answer);
+void SwitchPane::show(const std::shared_ptr<const Farm>& farm,
+                      const std::shared_ptr<const SwitchAnswer>& found) {
+  const SwitchTexts texts = switchTexts(*found);
   std::vector<Row> rows;
-  std::vector<FigureText> figureTexts{{inputLabel(answer.input) + " now", texts.now}};
-  for (std::size_t i = 0; i < answer.segments.size(); ++i) {
+  for (std::size_t i = 0; i < found->segments.size(); ++i) {
     const SwitchTexts::Segment& text = texts.segments[i];
+    const SwitchSegment& segment = found->segments[i];
     rows.push_back({{text.from, text.to, text.profit, text.plan},
-                    {answer.segments[i].from, answer.segments[i].to, answer.segments[i].profitFrom},
+                    {segment.from, segment.to, segment.profitFrom},
                     text.isNow});
-    if (!text.isNow) continue;
-    if (i > 0) figureTexts.push_back({"Another plan is the best below", text.from});
-    if (i + 1 < texts.segments.size()) figureTexts.push_back({"Another plan is the best from", text.to});
   }
-  const std::size_t plans = answer.segments.size();
-  const std::string summary = plans == 1 ? "The same plan is the best everywhere in this range."
-                                         : std::to_string(plans) + " plans are the best in this range.";
-  showAnswer({"Best net return of the farm", summary, chartOf(farm, answer, texts), {}},
-             {{"From"}, {"To"}, {"Net return"}, {"Plan", Table::Align::left}}, std::move(rows));
-  showFigures(summary, figureTexts, texts.heading);
+  showAnswer(switchAnswer(*farm, *found), {{"From"}, {"To"}, {"Net return"}, {"Plan", Table::Align::left}},
+             std::move(rows), [farm, found](auto most) { return switchSection(*farm, *found, most); });
 }
 
 }  // namespace verdalis

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <memory>
+
 #include "questions/InputChoice.h"
 #include "questions/QuestionPane.h"
 #include "questions/switchTexts.h"
@@ -21,7 +23,7 @@ class SwitchPane : public QuestionPane {
   [[nodiscard]] Work question(const Farm& farm) override;
 
  private:
-  void show(const Farm& farm, const SwitchAnswer& answer);
+  void show(const std::shared_ptr<const Farm>& farm, const std::shared_ptr<const SwitchAnswer>& found);
 
   InputChoice input_{cboInput};
   bool picked_ = false;  ///< Another input has been chosen, and the range is to be its own

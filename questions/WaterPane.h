@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -23,7 +24,7 @@ class WaterPane : public QuestionPane {
 
  private:
   [[nodiscard]] std::vector<double> amounts(const Farm& farm) const;
-  void show(const Farm& farm, const WaterResult& result);
+  void show(const std::shared_ptr<const Farm>& farm, const std::shared_ptr<const WaterResult>& result);
 };
 
 }  // namespace verdalis

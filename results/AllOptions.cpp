@@ -369,6 +369,18 @@ void AllOptions::tell() {
   lblOptionsNote.setCaption(text);
 }
 
+ListedOptions AllOptions::listed() const {
+  return {options_, numbers_, efficiency_, run_.trend};
+}
+
+HandoutSection AllOptions::section(std::optional<std::size_t> rows) const {
+  return optionsSection(listed(), rows);
+}
+
+HandoutSection AllOptions::fieldsSection() const {
+  return optionFieldsSection(listed());
+}
+
 void AllOptions::copy() {
   services_.clipboard.setText(tblOptions.tabSeparated());
 }

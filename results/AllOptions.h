@@ -13,8 +13,10 @@
 #include "controls/inputs.h"
 #include "controls/services.h"
 #include "engine/Farm.h"
+#include "handout/Handout.h"
 #include "results/MixSearch.h"
 #include "results/OptionRows.h"
+#include "results/optionsSection.h"
 
 namespace verdalis {
 
@@ -55,6 +57,13 @@ class AllOptions : public Frame {
   /// The page is left: what is still being searched for is not wanted any more.
   void leave();
 
+  /// The options of the table for a report or a workbook: all of them, whatever the table shows, best first.
+  /// \param rows the most rows; nothing for all
+  [[nodiscard]] HandoutSection section(std::optional<std::size_t> rows = std::nullopt) const;
+
+  /// Each field of each of them.
+  [[nodiscard]] HandoutSection fieldsSection() const;
+
   /// The user has chosen an option, by its number.
   Event<std::int16_t> onShowOption;
 
@@ -77,6 +86,7 @@ class AllOptions : public Frame {
   [[nodiscard]] std::optional<double> trendValue(std::size_t record, std::size_t variable) const;
   [[nodiscard]] double percent() const;
   [[nodiscard]] std::optional<std::string> wantedCrop() const;
+  [[nodiscard]] ListedOptions listed() const;
 
   Services& services_;
   std::vector<Option> kept_;          ///< The options of the run

@@ -10,6 +10,7 @@
 #include "model/checked.h"
 #include "results/OptionRows.h"
 #include "results/figures.h"
+#include "results/summarySection.h"
 #include "text/RunTimeError.h"
 #include "text/encoding.h"
 #include "text/numbers.h"
@@ -156,6 +157,10 @@ std::optional<std::size_t> SummaryPane::optionAt(int column) const {
 
 std::string SummaryPane::describe(std::size_t option) const {
   return "Saved Option #" + std::to_string(option + 1) + ": " + cropsWithAcres(*summaryResults_[option]);
+}
+
+HandoutSection SummaryPane::section(std::optional<std::size_t> rows) const {
+  return summarySection(summaryResults_, Val(outside_.annualRain()), rows);
 }
 
 /// The option that a click on the current column removes. Each option counts one column more than it has

@@ -14,6 +14,7 @@
 #include "controls/Grid.h"
 #include "controls/displays.h"
 #include "controls/services.h"
+#include "handout/Handout.h"
 #include "model/Field.h"
 #include "model/FieldCollection.h"
 
@@ -66,6 +67,10 @@ class SummaryPane : public Frame {
 
   /// An option in words, such as "Saved Option #2: Corn 94, Wheat 31".
   [[nodiscard]] std::string describe(std::size_t option) const;
+
+  /// The saved options for a report or a workbook.
+  /// \param rows the most rows; nothing for all
+  [[nodiscard]] HandoutSection section(std::optional<std::size_t> rows = std::nullopt) const;
 
   /// The option that the pane asks about; nothing while it does not ask.
   [[nodiscard]] std::optional<std::size_t> asksAbout() const { return asksAbout_; }

@@ -7,6 +7,7 @@
 #include <optional>
 #include <utility>
 
+#include "model/EfficiencyFraction.h"
 #include "model/listIndex.h"
 #include "results/passOver.h"
 #include "text/numbers.h"
@@ -61,6 +62,7 @@ void BatchResults::LoadBatchResults(long step) {
 void BatchResults::showOutcome(const TrendOutcome& outcome, const BatchProcess& process) {
   setArray(outcome.values);
   setBatchCollection(outcome.rankings, process);
+  takeOutcome(outcome);
   takeCharts(outcome);
   if (!batches_.empty()) showStep(1, [&] { return outcome.shown; });
 }
@@ -84,6 +86,23 @@ void BatchResults::takeCharts(const TrendOutcome& outcome) {
   });
   chtTrend.setVisible(chart.has_value());
   chtTrend.setChart(std::move(chart));
+}
+
+void BatchResults::takeOutcome(const TrendOutcome& outcome) {
+  outcome_ = outcome;
+  efficiency_ = EfficiencyFraction;
+  input_ = {variableCrop_ + " " + variableName_, {}};
+  passOver([&] { input_.units = GetVariableUnits(host_, bp.VariableIndex, bp.cropIndex); });
+}
+
+HandoutSection BatchResults::section(std::optional<std::size_t> rows) const {
+  if (outcome_.grid.dimensions() > 0) return fixedTrendSection(outcome_.grid, efficiency_, rows);
+  return variableTrendSection(stepsOf(outcome_), input_, rows);
+}
+
+HandoutSection BatchResults::fieldsSection() const {
+  if (outcome_.grid.dimensions() > 0) return fixedTrendFieldsSection(outcome_.grid, efficiency_);
+  return variableTrendFieldsSection(stepsOf(outcome_), input_);
 }
 
 void BatchResults::drawSteps() {

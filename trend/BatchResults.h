@@ -1,7 +1,9 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <functional>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -10,12 +12,14 @@
 #include "controls/displays.h"
 #include "controls/services.h"
 #include "engine/ProgramState.h"
+#include "handout/Handout.h"
 #include "results/Results.h"
 #include "trend/BatchProcess.h"
 #include "trend/TrendHost.h"
 #include "trend/TrendState.h"
 #include "trend/runTrend.h"
 #include "trend/trendCharts.h"
+#include "trend/trendSection.h"
 
 namespace verdalis {
 
@@ -59,12 +63,20 @@ class BatchResults : public Frame {
   /// The shown step, from 1; 0 before the first.
   [[nodiscard]] long currentStep() const { return step_; }
 
+  /// The trend for a report or a workbook: a row for each step, with the chart.
+  /// \param rows the most rows; nothing for all
+  [[nodiscard]] HandoutSection section(std::optional<std::size_t> rows = std::nullopt) const;
+
+  /// Each field of each option of the trend.
+  [[nodiscard]] HandoutSection fieldsSection() const;
+
   /// Asks for a file and exports the outcome of a variable or a fixed trend for spreadsheets.
   void exportVariable();
   void exportFixed();
 
  private:
   void takeCharts(const TrendOutcome& outcome);
+  void takeOutcome(const TrendOutcome& outcome);
   void drawSteps();
   void showPicked(std::size_t index);
   void showOptionOf(const Results::Option& picked);
@@ -87,6 +99,11 @@ class BatchResults : public Frame {
   std::vector<TrendBest> bests_;
   TrendOptionArray grid_;
   std::vector<std::pair<std::size_t, std::size_t>> gridPicks_;
+
+  // What section() tells.
+  TrendOutcome outcome_;
+  TrendedInput input_;     ///< Of a variable trend
+  double efficiency_ = 0;  ///< Of a fixed trend, as a fraction
 };
 
 /// The pane of the trend results.
