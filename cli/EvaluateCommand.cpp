@@ -12,6 +12,8 @@
 #include "cli/relaxation.h"
 #include "cli/textOptions.h"
 #include "explore/bestPlan.h"
+#include "results/detailsSection.h"
+#include "results/optionsSection.h"
 
 namespace verdalis {
 namespace {
@@ -24,13 +26,28 @@ std::optional<FieldPlace> placeToExplain(const EvaluateRequest& request) {
   return readFieldPlace(*request.explain);
 }
 
+/// Adds the options of a run to the report of the whole farm, and ends it.
+void finishReport(FullReport& report, const std::vector<Results::Option>& options,
+                  const EvaluationResult& result) {
+  if (!report.wanted()) return;
+  const ListedOptions listed = ListedOptions::inOrder(options, result.efficiency);
+  HandoutSection best = optionsSection(listed, FullReport::mostRows);
+  best.title = result.mixes ? "Best option of each mix" : "Best options";
+  report.add(std::move(best));
+  if (!listed.options.empty())
+    report.add(detailsSection("The best option in detail", *listed.options.front(), result.efficiency));
+  report.finish();
+}
+
 /// Evaluates the farm of the request.
 /// \throws Cancelled after a Ctrl+C at any time
-EvaluationResult runFarm(const EvaluateRequest& request, Reports& reports, Messages& messages) {
+EvaluationResult runFarm(const EvaluateRequest& request, Reports& reports, FullReport& fullReport,
+                         Messages& messages) {
   const std::optional<FieldPlace> place = placeToExplain(request);
   const Interrupt interrupt;
   const std::unique_ptr<TypedFarm> farm = makeFarm(request.farm, messages);
   requireReady(request.farm, *farm);
+  if (fullReport.wanted()) fullReport.begin(farm->document(), farm->library());
 
   Progress progress(asTerminal(messages.stream()), farm->state());
   const double start = Progress::secondsNow();
@@ -46,6 +63,7 @@ EvaluationResult runFarm(const EvaluateRequest& request, Reports& reports, Messa
     return result;
   }
   reports.write(farm->printer(), *options);
+  finishReport(fullReport, *options, result);
   if (place) result.explanation = explain(*place, *options, result.efficiency);
   return result;
 }
@@ -61,6 +79,7 @@ const CLI::App& addEvaluateCommand(CLI::App& app, EvaluateRequest& request) {
       ->check(CLI::IsMember(optionsFormats()));
   addTextOption(command, "--output", "FILE", request.output, "Write to this file instead of standard output");
   addReportOptions(command, request.reports);
+  addFullReportOptions(command, request.fullReport);
   addTextOption(command, "--explain", "K.F", request.explain,
                 "Also show the steps from the gross irrigation to the net return of field F\nof option K, "
                 "both counted from 1; as table or json");
@@ -69,13 +88,17 @@ const CLI::App& addEvaluateCommand(CLI::App& app, EvaluateRequest& request) {
 
 void evaluate(const EvaluateRequest& request, std::ostream& out, Messages& messages) {
   Reports reports(request.reports);
-  const EvaluationResult result = runFarm(request, reports, messages);
+  FullReport fullReport(request.fullReport);
+  const EvaluationResult result = runFarm(request, reports, fullReport, messages);
   if (result.relax && request.format != "json") throw NoPlan(*result.relax);
   // The text is complete before its first byte is written, so a failure leaves no partial result.
   std::ostringstream text;
   text.exceptions(std::ios::badbit);  // out of memory
   optionsWriter(request.format)(text, result);
-  if (!result.relax) reports.deliver();
+  if (!result.relax) {
+    reports.deliver();
+    fullReport.deliver();
+  }
   deliver(std::move(text).str(), request.output, out);
   if (result.relax) throw NoPlan(*result.relax);
 }

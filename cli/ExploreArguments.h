@@ -6,9 +6,11 @@
 
 #include "cli/FarmOptions.h"
 #include "cli/Messages.h"
+#include "document/FarmDocument.h"
 #include "engine/Farm.h"
 #include "explore/FarmInput.h"
 #include "explore/seasons.h"
+#include "model/CropScenario.h"
 #include "questions/values.h"
 
 namespace verdalis {
@@ -17,6 +19,8 @@ namespace verdalis {
 struct ExploredFarm {
   Farm farm;
   std::vector<Season> seasons;  ///< Of its farm file
+  FarmDocument document;        ///< As it was entered
+  CropScenario library;
 };
 
 /// The farm of the request as numbers.

@@ -47,6 +47,7 @@ ExploreCommand::ExploreCommand(CLI::App& app)
         ->check(CLI::IsMember(optionsFormats()));
     addTextOption(command, "--output", "FILE", request_.output,
                   "Write to this file instead of standard output");
+    addFullReportOptions(command, request_.fullReport);
     questions_.push_back({std::move(question), &command});
   }
 }
@@ -58,6 +59,11 @@ void ExploreCommand::run(std::ostream& out, Messages& messages) {
 }
 
 void ExploreCommand::answer(ExploreQuestion& question, std::ostream& out, Messages& messages) {
+  FullReport report(request_.fullReport);
+  const auto tell = [&](const ExploreCall::MakeSection& section) {
+    report.add(section(FullReport::mostRows));
+    report.finish();
+  };
   // The text is complete before its first byte is written.
   std::ostringstream text;
   text.exceptions(std::ios::badbit);  // out of memory
@@ -65,18 +71,22 @@ void ExploreCommand::answer(ExploreQuestion& question, std::ostream& out, Messag
     const Interrupt interrupt;
     const ExploredFarm explored = exploredFarm(request_.farm, messages);
     const Farm& farm = explored.farm;
+    report.begin(explored.document, explored.library);
     ProgramState state;
     Progress progress(asTerminal(messages.stream()), state);
     if (request_.format == "table") writeWishes(text, farm);
     try {
       const bool onTerminal = !request_.output && isTerminal(out);
-      question.answer({farm, explored.seasons, request_.format, onTerminal, state, progress}, text);
+      ExploreCall call{farm, explored.seasons, request_.format, onTerminal, state, progress, {}};
+      if (report.wanted()) call.tell = tell;
+      question.answer(call, text);
     } catch (const NoPlan& noPlan) {
       if (request_.format == "json")
         deliver(noPlanJson(farm.wishes, noPlan.relaxations()), request_.output, out);
       throw;
     }
   }
+  report.deliver();
   deliver(std::move(text).str(), request_.output, out);
 }
 

@@ -11,6 +11,7 @@
 #include "cli/TextTable.h"
 #include "cli/textOptions.h"
 #include "explore/inputs.h"
+#include "questions/inputsAnswer.h"
 #include "questions/values.h"
 
 namespace verdalis {
@@ -98,6 +99,10 @@ class ExploreInputs : public ExploreQuestion {
     const std::optional<InputsResult> found =
         exploreInputs(call.farm, percent, boundsOf, call.state, call.hooks);
     const InputsResult result = answered(found);
+    if (call.tell) {
+      call.tell(
+          [&](std::optional<std::size_t> rows) { return inputsSection(call.farm, result, percent, rows); });
+    }
     if (call.format == "json") {
       writeJson(out, call.farm, result);
     } else if (call.format == "csv") {

@@ -10,6 +10,7 @@
 #include "cli/TextTable.h"
 #include "cli/textOptions.h"
 #include "explore/inputMap.h"
+#include "questions/mapAnswer.h"
 #include "text/numbers.h"
 #include "text/quote.h"
 
@@ -146,6 +147,9 @@ class ExploreMap : public ExploreQuestion {
     }
     const InputMap map = answered(exploreMap(call.farm, {x.input, x.range.values()},
                                              {y.input, y.range.values()}, call.state, call.hooks));
+    if (call.tell) {
+      call.tell([&](std::optional<std::size_t> rows) { return mapSection(call.farm, map, rows); });
+    }
     if (call.format == "json") {
       writeJson(out, call.farm, map);
     } else if (call.format == "csv") {

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <CLI/CLI.hpp>
+#include <cstddef>
+#include <functional>
 #include <iosfwd>
 #include <memory>
 #include <optional>
@@ -16,6 +18,7 @@
 #include "engine/ProgramState.h"
 #include "engine/RunHooks.h"
 #include "explore/seasons.h"
+#include "handout/Handout.h"
 
 namespace verdalis {
 
@@ -27,6 +30,12 @@ struct ExploreCall {
   bool onTerminal = false;             ///< The output is a terminal, so the answer may include a drawing
   ProgramState& state;                 ///< Requests a cancel
   RunHooks& hooks;                     ///< Receives the progress
+
+  /// Makes the answer a section of a report; see sectionOf().
+  using MakeSection = std::function<HandoutSection(std::optional<std::size_t> rows)>;
+
+  /// Receives the answer as a section; may be empty. What it is given must be used at once.
+  std::function<void(const MakeSection&)> tell = {};
 };
 
 /// A question of `explore`, such as "water", with its own options.

@@ -11,6 +11,7 @@
 #include "cli/TextTable.h"
 #include "cli/textOptions.h"
 #include "explore/seasons.h"
+#include "questions/seasonsAnswer.h"
 #include "questions/values.h"
 #include "text/quote.h"
 
@@ -167,6 +168,9 @@ class ExploreSeasons : public ExploreQuestion {
   void answer(const ExploreCall& call, std::ostream& out) override {
     const std::vector<Season> seasons = texts_.empty() ? seasonsOfFarm(call) : readSeasons(texts_);
     const SeasonsResult result = answered(exploreSeasons(call.farm, seasons, call.state, call.hooks));
+    if (call.tell) {
+      call.tell([&](std::optional<std::size_t> rows) { return seasonsSection(call.farm, result, rows); });
+    }
     if (call.format == "json") {
       writeJson(out, call.farm, result);
     } else if (call.format == "csv") {

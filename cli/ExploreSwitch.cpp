@@ -11,6 +11,7 @@
 #include "cli/JsonWriter.h"
 #include "cli/textOptions.h"
 #include "explore/switchPrices.h"
+#include "questions/switchAnswer.h"
 #include "text/numbers.h"
 #include "text/quote.h"
 
@@ -65,6 +66,9 @@ class ExploreSwitch : public ExploreQuestion {
     const auto [input, from, to] = range(call.farm);
     const SwitchAnswer result{input, unitOf(input, call.farm), valueOf(call.farm, input),
                               answered(switchPrices(call.farm, input, from, to, call.state, call.hooks))};
+    if (call.tell) {
+      call.tell([&](std::optional<std::size_t> rows) { return switchSection(call.farm, result, rows); });
+    }
     if (call.format == "json") {
       writeJson(out, call.farm, result);
     } else if (call.format == "csv") {

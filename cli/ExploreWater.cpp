@@ -12,6 +12,7 @@
 #include "cli/textOptions.h"
 #include "engine/MakingSplits.h"
 #include "explore/water.h"
+#include "questions/waterAnswer.h"
 #include "text/numbers.h"
 
 namespace verdalis {
@@ -122,6 +123,9 @@ class ExploreWater : public ExploreQuestion {
   void answer(const ExploreCall& call, std::ostream& out) override {
     const std::vector<double> asked = amounts(call.farm);
     const WaterResult result = answered(exploreWater(call.farm, asked, call.state, call.hooks));
+    if (call.tell) {
+      call.tell([&](std::optional<std::size_t> rows) { return waterSection(call.farm, result, rows); });
+    }
     if (call.format == "json") {
       writeJson(out, call.farm, result);
     } else if (call.format == "csv") {

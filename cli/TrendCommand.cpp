@@ -15,6 +15,8 @@
 #include "cli/textOptions.h"
 #include "explore/bestPlan.h"
 #include "model/EfficiencyFraction.h"
+#include "results/detailsSection.h"
+#include "results/optionsSection.h"
 #include "text/RunTimeError.h"
 #include "text/encoding.h"
 #include "text/quote.h"
@@ -22,6 +24,7 @@
 #include "trend/TrendVariables.h"
 #include "trend/VariableTrendExport.h"
 #include "trend/runTrend.h"
+#include "trend/trendSection.h"
 
 namespace verdalis {
 namespace {
@@ -112,8 +115,14 @@ void stopIfAsked() {
 /// A trend of one farm.
 class TrendRun {
  public:
-  TrendRun(const TrendArguments& request, TypedFarm& farm, RunHooks& progress, Messages& messages)
-      : request_(request), farm_(farm), inputs_(farm.trendHost()), progress_(progress), messages_(messages) {
+  TrendRun(const TrendArguments& request, TypedFarm& farm, RunHooks& progress, FullReport& report,
+           Messages& messages)
+      : request_(request),
+        farm_(farm),
+        inputs_(farm.trendHost()),
+        progress_(progress),
+        report_(report),
+        messages_(messages) {
     const std::string fallback = firstTickedCrop();
     processes_.push_back(makeTrendProcess(request.processes[0], "", farm, inputs_, fallback));
     if (request.processes[1].given())
@@ -134,6 +143,7 @@ class TrendRun {
     describeSteps(outcome, findings.result);
     requirePlan(std::all_of(findings.result.steps.begin(), findings.result.steps.end(),
                             [](const TrendStep& step) { return step.result.options.empty(); }));
+    if (report_.wanted()) reportVariable(outcome);
     if (request_.exportFile) {
       findings.page = makePage([&](std::string& page) {
         const TrendVariable& variable = trendVariable(processes_[0].process.VariableIndex);
@@ -160,8 +170,13 @@ class TrendRun {
       return std::find(crops.begin(), crops.end(), process.crop) == crops.end();
     });
     refuseTooLarge();
+    if (report_.wanted()) reportOptions(*options, number);
     const TrendOutcome outcome = run();
 
+    if (report_.wanted()) {
+      report_.add(fixedTrendSection(outcome.grid, EfficiencyFraction, FullReport::mostRows));
+      report_.finish();
+    }
     describeCombinations(outcome, findings.result);
     if (request_.exportFile) {
       findings.page = makePage([&](std::string& page) {
@@ -182,6 +197,21 @@ class TrendRun {
   void requirePlan(bool nothing) {
     if (!nothing || farm_.inputs().wishes.empty()) return;
     throw NoTrend(farm_.inputs().wishes, findRelaxations(farm_.farm(), farm_.state(), progress_));
+  }
+
+  void reportVariable(const TrendOutcome& outcome) {
+    const std::string variable = trendVariable(processes_[0].process.VariableIndex).label;
+    const std::string& crop = processes_[0].crop;
+    const TrendedInput input{crop.empty() ? variable : crop + " " + variable, units()};
+    report_.add(variableTrendSection(stepsOf(outcome), input, FullReport::mostRows));
+    report_.finish();
+  }
+
+  /// Adds the options and the one that the trend is about, before it gets other values.
+  void reportOptions(const std::vector<Results::Option>& options, std::size_t number) {
+    report_.add(optionsSection(ListedOptions::inOrder(options, EfficiencyFraction), FullReport::mostRows));
+    report_.add(detailsSection("Option " + std::to_string(number) + " in detail", *trend_.option,
+                               EfficiencyFraction));
   }
 
   /// The crop of the first ticked row; empty if no row is ticked.
@@ -296,24 +326,28 @@ class TrendRun {
   TypedFarm& farm_;
   TrendHost& inputs_;
   RunHooks& progress_;
+  FullReport& report_;
   Messages& messages_;
   std::vector<TrendProcess> processes_;
   TrendRequest trend_;
 };
 
-Findings findTrend(const TrendArguments& request, std::size_t number, Reports& reports, Messages& messages) {
+Findings findTrend(const TrendArguments& request, std::size_t number, Reports& reports,
+                   FullReport& fullReport, Messages& messages) {
   const std::unique_ptr<TypedFarm> typed = makeFarm(request.farm, messages);
   requireReady(request.farm, *typed);
+  if (fullReport.wanted()) fullReport.begin(typed->document(), typed->library());
   Progress progress(asTerminal(messages.stream()), typed->state());
-  TrendRun run(request, *typed, progress, messages);
+  TrendRun run(request, *typed, progress, fullReport, messages);
   return number == 0 ? run.runVariable() : run.runFixed(number, reports);
 }
 
 /// Creates the output of a trend.
 /// \throws Cancelled after a Ctrl+C at any time
-void makeOutcome(const TrendArguments& request, Reports& reports, Messages& messages, Outcome& outcome) {
+void makeOutcome(const TrendArguments& request, Reports& reports, FullReport& fullReport, Messages& messages,
+                 Outcome& outcome) {
   const Interrupt interrupt;
-  Findings findings = findTrend(request, optionNumber(request.option), reports, messages);
+  Findings findings = findTrend(request, optionNumber(request.option), reports, fullReport, messages);
   std::ostream text(&outcome.text);
   text.exceptions(std::ios::badbit);  // out of memory
   writeTrend(text, findings.result, request.format);
@@ -348,22 +382,25 @@ const CLI::App& addTrendCommand(CLI::App& app, TrendArguments& request) {
       ->check(CLI::IsMember(optionsFormats()));
   addTextOption(command, "--output", "FILE", request.output, "Write to this file instead of standard output");
   addReportOptions(command, request.reports);
+  addFullReportOptions(command, request.fullReport);
   return command;
 }
 
 void trend(const TrendArguments& request, std::ostream& out, Messages& messages) {
   requireKind(request);
   Reports reports(request.reports);
+  FullReport fullReport(request.fullReport);
   // The text is complete before its first byte is written.
   Outcome outcome;
   try {
-    makeOutcome(request, reports, messages, outcome);
+    makeOutcome(request, reports, fullReport, messages, outcome);
   } catch (const NoTrend& noTrend) {
     if (request.format == "json")
       deliver(noPlanJson(noTrend.wishes(), noTrend.relaxations()), request.output, out);
     throw;
   }
   reports.deliver();
+  fullReport.deliver();
   if (request.exportFile) deliverToFile(encodeForExport(outcome.page.text), *request.exportFile);
   deliverPieces(outcome.text, request.output, out);
   if (outcome.page.error) throw RunTimeError(*outcome.page.error);

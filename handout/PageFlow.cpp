@@ -95,7 +95,8 @@ void PageFlow::addHead() {
     top_ += lineOf(smallFont);
   };
   line(handout_.title, smallBold, handout_.date);
-  line(handout_.farm, smallFont, handout_.letterhead);
+  if (!handout_.farm.empty() || !handout_.letterhead.empty())
+    line(handout_.farm, smallFont, handout_.letterhead);
   top_ += 6;
   addRule(0, width(), top_, thin, {Ink::axis});
   top_ += belowHead;

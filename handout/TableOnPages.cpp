@@ -16,6 +16,10 @@ constexpr double betweenGroups = 14;
 constexpr double highestRow = 0.4;
 constexpr std::size_t leastLines = 8;
 
+/// A table of at most this part of a page stands on one page.
+constexpr double highestWhole = 0.55;
+constexpr std::size_t mostRowsOfWhole = 60;
+
 const Paint strongRule{Ink::axis};
 const Paint fineRule{Ink::grid};
 
@@ -86,10 +90,17 @@ TableOnPages::Row TableOnPages::rowOf(const ColumnGroup& group, const HandoutRow
 double TableOnPages::leadHeight() {
   double height = static_cast<double>(titleLines().size()) * PageFlow::lineOf(titleFont) + belowTitle;
   if (plan_.groups.empty()) return height;
-  height += headOf(plan_.groups.front()).height;
+  const ColumnGroup& group = plan_.groups.front();
+  height += headOf(group).height;
   if (table_.rows.empty()) return height;
-  const Row first = rowOf(plan_.groups.front(), table_.rows.front());
-  return height + (mayCut(first) ? heightOf(first, leastLines) : heightOf(first, first.lines));
+  const Row first = rowOf(group, table_.rows.front());
+  const double lead = height + (mayCut(first) ? heightOf(first, leastLines) : heightOf(first, first.lines));
+  if (table_.rows.size() > mostRowsOfWhole) return lead;
+  for (const HandoutRow& row : table_.rows) {
+    const Row placed = rowOf(group, row);
+    height += heightOf(placed, placed.lines);
+  }
+  return height <= highestWhole * flow_.pageHeight() ? height : lead;
 }
 
 double TableOnPages::heightOf(const Row& row, std::size_t lines) {

@@ -55,12 +55,13 @@ Need needOf(const HandoutTable& table, std::size_t index, const TablePlan& plan,
   need.least = std::max(need.least, std::min(number, 2 * longestWord));
   need.wanted = std::max(need.wanted, number);
   if (number <= 2 * longestWord) need.decimals = most.decimals;
-  // A heading may take several lines. It makes a column wider only up to its widest word, or a third of it.
+  // A heading may take several lines. In a table of many columns it asks for half of its width.
   const double head = ruler.width(std::string_view(column.heading).substr(0, widestBytes), plan.heads());
   const double word = ruler.widestWord(std::string_view(column.heading).substr(0, widestBytes), plan.heads());
   const double unit = ruler.width(std::string_view(column.unit).substr(0, widestBytes), plan.units());
   need.least = std::max({need.least, std::min(word, longestWord), std::min(unit, longestWord)});
-  need.wanted = std::max({need.wanted, need.least, head / 2, std::min(unit, longestWord)});
+  const double wantedHead = table.columns.size() > 6 ? head / 2 : std::min(head, longestWord);
+  need.wanted = std::max({need.wanted, need.least, wantedHead, std::min(unit, longestWord)});
   // A measure may find a text wider than the sum of its parts.
   need.least += 1;
   need.wanted += 1;

@@ -17,7 +17,10 @@ constexpr double aboveHeading = 22;
 constexpr double belowHeading = 8;
 constexpr double betweenParts = 14;
 constexpr double betweenParagraphs = 5;
+constexpr double belowParagraphs = 4;
 constexpr double chartTextSize = 8;
+constexpr double highestInPair = 185;
+constexpr double betweenCharts = 16;
 constexpr double widestText = 430;  ///< Longer lines are hard to read
 
 /// The font of the texts in a chart.
@@ -67,9 +70,9 @@ class SectionOnPages {
       placeParagraph(paragraph);
       flow_.gap(betweenParagraphs);
     }
-    bool first = true;
-    for (const Chart& chart : section_.charts)
-      placeChart(chart, std::exchange(first, false));
+    if (!section_.paragraphs.empty()) flow_.gap(belowParagraphs);
+    placeCharts();
+    bool first = section_.charts.empty();
     for (const HandoutTable& table : section_.tables) {
       if (!std::exchange(first, false)) flow_.gap(betweenParts);
       TableOnPages(table, flow_, ruler_).place();
@@ -83,14 +86,14 @@ class SectionOnPages {
       const auto lines = ruler_.firstLines(section_.paragraphs.front(), textWidth(), textFont, 2);
       double height = static_cast<double>(lines.size()) * PageFlow::lineOf(textFont);
       // A remark of a line or two does not stand alone either.
-      if (section_.paragraphs.size() == 1) height += betweenParagraphs + partHeight();
+      if (section_.paragraphs.size() == 1) height += betweenParagraphs + belowParagraphs + partHeight();
       return height;
     }
     return partHeight();
   }
 
   [[nodiscard]] double partHeight() {
-    if (!section_.charts.empty()) return heightOf(section_.charts.front());
+    if (!section_.charts.empty()) return heightOfChart(0);
     if (section_.tables.empty()) return 0;
     return TableOnPages(section_.tables.front(), flow_, ruler_).leadHeight();
   }
@@ -122,12 +125,30 @@ class SectionOnPages {
     }
   }
 
-  void placeChart(const Chart& chart, bool first) {
-    const double height = heightOf(chart);
-    if (!first) flow_.gap(betweenParts);
-    flow_.need(height);
-    flow_.addDrawing(0, flow_.top(), layOut(chart, flow_.width(), height, ChartMeasure(measure_)));
-    flow_.moveDown(height);
+  /// Several charts stand in pairs.
+  [[nodiscard]] bool inPairs() const { return section_.charts.size() > 1; }
+
+  [[nodiscard]] double heightOfChart(std::size_t index) const {
+    const double height = heightOf(section_.charts[index]);
+    if (!inPairs()) return height;
+    const std::size_t other = index % 2 == 0 ? index + 1 : index - 1;
+    const double beside = other < section_.charts.size() ? heightOf(section_.charts[other]) : 0;
+    return std::min(std::max(height, beside), highestInPair);
+  }
+
+  void placeCharts() {
+    const double width = inPairs() ? (flow_.width() - betweenCharts) / 2 : flow_.width();
+    for (std::size_t i = 0; i < section_.charts.size(); ++i) {
+      const double height = heightOfChart(i);
+      const bool right = inPairs() && i % 2 == 1;
+      if (!right) {
+        if (i > 0) flow_.gap(betweenParts);
+        flow_.need(height);
+      }
+      const Drawing drawing = layOut(section_.charts[i], width, height, ChartMeasure(measure_));
+      flow_.addDrawing(right ? width + betweenCharts : 0, flow_.top(), drawing);
+      if (right || !inPairs() || i + 1 == section_.charts.size()) flow_.moveDown(height);
+    }
   }
 
   const HandoutSection& section_;
