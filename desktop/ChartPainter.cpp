@@ -66,8 +66,8 @@ QPolygonF polygon(const std::vector<Place>& places) {
 
 class DrawingPainter {
  public:
-  DrawingPainter(QPainter& painter, const FontMeasure& measure, Scheme scheme, QColor ground)
-      : painter_(painter), measure_(measure), scheme_(scheme), ground_(std::move(ground)) {}
+  DrawingPainter(QPainter& painter, const FontMeasure& measure, Scheme scheme, QColor ground, double unit)
+      : painter_(painter), measure_(measure), scheme_(scheme), ground_(std::move(ground)), unit_(unit) {}
 
   void operator()(const DrawnLine& line) const {
     painter_.setRenderHint(QPainter::Antialiasing);
@@ -85,7 +85,7 @@ class DrawingPainter {
 
   void operator()(const DrawnArea& area) const {
     painter_.setRenderHint(QPainter::Antialiasing, !area.upright);
-    painter_.setPen(area.outline ? QPen(color(*area.outline), 1) : QPen(Qt::NoPen));
+    painter_.setPen(area.outline ? QPen(color(*area.outline), unit_) : QPen(Qt::NoPen));
     painter_.setBrush(color(area.paint));
     if (area.upright) {
       painter_.drawRect(QRectF(point(area.corners[0]), point(area.corners[2])));
@@ -125,6 +125,7 @@ class DrawingPainter {
   const FontMeasure& measure_;
   Scheme scheme_;
   QColor ground_;
+  double unit_;
 };
 
 }  // namespace
@@ -194,8 +195,8 @@ double FontMeasure::width(const std::string& text, double size, bool bold) const
 }
 
 void paintDrawing(QPainter& painter, const Drawing& drawing, const FontMeasure& measure, Scheme scheme,
-                  const QColor& ground) {
-  const DrawingPainter parts(painter, measure, scheme, ground);
+                  const QColor& ground, double unit) {
+  const DrawingPainter parts(painter, measure, scheme, ground, unit);
   for (const DrawnPart& part : drawing.parts)
     std::visit(parts, part);
 }

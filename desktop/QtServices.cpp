@@ -8,6 +8,7 @@
 #include <QIcon>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QStandardPaths>
 #include <QUrl>
 
 #include "desktop/Binder.h"
@@ -75,6 +76,11 @@ QString nameFilter(const std::string& filter) {
 
 std::optional<std::filesystem::path> chosen(QFileDialog& dialog, const FileQuestion& question) {
   if (!question.folder.empty()) dialog.setDirectory(qText(question.folder.string()));
+  if (!question.name.empty()) {
+    if (question.folder.empty())
+      dialog.setDirectory(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+    dialog.selectFile(qText(question.name));
+  }
   if (!question.filter.empty()) dialog.setNameFilter(nameFilter(question.filter));
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
   return std::filesystem::path(programText(dialog.selectedFiles().constFirst()));
@@ -168,6 +174,10 @@ void QtServices::pump() {
 
 std::optional<int> QtServices::askCopies() {
   return printing_.askCopies();
+}
+
+std::string QtServices::pdfOf(const PlacedPages& pages) {
+  return pdfOfPages(pages, printing_.pageMeasure()).toStdString();
 }
 
 std::unique_ptr<PageSurface> QtServices::beginDocument() {

@@ -66,6 +66,7 @@ class QuestionView : public QWidget {
     view.buttons->addWidget(binder_.bind(pane_.cmdBack, new QPushButton));
     view.buttons->addStretch();
     view.buttons->addWidget(binder_.bind(pane_.cmdCopy, new QPushButton));
+    view.buttons->addWidget(binder_.bind(pane_.cmdPrint, new QPushButton));
     addShortcut(binder_, this, QKeySequence(Qt::Key_Escape), pane_.cmdBack);
     binder_.name(pane_, this);
     ticks_.setInterval(betweenTicks);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 
 namespace verdalis {
 namespace {
@@ -20,6 +21,14 @@ PaperSize paperOfLocale(std::string_view locale) {
   const bool letter =
       std::find(letterCountries.begin(), letterCountries.end(), country) != letterCountries.end();
   return letter ? PaperSize::letter : PaperSize::a4;
+}
+
+PaperSize usualPaper() {
+  for (const char* const name : {"LC_ALL", "LC_PAPER", "LANG"}) {
+    const char* const locale = std::getenv(name);  // NOLINT(concurrency-mt-unsafe): nothing sets it
+    if (locale != nullptr && *locale != '\0') return paperOfLocale(locale);
+  }
+  return PaperSize::letter;
 }
 
 }  // namespace verdalis

@@ -20,4 +20,7 @@ struct Sheet {
 /// The usual sheet of a locale such as "de_DE.UTF-8", by its country. Letter without a country, as in "C".
 [[nodiscard]] PaperSize paperOfLocale(std::string_view locale);
 
+/// The usual sheet where the program runs, by the environment: LC_ALL, LC_PAPER or LANG.
+[[nodiscard]] PaperSize usualPaper();
+
 }  // namespace verdalis

@@ -90,12 +90,12 @@ class PagePainter {
 
 }  // namespace
 
-std::string drawHandout(const Handout& handout, PaperSize paper) {
+std::string drawPages(const std::vector<Drawing>& pages, const std::string& title,
+                      const std::string& author) {
   const PdfMeasure measure;
-  const std::vector<Drawing> pages = layOutPages(handout, paper, measure);
-  const Sheet sheet = sheetOf(paper);
-  PdfFile file(sheet.width, sheet.height, handout.title);
-  file.setAuthor(handout.letterhead);
+  const Sheet sheet = pages.empty() ? sheetOf(PaperSize::letter) : Sheet{pages[0].width, pages[0].height};
+  PdfFile file(sheet.width, sheet.height, title);
+  file.setAuthor(author);
   {
     const CairoContext context = file.context();
     const PagePainter painter(*context, measure);
@@ -106,6 +106,10 @@ std::string drawHandout(const Handout& handout, PaperSize paper) {
     }
   }
   return file.finish();
+}
+
+std::string drawHandout(const Handout& handout, PaperSize paper) {
+  return drawPages(layOutPages(handout, paper, PdfMeasure()), handout.title, handout.letterhead);
 }
 
 }  // namespace verdalis

@@ -22,8 +22,15 @@ class PdfMeasure : public TextMeasure {
   PdfFont font_;
 };
 
-/// Lays a handout out on pages and draws them as a PDF file. Charts stay vectors, and fonts are embedded. The
-/// title and the letterhead, as the author, are shown by PDF readers.
+/// Draws pages that are laid out as a PDF file. Charts stay vectors, and fonts are embedded.
+/// \param title, author shown by PDF readers.
+/// \returns the bytes of the file
+/// \throws RunTimeError (fileNotFound) if it cannot be drawn
+[[nodiscard]] std::string drawPages(const std::vector<Drawing>& pages, const std::string& title,
+                                    const std::string& author);
+
+/// Lays a handout out on pages and draws them as a PDF file, with its title and its letterhead as
+/// the author; see drawPages().
 /// \returns the bytes of the file
 /// \throws RunTimeError (fileNotFound) if it cannot be drawn
 [[nodiscard]] std::string drawHandout(const Handout& handout, PaperSize paper);

@@ -66,6 +66,7 @@ QuestionPane::QuestionPane(Frame& window, const std::string& name, const std::st
     cmdUpdate.setVisible(true);
   });
   cmdCopy.onClick.connect([this] { services_.clipboard.setText(copyText()); });
+  cmdPrint.onClick.connect([this] { onPrint(); });
   cmdBack.onClick.connect([this] {
     cancel();
     onBack();
@@ -120,6 +121,7 @@ void QuestionPane::finish(QuestionJob& job) {
   try {
     job.show()();
     cmdCopy.setEnabled(true);
+    cmdPrint.setEnabled(true);
   } catch (const RunTimeError& error) {  // a number that no text can show
     tell(error.what());
   }
@@ -163,6 +165,7 @@ void QuestionPane::clearAnswer() {
   showFigures({}, {});
   section_ = nullptr;
   cmdCopy.setEnabled(false);
+  cmdPrint.setEnabled(false);
 }
 
 void QuestionPane::changed() {

@@ -59,6 +59,7 @@ class QuestionPane : public Frame {
   ProgressBar prgQuestion{*this, "prgQuestion"};  ///< Visible while a question takes longer; see tick()
   Button cmdCancel{*this, "cmdCancel", "Cancel"};
   Button cmdCopy{*this, "cmdCopy", "Copy table"};
+  Button cmdPrint{*this, "cmdPrint", "Print..."};  ///< Opens a report with this page
   Button cmdBack{*this, "cmdBack", "Back"};
 
   /// Shows the page, fills the fields that the user has not changed, and asks.
@@ -90,6 +91,7 @@ class QuestionPane : public Frame {
 
   Event<> onShowPane;       ///< The page must be shown
   Event<> onBack;           ///< cmdBack
+  Event<> onPrint;          ///< cmdPrint
   Event<> onAsked;          ///< A question has been put, with the present farm
   Event<> onRunningChange;  ///< isRunning() has changed
 

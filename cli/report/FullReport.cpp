@@ -1,7 +1,5 @@
 #include "cli/report/FullReport.h"
 
-#include <array>
-#include <cstdlib>
 #include <utility>
 
 #include "cli/Messages.h"
@@ -14,15 +12,6 @@
 
 namespace verdalis {
 namespace {
-
-/// The paper of the locale of the user.
-PaperSize usualPaper() {
-  for (const char* const name : {"LC_ALL", "LC_PAPER", "LANG"}) {
-    const char* const locale = std::getenv(name);  // NOLINT(concurrency-mt-unsafe): nothing sets it
-    if (locale != nullptr && *locale != '\0') return paperOfLocale(locale);
-  }
-  return PaperSize::letter;
-}
 
 PaperSize readPaper(const std::string& text) {
   const std::string paper = lowerCase(text);
