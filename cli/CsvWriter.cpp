@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <ostream>
+#include <string_view>
 
 #include "cli/OptionsWriter.h"
 #include "text/numbers.h"
@@ -16,7 +17,11 @@ constexpr std::string_view head =
 
 }  // namespace
 
-std::string csvQuoted(const std::string& text) {
+std::string csvQuoted(const std::string& name) {
+  // Spreadsheet programs take a text that begins so for a formula; an apostrophe says that it is a text.
+  const bool isFormula =
+      !name.empty() && std::string_view("=+-@\t\r").find(name.front()) != std::string_view::npos;
+  const std::string text = isFormula ? "'" + name : name;
   if (text.find_first_of(",\"\r\n") == std::string::npos) return text;
   std::string result = "\"";
   for (const char c : text) {
@@ -25,6 +30,7 @@ std::string csvQuoted(const std::string& text) {
   }
   return result + '"';
 }
+
 std::string csvNumber(double value) {
   return value == 0 && std::signbit(value) ? "-0" : generalText(value);
 }

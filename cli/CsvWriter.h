@@ -13,8 +13,9 @@ namespace verdalis {
 /// The text of a number; it reads back as the same 64-bit float.
 [[nodiscard]] std::string csvNumber(double value);
 
-/// A text quoted as in RFC 4180, only if necessary.
-[[nodiscard]] std::string csvQuoted(const std::string& text);
+/// A text quoted as in RFC 4180, only if necessary. A text that begins with = + - @, a tab or a carriage
+/// return gets an apostrophe before it, so that no spreadsheet program reads it as a formula.
+[[nodiscard]] std::string csvQuoted(const std::string& name);
 
 /// Writes the header row. `front` contains additional columns, each followed by a comma.
 void writeCsvHead(std::ostream& out, std::string_view front = {});

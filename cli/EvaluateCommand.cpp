@@ -11,9 +11,12 @@
 #include "cli/output.h"
 #include "cli/relaxation.h"
 #include "cli/textOptions.h"
+#include "cli/workbook.h"
+#include "document/farmHandout.h"
 #include "explore/bestPlan.h"
 #include "results/detailsSection.h"
 #include "results/optionsSection.h"
+#include "xlsx/writeWorkbook.h"
 
 namespace verdalis {
 namespace {
@@ -22,7 +25,8 @@ namespace {
 /// \throws Refusal for a text that names no field, and for a format that cannot contain explanations
 std::optional<FieldPlace> placeToExplain(const EvaluateRequest& request) {
   if (!request.explain) return std::nullopt;
-  if (request.format == "csv") throw Refusal("--explain requires --format table or --format json.");
+  if (request.format != "table" && request.format != "json")
+    throw Refusal("--explain requires --format table or --format json.");
   return readFieldPlace(*request.explain);
 }
 
@@ -39,10 +43,16 @@ void finishReport(FullReport& report, const std::vector<Results::Option>& option
   report.finish();
 }
 
+/// An evaluation, and the workbook of it if one was asked for.
+struct Evaluated {
+  EvaluationResult result;
+  Handout handout;
+};
+
 /// Evaluates the farm of the request.
 /// \throws Cancelled after a Ctrl+C at any time
-EvaluationResult runFarm(const EvaluateRequest& request, Reports& reports, FullReport& fullReport,
-                         Messages& messages) {
+Evaluated runFarm(const EvaluateRequest& request, Reports& reports, FullReport& fullReport,
+                  Messages& messages) {
   const std::optional<FieldPlace> place = placeToExplain(request);
   const Interrupt interrupt;
   const std::unique_ptr<TypedFarm> farm = makeFarm(request.farm, messages);
@@ -54,18 +64,24 @@ EvaluationResult runFarm(const EvaluateRequest& request, Reports& reports, FullR
   const auto options = farm->evaluate(progress);
   const double seconds = Progress::secondsNow() - start;
   if (!options || Interrupt::requested()) throw Cancelled();
-  EvaluationResult result = describeRun(*options, farm->state(), seconds);
+  Evaluated evaluated{describeRun(*options, farm->state(), seconds), {}};
+  EvaluationResult& result = evaluated.result;
   const ScenarioInputs inputs = farm->inputs();
   result.wishes = wishTexts(inputs.wishes);
   result.mixes = inputs.mixes;
   if (result.options.empty() && !result.wishes.empty()) {
     result.relax = findRelaxations(farm->farm(), farm->state(), progress);
-    return result;
+    return evaluated;
   }
   reports.write(farm->printer(), *options);
   finishReport(fullReport, *options, result);
   if (place) result.explanation = explain(*place, *options, result.efficiency);
-  return result;
+  if (request.format == workbookFormat) {
+    const ListedOptions list = ListedOptions::inOrder(*options, result.efficiency);
+    evaluated.handout = farmHandout("Evaluation", {optionsSection(list), optionFieldsSection(list)},
+                                    farm->document(), farm->library());
+  }
+  return evaluated;
 }
 
 }  // namespace
@@ -74,9 +90,9 @@ const CLI::App& addEvaluateCommand(CLI::App& app, EvaluateRequest& request) {
   CLI::App& command = *app.add_subcommand("evaluate", "Runs one evaluation and lists the ranked options");
   addFarmOptions(command, request.farm);
   addMixesOption(command, request.farm);
-  command.add_option("--format", request.format, "table, csv or json (default: table)")
+  command.add_option("--format", request.format, "table, csv, json or xlsx (default: table)")
       ->type_name("FORMAT")
-      ->check(CLI::IsMember(optionsFormats()));
+      ->check(CLI::IsMember(formatsWithWorkbook()));
   addTextOption(command, "--output", "FILE", request.output, "Write to this file instead of standard output");
   addReportOptions(command, request.reports);
   addFullReportOptions(command, request.fullReport);
@@ -87,14 +103,20 @@ const CLI::App& addEvaluateCommand(CLI::App& app, EvaluateRequest& request) {
 }
 
 void evaluate(const EvaluateRequest& request, std::ostream& out, Messages& messages) {
+  requirePlaceFor(request.format, request.output, out);
   Reports reports(request.reports);
   FullReport fullReport(request.fullReport);
-  const EvaluationResult result = runFarm(request, reports, fullReport, messages);
+  const Evaluated evaluated = runFarm(request, reports, fullReport, messages);
+  const EvaluationResult& result = evaluated.result;
   if (result.relax && request.format != "json") throw NoPlan(*result.relax);
   // The text is complete before its first byte is written, so a failure leaves no partial result.
   std::ostringstream text;
   text.exceptions(std::ios::badbit);  // out of memory
-  optionsWriter(request.format)(text, result);
+  if (request.format == workbookFormat) {
+    text << writeWorkbook(evaluated.handout);
+  } else {
+    optionsWriter(request.format)(text, result);
+  }
   if (!result.relax) {
     reports.deliver();
     fullReport.deliver();

@@ -10,6 +10,7 @@
 #include "engine/Farm.h"
 #include "explore/FarmInput.h"
 #include "explore/seasons.h"
+#include "handout/Handout.h"
 #include "model/CropScenario.h"
 #include "questions/values.h"
 
@@ -21,6 +22,7 @@ struct ExploredFarm {
   std::vector<Season> seasons;  ///< Of its farm file
   FarmDocument document;        ///< As it was entered
   CropScenario library;
+  Handout handout;  ///< Of a workbook, with the inputs
 };
 
 /// The farm of the request as numbers.

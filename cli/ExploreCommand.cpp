@@ -1,9 +1,7 @@
 #include "cli/ExploreCommand.h"
 
-#include <unistd.h>
-
-#include <iostream>
 #include <sstream>
+#include <utility>
 
 #include "cli/ExploreArguments.h"
 #include "cli/ExploreQuestions.h"
@@ -14,15 +12,13 @@
 #include "cli/output.h"
 #include "cli/relaxation.h"
 #include "cli/textOptions.h"
+#include "cli/workbook.h"
 #include "explore/bestPlan.h"
 #include "questions/planText.h"
+#include "xlsx/writeWorkbook.h"
 
 namespace verdalis {
 namespace {
-
-bool isTerminal(const std::ostream& out) {
-  return &out == &std::cout && isatty(STDOUT_FILENO) == 1;
-}
 
 /// Writes a line for each wish, then an empty line.
 void writeWishes(std::ostream& out, const Farm& farm) {
@@ -42,9 +38,9 @@ ExploreCommand::ExploreCommand(CLI::App& app)
         *command_->add_subcommand(std::string(question->name()), std::string(question->description()));
     question->addOptions(command);
     addFarmOptions(command, request_.farm);
-    command.add_option("--format", request_.format, "table, csv or json (default: table)")
+    command.add_option("--format", request_.format, "table, csv, json or xlsx (default: table)")
         ->type_name("FORMAT")
-        ->check(CLI::IsMember(optionsFormats()));
+        ->check(CLI::IsMember(formatsWithWorkbook()));
     addTextOption(command, "--output", "FILE", request_.output,
                   "Write to this file instead of standard output");
     addFullReportOptions(command, request_.fullReport);
@@ -59,6 +55,7 @@ void ExploreCommand::run(std::ostream& out, Messages& messages) {
 }
 
 void ExploreCommand::answer(ExploreQuestion& question, std::ostream& out, Messages& messages) {
+  requirePlaceFor(request_.format, request_.output, out);
   FullReport report(request_.fullReport);
   const auto tell = [&](const ExploreCall::MakeSection& section) {
     report.add(section(FullReport::mostRows));
@@ -69,7 +66,7 @@ void ExploreCommand::answer(ExploreQuestion& question, std::ostream& out, Messag
   text.exceptions(std::ios::badbit);  // out of memory
   {
     const Interrupt interrupt;
-    const ExploredFarm explored = exploredFarm(request_.farm, messages);
+    ExploredFarm explored = exploredFarm(request_.farm, messages);
     const Farm& farm = explored.farm;
     report.begin(explored.document, explored.library);
     ProgramState state;
@@ -77,9 +74,15 @@ void ExploreCommand::answer(ExploreQuestion& question, std::ostream& out, Messag
     if (request_.format == "table") writeWishes(text, farm);
     try {
       const bool onTerminal = !request_.output && isTerminal(out);
-      ExploreCall call{farm, explored.seasons, request_.format, onTerminal, state, progress, {}};
+      HandoutSection section;
+      ExploreCall call{farm, explored.seasons, request_.format, onTerminal, state, progress, section, {}};
       if (report.wanted()) call.tell = tell;
       question.answer(call, text);
+      if (request_.format == workbookFormat) {
+        explored.handout.title = section.title;
+        explored.handout.sections.insert(explored.handout.sections.begin(), std::move(section));
+        text << writeWorkbook(explored.handout);
+      }
     } catch (const NoPlan& noPlan) {
       if (request_.format == "json")
         deliver(noPlanJson(farm.wishes, noPlan.relaxations()), request_.output, out);

@@ -10,6 +10,7 @@
 #include "cli/ExploreQuestions.h"
 #include "cli/TextTable.h"
 #include "cli/textOptions.h"
+#include "cli/workbook.h"
 #include "explore/inputs.h"
 #include "questions/inputsAnswer.h"
 #include "questions/values.h"
@@ -103,7 +104,9 @@ class ExploreInputs : public ExploreQuestion {
       call.tell(
           [&](std::optional<std::size_t> rows) { return inputsSection(call.farm, result, percent, rows); });
     }
-    if (call.format == "json") {
+    if (call.format == workbookFormat) {
+      call.section = inputsSection(call.farm, result, percent);
+    } else if (call.format == "json") {
       writeJson(out, call.farm, result);
     } else if (call.format == "csv") {
       writeCsv(out, result);

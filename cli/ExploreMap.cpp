@@ -9,6 +9,7 @@
 #include "cli/ExploreQuestions.h"
 #include "cli/TextTable.h"
 #include "cli/textOptions.h"
+#include "cli/workbook.h"
 #include "explore/inputMap.h"
 #include "questions/mapAnswer.h"
 #include "text/numbers.h"
@@ -150,7 +151,9 @@ class ExploreMap : public ExploreQuestion {
     if (call.tell) {
       call.tell([&](std::optional<std::size_t> rows) { return mapSection(call.farm, map, rows); });
     }
-    if (call.format == "json") {
+    if (call.format == workbookFormat) {
+      call.section = mapSection(call.farm, map);
+    } else if (call.format == "json") {
       writeJson(out, call.farm, map);
     } else if (call.format == "csv") {
       writeCsv(out, map);

@@ -26,10 +26,11 @@ namespace verdalis {
 struct ExploreCall {
   const Farm& farm;
   const std::vector<Season>& seasons;  ///< Of the farm file; those that a question uses by default
-  std::string_view format;             ///< "table", "csv" or "json"
+  std::string_view format;             ///< "table", "csv", "json" or "xlsx"
   bool onTerminal = false;             ///< The output is a terminal, so the answer may include a drawing
   ProgramState& state;                 ///< Requests a cancel
   RunHooks& hooks;                     ///< Receives the progress
+  HandoutSection& section;             ///< Receives the answer in the format "xlsx"
 
   /// Makes the answer a section of a report; see sectionOf().
   using MakeSection = std::function<HandoutSection(std::optional<std::size_t> rows)>;
@@ -52,7 +53,7 @@ class ExploreQuestion {
   /// Adds the options of this question.
   virtual void addOptions(CLI::App& /*command*/) {}
 
-  /// Writes the complete answer.
+  /// Writes the complete answer, or fills the section of the call.
   /// \throws Refusal for an invalid option, before any calculation
   /// \throws Cancelled, NoPlan, RunTimeError
   virtual void answer(const ExploreCall& call, std::ostream& out) = 0;

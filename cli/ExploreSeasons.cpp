@@ -10,6 +10,7 @@
 #include "cli/ExploreQuestions.h"
 #include "cli/TextTable.h"
 #include "cli/textOptions.h"
+#include "cli/workbook.h"
 #include "explore/seasons.h"
 #include "questions/seasonsAnswer.h"
 #include "questions/values.h"
@@ -171,7 +172,9 @@ class ExploreSeasons : public ExploreQuestion {
     if (call.tell) {
       call.tell([&](std::optional<std::size_t> rows) { return seasonsSection(call.farm, result, rows); });
     }
-    if (call.format == "json") {
+    if (call.format == workbookFormat) {
+      call.section = seasonsSection(call.farm, result);
+    } else if (call.format == "json") {
       writeJson(out, call.farm, result);
     } else if (call.format == "csv") {
       writeCsv(out, result);

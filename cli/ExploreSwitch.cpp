@@ -10,6 +10,7 @@
 #include "cli/ExploreSwitchTable.h"
 #include "cli/JsonWriter.h"
 #include "cli/textOptions.h"
+#include "cli/workbook.h"
 #include "explore/switchPrices.h"
 #include "questions/switchAnswer.h"
 #include "text/numbers.h"
@@ -69,7 +70,9 @@ class ExploreSwitch : public ExploreQuestion {
     if (call.tell) {
       call.tell([&](std::optional<std::size_t> rows) { return switchSection(call.farm, result, rows); });
     }
-    if (call.format == "json") {
+    if (call.format == workbookFormat) {
+      call.section = switchSection(call.farm, result);
+    } else if (call.format == "json") {
       writeJson(out, call.farm, result);
     } else if (call.format == "csv") {
       writeCsv(out, result);

@@ -10,6 +10,7 @@
 #include "cli/TextTable.h"
 #include "cli/drawCurve.h"
 #include "cli/textOptions.h"
+#include "cli/workbook.h"
 #include "engine/MakingSplits.h"
 #include "explore/water.h"
 #include "questions/waterAnswer.h"
@@ -126,7 +127,9 @@ class ExploreWater : public ExploreQuestion {
     if (call.tell) {
       call.tell([&](std::optional<std::size_t> rows) { return waterSection(call.farm, result, rows); });
     }
-    if (call.format == "json") {
+    if (call.format == workbookFormat) {
+      call.section = waterSection(call.farm, result);
+    } else if (call.format == "json") {
       writeJson(out, call.farm, result);
     } else if (call.format == "csv") {
       writeCsv(out, result);

@@ -13,6 +13,8 @@
 #include "cli/output.h"
 #include "cli/relaxation.h"
 #include "cli/textOptions.h"
+#include "cli/workbook.h"
+#include "document/farmHandout.h"
 #include "explore/bestPlan.h"
 #include "model/EfficiencyFraction.h"
 #include "results/detailsSection.h"
@@ -25,6 +27,7 @@
 #include "trend/VariableTrendExport.h"
 #include "trend/runTrend.h"
 #include "trend/trendSection.h"
+#include "xlsx/writeWorkbook.h"
 
 namespace verdalis {
 namespace {
@@ -39,6 +42,7 @@ struct Page {
 struct Findings {
   TrendResult result;
   Page page;
+  std::vector<HandoutSection> sections;  ///< Of a workbook
 };
 
 /// The finished output of a trend.
@@ -141,6 +145,12 @@ class TrendRun {
 
     Findings findings;
     describeSteps(outcome, findings.result);
+    if (request_.format == workbookFormat) {
+      const TrendedInput input{
+          processes_[0].crop + " " + trendVariable(processes_[0].process.VariableIndex).label, units()};
+      const std::vector<TrendedStep> steps = stepsOf(outcome);
+      findings.sections = {variableTrendSection(steps, input), variableTrendFieldsSection(steps, input)};
+    }
     requirePlan(std::all_of(findings.result.steps.begin(), findings.result.steps.end(),
                             [](const TrendStep& step) { return step.result.options.empty(); }));
     if (report_.wanted()) reportVariable(outcome);
@@ -178,6 +188,11 @@ class TrendRun {
       report_.finish();
     }
     describeCombinations(outcome, findings.result);
+    if (request_.format == workbookFormat) {
+      findings.sections = {fixedTrendSection(outcome.grid, EfficiencyFraction),
+                           optionsSection(ListedOptions::inOrder(outcome.shown, EfficiencyFraction, true)),
+                           fixedTrendFieldsSection(outcome.grid, EfficiencyFraction)};
+    }
     if (request_.exportFile) {
       findings.page = makePage([&](std::string& page) {
         const auto variables = trendedVariables(trend_.processes);
@@ -332,14 +347,24 @@ class TrendRun {
   TrendRequest trend_;
 };
 
-Findings findTrend(const TrendArguments& request, std::size_t number, Reports& reports,
-                   FullReport& fullReport, Messages& messages) {
+/// A trend, and the workbook of it if one was asked for.
+struct Found {
+  Findings findings;
+  Handout handout;
+};
+
+Found findTrend(const TrendArguments& request, std::size_t number, Reports& reports, FullReport& fullReport,
+                Messages& messages) {
   const std::unique_ptr<TypedFarm> typed = makeFarm(request.farm, messages);
   requireReady(request.farm, *typed);
-  if (fullReport.wanted()) fullReport.begin(typed->document(), typed->library());
+  const FarmDocument before = typed->document();  // a trend leaves its last values in the inputs
+  fullReport.begin(before, typed->library());
   Progress progress(asTerminal(messages.stream()), typed->state());
   TrendRun run(request, *typed, progress, fullReport, messages);
-  return number == 0 ? run.runVariable() : run.runFixed(number, reports);
+  Found found{number == 0 ? run.runVariable() : run.runFixed(number, reports), {}};
+  if (request.format == workbookFormat)
+    found.handout = farmHandout("Trend", std::move(found.findings.sections), before, typed->library());
+  return found;
 }
 
 /// Creates the output of a trend.
@@ -347,11 +372,15 @@ Findings findTrend(const TrendArguments& request, std::size_t number, Reports& r
 void makeOutcome(const TrendArguments& request, Reports& reports, FullReport& fullReport, Messages& messages,
                  Outcome& outcome) {
   const Interrupt interrupt;
-  Findings findings = findTrend(request, optionNumber(request.option), reports, fullReport, messages);
+  Found found = findTrend(request, optionNumber(request.option), reports, fullReport, messages);
   std::ostream text(&outcome.text);
   text.exceptions(std::ios::badbit);  // out of memory
-  writeTrend(text, findings.result, request.format);
-  outcome.page = std::move(findings.page);
+  if (request.format == workbookFormat) {
+    text << writeWorkbook(found.handout);
+  } else {
+    writeTrend(text, found.findings.result, request.format);
+  }
+  outcome.page = std::move(found.findings.page);
   stopIfAsked();
 }
 
@@ -377,9 +406,9 @@ const CLI::App& addTrendCommand(CLI::App& app, TrendArguments& request) {
       "Run a fixed trend on option K of the evaluation, counted from 1\n(default: a variable trend)");
   addTrendProcessOptions(command, "2", request.processes[1]);
   addTextOption(command, "--export", "FILE", request.exportFile, "Also write the spreadsheet export");
-  command.add_option("--format", request.format, "table, csv or json (default: table)")
+  command.add_option("--format", request.format, "table, csv, json or xlsx (default: table)")
       ->type_name("FORMAT")
-      ->check(CLI::IsMember(optionsFormats()));
+      ->check(CLI::IsMember(formatsWithWorkbook()));
   addTextOption(command, "--output", "FILE", request.output, "Write to this file instead of standard output");
   addReportOptions(command, request.reports);
   addFullReportOptions(command, request.fullReport);
@@ -388,6 +417,7 @@ const CLI::App& addTrendCommand(CLI::App& app, TrendArguments& request) {
 
 void trend(const TrendArguments& request, std::ostream& out, Messages& messages) {
   requireKind(request);
+  requirePlaceFor(request.format, request.output, out);
   Reports reports(request.reports);
   FullReport fullReport(request.fullReport);
   // The text is complete before its first byte is written.

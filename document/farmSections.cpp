@@ -236,7 +236,7 @@ std::string dateText(const ClockTime& time) {
   return std::string(months.at(month)) + " " + std::to_string(time.day) + ", " + std::to_string(time.year);
 }
 
-Handout farmHandout(const FarmDocument& farm, const ClockTime& today) {
+Handout reportHandout(const FarmDocument& farm, const ClockTime& today) {
   return {"Irrigation plan", farm.name, farm.letterhead, dateText(today), {}};
 }
 

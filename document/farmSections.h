@@ -10,7 +10,7 @@
 namespace verdalis {
 
 /// A report of a farm, without its sections.
-[[nodiscard]] Handout farmHandout(const FarmDocument& farm, const ClockTime& today);
+[[nodiscard]] Handout reportHandout(const FarmDocument& farm, const ClockTime& today);
 
 /// A date as it is written out, such as "November 3, 2026".
 [[nodiscard]] std::string dateText(const ClockTime& time);

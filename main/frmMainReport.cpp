@@ -52,7 +52,7 @@ void frmMain::wireReport() {
 void frmMain::openReport(const QuestionPane* asked) {
   if (isRunning()) return;
   const FarmDocument& farm = keeper.document();
-  windows_.report().show(farmHandout(farm, services_.clock.now()), reportParts(farm, asked));
+  windows_.report().show(reportHandout(farm, services_.clock.now()), reportParts(farm, asked));
 }
 
 std::vector<ReportPart> frmMain::reportParts(const FarmDocument& farm, const QuestionPane* asked) {

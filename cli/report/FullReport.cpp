@@ -37,7 +37,7 @@ FullReport::FullReport(const FullReportRequest& request) : file_(request.file), 
 
 void FullReport::begin(const FarmDocument& farm, const CropScenario& library) {
   if (!wanted()) return;
-  handout_ = farmHandout(farm, localTime());
+  handout_ = reportHandout(farm, localTime());
   handout_.sections = {farmSection(farm), cropsSection(farm, library)};
   notes_ = notesSection(farm);
 }
