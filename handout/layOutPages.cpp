@@ -19,6 +19,7 @@ constexpr double betweenParts = 14;
 constexpr double betweenParagraphs = 5;
 constexpr double belowParagraphs = 4;
 constexpr double chartTextSize = 8;
+constexpr double mostTogether = 0.65;  ///< Of a page
 constexpr double highestInPair = 185;
 constexpr double betweenCharts = 16;
 constexpr double widestText = 430;  ///< Longer lines are hard to read
@@ -83,11 +84,20 @@ class SectionOnPages {
   /// What must stand below the heading on the same page.
   [[nodiscard]] double leadHeight() {
     if (!section_.paragraphs.empty()) {
+      // A few remarks stand with what they are about.
+      constexpr std::size_t fewLines = 10;
+      double height = belowParagraphs;
+      std::size_t count = 0;
+      for (const std::string& paragraph : section_.paragraphs) {
+        const auto some = ruler_.firstLines(paragraph, textWidth(), textFont, fewLines + 1);
+        count += some.size();
+        height += static_cast<double>(some.size()) * PageFlow::lineOf(textFont) + betweenParagraphs;
+        if (count > fewLines) break;
+      }
+      height += partHeight();
+      if (count <= fewLines && height < mostTogether * flow_.pageHeight()) return height;
       const auto lines = ruler_.firstLines(section_.paragraphs.front(), textWidth(), textFont, 2);
-      double height = static_cast<double>(lines.size()) * PageFlow::lineOf(textFont);
-      // A remark of a line or two does not stand alone either.
-      if (section_.paragraphs.size() == 1) height += betweenParagraphs + belowParagraphs + partHeight();
-      return height;
+      return static_cast<double>(lines.size()) * PageFlow::lineOf(textFont);
     }
     return partHeight();
   }
