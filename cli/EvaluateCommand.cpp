@@ -14,6 +14,7 @@
 #include "cli/workbook.h"
 #include "document/farmHandout.h"
 #include "explore/bestPlan.h"
+#include "results/detailsSection.h"
 #include "results/optionsSection.h"
 #include "xlsx/writeWorkbook.h"
 
@@ -29,6 +30,19 @@ std::optional<FieldPlace> placeToExplain(const EvaluateRequest& request) {
   return readFieldPlace(*request.explain);
 }
 
+/// Adds the options of a run to the report of the whole farm, and ends it.
+void finishReport(FullReport& report, const std::vector<Results::Option>& options,
+                  const EvaluationResult& result) {
+  if (!report.wanted()) return;
+  const ListedOptions listed = ListedOptions::inOrder(options, result.efficiency);
+  HandoutSection best = optionsSection(listed, FullReport::mostRows);
+  best.title = result.mixes ? "Best option of each mix" : "Best options";
+  report.add(std::move(best));
+  if (!listed.options.empty())
+    report.add(detailsSection("The best option in detail", *listed.options.front(), result.efficiency));
+  report.finish();
+}
+
 /// An evaluation, and the workbook of it if one was asked for.
 struct Evaluated {
   EvaluationResult result;
@@ -37,11 +51,13 @@ struct Evaluated {
 
 /// Evaluates the farm of the request.
 /// \throws Cancelled after a Ctrl+C at any time
-Evaluated runFarm(const EvaluateRequest& request, Reports& reports, Messages& messages) {
+Evaluated runFarm(const EvaluateRequest& request, Reports& reports, FullReport& fullReport,
+                  Messages& messages) {
   const std::optional<FieldPlace> place = placeToExplain(request);
   const Interrupt interrupt;
   const std::unique_ptr<TypedFarm> farm = makeFarm(request.farm, messages);
   requireReady(request.farm, *farm);
+  if (fullReport.wanted()) fullReport.begin(farm->document(), farm->library());
 
   Progress progress(asTerminal(messages.stream()), farm->state());
   const double start = Progress::secondsNow();
@@ -58,6 +74,7 @@ Evaluated runFarm(const EvaluateRequest& request, Reports& reports, Messages& me
     return evaluated;
   }
   reports.write(farm->printer(), *options);
+  finishReport(fullReport, *options, result);
   if (place) result.explanation = explain(*place, *options, result.efficiency);
   if (request.format == workbookFormat) {
     const ListedOptions list = ListedOptions::inOrder(*options, result.efficiency);
@@ -78,6 +95,7 @@ const CLI::App& addEvaluateCommand(CLI::App& app, EvaluateRequest& request) {
       ->check(CLI::IsMember(formatsWithWorkbook()));
   addFileOption(command, "--output", "FILE", request.output, "Write to this file instead of standard output");
   addReportOptions(command, request.reports);
+  addFullReportOptions(command, request.fullReport);
   addTextOption(command, "--explain", "K.F", request.explain,
                 "Also show the steps from the gross irrigation to the net return of field F\nof option K, "
                 "both counted from 1; as table or json");
@@ -87,7 +105,8 @@ const CLI::App& addEvaluateCommand(CLI::App& app, EvaluateRequest& request) {
 void evaluate(const EvaluateRequest& request, std::ostream& out, Messages& messages) {
   requirePlaceFor(request.format, request.output, out);
   Reports reports(request.reports);
-  const Evaluated evaluated = runFarm(request, reports, messages);
+  FullReport fullReport(request.fullReport);
+  const Evaluated evaluated = runFarm(request, reports, fullReport, messages);
   const EvaluationResult& result = evaluated.result;
   if (result.relax && request.format != "json") throw NoPlan(*result.relax);
   // The text is complete before its first byte is written, so a failure leaves no partial result.
@@ -98,7 +117,10 @@ void evaluate(const EvaluateRequest& request, std::ostream& out, Messages& messa
   } else {
     optionsWriter(request.format)(text, result);
   }
-  if (!result.relax) reports.deliver();
+  if (!result.relax) {
+    reports.deliver();
+    fullReport.deliver();
+  }
   deliver(std::move(text).str(), request.output, out);
   if (result.relax) throw NoPlan(*result.relax);
 }

@@ -7,6 +7,7 @@
 
 #include "cli/FarmOptions.h"
 #include "cli/Messages.h"
+#include "cli/report/FullReport.h"
 #include "cli/report/Reports.h"
 
 namespace verdalis {
@@ -17,6 +18,7 @@ struct EvaluateRequest {
   std::string format = "table";
   std::optional<std::string> output;  ///< File to write instead of standard output
   ReportRequest reports;
+  FullReportRequest fullReport;
   std::optional<std::string> explain;  ///< "K.F": explains the net return of field F of option K
 };
 

@@ -95,9 +95,13 @@ FarmInput inputOf(std::string_view text, const Farm& farm) {
 ExploredFarm exploredFarm(const FarmRequest& request, Messages& messages) {
   const std::unique_ptr<TypedFarm> typed = makeFarm(request, messages);
   requireReady(request, *typed);
-  ExploredFarm explored{typed->farm(), {}, farmHandout("", {}, typed->document(), typed->library())};
+  ExploredFarm explored{typed->farm(),
+                        {},
+                        typed->document(),
+                        typed->library(),
+                        farmHandout("", {}, typed->document(), typed->library())};
   BestMix().setSize(explored.farm.size);  // fails for a size of 0, as an evaluation does
-  for (const DocumentSeason& season : typed->document().seasons)
+  for (const DocumentSeason& season : explored.document.seasons)
     explored.seasons.push_back({season.name, season.rain, season.weight});
   return explored;
 }

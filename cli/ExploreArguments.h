@@ -6,10 +6,12 @@
 
 #include "cli/FarmOptions.h"
 #include "cli/Messages.h"
+#include "document/FarmDocument.h"
 #include "engine/Farm.h"
 #include "explore/FarmInput.h"
 #include "explore/seasons.h"
 #include "handout/Handout.h"
+#include "model/CropScenario.h"
 #include "questions/values.h"
 
 namespace verdalis {
@@ -18,7 +20,9 @@ namespace verdalis {
 struct ExploredFarm {
   Farm farm;
   std::vector<Season> seasons;  ///< Of its farm file
-  Handout handout;              ///< Of a workbook, with the inputs
+  FarmDocument document;        ///< As it was entered
+  CropScenario library;
+  Handout handout;  ///< Of a workbook, with the inputs
 };
 
 /// The farm of the request as numbers.

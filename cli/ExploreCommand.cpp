@@ -43,6 +43,7 @@ ExploreCommand::ExploreCommand(CLI::App& app)
         ->check(CLI::IsMember(formatsWithWorkbook()));
     addFileOption(command, "--output", "FILE", request_.output,
                   "Write to this file instead of standard output");
+    addFullReportOptions(command, request_.fullReport);
     questions_.push_back({std::move(question), &command});
   }
 }
@@ -55,6 +56,11 @@ void ExploreCommand::run(std::ostream& out, Messages& messages) {
 
 void ExploreCommand::answer(ExploreQuestion& question, std::ostream& out, Messages& messages) {
   requirePlaceFor(request_.format, request_.output, out);
+  FullReport report(request_.fullReport);
+  const auto tell = [&](const ExploreCall::MakeSection& section) {
+    report.add(section(FullReport::mostRows));
+    report.finish();
+  };
   // The text is complete before its first byte is written.
   std::ostringstream text;
   text.exceptions(std::ios::badbit);  // out of memory
@@ -62,13 +68,16 @@ void ExploreCommand::answer(ExploreQuestion& question, std::ostream& out, Messag
     const Interrupt interrupt;
     ExploredFarm explored = exploredFarm(request_.farm, messages);
     const Farm& farm = explored.farm;
+    report.begin(explored.document, explored.library);
     ProgramState state;
     Progress progress(asTerminal(messages.stream()), state);
     if (request_.format == "table") writeWishes(text, farm);
     try {
       const bool onTerminal = !request_.output && isTerminal(out);
       HandoutSection section;
-      question.answer({farm, explored.seasons, request_.format, onTerminal, state, progress, section}, text);
+      ExploreCall call{farm, explored.seasons, request_.format, onTerminal, state, progress, section, {}};
+      if (report.wanted()) call.tell = tell;
+      question.answer(call, text);
       if (request_.format == workbookFormat) {
         explored.handout.title = section.title;
         explored.handout.sections.insert(explored.handout.sections.begin(), std::move(section));
@@ -80,6 +89,7 @@ void ExploreCommand::answer(ExploreQuestion& question, std::ostream& out, Messag
       throw;
     }
   }
+  report.deliver();
   deliver(std::move(text).str(), request_.output, out);
 }
 

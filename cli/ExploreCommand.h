@@ -10,6 +10,7 @@
 #include "cli/ExploreQuestion.h"
 #include "cli/FarmOptions.h"
 #include "cli/Messages.h"
+#include "cli/report/FullReport.h"
 
 namespace verdalis {
 
@@ -18,6 +19,7 @@ struct ExploreRequest {
   FarmRequest farm;
   std::string format = "table";
   std::optional<std::string> output;  ///< File to write instead of standard output
+  FullReportRequest fullReport;
 };
 
 /// The command `explore`, with a subcommand for each question.

@@ -100,6 +100,10 @@ class ExploreInputs : public ExploreQuestion {
     const std::optional<InputsResult> found =
         exploreInputs(call.farm, percent, boundsOf, call.state, call.hooks);
     const InputsResult result = answered(found);
+    if (call.tell) {
+      call.tell(
+          [&](std::optional<std::size_t> rows) { return inputsSection(call.farm, result, percent, rows); });
+    }
     if (call.format == workbookFormat) {
       call.section = inputsSection(call.farm, result, percent);
     } else if (call.format == "json") {

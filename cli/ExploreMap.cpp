@@ -148,6 +148,9 @@ class ExploreMap : public ExploreQuestion {
     }
     const InputMap map = answered(exploreMap(call.farm, {x.input, x.range.values()},
                                              {y.input, y.range.values()}, call.state, call.hooks));
+    if (call.tell) {
+      call.tell([&](std::optional<std::size_t> rows) { return mapSection(call.farm, map, rows); });
+    }
     if (call.format == workbookFormat) {
       call.section = mapSection(call.farm, map);
     } else if (call.format == "json") {

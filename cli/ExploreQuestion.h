@@ -1,6 +1,8 @@
 #pragma once
 
 #include <CLI/CLI.hpp>
+#include <cstddef>
+#include <functional>
 #include <iosfwd>
 #include <memory>
 #include <optional>
@@ -29,6 +31,12 @@ struct ExploreCall {
   ProgramState& state;                 ///< Requests a cancel
   RunHooks& hooks;                     ///< Receives the progress
   HandoutSection& section;             ///< Receives the answer in the format "xlsx"
+
+  /// Makes the answer a section of a report; see sectionOf().
+  using MakeSection = std::function<HandoutSection(std::optional<std::size_t> rows)>;
+
+  /// Receives the answer as a section; may be empty. What it is given must be used at once.
+  std::function<void(const MakeSection&)> tell = {};
 };
 
 /// A question of `explore`, such as "water", with its own options.

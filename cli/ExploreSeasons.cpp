@@ -169,6 +169,9 @@ class ExploreSeasons : public ExploreQuestion {
   void answer(const ExploreCall& call, std::ostream& out) override {
     const std::vector<Season> seasons = texts_.empty() ? seasonsOfFarm(call) : readSeasons(texts_);
     const SeasonsResult result = answered(exploreSeasons(call.farm, seasons, call.state, call.hooks));
+    if (call.tell) {
+      call.tell([&](std::optional<std::size_t> rows) { return seasonsSection(call.farm, result, rows); });
+    }
     if (call.format == workbookFormat) {
       call.section = seasonsSection(call.farm, result);
     } else if (call.format == "json") {

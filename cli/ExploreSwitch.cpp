@@ -67,6 +67,9 @@ class ExploreSwitch : public ExploreQuestion {
     const auto [input, from, to] = range(call.farm);
     const SwitchAnswer result{input, unitOf(input, call.farm), valueOf(call.farm, input),
                               answered(switchPrices(call.farm, input, from, to, call.state, call.hooks))};
+    if (call.tell) {
+      call.tell([&](std::optional<std::size_t> rows) { return switchSection(call.farm, result, rows); });
+    }
     if (call.format == workbookFormat) {
       call.section = switchSection(call.farm, result);
     } else if (call.format == "json") {

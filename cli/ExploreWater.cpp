@@ -124,6 +124,9 @@ class ExploreWater : public ExploreQuestion {
   void answer(const ExploreCall& call, std::ostream& out) override {
     const std::vector<double> asked = amounts(call.farm);
     const WaterResult result = answered(exploreWater(call.farm, asked, call.state, call.hooks));
+    if (call.tell) {
+      call.tell([&](std::optional<std::size_t> rows) { return waterSection(call.farm, result, rows); });
+    }
     if (call.format == workbookFormat) {
       call.section = waterSection(call.farm, result);
     } else if (call.format == "json") {

@@ -17,6 +17,7 @@
 #include "document/farmHandout.h"
 #include "explore/bestPlan.h"
 #include "model/EfficiencyFraction.h"
+#include "results/detailsSection.h"
 #include "results/optionsSection.h"
 #include "text/RunTimeError.h"
 #include "text/numbers.h"
@@ -119,8 +120,14 @@ void stopIfAsked() {
 /// A trend of one farm.
 class TrendRun {
  public:
-  TrendRun(const TrendArguments& request, TypedFarm& farm, RunHooks& progress, Messages& messages)
-      : request_(request), farm_(farm), inputs_(farm.trendHost()), progress_(progress), messages_(messages) {
+  TrendRun(const TrendArguments& request, TypedFarm& farm, RunHooks& progress, FullReport& report,
+           Messages& messages)
+      : request_(request),
+        farm_(farm),
+        inputs_(farm.trendHost()),
+        progress_(progress),
+        report_(report),
+        messages_(messages) {
     const std::string fallback = firstTickedCrop();
     processes_.push_back(makeTrendProcess(request.processes[0], "", farm, inputs_, fallback));
     if (request.processes[1].given())
@@ -172,6 +179,7 @@ class TrendRun {
     }
     requirePlan(std::all_of(findings.result.steps.begin(), findings.result.steps.end(),
                             [](const TrendStep& step) { return step.result.options.empty(); }));
+    if (report_.wanted()) reportVariable(outcome);
     if (request_.exportFile) {
       findings.page = makePage([&](std::string& page) {
         const TrendVariable& variable = trendVariable(processes_[0].process.VariableIndex);
@@ -198,8 +206,13 @@ class TrendRun {
       return std::find(crops.begin(), crops.end(), process.crop) == crops.end();
     });
     refuseTooLarge();
+    if (report_.wanted()) reportOptions(*options, number);
     const TrendOutcome outcome = run();
 
+    if (report_.wanted()) {
+      report_.add(fixedTrendSection(outcome.grid, EfficiencyFraction, FullReport::mostRows));
+      report_.finish();
+    }
     describeCombinations(outcome, findings.result);
     if (request_.format == workbookFormat) {
       findings.sections = {fixedTrendSection(outcome.grid, EfficiencyFraction),
@@ -239,6 +252,21 @@ class TrendRun {
   void requirePlan(bool nothing) {
     if (!nothing || farm_.inputs().wishes.empty()) return;
     throw NoTrend(farm_.inputs().wishes, findRelaxations(farm_.farm(), farm_.state(), progress_));
+  }
+
+  void reportVariable(const TrendOutcome& outcome) {
+    const std::string variable = trendVariable(processes_[0].process.VariableIndex).label;
+    const std::string& crop = processes_[0].crop;
+    const TrendedInput input{crop.empty() ? variable : crop + " " + variable, units()};
+    report_.add(variableTrendSection(stepsOf(outcome), input, FullReport::mostRows));
+    report_.finish();
+  }
+
+  /// Adds the options and the one that the trend is about, before it gets other values.
+  void reportOptions(const std::vector<Results::Option>& options, std::size_t number) {
+    report_.add(optionsSection(ListedOptions::inOrder(options, EfficiencyFraction), FullReport::mostRows));
+    report_.add(detailsSection("Option " + std::to_string(number) + " in detail", *trend_.option,
+                               EfficiencyFraction));
   }
 
   /// The crop of the first ticked row; empty if no row is ticked.
@@ -349,6 +377,7 @@ class TrendRun {
   TypedFarm& farm_;
   TrendHost& inputs_;
   RunHooks& progress_;
+  FullReport& report_;
   Messages& messages_;
   std::vector<TrendProcess> processes_;
   TrendRequest trend_;
@@ -356,14 +385,16 @@ class TrendRun {
 
 /// Runs the trend and writes its results to `text`.
 /// \returns the spreadsheet export, if it is asked for
-Page findTrend(const TrendArguments& request, std::size_t number, Reports& reports, Messages& messages,
-               std::ostream& text) {
+Page findTrend(const TrendArguments& request, std::size_t number, Reports& reports, FullReport& fullReport,
+               Messages& messages, std::ostream& text) {
   const std::unique_ptr<TypedFarm> typed = makeFarm(request.farm, messages);
   requireReady(request.farm, *typed);
   const FarmDocument before = typed->document();  // a trend leaves its last values in the inputs
+  fullReport.begin(before, typed->library());
   Progress progress(asTerminal(messages.stream()), typed->state());
-  TrendRun run(request, *typed, progress, messages);
-  if (number == 0 && !request.exportFile && request.format != workbookFormat) {
+  TrendRun run(request, *typed, progress, fullReport, messages);
+  const bool atOnce = request.exportFile || request.format == workbookFormat || fullReport.wanted();
+  if (number == 0 && !atOnce) {
     run.writeVariable(text);
     return {};
   }
@@ -378,11 +409,12 @@ Page findTrend(const TrendArguments& request, std::size_t number, Reports& repor
 
 /// Creates the output of a trend.
 /// \throws Cancelled after a Ctrl+C at any time
-void makeOutcome(const TrendArguments& request, Reports& reports, Messages& messages, Outcome& outcome) {
+void makeOutcome(const TrendArguments& request, Reports& reports, FullReport& fullReport, Messages& messages,
+                 Outcome& outcome) {
   const Interrupt interrupt;
   std::ostream text(&outcome.text);
   text.exceptions(std::ios::badbit);  // out of memory
-  outcome.page = findTrend(request, optionNumber(request.option), reports, messages, text);
+  outcome.page = findTrend(request, optionNumber(request.option), reports, fullReport, messages, text);
   stopIfAsked();
 }
 
@@ -412,6 +444,7 @@ const CLI::App& addTrendCommand(CLI::App& app, TrendArguments& request) {
       ->check(CLI::IsMember(formatsWithWorkbook()));
   addFileOption(command, "--output", "FILE", request.output, "Write to this file instead of standard output");
   addReportOptions(command, request.reports);
+  addFullReportOptions(command, request.fullReport);
   return command;
 }
 
@@ -419,16 +452,18 @@ void trend(const TrendArguments& request, std::ostream& out, Messages& messages)
   requireKind(request);
   requirePlaceFor(request.format, request.output, out);
   Reports reports(request.reports);
+  FullReport fullReport(request.fullReport);
   // The text is complete before its first byte is written.
   Outcome outcome;
   try {
-    makeOutcome(request, reports, messages, outcome);
+    makeOutcome(request, reports, fullReport, messages, outcome);
   } catch (const NoTrend& noTrend) {
     if (request.format == "json")
       deliver(noPlanJson(noTrend.wishes(), noTrend.relaxations()), request.output, out);
     throw;
   }
   reports.deliver();
+  fullReport.deliver();
   if (request.exportFile) deliverToFile(pageBytes(outcome.page.text), *request.exportFile);
   deliverPieces(outcome.text, request.output, out);
   if (outcome.page.error) throw RunTimeError(*outcome.page.error);

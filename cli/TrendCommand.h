@@ -9,6 +9,7 @@
 #include "cli/FarmOptions.h"
 #include "cli/Messages.h"
 #include "cli/TrendCommandProcess.h"
+#include "cli/report/FullReport.h"
 #include "cli/report/Reports.h"
 
 namespace verdalis {
@@ -19,6 +20,7 @@ struct TrendArguments {
   std::string format = "table";
   std::optional<std::string> output;  ///< File to write instead of standard output
   ReportRequest reports;
+  FullReportRequest fullReport;
   std::optional<std::string> option;             ///< Counted from 1; without it the trend is variable
   std::array<TrendProcessRequest, 2> processes;  ///< The second is only for a fixed trend
   std::optional<std::string> exportFile;         ///< File of the spreadsheet export

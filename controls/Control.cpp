@@ -54,6 +54,8 @@ std::string_view kindName(ControlKind kind) {
       return "Table";
     case ControlKind::ChartBox:
       return "ChartBox";
+    case ControlKind::PageBox:
+      return "PageBox";
     case ControlKind::Image:
       break;
   }

@@ -28,7 +28,8 @@ enum class ControlKind {
   ScrollBar,
   Image,
   Table,
-  ChartBox
+  ChartBox,
+  PageBox
 };
 
 /// The name of a kind, such as "TextBox".

@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+#include "charts/Drawing.h"
+
 namespace verdalis {
 
 // Services of the platform. The desktop window implements them with Qt; the command line answers them from a
@@ -48,7 +50,7 @@ struct FileQuestion {
   std::filesystem::path folder;
   std::string filter;              ///< Such as "Excel Worksheet (*.xls)|*.xls"
   std::string defaultExtension;    ///< Without the dot; added when saving under a name without extension
-  std::string suggestedName = {};  ///< To save under, without a folder; empty for none
+  std::string suggestedName = {};  ///< Proposed when saving; in the documents folder if `folder` is empty
 };
 
 class FileChooserService {
@@ -129,6 +131,22 @@ class PageSurface {
   virtual void endDocument() = 0;
 };
 
+/// Pages that are laid out, in points; see layOutPages().
+struct PlacedPages {
+  std::shared_ptr<const std::vector<Drawing>> pages;
+  std::string title;   ///< Of the document
+  std::string author;  ///< Empty if it is not known
+};
+
+/// A rough measure, where no font is known: all letters are equally wide.
+class RoughMeasure : public TextMeasure {
+ public:
+  [[nodiscard]] double size() const override { return 9; }
+  [[nodiscard]] double width(const std::string& text, double size, bool bold) const override {
+    return static_cast<double>(text.size()) * size * (bold ? 0.62 : 0.56);
+  }
+};
+
 class PrinterService {
  public:
   virtual ~PrinterService() = default;
@@ -139,6 +157,20 @@ class PrinterService {
 
   /// Starts a new document.
   virtual std::unique_ptr<PageSurface> beginDocument() = 0;
+
+  /// Measures the texts of pages that this printer prints.
+  [[nodiscard]] virtual const TextMeasure& pageMeasure() const {
+    static const RoughMeasure measure;
+    return measure;
+  }
+
+  /// Pages as the bytes of a PDF file.
+  /// \throws RunTimeError if it cannot be made
+  [[nodiscard]] virtual std::string pdfOf(const PlacedPages& /*pages*/) { return {}; }
+
+  /// Prints pages as a document on the printer that was asked for last.
+  /// \throws RunTimeError if they cannot be printed
+  virtual void printPages(const PlacedPages& /*pages*/) {}
 };
 
 /// Runs work that takes long beside the actions of the user.

@@ -26,6 +26,7 @@
 
 #include "desktop/ChartView.h"
 #include "desktop/Keys.h"
+#include "desktop/PageView.h"
 #include "desktop/TableView.h"
 
 namespace verdalis::desktop {
@@ -368,6 +369,15 @@ ChartView* Binder::bind(ChartBox& control, ChartView* widget, const QString& lab
     widget->setAccessibleName(chart && !chart->title.empty() ? qText(chart->title) : label);
   });
   connect(widget, &ChartView::picked, this, [&control](std::size_t index) { control.pick(index); });
+  return widget;
+}
+
+PageView* Binder::bind(PageBox& control, PageView* widget, const QString& label) {
+  name(control, widget, label);
+  watch(control, [&control, widget] {
+    showState(control, widget);
+    widget->setPage(control.pages(), control.page());
+  });
   return widget;
 }
 

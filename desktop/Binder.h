@@ -10,6 +10,7 @@
 #include "controls/ChartBox.h"
 #include "controls/Event.h"
 #include "controls/Grid.h"
+#include "controls/PageBox.h"
 #include "controls/Table.h"
 #include "controls/displays.h"
 #include "controls/inputs.h"
@@ -34,6 +35,7 @@ class QWidget;
 namespace verdalis::desktop {
 
 class ChartView;
+class PageView;
 class TableView;
 
 /// UTF-8 of the program as text of the toolkit, and back.
@@ -75,6 +77,8 @@ class Binder : public QObject {
 
   /// The name of a chart is its title, or `label` while it shows none.
   ChartView* bind(ChartBox& control, ChartView* widget, const QString& label);
+
+  PageView* bind(PageBox& control, PageView* widget, const QString& label);
 
   /// A frame or composite control: its visibility and whether it is enabled.
   QWidget* bind(Frame& control, QWidget* widget);

@@ -9,43 +9,17 @@
 #include <QPolygonF>
 #include <QSvgGenerator>
 #include <algorithm>
-#include <array>
 #include <cmath>
 
+#include "charts/inkColors.h"
 #include "desktop/Binder.h"
 
 namespace verdalis::desktop {
 namespace {
 
-/// A colour on a light ground, and one on a dark ground.
-struct Pair {
-  QRgb light;
-  QRgb dark;
-  [[nodiscard]] QColor in(Scheme scheme) const { return QColor(scheme == Scheme::dark ? dark : light); }
-};
-
-constexpr std::array<Pair, 6> seriesColors{{{0x2E6B3A, 0x7CC48A},
-                                            {0x2F7FB0, 0x6FB3D9},
-                                            {0xB9772A, 0xE0A458},
-                                            {0x7B5EA7, 0xB49ADB},
-                                            {0xB8433A, 0xF08A7E},
-                                            {0x2A8F86, 0x62C9BE}}};
-
-constexpr std::array<Pair, 9> categoryColors{{{0x2E6B3A, 0x5FA56D},
-                                              {0xC07F2F, 0xD9983F},
-                                              {0x3B86B5, 0x5E9FC9},
-                                              {0x8468AE, 0xA288CF},
-                                              {0xD0B33A, 0xD9C14F},
-                                              {0xB0503F, 0xD27460},
-                                              {0x37978D, 0x4FB3A8},
-                                              {0x8A928C, 0x8E9890},
-                                              {0xC77BA5, 0xD790B8}}};
-
-constexpr Pair lowest{0xE6F0E2, 0x2A3A2E};
-constexpr Pair highest{0x2E6B3A, 0x7CC48A};
-constexpr Pair gain{0x4F9A5B, 0x6DBB7B};
-constexpr Pair loss{0xC8714F, 0xDD8A68};
-constexpr Pair total{0x2F6F98, 0x6FB3D9};
+QColor in(Scheme scheme, const InkColors& colors) {
+  return QColor(scheme == Scheme::dark ? colors.dark : colors.light);
+}
 
 QColor between(const QColor& low, const QColor& high, double level) {
   const auto part = [&](float from, float to) {
@@ -92,8 +66,8 @@ QPolygonF polygon(const std::vector<Place>& places) {
 
 class DrawingPainter {
  public:
-  DrawingPainter(QPainter& painter, const FontMeasure& measure, Scheme scheme, QColor ground)
-      : painter_(painter), measure_(measure), scheme_(scheme), ground_(std::move(ground)) {}
+  DrawingPainter(QPainter& painter, const FontMeasure& measure, Scheme scheme, QColor ground, double unit)
+      : painter_(painter), measure_(measure), scheme_(scheme), ground_(std::move(ground)), unit_(unit) {}
 
   void operator()(const DrawnLine& line) const {
     painter_.setRenderHint(QPainter::Antialiasing);
@@ -111,7 +85,7 @@ class DrawingPainter {
 
   void operator()(const DrawnArea& area) const {
     painter_.setRenderHint(QPainter::Antialiasing, !area.upright);
-    painter_.setPen(area.outline ? QPen(color(*area.outline), 1) : QPen(Qt::NoPen));
+    painter_.setPen(area.outline ? QPen(color(*area.outline), unit_) : QPen(Qt::NoPen));
     painter_.setBrush(color(area.paint));
     if (area.upright) {
       painter_.drawRect(QRectF(point(area.corners[0]), point(area.corners[2])));
@@ -151,6 +125,7 @@ class DrawingPainter {
   const FontMeasure& measure_;
   Scheme scheme_;
   QColor ground_;
+  double unit_;
 };
 
 }  // namespace
@@ -171,20 +146,20 @@ QColor chartColor(const Paint& paint, Scheme scheme, const QColor& ground) {
     case Ink::grid:
       return between(ground, colours.line, 0.6);
     case Ink::series:
-      return seriesColors.at(paint.index % seriesColors.size()).in(scheme);
+      return in(scheme, seriesColors.at(paint.index % seriesColors.size()));
     case Ink::category:
-      return categoryColors.at(paint.index % categoryColors.size()).in(scheme);
+      return in(scheme, categoryColors.at(paint.index % categoryColors.size()));
     case Ink::hatch: {
       QColor line = ground;
       line.setAlphaF(0.55F);
       return line;
     }
     case Ink::value:
-      return between(lowest.in(scheme), highest.in(scheme), paint.level);
+      return between(in(scheme, lowestColor), in(scheme, highestColor), paint.level);
     case Ink::onValue: {
       // As light as it looks: where black and white text are equally readable on it.
       constexpr double middle = 0.179;
-      return lightness(between(lowest.in(scheme), highest.in(scheme), paint.level)) > middle
+      return lightness(between(in(scheme, lowestColor), in(scheme, highestColor), paint.level)) > middle
                  ? QColor(Qt::black)
                  : QColor(Qt::white);
     }
@@ -195,11 +170,11 @@ QColor chartColor(const Paint& paint, Scheme scheme, const QColor& ground) {
     case Ink::plain:
       return colours.water;
     case Ink::gain:
-      return gain.in(scheme);
+      return in(scheme, gainColor);
     case Ink::loss:
-      return loss.in(scheme);
+      return in(scheme, lossColor);
     case Ink::total:
-      return total.in(scheme);
+      return in(scheme, totalColor);
     case Ink::ground:
       break;
   }
@@ -220,8 +195,8 @@ double FontMeasure::width(const std::string& text, double size, bool bold) const
 }
 
 void paintDrawing(QPainter& painter, const Drawing& drawing, const FontMeasure& measure, Scheme scheme,
-                  const QColor& ground) {
-  const DrawingPainter parts(painter, measure, scheme, ground);
+                  const QColor& ground, double unit) {
+  const DrawingPainter parts(painter, measure, scheme, ground, unit);
   for (const DrawnPart& part : drawing.parts)
     std::visit(parts, part);
 }

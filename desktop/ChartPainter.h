@@ -34,8 +34,9 @@ class FontMeasure : public TextMeasure {
 };
 
 /// Draws a chart that is in place.
+/// \param unit the width of the outlines of areas.
 void paintDrawing(QPainter& painter, const Drawing& drawing, const FontMeasure& measure, Scheme scheme,
-                  const QColor& ground);
+                  const QColor& ground, double unit = 1);
 
 /// A chart on white for a document or a file.
 /// \param shape the width and height that it has on the screen.

@@ -5,6 +5,7 @@
 
 #include "desktop/Dialogs.h"
 #include "desktop/Habits.h"
+#include "desktop/ReportView.h"
 #include "desktop/SmallWindows.h"
 
 namespace verdalis::desktop {
@@ -106,6 +107,9 @@ void Desktop::showSecondary(Window& window) {
   }
   if (auto* notes = dynamic_cast<frmNotes*>(&window)) {
     static_cast<void>(notesWindow(*notes, binder_, main_.get()));
+  }
+  if (auto* report = dynamic_cast<frmReport*>(&window)) {
+    static_cast<void>(reportWindow(*report, binder_, main_.get()));
   }
   if (auto* efficiencies = dynamic_cast<frmHelpEff*>(&window)) {
     static_cast<void>(efficiencyWindow(*efficiencies, binder_, main_.get()));

@@ -170,6 +170,7 @@ void MainWindow::addMenus() {
   add(file, menus.mnuNotes);
   file->addSeparator();
   add(file, menus.mnuPrint, QKeySequence::Print);
+  add(file, menus.mnuReport, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_P));
   file->addSeparator();
   add(file, menus.mnuExit, QKeySequence(Qt::CTRL | Qt::Key_Q));
   QMenu* location = menu(menus.mnuLocation, tr("&Location"));

@@ -10,9 +10,11 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QTemporaryDir>
+#include <algorithm>
 #include <filesystem>
 #include <string_view>
 #include <system_error>
+#include <utility>
 
 #include "data/writeFile.h"
 #include "desktop/Binder.h"
@@ -95,20 +97,54 @@ std::optional<int> Printing::askCopies() {
 
 std::unique_ptr<PageSurface> Printing::beginDocument() {
   if (!printer_) return nullptr;
-  if (++documents_ > 1 && !file_.empty()) printer_->setOutputFileName(numbered(qText(file_), documents_));
+  nameNext();
   auto layout = std::make_unique<PageLayout>(*metrics_, paperOf(*printer_));
-  layout->onEnd = [this](const PageLayout& done) { draw(done); };
+  layout->onEnd = [this](const PageLayout& done) {
+    deliver([this, &done](QPainter& painter) {
+      int page = 0;
+      for (const PlacedText& text : done.texts()) {
+        for (; page < text.page; ++page)
+          printer_->newPage();
+        painter.setFont(fontOf(text.font));
+        painter.drawText(QPointF(text.x, text.y), qText(text.text));
+      }
+    });
+  };
   return layout;
 }
 
-void Printing::draw(const PageLayout& layout) {
+void Printing::print(const PlacedPages& pages) {
+  if (!printer_ || !pages.pages) return;
+  nameNext();
+  deliver([this, &pages](QPainter& painter) {
+    const QSizeF paper = printer_->paperRect(QPrinter::Point).size();
+    bool first = true;
+    for (const Drawing& page : *pages.pages) {
+      if (!std::exchange(first, false)) printer_->newPage();
+      const double factor = std::min(paper.width() / page.width, paper.height() / page.height);
+      painter.save();
+      painter.translate((paper.width() - page.width * factor) / 2,
+                        (paper.height() - page.height * factor) / 2);
+      painter.scale(factor, factor);
+      paintPage(painter, page, pageMeasure_);
+      painter.restore();
+    }
+  });
+}
+
+void Printing::nameNext() {
+  if (++documents_ > 1 && !file_.empty()) printer_->setOutputFileName(numbered(qText(file_), documents_));
+}
+
+void Printing::deliver(const Paint& paintDocument) {
   const QString file = printer_->outputFileName();
   if (file_.empty()) {
-    paint(layout, "The printer " + programText(printer_->printerName()) + " does not take the report.");
+    paint(paintDocument,
+          "The printer " + programText(printer_->printerName()) + " does not take the report.");
     return;
   }
   if (isDevice(file)) {
-    paint(layout, "The file " + programText(file) + " cannot be written.");
+    paint(paintDocument, "The file " + programText(file) + " cannot be written.");
     return;
   }
   // Qt writes into a file piece by piece. The report is replaced completely or not at all.
@@ -119,7 +155,7 @@ void Printing::draw(const PageLayout& layout) {
   const QString copy =
       work.filePath(suffix.isEmpty() ? QStringLiteral("report") : QStringLiteral("report.") + suffix);
   printer_->setOutputFileName(copy);
-  paint(layout, fault);
+  paint(paintDocument, fault);
   QFile painted(copy);
   if (!painted.open(QIODevice::ReadOnly)) throw cannotPrint(fault);
   const QByteArray bytes = painted.readAll();
@@ -129,18 +165,12 @@ void Printing::draw(const PageLayout& layout) {
   writeFile(programText(file), std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
 }
 
-void Printing::paint(const PageLayout& layout, const std::string& fault) {
+void Printing::paint(const Paint& paintDocument, const std::string& fault) {
   printer_->setFullPage(true);
   QPainter painter;
   if (!painter.begin(printer_.get())) throw cannotPrint(fault);
   painter.scale(printer_->resolution() / pointsPerInch, printer_->resolution() / pointsPerInch);
-  int page = 0;
-  for (const PlacedText& text : layout.texts()) {
-    for (; page < text.page; ++page)
-      printer_->newPage();
-    painter.setFont(fontOf(text.font));
-    painter.drawText(QPointF(text.x, text.y), qText(text.text));
-  }
+  paintDocument(painter);
   if (!painter.end()) throw cannotPrint(fault);
 }
 

@@ -1,11 +1,14 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 
 #include "controls/services.h"
+#include "desktop/PagePainter.h"
 #include "results/PageLayout.h"
 
+class QPainter;
 class QPrinter;
 
 namespace verdalis::desktop {
@@ -24,14 +27,26 @@ class Printing {
   /// later documents get their number in the file name.
   [[nodiscard]] std::unique_ptr<PageSurface> beginDocument();
 
+  /// Prints pages that are laid out as the next document. Pages of another size than the paper are scaled.
+  /// \throws RunTimeError if they cannot be printed
+  void print(const PlacedPages& pages);
+
+  [[nodiscard]] const PageMeasure& pageMeasure() const { return pageMeasure_; }
+
  private:
-  void draw(const PageLayout& layout);
+  /// Draws on the points of a page; a page is begun by newPage() of the printer.
+  using Paint = std::function<void(QPainter& painter)>;
+
+  /// Gives the next document to the printer or its file.
+  void deliver(const Paint& paintDocument);
 
   /// \throws RunTimeError with the text `fault`
-  void paint(const PageLayout& layout, const std::string& fault);
+  void paint(const Paint& paintDocument, const std::string& fault);
+  void nameNext();
 
   std::unique_ptr<QPrinter> printer_;
   std::unique_ptr<FontMetrics> metrics_;
+  PageMeasure pageMeasure_;
   std::string file_;
   int documents_ = 0;
 };

@@ -176,6 +176,10 @@ std::optional<int> QtServices::askCopies() {
   return printing_.askCopies();
 }
 
+std::string QtServices::pdfOf(const PlacedPages& pages) {
+  return pdfOfPages(pages, printing_.pageMeasure()).toStdString();
+}
+
 std::unique_ptr<PageSurface> QtServices::beginDocument() {
   return printing_.beginDocument();
 }

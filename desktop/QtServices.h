@@ -47,6 +47,9 @@ class QtServices : public MessageBoxService,
   void pump() override;
   std::optional<int> askCopies() override;
   std::unique_ptr<PageSurface> beginDocument() override;
+  [[nodiscard]] const TextMeasure& pageMeasure() const override { return printing_.pageMeasure(); }
+  [[nodiscard]] std::string pdfOf(const PlacedPages& pages) override;
+  void printPages(const PlacedPages& pages) override { printing_.print(pages); }
 
  private:
   QString helpFolder_;

@@ -69,6 +69,7 @@ class QuestionView : public QWidget {
     view.buttons->addStretch();
     view.buttons->addWidget(binder_.bind(pane_.cmdExport, new QPushButton));
     view.buttons->addWidget(binder_.bind(pane_.cmdCopy, new QPushButton));
+    view.buttons->addWidget(binder_.bind(pane_.cmdPrint, new QPushButton));
     addShortcut(binder_, this, QKeySequence(Qt::Key_Escape), pane_.cmdBack);
     binder_.name(pane_, this);
     ticks_.setInterval(betweenTicks);

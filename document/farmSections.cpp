@@ -228,6 +228,18 @@ std::vector<std::string> linesOf(const std::string& text) {
 
 }  // namespace
 
+std::string dateText(const ClockTime& time) {
+  constexpr std::array<const char*, 12> months{"January",   "February", "March",    "April",
+                                               "May",       "June",     "July",     "August",
+                                               "September", "October",  "November", "December"};
+  const auto month = static_cast<std::size_t>(std::clamp(time.month, 1, 12) - 1);
+  return std::string(months.at(month)) + " " + std::to_string(time.day) + ", " + std::to_string(time.year);
+}
+
+Handout reportHandout(const FarmDocument& farm, const ClockTime& today) {
+  return {"Irrigation plan", farm.name, farm.letterhead, dateText(today), {}};
+}
+
 HandoutSection farmSection(const FarmDocument& farm) {
   HandoutSection section{"Farm and pumping plant", {}, {}, {}};
   section.tables.push_back(farmTable(farm.inputs.farm));

@@ -1,10 +1,19 @@
 #pragma once
 
+#include <string>
+
+#include "controls/services.h"
 #include "document/FarmDocument.h"
 #include "handout/Handout.h"
 #include "model/CropScenario.h"
 
 namespace verdalis {
+
+/// A report of a farm, without its sections.
+[[nodiscard]] Handout reportHandout(const FarmDocument& farm, const ClockTime& today);
+
+/// A date as it is written out, such as "November 3, 2026".
+[[nodiscard]] std::string dateText(const ClockTime& time);
 
 // The inputs of a farm for a report or a workbook. Texts that are numbers become numbers; any other text
 // stands as it was typed.

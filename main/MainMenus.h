@@ -22,6 +22,7 @@ struct MainMenus {
         mnuSaveAs(window, "mnuSaveAs", "Save As...", &mnuFile),
         mnuNotes(window, "mnuNotes", "Farm Name and Notes...", &mnuFile),
         mnuPrint(window, "mnuPrint", "Print", &mnuFile),
+        mnuReport(window, "mnuReport", "Report...", &mnuFile),
         mnuExit(window, "mnuExit", "Exit", &mnuFile),
         mnuLocation(window, "mnuLocation", "Location"),
         mnuPrairia(window, "mnuPrairia", "Prairia", &mnuLocation),
@@ -72,6 +73,7 @@ struct MainMenus {
   MenuEntry mnuSaveAs;
   MenuEntry mnuNotes;
   MenuEntry mnuPrint;
+  MenuEntry mnuReport;  ///< A report to hand out
   MenuEntry mnuExit;
   MenuEntry mnuLocation;
   MenuEntry mnuPrairia;

@@ -5,6 +5,7 @@
 #include "controls/Event.h"
 #include "controls/services.h"
 #include "engine/ProgramState.h"
+#include "main/frmReport.h"
 #include "screens/frmAbout.h"
 #include "screens/frmHelpEff.h"
 #include "screens/frmNotes.h"
@@ -29,6 +30,7 @@ class SecondaryWindows {
   frmOptions& options() { return made(options_, state_, services_); }
   frmAbout& about() { return made(about_); }
   frmNotes& notes() { return made(notes_); }
+  frmReport& report() { return made(report_, services_); }
 
   void closeUpdating() { close(updating_); }
 
@@ -40,6 +42,7 @@ class SecondaryWindows {
     close(options_);
     close(about_);
     close(notes_);
+    close(report_);
   }
 
  private:
@@ -65,6 +68,7 @@ class SecondaryWindows {
   std::unique_ptr<frmOptions> options_;
   std::unique_ptr<frmAbout> about_;
   std::unique_ptr<frmNotes> notes_;
+  std::unique_ptr<frmReport> report_;
 };
 
 }  // namespace verdalis

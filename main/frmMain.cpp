@@ -105,6 +105,7 @@ frmMain::frmMain(Desk& desk, Services& services, ProgramState& state, SecondaryW
   wireSinceLastRun();
   wireLive();
   wireQuestions();
+  wireReport();
   wireWishes();
   wireExports();
   desk.onSettled.connect([this] {

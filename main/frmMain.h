@@ -180,6 +180,9 @@ class frmMain : public Window {
   void wirePrinting();
   void wireNotices();
   void wireQuestions();
+  void wireReport();
+  void openReport(const QuestionPane* asked);
+  [[nodiscard]] std::vector<ReportPart> reportParts(const FarmDocument& farm, const QuestionPane* asked);
   void wireWishes();
   void wireExports();
   void exportAnswer(const std::string& title, const FarmInputs& inputs,

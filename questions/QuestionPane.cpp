@@ -67,6 +67,7 @@ QuestionPane::QuestionPane(Frame& window, const std::string& name, const std::st
   });
   cmdCopy.onClick.connect([this] { services_.clipboard.setText(copyText()); });
   cmdExport.onClick.connect([this] { onExport(); });
+  cmdPrint.onClick.connect([this] { onPrint(); });
   cmdBack.onClick.connect([this] {
     cancel();
     onBack();
@@ -122,6 +123,7 @@ void QuestionPane::finish(QuestionJob& job) {
     job.show()();
     cmdCopy.setEnabled(true);
     cmdExport.setEnabled(true);
+    cmdPrint.setEnabled(true);
   } catch (const RunTimeError& error) {  // a number that no text can show
     tell(error.what());
   }
@@ -166,6 +168,7 @@ void QuestionPane::clearAnswer() {
   section_ = nullptr;
   cmdCopy.setEnabled(false);
   cmdExport.setEnabled(false);
+  cmdPrint.setEnabled(false);
 }
 
 void QuestionPane::changed() {

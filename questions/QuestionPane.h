@@ -60,6 +60,7 @@ class QuestionPane : public Frame {
   Button cmdCancel{*this, "cmdCancel", "Cancel"};
   Button cmdCopy{*this, "cmdCopy", "Copy table"};
   Button cmdExport{*this, "cmdExport", "Export..."};  ///< A workbook
+  Button cmdPrint{*this, "cmdPrint", "Print..."};     ///< Opens a report with this page
   Button cmdBack{*this, "cmdBack", "Back"};
 
   /// Shows the page, fills the fields that the user has not changed, and asks.
@@ -92,6 +93,7 @@ class QuestionPane : public Frame {
   Event<> onShowPane;       ///< The page must be shown
   Event<> onBack;           ///< cmdBack
   Event<> onExport;         ///< cmdExport
+  Event<> onPrint;          ///< cmdPrint
   Event<> onAsked;          ///< A question has been put, with the present farm
   Event<> onRunningChange;  ///< isRunning() has changed
 

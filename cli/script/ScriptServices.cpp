@@ -149,4 +149,12 @@ std::unique_ptr<PageSurface> ScriptServices::beginDocument() {
   return reportDocument(path, [path](const std::string& bytes) { deliverToFile(bytes, path.string()); });
 }
 
+std::string ScriptServices::pdfOf(const PlacedPages& pages) {
+  return drawPages(*pages.pages, pages.title, pages.author);
+}
+
+void ScriptServices::printPages(const PlacedPages& pages) {
+  deliverToFile(pdfOf(pages), copyPath(printPath_, ++printed_).string());
+}
+
 }  // namespace verdalis

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "controls/services.h"
+#include "pdf/drawHandout.h"
 
 namespace verdalis {
 
@@ -51,6 +52,9 @@ class ScriptServices : public MessageBoxService,
   void pump() override {}
   std::optional<int> askCopies() override;
   std::unique_ptr<PageSurface> beginDocument() override;
+  [[nodiscard]] const TextMeasure& pageMeasure() const override { return measure_; }
+  [[nodiscard]] std::string pdfOf(const PlacedPages& pages) override;
+  void printPages(const PlacedPages& pages) override;
 
  private:
   nlohmann::ordered_json messages_ = nlohmann::ordered_json::array();
@@ -58,6 +62,7 @@ class ScriptServices : public MessageBoxService,
   std::string clipboard_;
   std::filesystem::path printPath_;  ///< The answer to the last print dialog
   int printed_ = 0;                  ///< Number of its documents so far
+  PdfMeasure measure_;
 };
 
 /// The answer with the name ok, yes, no, cancel, save or discard.

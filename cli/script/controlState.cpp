@@ -7,6 +7,7 @@
 
 #include "controls/ChartBox.h"
 #include "controls/Grid.h"
+#include "controls/PageBox.h"
 #include "controls/Table.h"
 #include "controls/displays.h"
 #include "controls/inputs.h"
@@ -79,6 +80,18 @@ Json chartJson(const ChartBox& box) {
   return {{"title", chart->title}, {"summary", chart->summary}, {"table", chart->table}};
 }
 
+/// The page on show, from 1, and its texts in the order in which they are drawn.
+Json pagesJson(const PageBox& box) {
+  Json texts = Json::array();
+  if (box.page() < box.count()) {
+    for (const DrawnPart& part : (*box.pages())[box.page()].parts) {
+      if (const auto* text = std::get_if<DrawnText>(&part)) texts.push_back(text->text);
+    }
+  }
+  return {
+      {"pages", box.count()}, {"page", box.count() == 0 ? 0 : box.page() + 1}, {"texts", std::move(texts)}};
+}
+
 /// The properties of a control apart from name, kind and visibility.
 Json particulars(Control& control) {
   if (const auto* box = dynamic_cast<TextBox*>(&control)) return {{"text", box->text()}};
@@ -103,6 +116,7 @@ Json particulars(Control& control) {
   if (const auto* grid = dynamic_cast<Grid*>(&control)) return gridJson(*grid);
   if (const auto* table = dynamic_cast<Table*>(&control)) return tableJson(*table);
   if (const auto* box = dynamic_cast<ChartBox*>(&control)) return chartJson(*box);
+  if (const auto* box = dynamic_cast<PageBox*>(&control)) return pagesJson(*box);
   if (const auto* bar = dynamic_cast<ProgressBar*>(&control)) {
     return {{"value", numberJson(bar->value())}, {"maximum", numberJson(bar->maximum())}};
   }

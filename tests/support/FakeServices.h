@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "controls/services.h"
+#include "text/RunTimeError.h"
 
 namespace verdalis::testing {
 
@@ -196,6 +197,19 @@ class FakePrinter : public PrinterService {
   std::unique_ptr<PageSurface> beginDocument() override {
     documents.push_back(std::make_shared<FakeDocument>());
     return std::make_unique<FakePage>(documents.back());
+  }
+
+  /// The pages that were printed. Printing fails if `failure` is set.
+  std::vector<PlacedPages> printedPages;
+  std::string failure;
+
+  std::string pdfOf(const PlacedPages& pages) override {
+    return "%PDF of " + std::to_string(pages.pages->size()) + " pages";
+  }
+
+  void printPages(const PlacedPages& pages) override {
+    if (!failure.empty()) throw RunTimeError(ErrorNumber::fileNotFound, failure);
+    printedPages.push_back(pages);
   }
 };
 
