@@ -151,13 +151,25 @@ TEST_F(BadHome, FilesThatAreNoCropsAreSkipped) {
   EXPECT_TRUE(running.program->main().pneMain.findCropByName("corn"));
 }
 
-TEST_F(BadHome, AVeryLongNameIsShownInItsRow) {
-  const std::string name(50'000, 'n');
-  running.folder.write("crops/custom/long.txt",
-                       "CROP=" + name + "\r\n\r\nUNITS=" + name + "," + name +
-                           "\r\n\r\nANNUAL_RAIN=11,12\r\n\r\nEFF_IRRIG=0,1\r\n\r\nYIELD_VALUES=1,2,3,4\r\n");
+TEST_F(BadHome, ALongNameIsShownInItsRowAndAVeryLongOneIsTold) {
+  const auto write = [&](const std::string& file, const std::string& name) {
+    const std::string unit(127, 'u');
+    running.folder.write(
+        "crops/custom/" + file,
+        "CROP=" + name + "\r\n\r\nUNITS=" + unit + "," + unit +
+            "\r\n\r\nANNUAL_RAIN=11,12\r\n\r\nEFF_IRRIG=0,1\r\n\r\nYIELD_VALUES=1,2,3,4\r\n");
+  };
+  const std::string longest(255, 'n');
+  const std::string tooLong(50'000, 'm');
+  write("long.txt", longest);
+  write("too long.txt", tooLong);
   expectUsable();
-  EXPECT_TRUE(running.program->main().pneMain.findCropByName(name));
+  const frmMain& main = running.program->main();
+  EXPECT_TRUE(main.pneMain.findCropByName(longest));
+  EXPECT_FALSE(main.pneMain.findCropByName(tooLong));
+  ASSERT_FALSE(main.notices.all().empty());
+  EXPECT_NE(main.notices.all()[0].text.find("The name of the crop has more than 255 characters."),
+            std::string::npos);
 }
 
 TEST_F(BadHome, UnreadableCropsAreReported) {

@@ -4,6 +4,7 @@
 
 #include "data/writeFile.h"
 #include "tests/main/RunningProgram.h"
+#include "text/RunTimeError.h"
 
 namespace verdalis::testing {
 namespace {
@@ -221,7 +222,7 @@ TEST_F(LibrarySize, OfVeryManyCropFilesTheFirstAreReadAndTheRestIsTold) {
   EXPECT_EQ(main.pneMain.cr.size(), 201U);
   EXPECT_TRUE(main.notices.all().empty());
   fill(300);
-  main.pneCustomCrop.onReload();
+  EXPECT_THROW(main.loadCropRows(), RunTimeError);
   EXPECT_EQ(main.pneMain.cr.size(), 201U);
   ASSERT_EQ(main.notices.all().size(), 1U);
   EXPECT_EQ(
