@@ -207,7 +207,7 @@ QWidget* summaryView(SummaryPane& pane, Binder& binder) {
   QHBoxLayout* buttons = footerOf(layout);
   buttons->addWidget(binder.bind(pane.cmdCancel, new QPushButton));
   buttons->addStretch();
-  buttons->addWidget(binder.bind(pane.cmdExport, new QPushButton));
+  buttons->addWidget(binder.bind(pane.cmdWorkbook, new QPushButton));
   buttons->addWidget(binder.bind(pane.cmdExcelSave, new QPushButton));
   buttons->addWidget(binder.bind(pane.cmdCompare, new QPushButton));
   addShortcut(binder, view, QKeySequence(Qt::Key_Escape), pane.cmdCancel);

@@ -66,8 +66,8 @@ SummaryPane::SummaryPane(Frame& container, Services& services, SavedOptions& sum
   });
   cmdExcelSave.onClick.connect([this] { saveTable(); });
   cmdCompare.setVisible(false);
-  cmdExport.setVisible(false);
-  cmdExport.onClick.connect([this] { onExport(); });
+  cmdWorkbook.setVisible(false);
+  cmdWorkbook.onClick.connect([this] { onExport(); });
   cmdCompare.onClick.connect([this] { onCompare(); });
   cmdCancel.onClick.connect([this] { onBack(); });
 }
@@ -79,7 +79,7 @@ void SummaryPane::showSummary() {
 
 void SummaryPane::build() {
   cmdCompare.setVisible(!summaryResults_.empty());
-  cmdExport.setVisible(!summaryResults_.empty());
+  cmdWorkbook.setVisible(!summaryResults_.empty());
   if (summaryResults_.empty()) {
     fgsummary.setVisible(false);
     Label59.setCaption(

@@ -45,8 +45,8 @@ class SummaryPane : public Frame {
   Label Label59{*this, "Label59(1)"};  ///< The line above the grid
   Grid fgsummary{*this, "fgsummary", 12, 2};
   Button cmdExcelSave{*this, "cmdExcelSave", "Save table to CSV"};
-  Button cmdCompare{*this, "cmdCompare", "Compare"};  ///< Visible while there are saved options
-  Button cmdExport{*this, "cmdExport", "Export..."};  ///< A workbook; visible while there are saved options
+  Button cmdCompare{*this, "cmdCompare", "Compare"};      ///< Visible while there are saved options
+  Button cmdWorkbook{*this, "cmdWorkbook", "Export..."};  ///< Visible while there are saved options
   Button cmdCancel{*this, "cmdCancel(2)", "Back"};
 
   /// The action of the menu entry "Summary Table": builds the table from the saved options and raises
@@ -84,7 +84,7 @@ class SummaryPane : public Frame {
 
   Event<> onBack;
 
-  /// cmdExport
+  /// cmdWorkbook
   Event<> onExport;
 
   /// The user wants to see the saved options side by side.

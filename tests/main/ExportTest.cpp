@@ -106,19 +106,19 @@ TEST_F(Export, APageWithoutAnAnswerHasNothingToExport) {
 TEST_F(Export, SavedOptionsAndTheirComparisonBecomeWorkbooks) {
   frmMain& main = start();
   typeFarm();
-  EXPECT_FALSE(main.pneSummary.cmdExport.visible());
+  EXPECT_FALSE(main.pneSummary.cmdWorkbook.visible());
   press("Command1");
   press("theResults.cmdSaveResult");
   press("theResults.cmdAdvance");
   press("theResults.cmdSaveResult");
   choose("mnuSummary");
-  save("pneSummary.cmdExport", "saved.xlsx");
+  save("cmdWorkbook", "saved.xlsx");
   const WorkbookFile saved = book("saved.xlsx");
   EXPECT_EQ(saved.sheets()[0], "Saved options");
   const std::size_t head = saved.rowOf(0, "Saved option");
   EXPECT_EQ(saved.row(0, head + 4, 2)[0].number, 2);
-  press("pneSummary.cmdCompare");
-  save("pneCompare.cmdExport", "compare.xlsx");
+  press("cmdCompare");
+  save("cmdExport", "compare.xlsx");
   const WorkbookFile compared = book("compare.xlsx");
   EXPECT_EQ(compared.sheets()[0], "Comparison");
   const std::size_t row = compared.rowOf(0, "Net return of the farm ($)");
