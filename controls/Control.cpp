@@ -262,7 +262,20 @@ void Desk::act(const std::function<void()>& action) {
     const Action counted(*this);
     action();
   }
-  if (actions_ == 0) onActed();
+  if (actions_ > 0) return;
+  onActed();
+  unsettled_ = true;
+  if (settleLater) {
+    settleLater();
+  } else {
+    settle();
+  }
+}
+
+void Desk::settle() {
+  if (!unsettled_ || actions_ > 0) return;
+  unsettled_ = false;
+  onSettled();
 }
 
 Control* Desk::find(std::string_view path) const {

@@ -183,6 +183,16 @@ class Desk {
   /// An action of the user has ended, or the focus has moved. Not raised for actions inside another one.
   Event<> onActed;
 
+  /// Follows onActed, for what only informs the reader, such as hints. A door that shows the controls may put
+  /// it off for a moment, so that a key press does not wait for it.
+  Event<> onSettled;
+
+  /// Set by such a door: calls settle() soon. Without it, onSettled follows each onActed at once.
+  std::function<void()> settleLater;
+
+  /// Raises onSettled if it has been put off.
+  void settle();
+
   /// Whether the present action of the user is inside another one, which goes on afterwards: a run, or a
   /// message box.
   [[nodiscard]] bool isInsideAction() const { return actions_ > 1; }
@@ -253,6 +263,7 @@ class Desk {
 
   std::vector<Window*> windows_;
   int actions_ = 0;
+  bool unsettled_ = false;  ///< An action has ended since onSettled
   Control* focus_ = nullptr;
   Window* active_ = nullptr;
   int modals_ = 0;

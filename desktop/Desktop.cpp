@@ -14,12 +14,20 @@ namespace {
 /// Milliseconds from a change to the recovery copy with it: less than a second, and many keys together.
 constexpr int copyAfter = 800;
 
+/// Milliseconds from a change to the hints about it: too short to be noticed, and behind the key that is
+/// painted.
+constexpr int hintsAfter = 30;
+
 }  // namespace
 
 Desktop::Desktop(const ProgramFiles& files, const QString& helpFolder,
                  const std::optional<std::filesystem::path>& farm)
     : services_(helpFolder), table_(services_.services()), program_(table_, files), binder_(program_.desk) {
   services_.background().waitFor(program_.desk);
+  settling_.setSingleShot(true);
+  settling_.setInterval(hintsAfter);
+  connect(&settling_, &QTimer::timeout, this, [this] { program_.desk.settle(); });
+  program_.desk.settleLater = [this] { settling_.start(); };
   program_.onMainCreated.connect([this](frmMain& window) {
     main_ = std::make_unique<MainWindow>(
         window, binder_, [this](const QString& topic) { services_.showTopic(programText(topic)); });

@@ -42,6 +42,7 @@ class Desktop : public QObject {
   void showSecondary(Window& window);
   void endWith(Window& window);
 
+  QTimer settling_;  ///< Runs from an action to the hints about it
   QtServices services_;
   Services table_;
   Program program_;

@@ -140,8 +140,13 @@ QWidget* MainPaneView::farmCard() {
   place("txtArea", number(pane_.txtArea), tr("acres"));
   place("txtMax", number(pane_.txtMax), tr("inches"));
   auto* volume = figureLabel("figure");
-  volume->setMinimumHeight(numberFieldSize().height());
   binder_.bind(pane_.lblVolume, volume, plain(rowOf("lblVolume")->label));
+  // It changes with each key in two fields: a fixed size spares the layout of the page, unless it is longer.
+  binder_.alsoWatch(pane_.lblVolume, [volume, size = numberFieldSize()] {
+    constexpr int fitting = 10;  // characters
+    volume->setMinimumSize(size);
+    volume->setMaximumSize(volume->text().size() <= fitting ? size : QSize(QWIDGETSIZE_MAX, size.height()));
+  });
   place("lblVolume", volume, tr("ac-in"));
   auto* rain = combo(pane_.txtAnnRain);
   rain->lineEdit()->setAlignment(Qt::AlignRight);

@@ -73,8 +73,7 @@ class Reading {
     progress_->behind = ++at_;
     return *this;
   }
-  friend bool operator==(const Reading& a, const Reading& b) { return a.at_ == b.at_; }
-  friend bool operator!=(const Reading& a, const Reading& b) { return a.at_ != b.at_; }
+  bool operator==(const Reading& other) const { return at_ == other.at_; }
 
  private:
   static bool isBreak(char c) { return c == '\n' || c == '\r' || c == '\t'; }

@@ -129,7 +129,7 @@ FarmDocument withLossRestored(const FarmDocument& present, const UndoStep& step)
 }
 
 LossNotices::LossNotices(Desk& desk, DocumentKeeper& keeper, NoticeBar& notices)
-    : desk_(desk), keeper_(keeper), notices_(notices) {
+    : keeper_(keeper), notices_(notices) {
   desk.onActing.connect([this](Control& control) {
     actor_ = &control;
     before_.clear();

@@ -43,7 +43,6 @@ class LossNotices {
   void offer(const std::string& text, const UndoStep& step);
   void restore(const UndoStep& step);
 
-  Desk& desk_;
   DocumentKeeper& keeper_;
   NoticeBar& notices_;
   std::vector<std::pair<const Control*, Text>> watched_;

@@ -107,7 +107,7 @@ frmMain::frmMain(Desk& desk, Services& services, ProgramState& state, SecondaryW
   wireQuestions();
   wireWishes();
   wireExports();
-  desk.onActed.connect([this] {
+  desk.onSettled.connect([this] {
     if (pneMain.visible()) pneMain.showHints(state_.FineFactor);
   });
 }

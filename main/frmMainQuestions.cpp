@@ -74,7 +74,7 @@ frmMain::~frmMain() {
 }
 
 void frmMain::wireWishes() {
-  desk().onActed.connect([this] {
+  desk().onSettled.connect([this] {
     if (pneMain.isShown()) wishesCard.refresh();
   });
 }

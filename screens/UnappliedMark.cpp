@@ -25,7 +25,7 @@ std::vector<std::string> inputsOf(const Frame& page) {
 
 UnappliedMark::UnappliedMark(Frame& page, Label& label) : page_(page), label_(label) {
   label_.setVisible(false);
-  acts_ = page.desk().onActed.connectScoped([this] { refresh(); });
+  acts_ = page.desk().onSettled.connectScoped([this] { refresh(); });
 }
 
 void UnappliedMark::opened() {

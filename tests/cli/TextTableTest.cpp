@@ -73,7 +73,7 @@ TEST(DrawCurve, OmitsPointsIfThereAreTooMany) {
 }
 
 TEST(DrawCurve, DrawsOnePointAndEqualPoints) {
-  for (const std::size_t count : {1, 2}) {
+  for (const std::size_t count : {1U, 2U}) {
     std::ostringstream out;
     drawCurve(out, std::vector<CurvePoint>(count, {5, 7}), "");
     EXPECT_NE(out.str().find("█"), std::string::npos);

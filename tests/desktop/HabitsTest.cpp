@@ -70,7 +70,9 @@ TEST_F(Habit, APageIsMadeWhenItIsShownForTheFirstTime) {
 TEST_F(Habit, TheStatusTellsTheSizeOfTheRun) {
   start();
   typeFarm();
-  EXPECT_EQ(widget<QPushButton>("cmdStatus")->text(), QStringLiteral("2 crops, 11 water splits: ready"));
+  auto* status = widget<QPushButton>("cmdStatus");
+  EXPECT_TRUE(
+      QTest::qWaitFor([&] { return status->text() == QStringLiteral("2 crops, 11 water splits: ready"); }));
   EXPECT_FALSE(widget("cmdStatus")->isEnabled());
 }
 
@@ -79,7 +81,7 @@ TEST_F(Habit, UnappliedCostsAreMarked) {
   press("Command8");
   EXPECT_FALSE(widget("lblPlantNotApplied")->isVisible());
   type("txtLift", "123");
-  EXPECT_TRUE(widget("lblPlantNotApplied")->isVisible());
+  EXPECT_TRUE(QTest::qWaitFor([&] { return widget("lblPlantNotApplied")->isVisible(); }));
   press("Command9");
   press("Command8");
   EXPECT_FALSE(widget("lblPlantNotApplied")->isVisible());

@@ -64,7 +64,9 @@ class TrendWindow : public ::testing::Test {
   }
   [[nodiscard]] std::string text(const std::string& name) { return running.control<TextBox>(name).text(); }
   [[nodiscard]] std::string pane() const { return running.history().back(); }
-  [[nodiscard]] inputCosts& costs(int row) { return main.pneMain.cr.at(row)->Crop->inputCosts; }
+  [[nodiscard]] inputCosts& costs(int row) {
+    return main.pneMain.cr.at(static_cast<std::size_t>(row))->Crop->inputCosts;
+  }
 
   /// Goes back from the results of the trend to the main pane or to the results of the evaluation.
   void goBack() {
