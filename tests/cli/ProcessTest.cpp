@@ -342,5 +342,17 @@ TEST(Process, TheWaterCurveIsDrawnOnlyOnATerminal) {
   EXPECT_EQ(rows.finish().err.find(block), std::string::npos);
 }
 
+TEST(Process, AWorkbookIsNotForATerminal) {
+  const SmallHome home;
+  OnTerminal run(plainFarm(home, {"--format", "xlsx"}), true);
+  if (!run.runs()) GTEST_SKIP() << "the system has no terminals: /dev/pts is not mounted";
+  const CliResult result = run.finish();
+  EXPECT_EQ(result.exitCode, 2);
+  EXPECT_NE(result.err.find("Name a file with --output FILE."), std::string::npos) << result.err;
+  EXPECT_EQ(result.err.find("PK"), std::string::npos);
+  OnTerminal question(plainQuestion(home, "water"), true);  // other formats go anywhere
+  EXPECT_EQ(question.finish().exitCode, 0);
+}
+
 }  // namespace
 }  // namespace verdalis::testing
