@@ -139,7 +139,7 @@ class TrendRun {
 
   /// Runs a variable trend and writes its steps while it goes. Only a few steps at a time are in memory.
   void writeVariable(std::ostream& text) {
-    requireVariable();
+    requireVariable(mostOptionsWritten);
     trend_.processes.resize(1);
     const std::vector<TrendValue> values = processes_[0].process.GetValueArray();
     trend_.processes[0].SetValueArray({});
@@ -165,7 +165,7 @@ class TrendRun {
   }
 
   Findings runVariable() {
-    requireVariable();
+    requireVariable(mostOptionsKept);
     TrendOutcome outcome = run();
 
     Findings findings;
@@ -205,7 +205,7 @@ class TrendRun {
     tellOfIdleCrops("has no field in this option", [&](const TrendProcess& process) {
       return std::find(crops.begin(), crops.end(), process.crop) == crops.end();
     });
-    refuseTooLarge();
+    refuseTooLarge(mostOptionsKept);
     if (report_.wanted()) reportOptions(*options, number);
     const TrendOutcome outcome = run();
 
@@ -233,11 +233,11 @@ class TrendRun {
   }
 
  private:
-  void requireVariable() {
+  void requireVariable(double mostOptions) {
     tellOfIdleCrops("is not ticked", [this](const TrendProcess& process) {
       return !inputs_.isActive(static_cast<std::size_t>(process.process.cropIndex));
     });
-    refuseTooLarge();
+    refuseTooLarge(mostOptions);
   }
 
   void describeVariable(TrendResult& result) const {
@@ -302,8 +302,9 @@ class TrendRun {
 
   /// Checks the number of options to keep.
   /// \throws Refusal if a trend cannot keep so many
-  void refuseTooLarge() const {
-    if (const std::optional<Message> refusal = refuseTrend(trend_, inputs_)) throw Refusal(refusal->text);
+  void refuseTooLarge(double mostOptions) const {
+    if (const std::optional<Message> refusal = refuseTrend(trend_, inputs_, mostOptions))
+      throw Refusal(refusal->text);
   }
 
   /// Checks the number of combinations before the evaluation, which may take long.

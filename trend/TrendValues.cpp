@@ -18,7 +18,6 @@ namespace {
 
 constexpr double leastRain = 11;
 constexpr double mostRain = 21;
-constexpr double mostOptions = 1'000'000;
 constexpr std::size_t shownValues = 20;
 
 Message invalidValue(const std::string& text) {
@@ -174,11 +173,11 @@ std::optional<Message> refuseFixedTrend(std::size_t first, std::size_t second) {
                       ". Use fewer values.");
 }
 
-std::optional<Message> refuseVariableTrend(std::size_t values, double optionsToKeep) {
+std::optional<Message> refuseVariableTrend(std::size_t values, double optionsToKeep, double most) {
   const double options = static_cast<double>(values) * optionsToKeep;
-  if (options <= mostOptions) return std::nullopt;
+  if (options <= most) return std::nullopt;
   return invalidValue(count(static_cast<double>(values)) + " values with " + count(optionsToKeep) +
-                      " options each are more than the " + count(mostOptions) +
+                      " options each are more than the " + count(most) +
                       " options that a variable trend can keep. Use fewer values, or keep fewer options.");
 }
 

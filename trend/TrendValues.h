@@ -55,9 +55,15 @@ struct TrendRange {
 /// large. Pass 1 as the length of a missing second list.
 [[nodiscard]] std::optional<Message> refuseFixedTrend(std::size_t first, std::size_t second);
 
-/// The refusal of a variable trend that would keep too many options, because it keeps those of all its runs;
-/// nothing if it is not too large.
-[[nodiscard]] std::optional<Message> refuseVariableTrend(std::size_t values, double optionsToKeep);
+/// How many options of all its runs a variable trend can have: those that are kept in memory, about 3 kB
+/// each, and those that are written while it runs.
+inline constexpr double mostOptionsKept = 150'000;
+inline constexpr double mostOptionsWritten = 1'000'000;
+
+/// The refusal of a variable trend with more options in all its runs than `most`; nothing if it is not too
+/// large.
+[[nodiscard]] std::optional<Message> refuseVariableTrend(std::size_t values, double optionsToKeep,
+                                                         double most = mostOptionsKept);
 
 /// The values as one line of text; of a long list only the first values.
 [[nodiscard]] std::string describeValues(const std::vector<TrendValue>& values);

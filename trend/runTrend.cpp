@@ -7,11 +7,12 @@
 
 namespace verdalis {
 
-std::optional<Message> refuseTrend(const TrendRequest& request, const TrendInputs& inputs) {
+std::optional<Message> refuseTrend(const TrendRequest& request, const TrendInputs& inputs,
+                                   double mostOptions) {
   const auto length = [&](std::size_t process) {
     return process < request.processes.size() ? request.processes[process].GetValueArray().size() : 1;
   };
-  if (request.isVariable()) return refuseVariableTrend(length(0), Val(inputs.txtArraySize()));
+  if (request.isVariable()) return refuseVariableTrend(length(0), Val(inputs.txtArraySize()), mostOptions);
   return refuseFixedTrend(length(0), length(1));
 }
 

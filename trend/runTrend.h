@@ -14,6 +14,7 @@
 #include "trend/TrendExecution.h"
 #include "trend/TrendHost.h"
 #include "trend/TrendState.h"
+#include "trend/TrendValues.h"
 
 namespace verdalis {
 
@@ -47,7 +48,8 @@ struct TrendOutcome {
 
 /// The refusal of a trend that is too large; nothing if it is not.
 /// \throws RunTimeError (overflow) if the number of options to keep is too large
-[[nodiscard]] std::optional<Message> refuseTrend(const TrendRequest& request, const TrendInputs& inputs);
+[[nodiscard]] std::optional<Message> refuseTrend(const TrendRequest& request, const TrendInputs& inputs,
+                                                 double mostOptions = mostOptionsKept);
 
 /// Runs a trend. A variable trend evaluates the live inputs once per value; they keep the last value. A fixed
 /// trend prices its option again with each value or pair of values. Stores the processes, the option and the

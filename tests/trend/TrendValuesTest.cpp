@@ -240,12 +240,21 @@ TEST(TrendSizeTest, AFixedTrendHasAtMost32767Combinations) {
   EXPECT_TRUE(refuseFixedTrend(1'000'000, 1'000'000));
 }
 
-TEST(TrendSizeTest, AVariableTrendKeepsAtMostAMillionOptions) {
-  EXPECT_FALSE(refuseVariableTrend(10'000, 100));
-  EXPECT_FALSE(refuseVariableTrend(1'000'000, 1));
-  ASSERT_TRUE(refuseVariableTrend(10'001, 100));
-  EXPECT_THAT(refuseVariableTrend(10'001, 100)->text, HasSubstr("10,001 values with 100 options"));
-  EXPECT_EQ(refuseVariableTrend(10'001, 100)->title, "Invalid value");
+TEST(TrendSizeTest, AVariableTrendKeepsAtMostAsManyOptionsAsFit) {
+  EXPECT_FALSE(refuseVariableTrend(1'500, 100));
+  EXPECT_FALSE(refuseVariableTrend(150'000, 1));
+  ASSERT_TRUE(refuseVariableTrend(1'501, 100));
+  EXPECT_THAT(refuseVariableTrend(1'501, 100)->text,
+              HasSubstr("1,501 values with 100 options each are more than the 150,000 options"));
+  EXPECT_EQ(refuseVariableTrend(1'501, 100)->title, "Invalid value");
+}
+
+TEST(TrendSizeTest, AVariableTrendThatIsWrittenAtOnceHasAtMostAMillionOptions) {
+  EXPECT_FALSE(refuseVariableTrend(10'000, 100, mostOptionsWritten));
+  EXPECT_FALSE(refuseVariableTrend(1'000'000, 1, mostOptionsWritten));
+  ASSERT_TRUE(refuseVariableTrend(10'001, 100, mostOptionsWritten));
+  EXPECT_THAT(refuseVariableTrend(10'001, 100, mostOptionsWritten)->text,
+              HasSubstr("10,001 values with 100 options"));
 }
 
 TEST(TrendPreviewTest, ShowsTheValues) {
