@@ -6,6 +6,7 @@
 
 #include "cli/OptionsWriter.h"
 #include "text/numbers.h"
+#include "text/quote.h"
 
 namespace verdalis {
 namespace {
@@ -19,8 +20,7 @@ constexpr std::string_view head =
 
 std::string csvQuoted(const std::string& name) {
   // Spreadsheet programs take a text that begins so for a formula; an apostrophe says that it is a text.
-  const bool isFormula =
-      !name.empty() && std::string_view("=+-@\t\r").find(name.front()) != std::string_view::npos;
+  const bool isFormula = beginsLikeFormula(name) || name.starts_with('\t') || name.starts_with('\r');
   const std::string text = isFormula ? "'" + name : name;
   if (text.find_first_of(",\"\r\n") == std::string::npos) return text;
   std::string result = "\"";

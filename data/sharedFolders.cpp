@@ -37,8 +37,8 @@ fs::path programFolder() {
 }
 
 std::vector<fs::path> sharedFolders(const fs::path& program) {
-  std::vector<fs::path> folders;
-  if (!program.empty()) folders.push_back((program / VERDALIS_SHARED).lexically_normal());
+  if (program.empty()) return {};
+  std::vector<fs::path> folders{(program / VERDALIS_SHARED).lexically_normal()};
   if (const fs::path source = sourceFolder(program); !source.empty()) folders.push_back(source);
   return folders;
 }

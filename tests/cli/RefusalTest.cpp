@@ -204,7 +204,7 @@ TEST(Refusal, RejectsInvalidArguments) {
   EXPECT_EQ(withCorn(home, {"--fast"}).exitCode, 2);
   EXPECT_EQ(withCorn(home, {"--crop"}).exitCode, 2);
   EXPECT_EQ(withCorn(home, {"--split", "4"}).exitCode, 2) << "given twice";
-  expectFailure(withCorn(home, {"--format", "xml"}), 2, "--format: xml not in {table,csv,json}" + help);
+  expectFailure(withCorn(home, {"--format", "xml"}), 2, "--format: xml not in {table,csv,json,xlsx}" + help);
 }
 
 TEST(RunTimeErrors, GiveNoResult) {

@@ -143,8 +143,10 @@ TEST_F(TrendRefusalTest, RejectsAFileWithAMillionValues) {
   const std::string path = home.folder().write("million.txt", million);
   const Args values{"--values-file", path};
   expectRefused(irrigationCosts + values,
-                "1,000,000 values with 100 options each are more than the 1,000,000 options that a variable "
+                "1,000,000 values with 100 options each are more than the 150,000 options that a variable "
                 "trend can keep. Use fewer values, or keep fewer options.");
+  EXPECT_THAT(trend(irrigationCosts + values).err,
+              HasSubstr("1,000,000 values with 100 options each are more than the 1,000,000 options"));
   expectRefused(irrigationCosts + values + Args{"--option", "1"},
                 "The values make 1,000,000 combinations, and a fixed trend can have at most 32,767. Use "
                 "fewer values.");

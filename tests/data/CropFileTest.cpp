@@ -109,7 +109,7 @@ TEST(CropFile, NameIsTakenUnchanged) {
   EXPECT_EQ(cropOf(withLine(1, "CROP= Corn, white "))->cropType, " Corn, white ");
   EXPECT_EQ(cropOf(withLine(1, "CROP="))->cropType, "");
   EXPECT_EQ(cropOf(withLine(1, "CROP=cOrN"))->cropType, "cOrN");
-  EXPECT_EQ(cropOf(withLine(1, "CROP=" + std::string(100'000, 'n')))->cropType.size(), 100'000U);
+  EXPECT_EQ(cropOf(withLine(1, "CROP=" + std::string(255, 'n')))->cropType.size(), 255U);
 }
 
 TEST(CropFile, UnitsAreSplitAtTheComma) {

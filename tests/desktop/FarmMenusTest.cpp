@@ -98,7 +98,7 @@ TEST_F(FarmMenus, TheMenusShowTheirEntriesInOrder) {
     return texts.join(QLatin1Char('|')).toStdString();
   };
   EXPECT_EQ(entries(widget<QMenu>("mnuTools(0)")),
-            "New|Open...|Open Recent|-|Save|Save As...|-|Farm Name and Notes...|-|Print|-|Exit");
+            "New|Open...|Open Recent|-|Save|Save As...|-|Farm Name and Notes...|-|Print|Report...|-|Exit");
   EXPECT_EQ(entries(widget<QMenu>("mnuTools(1)")), "Undo|Redo|-|Options");
 }
 

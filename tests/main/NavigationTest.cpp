@@ -134,6 +134,7 @@ TEST_F(Navigation, MenusHaveTheirOrderAndTheirStates) {
                               "  mnuSaveAs \"Save As...\"",
                               "  mnuNotes \"Farm Name and Notes...\"",
                               "  mnuPrint \"Print\" disabled",
+                              "  mnuReport \"Report...\"",
                               "  mnuExit \"Exit\"",
                               "mnuLocation \"Location\"",
                               "  mnuPrairia \"Prairia\" checked",
