@@ -10,9 +10,9 @@ namespace verdalis {
 
 /// How the numbers of an axis or a table are written.
 struct NumberStyle {
-  std::string before;  ///< Such as "$"
-  std::string after;   ///< Such as " in"
-  int decimals = 0;
+  std::string before;      ///< Such as "$"
+  std::string after;       ///< Such as " in"
+  int decimals = 0;        ///< At most 30 are written
   bool thousands = false;  ///< 37117 as "37,117"
   bool exact = false;      ///< Further decimals where a number has them
 };

@@ -8,6 +8,8 @@
 namespace verdalis {
 namespace {
 
+constexpr int mostDecimals = 30;
+
 /// How many decimals a number has; 0 for one that is written with an exponent.
 int decimalsOf(double value) {
   const std::string text = generalText(value);
@@ -20,7 +22,8 @@ int decimalsOf(double value) {
 
 std::string styled(double value, const NumberStyle& style) {
   if (!std::isfinite(value)) return {};
-  const int decimals = style.exact ? std::max(style.decimals, decimalsOf(value)) : style.decimals;
+  const int least = style.exact ? decimalsOf(value) : 0;
+  const int decimals = std::min(std::max(style.decimals, least), mostDecimals);
   std::string pattern = style.thousands ? "#,##0" : "0";
   if (decimals > 0) pattern += "." + std::string(static_cast<std::size_t>(decimals), '0');
   const std::string digits = formatNumber(value, pattern);
