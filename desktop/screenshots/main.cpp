@@ -102,6 +102,9 @@ void photographQuestions(Desktop& desktop, const Photographer& camera) {
     camera.take(window,
                 QStringLiteral("explore-") + QString::fromStdString(pages.at(i)->name().substr(3)).toLower());
   }
+  main.questions.water.cmdPrint.click();
+  camera.take(desktop.binder().widget(desktop.program().windows.report()), QStringLiteral("report"));
+  desktop.program().windows.report().cmdClose.click();
   main.menus.mnuLive.click();
   for (const std::size_t slider : {0U, 4U}) {
     ScrollBar& bar = main.pneLive.sliders.at(slider)->bar;
