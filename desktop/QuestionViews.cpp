@@ -269,7 +269,7 @@ QWidget* seasonsView(SeasonsPane& pane, Binder& binder) {
 }
 
 QWidget* inputsView(InputsPane& pane, Binder& binder) {
-  auto* view = new QuestionView(pane, binder, wideTable);
+  auto* view = new QuestionView(pane, binder, manyColumns);
   view->addField(pane.txtPercent, QObject::tr("Lower and higher by"), QObject::tr("%"));
   view->addStretch();
   return view;
