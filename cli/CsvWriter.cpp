@@ -21,7 +21,7 @@ constexpr std::string_view head =
 std::string csvQuoted(const std::string& name) {
   // Spreadsheet programs take a text that begins so for a formula; an apostrophe says that it is a text.
   const bool isFormula = beginsLikeFormula(name) || name.starts_with('\t') || name.starts_with('\r');
-  const std::string text = isFormula ? "'" + name : name;
+  std::string text = isFormula ? "'" + name : name;
   if (text.find_first_of(",\"\r\n") == std::string::npos) return text;
   std::string result = "\"";
   for (const char c : text) {

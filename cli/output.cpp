@@ -16,11 +16,13 @@ void writeTo(std::ostream& out, std::string_view text) {
 }
 
 std::unique_ptr<FileReplacement> replacementOf(const std::optional<std::string>& file) {
-  return file && !isOpenTarget(*file) ? std::make_unique<FileReplacement>(*file) : nullptr;
+  if (!file || isOpenTarget(*file)) return nullptr;
+  return std::make_unique<FileReplacement>(*file);
 }
 
 std::unique_ptr<OpenTarget> targetOf(const std::optional<std::string>& file) {
-  return file && isOpenTarget(*file) ? std::make_unique<OpenTarget>(*file) : nullptr;
+  if (!file || !isOpenTarget(*file)) return nullptr;
+  return std::make_unique<OpenTarget>(*file);
 }
 
 }  // namespace

@@ -66,8 +66,9 @@ QPolygonF polygon(const std::vector<Place>& places) {
 
 class DrawingPainter {
  public:
-  DrawingPainter(QPainter& painter, const FontMeasure& measure, Scheme scheme, QColor ground, double unit)
-      : painter_(painter), measure_(measure), scheme_(scheme), ground_(std::move(ground)), unit_(unit) {}
+  DrawingPainter(QPainter& painter, const FontMeasure& measure, Scheme scheme, const QColor& ground,
+                 double unit)
+      : painter_(painter), measure_(measure), scheme_(scheme), ground_(ground), unit_(unit) {}
 
   void operator()(const DrawnLine& line) const {
     painter_.setRenderHint(QPainter::Antialiasing);
