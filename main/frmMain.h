@@ -187,6 +187,7 @@ class frmMain : public Window {
   void wireExports();
   void exportAnswer(const std::string& title, const FarmInputs& inputs,
                     const std::function<std::vector<HandoutSection>()>& answer);
+  void tellSaved(const std::string& text, const std::filesystem::path& file, const std::string& about = {});
   void tellNoPlan();
   void markOutdated();
   [[nodiscard]] std::vector<Season> farmSeasons() const;

@@ -73,12 +73,17 @@ void frmMain::exportAnswer(const std::string& title, const FarmInputs& inputs,
                   .about = about});
     return;
   }
+  tellSaved("Saved " + path->filename().string() + ".", *path, about);
+}
+
+/// Tells that a file has been saved, and offers to open it or its folder.
+void frmMain::tellSaved(const std::string& text, const fs::path& file, const std::string& about) {
   const auto open = [this](const fs::path& what) {
     if (services_.openFile.open(what)) return;
     notices.tell({.text = "No program could be found to open " + what.string() + "."});
   };
-  const fs::path whole = fs::absolute(*path);
-  notices.tell({.text = "Saved " + path->filename().string() + ".",
+  const fs::path whole = fs::absolute(file);
+  notices.tell({.text = text,
                 .actionCaption = "Open",
                 .action = [open, whole] { open(whole); },
                 .actionCaption2 = "Open folder",

@@ -18,21 +18,6 @@ namespace {
 /// The most rows of a table in a report.
 constexpr std::size_t mostRows = 50;
 
-/// What the pane shows, as texts.
-HandoutSection comparisonSection(const ComparePane& pane) {
-  HandoutTable table;
-  const Grid& grid = pane.fgCompare;
-  for (int column = 0; column < grid.columns(); ++column)
-    table.columns.push_back({grid.cell(0, column), "", column > 0, {}});
-  for (int row = 1; row < grid.rows(); ++row) {
-    HandoutRow cells{{}, pane.isSection(row)};
-    for (int column = 0; column < grid.columns(); ++column)
-      cells.cells.emplace_back(grid.cell(row, column));
-    table.rows.push_back(std::move(cells));
-  }
-  return {"Comparison", {}, {}, {table}};
-}
-
 }  // namespace
 
 void frmMain::wireReport() {
@@ -44,7 +29,7 @@ void frmMain::wireReport() {
     if (report == nullptr) return;
     report->writeFile = &verdalis::writeFile;
     report->onSaved.connect(
-        [this](const std::filesystem::path& path) { notices.tell({"Saved " + path.string()}); });
+        [this](const std::filesystem::path& path) { tellSaved("Saved " + path.string(), path); });
   });
 }
 
@@ -90,7 +75,7 @@ std::vector<ReportPart> frmMain::reportParts(const FarmDocument& farm, const Que
   if (!summaryResults.empty())
     add("Saved options", shows(pneSummary), [this] { return pneSummary.section(mostRows); });
   if (!summaryResults.empty() && pneCompare.fgCompare.rows() > 1)
-    add("Comparison", shows(pneCompare), [this] { return comparisonSection(pneCompare); });
+    add("Comparison", shows(pneCompare), [this] { return pneCompare.section(); });
   for (QuestionPane* page : questions.all()) {
     if (!page->hasAnswer()) continue;
     add(shownCaption(page->caption()), page == asked || shows(*page),
