@@ -10,12 +10,12 @@
 #include "cli/BatchRow.h"
 #include "cli/BatchRun.h"
 #include "cli/InputSource.h"
-#include "cli/Interrupt.h"
 #include "cli/farmTexts.h"
 #include "cli/output.h"
 #include "cli/textOptions.h"
 #include "data/CsvReader.h"
 #include "model/LandDivision.h"
+#include "platform/Interrupt.h"
 #include "screens/wishText.h"
 #include "text/quote.h"
 

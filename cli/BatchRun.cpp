@@ -6,10 +6,10 @@
 #include <utility>
 
 #include "cli/EvaluationResult.h"
-#include "cli/Interrupt.h"
 #include "cli/relaxation.h"
 #include "engine/evaluateScenario.h"
 #include "engine/relaxWishes.h"
+#include "platform/Interrupt.h"
 #include "text/quote.h"
 
 namespace verdalis {

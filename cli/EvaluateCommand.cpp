@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "cli/EvaluationResult.h"
-#include "cli/Interrupt.h"
 #include "cli/OptionsWriter.h"
 #include "cli/Progress.h"
 #include "cli/explain.h"
@@ -14,6 +13,7 @@
 #include "cli/workbook.h"
 #include "document/farmHandout.h"
 #include "explore/bestPlan.h"
+#include "platform/Interrupt.h"
 #include "results/detailsSection.h"
 #include "results/optionsSection.h"
 #include "xlsx/writeWorkbook.h"

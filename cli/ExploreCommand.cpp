@@ -5,7 +5,6 @@
 
 #include "cli/ExploreArguments.h"
 #include "cli/ExploreQuestions.h"
-#include "cli/Interrupt.h"
 #include "cli/OptionsWriter.h"
 #include "cli/Progress.h"
 #include "cli/TextTable.h"
@@ -14,6 +13,7 @@
 #include "cli/textOptions.h"
 #include "cli/workbook.h"
 #include "explore/bestPlan.h"
+#include "platform/Interrupt.h"
 #include "questions/planText.h"
 #include "xlsx/writeWorkbook.h"
 

@@ -11,7 +11,6 @@
 #include <utility>
 #include <vector>
 
-#include "cli/Interrupt.h"
 #include "cli/JsonWriter.h"
 #include "cli/Messages.h"
 #include "engine/Farm.h"
@@ -19,6 +18,7 @@
 #include "engine/RunHooks.h"
 #include "explore/seasons.h"
 #include "handout/Handout.h"
+#include "platform/Interrupt.h"
 
 namespace verdalis {
 

@@ -9,6 +9,7 @@
 #include "data/home.h"
 #include "data/readFile.h"
 #include "document/farmText.h"
+#include "platform/paths.h"
 #include "screens/paneWishes.h"
 #include "text/RunTimeError.h"
 #include "text/numbers.h"
@@ -44,10 +45,10 @@ std::int16_t iterationFactor(const std::string& text, Messages& messages) {
 }
 
 ProgramFiles filesOf(const FarmRequest& request) {
-  ProgramFiles files(request.home ? std::filesystem::path(*request.home) : homeFolder(homePlaces()));
+  ProgramFiles files(request.home ? pathOf(*request.home) : homeFolder(homePlaces()));
   if (request.farmFile) files.inputs.clear();  // the farm file takes the place of all saved inputs
   if (!request.inputs) return files;
-  files.inputs = *request.inputs;
+  files.inputs = pathOf(*request.inputs);
   try {
     static_cast<void>(readFile(files.inputs));
   } catch (const RunTimeError& error) {
@@ -61,7 +62,7 @@ ProgramFiles filesOf(const FarmRequest& request) {
 FarmDocument openFarmFile(const std::string& file) {
   FarmFile read;
   try {
-    read = readFarmFile(file);
+    read = readFarmFile(pathOf(file));
   } catch (const RunTimeError& error) {
     throw Refusal(std::string("--farm: ") + error.what());
   }

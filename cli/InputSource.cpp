@@ -1,29 +1,27 @@
 #include "cli/InputSource.h"
 
-#include <fcntl.h>
-#include <poll.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <cerrno>
+#include <chrono>
+#include <optional>
 #include <system_error>
 
-#include "cli/Interrupt.h"
 #include "cli/Messages.h"
+#include "platform/Interrupt.h"
+#include "platform/errors.h"
+#include "platform/paths.h"
 #include "text/RunTimeError.h"
 
 namespace verdalis {
 namespace {
 
-constexpr int millisecondsBetweenLooks = 100;
+constexpr std::chrono::milliseconds timeBetweenLooks{100};
 
-std::string reasonOf(int error) {
-  return std::generic_category().message(error);
-}
-
-bool isFolder(int descriptor) {
-  struct stat status {};
-  return ::fstat(descriptor, &status) == 0 && S_ISDIR(status.st_mode);
+std::unique_ptr<InputFile> openFile(const std::string& path) try {
+  auto file = std::make_unique<InputFile>(pathOf(path));
+  if (file->kind() == InputFile::Kind::folder) throw std::system_error(EISDIR, std::generic_category());
+  return file;
+} catch (const std::system_error& error) {
+  throw Refusal("The file " + path + " cannot be read: " + reasonText(error.code()) + ".");
 }
 
 }  // namespace
@@ -33,36 +31,18 @@ std::size_t StreamSource::read(char* to, std::size_t size) {
   return static_cast<std::size_t>(in_.gcount());
 }
 
-FileSource::FileSource() : name_("standard input"), descriptor_(STDIN_FILENO) {}
+FileSource::FileSource() : name_("standard input"), file_(std::make_unique<InputFile>()) {}
 
-FileSource::FileSource(const std::string& path)
-    : name_("the file " + path), descriptor_(::open(path.c_str(), O_RDONLY | O_CLOEXEC)) {
-  int reason = descriptor_ < 0 ? errno : 0;
-  if (reason == 0 && isFolder(descriptor_)) {
-    ::close(descriptor_);
-    reason = EISDIR;
-  }
-  if (reason != 0) throw Refusal("The file " + path + " cannot be read: " + reasonOf(reason) + ".");
-}
+FileSource::FileSource(const std::string& path) : name_("the file " + path), file_(openFile(path)) {}
 
-FileSource::~FileSource() {
-  if (descriptor_ != STDIN_FILENO) ::close(descriptor_);
-}
-
-std::size_t FileSource::read(char* to, std::size_t size) {
+std::size_t FileSource::read(char* to, std::size_t size) try {
   while (!Interrupt::requested()) {
-    struct pollfd waiting {
-      descriptor_, POLLIN, 0
-    };
-    const int ready = ::poll(&waiting, 1, millisecondsBetweenLooks);
-    if (ready == 0 || (ready < 0 && errno == EINTR)) continue;
-    const ssize_t count = ::read(descriptor_, to, size);
-    if (count >= 0) return static_cast<std::size_t>(count);
-    if (errno != EINTR && errno != EAGAIN) {
-      throw RunTimeError(ErrorNumber::fileNotFound, name_ + " cannot be read: " + reasonOf(errno) + ".");
-    }
+    if (!file_->isReadyWithin(timeBetweenLooks)) continue;
+    if (const std::optional<std::size_t> count = file_->read(to, size)) return *count;
   }
   return 0;
+} catch (const std::system_error& error) {
+  throw RunTimeError(ErrorNumber::fileNotFound, name_ + " cannot be read: " + reasonText(error.code()) + ".");
 }
 
 }  // namespace verdalis

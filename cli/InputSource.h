@@ -2,9 +2,11 @@
 
 #include <cstddef>
 #include <istream>
+#include <memory>
 #include <string>
 
 #include "data/ByteSource.h"
+#include "platform/InputFile.h"
 
 namespace verdalis {
 
@@ -28,12 +30,11 @@ class FileSource final : public ByteSource {
   /// Opens a file.
   /// \throws Refusal if the file does not exist or cannot be read
   explicit FileSource(const std::string& path);
-  ~FileSource() override;
   [[nodiscard]] std::size_t read(char* to, std::size_t size) override;
 
  private:
   std::string name_;
-  int descriptor_;
+  std::unique_ptr<InputFile> file_;
 };
 
 }  // namespace verdalis

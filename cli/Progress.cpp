@@ -1,14 +1,13 @@
 #include "cli/Progress.h"
 
-#include <unistd.h>
-
 #include <algorithm>
 #include <chrono>
 #include <cmath>
 #include <iostream>
 #include <utility>
 
-#include "cli/Interrupt.h"
+#include "platform/Interrupt.h"
+#include "platform/terminal.h"
 #include "text/numbers.h"
 
 namespace verdalis {
@@ -84,7 +83,7 @@ void Progress::erase() {
 }
 
 std::ostream* asTerminal(std::ostream& err) {
-  return &err == &std::cerr && isatty(STDERR_FILENO) == 1 ? &err : nullptr;
+  return &err == &std::cerr && isTerminal(StandardStream::error) ? &err : nullptr;
 }
 
 }  // namespace verdalis

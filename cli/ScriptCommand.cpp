@@ -9,6 +9,7 @@
 #include "cli/textOptions.h"
 #include "data/home.h"
 #include "data/stateFolder.h"
+#include "platform/paths.h"
 #include "text/RunTimeError.h"
 
 namespace verdalis {
@@ -16,7 +17,7 @@ namespace {
 
 bool replay(const ScriptRequest& request, std::istream& script, std::ostream& out) {
   std::optional<std::filesystem::path> home;
-  if (request.home) home = *request.home;
+  if (request.home) home = pathOf(*request.home);
   ProgramFiles files(home ? *home : homeFolder(homePlaces()));
   files.state = stateFolder(home);
   files.recovers = request.recovery;
@@ -45,8 +46,9 @@ bool replayScript(const ScriptRequest& request, std::istream& in, std::ostream& 
   if (!request.file) throw Refusal("A script is required: the name of a file, or - for standard input.");
   if (*request.file == "-") return replay(request, in, out);
   std::error_code ignored;
-  std::ifstream file(*request.file, std::ios::binary);
-  if (!file || std::filesystem::is_directory(*request.file, ignored)) {
+  const std::filesystem::path path = pathOf(*request.file);
+  std::ifstream file(path, std::ios::binary);
+  if (!file || std::filesystem::is_directory(path, ignored)) {
     throw Refusal("The file " + *request.file + " cannot be read.");
   }
   return replay(request, file, out);

@@ -9,6 +9,7 @@
 #include "cli/FarmOptions.h"
 #include "cli/Progress.h"
 #include "data/sharedFolders.h"
+#include "platform/folders.h"
 #include "text/RunTimeError.h"
 #include "text/numbers.h"
 

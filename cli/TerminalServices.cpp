@@ -2,6 +2,8 @@
 
 #include <ctime>
 
+#include "platform/localTime.h"
+
 namespace verdalis {
 
 MessageAnswer TerminalServices::show(const Message& message) {
@@ -29,9 +31,8 @@ ClockTime TerminalServices::now() const {
 }
 
 ClockTime localTime() {
-  const std::time_t seconds = std::time(nullptr);
-  std::tm local{};
-  if (::localtime_r(&seconds, &local) == nullptr) return {};
+  const std::tm local = localTime(std::time(nullptr));
+  if (local.tm_mday == 0) return {};
   return {local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min, local.tm_sec};
 }
 

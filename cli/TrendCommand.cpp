@@ -5,7 +5,6 @@
 #include <ostream>
 #include <utility>
 
-#include "cli/Interrupt.h"
 #include "cli/OptionsWriter.h"
 #include "cli/Progress.h"
 #include "cli/TrendCommandText.h"
@@ -17,6 +16,7 @@
 #include "document/farmHandout.h"
 #include "explore/bestPlan.h"
 #include "model/EfficiencyFraction.h"
+#include "platform/Interrupt.h"
 #include "results/detailsSection.h"
 #include "results/optionsSection.h"
 #include "text/RunTimeError.h"

@@ -1,13 +1,13 @@
 #include "cli/TrendCommandProcess.h"
 
-#include <unistd.h>
-
 #include <filesystem>
 #include <system_error>
 #include <utility>
 
 #include "cli/FarmOptions.h"
 #include "cli/textOptions.h"
+#include "platform/fileAccess.h"
+#include "platform/paths.h"
 #include "text/RunTimeError.h"
 #include "text/numbers.h"
 #include "text/quote.h"
@@ -63,8 +63,9 @@ void requireNumber(const std::string& option, const std::string& text) {
 /// Checks the file first. The reader would only ask for a file, without the name of this one.
 void requireReadable(const std::string& option, const std::string& file) {
   std::error_code error;
-  const bool readable = std::filesystem::is_regular_file(file, error) && ::access(file.c_str(), R_OK) == 0;
-  if (readable && std::filesystem::file_size(file, error) != 0) return;
+  const std::filesystem::path path = pathOf(file);
+  const bool readable = std::filesystem::is_regular_file(path, error) && mayRead(path);
+  if (readable && std::filesystem::file_size(path, error) != 0) return;
   throw Refusal(option + ": Please select a file! The file " + file +
                 (readable ? " is empty." : " cannot be read."));
 }
@@ -97,7 +98,7 @@ ValuesOption readValues(const TrendProcessRequest& request, const std::string& s
   if (request.values) return {"--values" + suffix, readValuesList(*request.values), TrendValuesKind::manual};
   const std::string option = "--values-file" + suffix;
   requireReadable(option, *request.valuesFile);
-  return {option, readValuesFile(*request.valuesFile), TrendValuesKind::import};
+  return {option, readValuesFile(pathOf(*request.valuesFile)), TrendValuesKind::import};
 }
 
 /// Reads the values. Values that no run can use, such as 1e999, are refused before the first run.

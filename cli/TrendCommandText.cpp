@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string_view>
 
+#include "platform/scratchFile.h"
 #include "text/RunTimeError.h"
 
 namespace verdalis {
@@ -21,7 +22,7 @@ void TextPieces::forEach(const std::function<void(const std::string&)>& use) {
 
 /// Moves the first piece, which is full, to the file. Without room there, all further pieces stay in memory.
 void TextPieces::spill() {
-  if (!file_) file_ = File(std::tmpfile(), &std::fclose);
+  if (!file_) file_ = File(openScratchFile(), &std::fclose);
   maySpill_ = file_ && std::fwrite(pieces_.front().data(), pieceSize, 1, file_.get()) == 1 &&
               std::fflush(file_.get()) == 0;
   if (!maySpill_) return;

@@ -1,10 +1,9 @@
 #include <iostream>
-#include <string>
-#include <vector>
 
 #include "cli/run.h"
+#include "platform/terminal.h"
 
 int main(int argc, char** argv) {
-  return verdalis::run(std::vector<std::string>(argv + (argc > 0 ? 1 : 0), argv + argc), std::cin, std::cout,
-                       std::cerr);
+  verdalis::prepareTerminal();
+  return verdalis::run(verdalis::arguments(argc, argv), std::cin, std::cout, std::cerr);
 }

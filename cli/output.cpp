@@ -2,9 +2,10 @@
 
 #include <ostream>
 
-#include "cli/Interrupt.h"
 #include "data/farmFile.h"
 #include "data/writeFile.h"
+#include "platform/Interrupt.h"
+#include "platform/paths.h"
 #include "text/RunTimeError.h"
 
 namespace verdalis {
@@ -16,13 +17,13 @@ void writeTo(std::ostream& out, std::string_view text) {
 }
 
 std::unique_ptr<FileReplacement> replacementOf(const std::optional<std::string>& file) {
-  if (!file || isOpenTarget(*file)) return nullptr;
-  return std::make_unique<FileReplacement>(*file);
+  if (!file || isOpenTarget(pathOf(*file))) return nullptr;
+  return std::make_unique<FileReplacement>(pathOf(*file));
 }
 
 std::unique_ptr<OpenTarget> targetOf(const std::optional<std::string>& file) {
-  if (!file || !isOpenTarget(*file)) return nullptr;
-  return std::make_unique<OpenTarget>(*file);
+  if (!file || !isOpenTarget(pathOf(*file))) return nullptr;
+  return std::make_unique<OpenTarget>(pathOf(*file));
 }
 
 }  // namespace
@@ -36,20 +37,20 @@ void deliver(const std::string& text, const std::optional<std::string>& file, st
 }
 
 void deliverToFile(const std::string& bytes, const std::string& file) {
-  if (isOpenTarget(file)) {
-    OpenTarget(file).write(bytes);
+  if (isOpenTarget(pathOf(file))) {
+    OpenTarget(pathOf(file)).write(bytes);
   } else {
     const Interrupt untilWritten;  // a Ctrl+C now would leave an unfinished file next to the old one
-    writeFile(file, bytes);
+    writeFile(pathOf(file), bytes);
   }
 }
 
 void deliverFarm(const std::string& text, const std::optional<std::string>& file, std::ostream& out) {
-  if (!file || isOpenTarget(*file)) {
+  if (!file || isOpenTarget(pathOf(*file))) {
     deliver(text, file, out);
   } else {
     const Interrupt untilWritten;
-    writeFarmFile(*file, text);
+    writeFarmFile(pathOf(*file), text);
   }
 }
 

@@ -6,8 +6,8 @@
 #include <string>
 #include <string_view>
 
-#include "data/OpenTarget.h"
 #include "data/writeFile.h"
+#include "platform/OpenTarget.h"
 
 namespace verdalis {
 

@@ -5,8 +5,8 @@
 #include <sstream>
 #include <utility>
 
-#include "cli/Interrupt.h"
 #include "cli/Messages.h"
+#include "platform/Interrupt.h"
 
 namespace verdalis {
 namespace {

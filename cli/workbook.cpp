@@ -1,11 +1,10 @@
 #include "cli/workbook.h"
 
-#include <unistd.h>
-
 #include <iostream>
 
 #include "cli/Messages.h"
 #include "cli/OptionsWriter.h"
+#include "platform/terminal.h"
 
 namespace verdalis {
 
@@ -19,7 +18,7 @@ const std::vector<std::string>& formatsWithWorkbook() {
 }
 
 bool isTerminal(const std::ostream& out) {
-  return &out == &std::cout && isatty(STDOUT_FILENO) == 1;
+  return &out == &std::cout && verdalis::isTerminal(StandardStream::out);
 }
 
 void requirePlaceFor(std::string_view format, const std::optional<std::string>& output,

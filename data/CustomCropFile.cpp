@@ -8,6 +8,7 @@
 #include "data/readBytes.h"
 #include "data/readFile.h"
 #include "model/YieldUnit.h"
+#include "platform/paths.h"
 #include "text/RunTimeError.h"
 #include "text/numbers.h"
 
@@ -171,7 +172,7 @@ std::string RemoveIllegals(std::string_view name) {
 
 fs::path customCropPath(const fs::path& folder, const std::string& name) {
   const std::string file = RemoveIllegals(name) + ".txt";
-  return folder / (isHidden(file) ? "_" + file : file);
+  return folder / pathOf(isHidden(file) ? "_" + file : file);
 }
 
 std::filesystem::path freeCropPath(const std::filesystem::path& folder, const std::string& name) {
@@ -179,7 +180,7 @@ std::filesystem::path freeCropPath(const std::filesystem::path& folder, const st
   std::filesystem::path free = path;
   std::error_code error;
   for (int number = 2; std::filesystem::exists(free, error); ++number)
-    free = folder / (path.stem().string() + " (" + std::to_string(number) + ").txt");
+    free = folder / pathOf(path.stem().string() + " (" + std::to_string(number) + ").txt");
   return free;
 }
 

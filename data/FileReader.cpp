@@ -6,9 +6,9 @@
 #include <utility>
 
 #include "data/listFiles.h"
-#include "data/owner.h"
 #include "data/readFile.h"
 #include "model/CropKind.h"
+#include "platform/fileAccess.h"
 #include "text/RunTimeError.h"
 #include "text/encoding.h"
 #include "text/numbers.h"

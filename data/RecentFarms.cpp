@@ -8,6 +8,7 @@
 #include "data/readBytes.h"
 #include "data/stateFolder.h"
 #include "data/writeFile.h"
+#include "platform/paths.h"
 #include "text/RunTimeError.h"
 
 namespace verdalis {
@@ -29,7 +30,7 @@ fs::path fullPath(const fs::path& path) {
 bool canBeKept(std::string_view path) {
   constexpr std::size_t mostBytes = 4095;  // the longest path that can be opened
   constexpr std::string_view ends("\r\n\0", 3);
-  return path.starts_with('/') && path.size() <= mostBytes &&
+  return pathOf(path).is_absolute() && path.size() <= mostBytes &&
          path.find_first_of(ends) == std::string_view::npos;
 }
 
@@ -48,15 +49,15 @@ std::vector<fs::path> RecentFarms::list() const {
   for (std::string_view rest = text; !rest.empty() && farms.size() < most;) {
     const std::string_view line = rest.substr(0, rest.find('\n'));
     rest.remove_prefix(std::min(line.size() + 1, rest.size()));
-    if (canBeKept(line) && std::find(farms.begin(), farms.end(), line) == farms.end())
-      farms.emplace_back(line);
+    if (canBeKept(line) && std::find(farms.begin(), farms.end(), pathOf(line)) == farms.end())
+      farms.push_back(pathOf(line));
   }
   return farms;
 }
 
 void RecentFarms::add(const fs::path& farm) const {
   const fs::path path = fullPath(farm);
-  if (!canBeKept(path.native())) return;
+  if (!canBeKept(path.string())) return;
   std::vector<fs::path> farms = list();
   farms.erase(std::remove(farms.begin(), farms.end(), path), farms.end());
   farms.insert(farms.begin(), path);
@@ -75,7 +76,7 @@ void RecentFarms::remove(const fs::path& farm) const {
 void RecentFarms::replace(const std::vector<fs::path>& farms) const {
   std::string text;
   for (const fs::path& farm : farms)
-    text += farm.native() + "\n";
+    text += farm.string() + "\n";
   makePrivateFolder(file_.parent_path());
   FileReplacement file(file_, TemporaryFile::Naming::whenComplete);
   file.write(text);

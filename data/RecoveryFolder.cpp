@@ -1,23 +1,22 @@
 #include "data/RecoveryFolder.h"
 
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <array>
 #include <cassert>
 #include <cerrno>
+#include <exception>
+#include <random>
 #include <string>
 #include <system_error>
 #include <tuple>
 #include <utility>
 
-#include "data/LockFile.h"
-#include "data/TemporaryFile.h"
 #include "data/farmFile.h"
 #include "data/listFiles.h"
-#include "data/owner.h"
 #include "data/stateFolder.h"
+#include "platform/LockFile.h"
+#include "platform/TemporaryFile.h"
+#include "platform/errors.h"
 #include "text/RunTimeError.h"
 
 namespace verdalis {
@@ -36,17 +35,16 @@ constexpr std::string_view newEnd = ".new.verdalis";
                                                     ": " + std::generic_category().message(reason) + ".");
 }
 
-/// A name that no program has used before.
-std::string newName() {
-  std::array<unsigned char, 8> bytes{};
-  if (::getentropy(bytes.data(), bytes.size()) != 0) return {};
+/// A name that no program has used before; empty if the system has no random numbers.
+std::string newName() try {
   constexpr std::string_view digits = "0123456789abcdef";
+  std::random_device random;
   std::string name(prefix);
-  for (const unsigned char byte : bytes) {
-    name += digits[byte / digits.size()];
-    name += digits[byte % digits.size()];
-  }
+  for (int i = 0; i < 16; ++i)
+    name += digits[random() % digits.size()];
   return name;
+} catch (const std::exception&) {
+  return {};
 }
 
 fs::path lockOf(fs::path copy) {
@@ -57,22 +55,38 @@ fs::path newCopyOf(const fs::path& copy) {
   return copy.parent_path() / (copy.stem().string() + std::string(newEnd));
 }
 
-std::optional<struct stat> regularFile(const fs::path& path) {
-  struct stat status {};
-  if (::lstat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode)) return std::nullopt;
-  return status;
+bool isRegular(const fs::path& path) {
+  std::error_code error;
+  return fs::is_regular_file(fs::symlink_status(path, error));
 }
 
-std::chrono::system_clock::time_point timeOf(const struct stat& status) {
-  const auto time =
-      std::chrono::seconds(status.st_mtim.tv_sec) + std::chrono::nanoseconds(status.st_mtim.tv_nsec);
-  return std::chrono::system_clock::time_point(
-      std::chrono::duration_cast<std::chrono::system_clock::duration>(time));
+/// When a copy was last written; nothing if there is none.
+std::optional<std::chrono::system_clock::time_point> timeOf(const fs::path& copy) {
+  std::error_code error;
+  if (!isRegular(copy)) return std::nullopt;
+  const fs::file_time_type time = fs::last_write_time(copy, error);
+  if (error) return std::nullopt;
+  return std::chrono::time_point_cast<std::chrono::system_clock::duration>(
+      std::chrono::file_clock::to_sys(time));
 }
 
-/// \returns false if a file is still there; errno says why.
-bool unlinked(const fs::path& path) {
-  return ::unlink(path.c_str()) == 0 || errno == ENOENT;
+/// Deletes a file, if it is there.
+void deleteCopy(const fs::path& path) {
+  std::error_code error;
+  fs::remove(path, error);
+  if (error) fail(path, "deleted", error.default_error_condition().value());
+}
+
+/// \returns false if the file is still there.
+bool deleted(const fs::path& path) {
+  std::error_code error;
+  fs::remove(path, error);
+  return !error;
+}
+
+void renameCopy(const fs::path& from, const fs::path& to) {
+  std::error_code ignored;
+  fs::rename(from, to, ignored);
 }
 
 bool isNewCopy(const fs::path& file) {
@@ -87,14 +101,14 @@ void completeReplacement(const fs::path& newCopy) {
       newCopy.parent_path() / (name.substr(0, name.size() - newEnd.size()) + std::string(farmFileExtension));
   if (isHeldByAnyone(lockOf(copy))) return;  // its program is about to do so
   const LockFile lock(lockOf(copy));
-  if (lock.isHeld() && regularFile(newCopy)) ::rename(newCopy.c_str(), copy.c_str());
+  if (lock.isHeld() && isRegular(newCopy)) renameCopy(newCopy, copy);
 }
 
 /// Deletes a lock file that no program holds, if there is no copy beside it.
 void removeIfStale(const fs::path& file) {
-  constexpr off_t mostBytes = 40;
-  const auto status = regularFile(file);
-  if (!status || status->st_size > mostBytes || isHeldByAnyone(file)) return;
+  constexpr std::uintmax_t mostBytes = 40;
+  std::error_code error;
+  if (!isRegular(file) || fs::file_size(file, error) > mostBytes || isHeldByAnyone(file)) return;
   const LockFile lock(file);  // removes it at the end
   static_cast<void>(lock);
 }
@@ -106,11 +120,11 @@ std::vector<fs::path> filesWith(std::string_view extension, const fs::path& fold
   fs::directory_iterator entry(folder, error);
   for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
     const fs::path& path = entry->path();
-    if (path.extension() == extension && !isHidden(path) && regularFile(path)) files.push_back(path);
+    if (path.extension() == extension && !isHidden(path) && isRegular(path)) files.push_back(path);
   }
   if (error && error != std::errc::no_such_file_or_directory) {
     throw RunTimeError(ErrorNumber::fileNotFound, "The folder of recovery copies " + folder.string() +
-                                                      " cannot be read: " + error.message() + ".");
+                                                      " cannot be read: " + reasonText(error) + ".");
   }
   std::sort(files.begin(), files.end());
   return files;
@@ -131,28 +145,28 @@ void RecoveryFolder::takeOwnName() {
       name.empty() ? nullptr : std::make_unique<LockFile>(folder_ / (name + std::string(lockExtension)));
   if (!lock || !lock->isHeld()) fail(folder_ / (name + std::string(farmFileExtension)), "written", errno);
   const fs::path former = std::exchange(own_, folder_ / (name + std::string(farmFileExtension)));
-  if (!former.empty()) ::rename(former.c_str(), own_.c_str());
+  if (!former.empty()) renameCopy(former, own_);
   ownLock_ = std::move(lock);
 }
 
 void RecoveryFolder::write(std::string_view text) {
   takeOwnName();
   TemporaryFile file(folder_, TemporaryFile::Naming::whenComplete);
-  const Owner owner = ownerFor(own_);
-  if (file.isOpen()) file.giveTo(owner.user, owner.group);
-  if (!file.write(text) || !file.moveTo(own_, 0600, newCopyOf(own_))) fail(own_, "written", errno);
+  constexpr fs::perms onlyTheUser = fs::perms::owner_read | fs::perms::owner_write;
+  if (file.isOpen()) file.giveToOwnerOf(own_);
+  if (!file.write(text) || !file.moveTo(own_, onlyTheUser, newCopyOf(own_))) fail(own_, "written", errno);
   deleteAdopted();
 }
 
 void RecoveryFolder::remove() {
-  if (!own_.empty() && !unlinked(own_)) fail(own_, "deleted", errno);
+  if (!own_.empty()) deleteCopy(own_);
   deleteAdopted();
 }
 
 void RecoveryFolder::deleteAdopted() {
   for (auto claim = claims_.begin(); claim != claims_.end();) {
     // What cannot be deleted stays claimed, and is offered again at the next start.
-    if (claim->second.adopted && unlinked(claim->first)) {
+    if (claim->second.adopted && deleted(claim->first)) {
       claim = claims_.erase(claim);
     } else {
       ++claim;
@@ -161,9 +175,9 @@ void RecoveryFolder::deleteAdopted() {
 }
 
 std::optional<OrphanCopy> RecoveryFolder::leave() {
-  const auto status = own_.empty() ? std::nullopt : regularFile(own_);
-  if (!status) return std::nullopt;
-  OrphanCopy orphan{std::exchange(own_, {}), timeOf(*status)};
+  const auto written = own_.empty() ? std::nullopt : timeOf(own_);
+  if (!written) return std::nullopt;
+  OrphanCopy orphan{std::exchange(own_, {}), *written};
   claims_[orphan.path].lock = std::move(ownLock_);
   return orphan;
 }
@@ -176,11 +190,11 @@ std::vector<OrphanCopy> RecoveryFolder::orphans() {
   std::vector<OrphanCopy> found;
   for (const fs::path& file : filesWith(farmFileExtension, folder_)) {
     if (isNewCopy(file) || isHeldByAnyone(lockOf(file))) continue;
-    if (const auto status = regularFile(file)) found.push_back({file, timeOf(*status)});
+    if (const auto written = timeOf(file)) found.push_back({file, *written});
   }
   for (const fs::path& file : filesWith(lockExtension, folder_)) {
     fs::path copy = file;
-    if (!regularFile(copy.replace_extension(farmFileExtension))) removeIfStale(file);
+    if (!isRegular(copy.replace_extension(farmFileExtension))) removeIfStale(file);
   }
   std::sort(found.begin(), found.end(), [](const OrphanCopy& one, const OrphanCopy& two) {
     return std::tie(one.written, one.path) < std::tie(two.written, two.path);
@@ -190,13 +204,13 @@ std::vector<OrphanCopy> RecoveryFolder::orphans() {
 
 bool RecoveryFolder::claim(const OrphanCopy& orphan) {
   if (claims_.contains(orphan.path)) return true;
-  if (!regularFile(orphan.path)) return false;
+  if (!isRegular(orphan.path)) return false;
   auto lock = std::make_unique<LockFile>(lockOf(orphan.path));
   if (!lock->isHeld()) {
     if (errno != EWOULDBLOCK) fail(orphan.path, "locked", errno);
     return false;
   }
-  if (!regularFile(orphan.path)) return false;  // its former claimer was faster
+  if (!isRegular(orphan.path)) return false;  // its former claimer was faster
   claims_[orphan.path].lock = std::move(lock);
   return true;
 }
@@ -208,7 +222,7 @@ void RecoveryFolder::adopt(const OrphanCopy& orphan) {
 
 void RecoveryFolder::discard(const OrphanCopy& orphan) {
   assert(claims_.contains(orphan.path));
-  if (!unlinked(orphan.path)) fail(orphan.path, "deleted", errno);
+  deleteCopy(orphan.path);
   claims_.erase(orphan.path);
 }
 

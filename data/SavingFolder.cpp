@@ -1,14 +1,10 @@
 #include "data/SavingFolder.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <cerrno>
 #include <system_error>
 
-#include "data/TemporaryFile.h"
-#include "data/owner.h"
+#include "platform/TemporaryFile.h"
+#include "platform/fileAccess.h"
 
 namespace verdalis {
 namespace {
@@ -25,22 +21,6 @@ std::optional<fs::path> savingPath(const fs::path& targets) {
   return folder.parent_path() / ".saving";
 }
 
-std::optional<struct statx> statusOf(const fs::path& folder) {
-  constexpr unsigned wanted = STATX_TYPE | STATX_MNT_ID;
-  struct statx status {};
-  if (::statx(AT_FDCWD, folder.c_str(), AT_SYMLINK_NOFOLLOW, wanted, &status) != 0) return std::nullopt;
-  return status;
-}
-
-/// Whether files can be renamed from one folder into the other.
-bool onSameMount(const struct statx& first, const fs::path& two) {
-  std::error_code error;
-  const auto second = statusOf(fs::canonical(two, error));
-  return second && S_ISDIR(first.stx_mode) && S_ISDIR(second->stx_mode) &&
-         first.stx_dev_major == second->stx_dev_major && first.stx_dev_minor == second->stx_dev_minor &&
-         first.stx_mnt_id == second->stx_mnt_id;
-}
-
 }  // namespace
 
 SavingFolder::SavingFolder(const fs::path& targets) {
@@ -49,14 +29,13 @@ SavingFolder::SavingFolder(const fs::path& targets) {
   // Another process may remove the folder before it is looked at.
   constexpr int mostAttempts = 100;
   for (int attempt = 0; attempt < mostAttempts; ++attempt) {
-    if (!makeFolder(*saving, 0700) && errno != EEXIST) return;
-    const auto made = statusOf(*saving);
-    if (!made && errno == ENOENT) continue;
-    if (made && onSameMount(*made, targets)) {
+    if (!makeFolder(*saving, FolderUse::onlyTheUser) && errno != EEXIST) return;
+    if (canRenameBetween(*saving, targets)) {
       path_ = saving;
-    } else {
-      ::rmdir(saving->c_str());
+      return;
     }
+    if (errno == ENOENT) continue;
+    removeEmptyFolder(*saving);
     return;
   }
 }
@@ -64,7 +43,7 @@ SavingFolder::SavingFolder(const fs::path& targets) {
 SavingFolder::~SavingFolder() {
   if (!path_) return;
   const int cause = errno;  // keep the errno of a failure
-  ::rmdir(path_->c_str());
+  removeEmptyFolder(*path_);
   errno = cause;
 }
 
@@ -72,7 +51,7 @@ void clearLeftovers(const fs::path& home) {
   const fs::path crops = home / "crops";
   if (const std::optional<fs::path> saving = savingPath(crops)) {
     removeAbandonedFiles(*saving);
-    ::rmdir(saving->c_str());
+    removeEmptyFolder(*saving);
   }
   for (const fs::path& folder : {home, crops, crops / "custom"})
     removeAbandonedFiles(folder);

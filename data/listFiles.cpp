@@ -5,6 +5,7 @@
 #include <system_error>
 #include <utility>
 
+#include "platform/errors.h"
 #include "text/RunTimeError.h"
 #include "text/encoding.h"
 
@@ -25,7 +26,7 @@ std::vector<std::filesystem::path> filesByName(const std::filesystem::path& fold
   }
   if (error) {
     throw RunTimeError(ErrorNumber::fileNotFound, "The folder of crop files " + folder.string() +
-                                                      " cannot be read: " + error.message() + ".");
+                                                      " cannot be read: " + reasonText(error) + ".");
   }
   std::sort(files.begin(), files.end());
   std::vector<std::filesystem::path> paths;

@@ -1,15 +1,13 @@
 #include "data/readBytes.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <algorithm>
-#include <cerrno>
 #include <cstdint>
+#include <optional>
 #include <system_error>
 
 #include "data/readFile.h"
+#include "platform/InputFile.h"
+#include "platform/errors.h"
 #include "text/RunTimeError.h"
 
 namespace verdalis {
@@ -22,64 +20,45 @@ namespace fs = std::filesystem;
                      "The file " + path.string() + " cannot be read: " + reason + ".");
 }
 
-[[noreturn]] void failForErrno(const fs::path& path) {
-  fail(path, std::generic_category().message(errno));
-}
-
 [[noreturn]] void failForSize(const fs::path& path) {
   fail(path, "It has more than " + std::to_string(maxFileSize >> 20U) + " MB");
 }
 
-/// An open file. The destructor closes it.
-class OpenFile {
- public:
-  explicit OpenFile(const fs::path& path) {
-    // Without waiting for a writer, if the path has become a pipe since it was looked at.
-    constexpr int flags = O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
-    descriptor_ = ::open(path.c_str(), flags);  // NOLINT(cppcoreguidelines-pro-type-vararg)
-  }
-  OpenFile(const OpenFile&) = delete;
-  OpenFile& operator=(const OpenFile&) = delete;
-  ~OpenFile() {
-    if (descriptor_ >= 0) ::close(descriptor_);
-  }
-
-  [[nodiscard]] int descriptor() const { return descriptor_; }
-
- private:
-  int descriptor_ = -1;
-};
-
-void requireRegular(const fs::path& path, const struct stat& status) {
-  if (S_ISDIR(status.st_mode)) fail(path, "It is a folder");
-  if (!S_ISREG(status.st_mode)) fail(path, "It is a device or a pipe");
+void requireRegular(const fs::path& path, InputFile::Kind kind) {
+  if (kind == InputFile::Kind::folder) fail(path, "It is a folder");
+  if (kind != InputFile::Kind::regular) fail(path, "It is a device or a pipe");
 }
 
-}  // namespace
-
-std::string readBytes(const fs::path& path) {
-  struct stat status {};
-  if (::stat(path.c_str(), &status) != 0) failForErrno(path);
-  requireRegular(path, status);  // opening a device may already have effects
-  const OpenFile file(path);
-  if (file.descriptor() < 0 || ::fstat(file.descriptor(), &status) != 0) failForErrno(path);
-  requireRegular(path, status);
-  const auto size = static_cast<std::uintmax_t>(status.st_size);
+std::string bytesOf(const fs::path& path) {
+  requireRegular(path, kindOf(path));  // opening a device may already have effects
+  // It may have become a pipe since it was looked at.
+  InputFile file(path, InputFile::Opening::atOnce);
+  requireRegular(path, file.kind());
+  const std::uintmax_t size = file.size();
   if (size > maxFileSize) failForSize(path);
   // The file may grow or shrink meanwhile. One byte more shows its end.
   std::string bytes(static_cast<std::size_t>(size) + 1, '\0');
   std::size_t length = 0;
   for (;;) {
     if (length == bytes.size()) bytes.resize(std::min<std::size_t>(2 * bytes.size(), maxFileSize + 1));
-    const ssize_t count = ::read(file.descriptor(), bytes.data() + length, bytes.size() - length);
-    if (count < 0 && errno == EINTR) continue;
-    if (count < 0) failForErrno(path);
-    if (count == 0) break;
-    length += static_cast<std::size_t>(count);
+    const std::optional<std::size_t> count = file.read(bytes.data() + length, bytes.size() - length);
+    if (!count) continue;
+    if (*count == 0) break;
+    length += *count;
     if (length > maxFileSize) failForSize(path);
   }
   bytes.resize(length);
   return bytes;
+}
+
+}  // namespace
+
+std::string readBytes(const fs::path& path) {
+  try {
+    return bytesOf(path);
+  } catch (const std::system_error& error) {
+    fail(path, reasonText(error.code()));
+  }
 }
 
 }  // namespace verdalis

@@ -5,9 +5,6 @@
 
 namespace verdalis {
 
-/// The folder of the running program; empty if the system does not tell.
-[[nodiscard]] std::filesystem::path programFolder();
-
 /// The folders that may contain what comes with the program (`crops`, `help` and `examples`), in the order in
 /// which to look: where an installation puts them, as seen from the program, so that the whole may be moved,
 /// and then the source tree. The build names the source tree in the file `verdalis-source.txt` beside the

@@ -1,30 +1,19 @@
 #include "data/writeFile.h"
 
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <cerrno>
 #include <optional>
 #include <string>
 #include <system_error>
 
-#include "data/OpenTarget.h"
 #include "data/SavingFolder.h"
-#include "data/owner.h"
+#include "platform/OpenTarget.h"
+#include "platform/fileAccess.h"
 #include "text/RunTimeError.h"
 
 namespace verdalis {
 namespace {
 
 namespace fs = std::filesystem;
-
-mode_t modeFor(const fs::path& target) {
-  struct stat status {};
-  if (::stat(target.c_str(), &status) == 0) return status.st_mode & 07777U;
-  const mode_t mask = ::umask(0);
-  ::umask(mask);
-  return 0666U & ~mask;
-}
 
 /// Follows all symbolic links of a path; the final file need not exist.
 /// \returns nothing if the links form a loop.
@@ -44,8 +33,7 @@ int reasonToRefuse(const fs::path& target) {
   const fs::file_status status = fs::status(target, error);
   if (!fs::exists(status)) return 0;
   if (fs::is_directory(status)) return EISDIR;
-  // A write-protected file is not replaced.
-  return ::access(target.c_str(), W_OK) == 0 ? 0 : errno;
+  return errorOfReplacing(target);
 }
 
 }  // namespace
@@ -56,10 +44,9 @@ FileReplacement::FileReplacement(const fs::path& path, TemporaryFile::Naming nam
   const int reason = isOpenTarget(path) ? ENXIO : target ? reasonToRefuse(*target) : ELOOP;
   if (reason != 0) fail(reason);
   target_ = *target;
-  mode_ = modeFor(target_);
+  permissions_ = permissionsFor(target_);
   open(target_.has_parent_path() ? target_.parent_path() : ".", naming);
-  const Owner owner = ownerFor(target_);
-  file_->giveTo(owner.user, owner.group);
+  file_->giveToOwnerOf(target_);
 }
 
 FileReplacement::~FileReplacement() = default;
@@ -78,7 +65,7 @@ void FileReplacement::open(const fs::path& folder, TemporaryFile::Naming naming)
     savingFolder_ = std::make_unique<SavingFolder>(folder);
     if (!savingFolder_->path()) break;
     // Refused here, as a file beside the target would be, and not only by keep().
-    if (::access(folder.c_str(), W_OK | X_OK) != 0) fail(errno);
+    if (const int reason = errorOfCreatingIn(folder); reason != 0) fail(reason);
     file_ = std::make_unique<TemporaryFile>(*savingFolder_->path());
     if (file_->isOpen()) return;
     if (errno != ENOENT) break;
@@ -94,7 +81,7 @@ void FileReplacement::write(std::string_view bytes) {
 }
 
 void FileReplacement::keep() {
-  if (!file_->moveTo(target_, mode_)) fail(errno);
+  if (!file_->moveTo(target_, permissions_)) fail(errno);
   savingFolder_.reset();
 }
 

@@ -1,12 +1,10 @@
 #pragma once
 
-#include <sys/stat.h>
-
 #include <filesystem>
 #include <memory>
 #include <string_view>
 
-#include "data/TemporaryFile.h"
+#include "platform/TemporaryFile.h"
 
 namespace verdalis {
 
@@ -16,7 +14,7 @@ class SavingFolder;
 /// written to a temporary file on the same file system, flushed to disk, and renamed over it by keep(). On
 /// failure, and without keep(), the old file is unchanged. The temporary file is beside the target, but for a
 /// crop file in the folder `.saving` of the home folder, if possible. Symbolic links are followed, and
-/// permissions are kept; a file that root writes goes to its owner (see ownerFor). A folder, a
+/// permissions are kept; a file that root writes goes to its owner. A folder, a
 /// write-protected file, and what isOpenTarget() names are not replaced.
 class FileReplacement {
  public:
@@ -41,7 +39,7 @@ class FileReplacement {
 
   std::filesystem::path path_;
   std::filesystem::path target_;  ///< Behind all links
-  mode_t mode_ = 0;
+  std::filesystem::perms permissions_{};
   std::unique_ptr<SavingFolder> savingFolder_;  ///< Removed after the file in it
   std::unique_ptr<TemporaryFile> file_;
 };

@@ -7,12 +7,12 @@
 #include <QPainterPath>
 #include <QPdfWriter>
 #include <QPolygonF>
-#include <QSvgGenerator>
 #include <algorithm>
 #include <cmath>
 
 #include "charts/inkColors.h"
 #include "desktop/Binder.h"
+#include "desktop/svg/svgPicture.h"
 
 namespace verdalis::desktop {
 namespace {
@@ -255,13 +255,8 @@ QByteArray ChartPrint::file(const QString& ending) const {
     constexpr double scale = 3;
     picture(scale).save(&buffer, "PNG");
   } else if (ending == QLatin1String("svg")) {
-    QSvgGenerator generator;
-    generator.setOutputDevice(&buffer);
-    generator.setTitle(title_);
-    generator.setSize(QSize(static_cast<int>(drawing_.width), static_cast<int>(drawing_.height)));
-    generator.setViewBox(QRectF(0, 0, drawing_.width, drawing_.height));
-    QPainter painter(&generator);
-    paint(painter);
+    return svgPicture(title_, QSizeF(drawing_.width, drawing_.height),
+                      [this](QPainter& painter) { paint(painter); });
   } else if (ending == QLatin1String("pdf")) {
     QPdfWriter writer(&buffer);
     writer.setTitle(title_);

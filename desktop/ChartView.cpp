@@ -21,15 +21,22 @@
 #include "data/writeFile.h"
 #include "desktop/Binder.h"
 #include "desktop/Page.h"
+#include "desktop/svg/svgPicture.h"
+#include "platform/paths.h"
 #include "text/RunTimeError.h"
 
 namespace verdalis::desktop {
 namespace {
 
-constexpr std::array<std::pair<const char*, const char*>, 3> fileKinds{
-    {{"png", QT_TRANSLATE_NOOP("ChartView", "Picture (*.png)")},
-     {"svg", QT_TRANSLATE_NOOP("ChartView", "Scalable picture (*.svg)")},
-     {"pdf", QT_TRANSLATE_NOOP("ChartView", "PDF page (*.pdf)")}}};
+/// The kinds of files that a chart is saved as: ending and name.
+using FileKinds = std::vector<std::pair<const char*, const char*>>;
+
+FileKinds fileKinds() {
+  FileKinds kinds{{"png", QT_TRANSLATE_NOOP("ChartView", "Picture (*.png)")}};
+  if (savesSvg()) kinds.emplace_back("svg", QT_TRANSLATE_NOOP("ChartView", "Scalable picture (*.svg)"));
+  kinds.emplace_back("pdf", QT_TRANSLATE_NOOP("ChartView", "PDF page (*.pdf)"));
+  return kinds;
+}
 
 bool isSame(const std::optional<Target>& a, const Target* b) {
   if (!a || b == nullptr) return !a && b == nullptr;
@@ -290,13 +297,13 @@ void ChartView::save() {
   QFileDialog dialog(window(), tr("Save Chart"));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   QStringList filters;
-  for (const auto& [ending, filter] : fileKinds)
+  const FileKinds kinds = fileKinds();
+  for (const auto& [ending, filter] : kinds)
     filters << tr(filter);
   dialog.setNameFilters(filters);
-  dialog.setDefaultSuffix(QLatin1String(fileKinds[0].first));
+  dialog.setDefaultSuffix(QLatin1String(kinds[0].first));
   connect(&dialog, &QFileDialog::filterSelected, &dialog, [&](const QString& filter) {
-    dialog.setDefaultSuffix(
-        QLatin1String(fileKinds.at(static_cast<std::size_t>(filters.indexOf(filter))).first));
+    dialog.setDefaultSuffix(QLatin1String(kinds.at(static_cast<std::size_t>(filters.indexOf(filter))).first));
   });
   dialog.setDirectory(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
   dialog.selectFile(fileName(qText(chart_->title)));
@@ -304,9 +311,12 @@ void ChartView::save() {
   const QString path = dialog.selectedFiles().constFirst();
   const QByteArray bytes = ChartPrint(*chart_, font(), size()).file(QFileInfo(path).suffix().toLower());
   const auto fail = [&](const QString& reason) { QMessageBox::warning(window(), tr("Save Chart"), reason); };
-  if (bytes.isEmpty()) return fail(tr("A chart is saved as a .png, .svg or .pdf file."));
+  if (bytes.isEmpty())
+    return fail(savesSvg() ? tr("A chart is saved as a .png, .svg or .pdf file.")
+                           : tr("A chart is saved as a .png or .pdf file."));
   try {
-    writeFile(programText(path), std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
+    writeFile(pathOf(programText(path)),
+              std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
   } catch (const RunTimeError& error) {
     fail(QString::fromUtf8(error.what()));
   }

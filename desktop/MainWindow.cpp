@@ -31,6 +31,7 @@
 #include "desktop/ResultViews.h"
 #include "desktop/SummaryView.h"
 #include "desktop/TrendViews.h"
+#include "platform/paths.h"
 
 namespace verdalis::desktop {
 namespace {
@@ -335,7 +336,7 @@ void MainWindow::dropEvent(QDropEvent* event) {
   event->setDropAction(Qt::CopyAction);
   event->accept();
   // Behind the event: a question would keep the other program waiting.
-  QTimer::singleShot(0, this, [this, farm] { openFarm(programText(farm)); });
+  QTimer::singleShot(0, this, [this, farm] { openFarm(pathOf(programText(farm))); });
 }
 
 }  // namespace verdalis::desktop

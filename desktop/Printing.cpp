@@ -18,6 +18,7 @@
 
 #include "data/writeFile.h"
 #include "desktop/Binder.h"
+#include "platform/paths.h"
 #include "text/RunTimeError.h"
 
 namespace verdalis::desktop {
@@ -69,7 +70,7 @@ QString numbered(const QString& file, int number) {
 /// Whether a file is a device or a pipe, which can be written but not replaced.
 bool isDevice(const QString& file) {
   std::error_code error;
-  return std::filesystem::is_other(std::filesystem::status(programText(file), error));
+  return std::filesystem::is_other(std::filesystem::status(pathOf(programText(file)), error));
 }
 
 RunTimeError cannotPrint(const std::string& text) {
@@ -162,7 +163,8 @@ void Printing::deliver(const Paint& paintDocument) {
   // Qt does not report a full disk.
   if (printer_->outputFormat() == QPrinter::PdfFormat && !bytes.trimmed().endsWith("%%EOF"))
     throw cannotPrint(fault);
-  writeFile(programText(file), std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
+  writeFile(pathOf(programText(file)),
+            std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
 }
 
 void Printing::paint(const Paint& paintDocument, const std::string& fault) {

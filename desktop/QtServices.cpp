@@ -13,6 +13,8 @@
 
 #include "desktop/Binder.h"
 #include "desktop/HelpViewer.h"
+#include "desktop/icons.h"
+#include "platform/paths.h"
 
 namespace verdalis::desktop {
 namespace {
@@ -39,13 +41,13 @@ QMessageBox::Icon boxIcon(MessageIcon icon) {
 QString boxPicture(MessageIcon icon) {
   switch (icon) {
     case MessageIcon::critical:
-      return QStringLiteral(":/icons/message-failure.svg");
+      return iconFile(QStringLiteral("message-failure"));
     case MessageIcon::question:
-      return QStringLiteral(":/icons/message-question.svg");
+      return iconFile(QStringLiteral("message-question"));
     case MessageIcon::exclamation:
-      return QStringLiteral(":/icons/message-caution.svg");
+      return iconFile(QStringLiteral("message-caution"));
     case MessageIcon::information:
-      return QStringLiteral(":/icons/message-notice.svg");
+      return iconFile(QStringLiteral("message-notice"));
     case MessageIcon::none:
       break;
   }
@@ -78,7 +80,7 @@ std::optional<std::filesystem::path> chosen(QFileDialog& dialog, const FileQuest
   if (!question.folder.empty()) dialog.setDirectory(qText(question.folder.string()));
   if (!question.filter.empty()) dialog.setNameFilter(nameFilter(question.filter));
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return std::nullopt;
-  return std::filesystem::path(programText(dialog.selectedFiles().constFirst()));
+  return pathOf(programText(dialog.selectedFiles().constFirst()));
 }
 
 }  // namespace

@@ -1,38 +1,12 @@
 #include "desktop/Theme.h"
 
 #include <QApplication>
-#include <QDBusConnection>
-#include <QDBusMessage>
-#include <QDBusVariant>
 #include <QStyleFactory>
-#include <optional>
+
+#include "desktop/icons.h"
 
 namespace verdalis::desktop {
 namespace {
-
-constexpr int portalTimeout = 200;  // milliseconds; a desktop without a portal must not delay the start
-constexpr unsigned portalDark = 1;
-constexpr unsigned portalLight = 2;
-
-const QString portalService = QStringLiteral("org.freedesktop.portal.Desktop");
-const QString portalPath = QStringLiteral("/org/freedesktop/portal/desktop");
-const QString portalSettings = QStringLiteral("org.freedesktop.portal.Settings");
-const QString appearanceSpace = QStringLiteral("org.freedesktop.appearance");
-const QString schemeKey = QStringLiteral("color-scheme");
-
-/// The scheme for a preference value of the portal; nothing if there is no preference.
-std::optional<Scheme> schemeOfValue(unsigned preference) {
-  if (preference == portalDark) return Scheme::dark;
-  if (preference == portalLight) return Scheme::light;
-  return std::nullopt;
-}
-
-/// Unwraps a value from one or more variants.
-QVariant unwrapped(QVariant value) {
-  while (value.canConvert<QDBusVariant>())
-    value = value.value<QDBusVariant>().variant();
-  return value;
-}
 
 QString styleSheet(Scheme scheme) {
   const Accents colours = accents(scheme);
@@ -56,7 +30,7 @@ QString styleSheet(Scheme scheme) {
     QPlainTextEdit:focus { border: 2px solid @brand; padding: 2px 3px; }
     QLineEdit[failed="true"] { border: 2px solid @warning; padding: 3px 5px; }
     QComboBox::drop-down { border: none; width: 24px; }
-    QComboBox::down-arrow { image: url(:/icons/arrow-@scheme.svg); width: 12px; height: 8px; }
+    QComboBox::down-arrow { image: url(:/icons/arrow-@scheme.@ending); width: 12px; height: 8px; }
     QCheckBox::indicator, QRadioButton::indicator { width: 14px; height: 14px; background: @base;
                                                     border: 1px solid @muted; }
     QCheckBox::indicator { border-radius: 3px; }
@@ -65,9 +39,9 @@ QString styleSheet(Scheme scheme) {
     QCheckBox::indicator:focus, QRadioButton::indicator:focus { border: 2px solid @brand; width: 12px;
                                                                 height: 12px; }
     QCheckBox::indicator:checked { background: @brand; border-color: @brand;
-                                   image: url(:/icons/check-@scheme.svg); }
+                                   image: url(:/icons/check-@scheme.@ending); }
     QRadioButton::indicator:checked { background: @brand; border-color: @brand;
-                                      image: url(:/icons/dot-@scheme.svg); }
+                                      image: url(:/icons/dot-@scheme.@ending); }
     QCheckBox::indicator:disabled, QRadioButton::indicator:disabled { border-color: @line;
                                                                       background: @window; }
     QCheckBox::indicator:checked:disabled, QRadioButton::indicator:checked:disabled { background: @disabled;
@@ -149,6 +123,7 @@ QString styleSheet(Scheme scheme) {
                   colour.name() + QLatin1Char(';'));
   };
   sheet.replace(QLatin1String("@scheme"), QLatin1String(scheme == Scheme::dark ? "dark" : "light"));
+  sheet.replace(QLatin1String("@ending"), QLatin1String(iconEnding));
   put("text", base.color(QPalette::WindowText));
   put("window", base.color(QPalette::Window));
   put("base", base.color(QPalette::Base));
@@ -176,35 +151,6 @@ Scheme schemeOf(const QPalette& palette) {
   return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness()
              ? Scheme::dark
              : Scheme::light;
-}
-
-Scheme desktopScheme(const QPalette& platformPalette) {
-  const QDBusConnection bus = QDBusConnection::sessionBus();
-  if (bus.isConnected()) {
-    QDBusMessage call =
-        QDBusMessage::createMethodCall(portalService, portalPath, portalSettings, QStringLiteral("Read"));
-    call << appearanceSpace << schemeKey;
-    const QDBusMessage reply = bus.call(call, QDBus::Block, portalTimeout);
-    if (reply.type() == QDBusMessage::ReplyMessage && !reply.arguments().isEmpty()) {
-      const auto scheme = schemeOfValue(unwrapped(reply.arguments().constFirst()).toUInt());
-      if (scheme) return *scheme;
-    }
-  }
-  return schemeOf(platformPalette);
-}
-
-SchemeWatcher::SchemeWatcher(QApplication& application, Scheme platform)
-    : application_(application), platform_(platform) {
-  // Without a portal no signal arrives, and the scheme stays as it was at the start.
-  QDBusConnection::sessionBus().connect(portalService, portalPath, portalSettings,
-                                        QStringLiteral("SettingChanged"), this,
-                                        SLOT(settingChanged(QString, QString, QDBusVariant)));
-}
-
-void SchemeWatcher::settingChanged(const QString& space, const QString& key, const QDBusVariant& value) {
-  if (space != appearanceSpace || key != schemeKey) return;
-  const Scheme scheme = schemeOfValue(unwrapped(value.variant()).toUInt()).value_or(platform_);
-  if (scheme != schemeOf(QApplication::palette())) applyTheme(application_, scheme);
 }
 
 QPalette palette(Scheme scheme) {

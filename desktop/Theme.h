@@ -1,8 +1,6 @@
 #pragma once
 
 #include <QColor>
-#include <QDBusVariant>
-#include <QObject>
 #include <QPalette>
 #include <QString>
 
@@ -12,10 +10,6 @@ namespace verdalis::desktop {
 
 enum class Scheme { light, dark };
 
-/// The colour scheme of the desktop: from its settings portal if available, else from the palette set by the
-/// platform.
-[[nodiscard]] Scheme desktopScheme(const QPalette& platformPalette);
-
 /// Whether a palette is light or dark.
 [[nodiscard]] Scheme schemeOf(const QPalette& palette);
 
@@ -24,25 +18,6 @@ enum class Scheme { light, dark };
 
 /// Sets the program's style, colours and style sheet. Can be called again when the scheme changes.
 void applyTheme(QApplication& application, Scheme scheme);
-
-/// Changes the program's colours when the desktop's settings portal reports another scheme. Does nothing
-/// without a portal.
-class SchemeWatcher : public QObject {
-  Q_OBJECT
-
- public:
-  /// \param application must outlive this object.
-  /// \param platform scheme of the palette set by the platform, for a desktop without a preference.
-  SchemeWatcher(QApplication& application, Scheme platform);
-
- public slots:
-  /// Called when the portal reports a changed setting.
-  void settingChanged(const QString& space, const QString& key, const QDBusVariant& value);
-
- private:
-  QApplication& application_;
-  Scheme platform_;
-};
 
 /// Colours in addition to the palette, readable on its window colour.
 struct Accents {

@@ -15,8 +15,12 @@
 #include "data/stateFolder.h"
 #include "desktop/Binder.h"
 #include "desktop/Desktop.h"
+#include "desktop/SchemeWatcher.h"
 #include "desktop/Theme.h"
+#include "desktop/icons.h"
 #include "desktop/settings.h"
+#include "platform/folders.h"
+#include "platform/paths.h"
 #include "text/RunTimeError.h"
 #include "text/version.h"
 
@@ -65,7 +69,7 @@ int main(int argc, char** argv) {
   desktop::claimSettings();
   QApplication::setApplicationVersion(desktop::qText(versionText()));
   QGuiApplication::setDesktopFileName(QStringLiteral("verdalis"));
-  QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/verdalis.svg")));
+  QApplication::setWindowIcon(QIcon(desktop::iconFile(QStringLiteral("verdalis"))));
   const desktop::Scheme platform = desktop::schemeOf(QApplication::palette());
   desktop::applyTheme(application, desktop::desktopScheme(QApplication::palette()));
 
@@ -85,10 +89,10 @@ int main(int argc, char** argv) {
   try {
     const desktop::SchemeWatcher watcher(application, platform);
     std::optional<std::filesystem::path> homeOption;
-    if (parser.isSet(home)) homeOption = desktop::programText(parser.value(home));
+    if (parser.isSet(home)) homeOption = pathOf(desktop::programText(parser.value(home)));
     std::optional<std::filesystem::path> farm;
     if (!parser.positionalArguments().isEmpty())
-      farm = absolutePath(desktop::programText(parser.positionalArguments().constFirst()));
+      farm = absolutePath(pathOf(desktop::programText(parser.positionalArguments().constFirst())));
     ProgramFiles files(homeOption ? *homeOption : homeFolder(homePlaces()));
     const std::string fault = findState(files, homeOption);
     desktop::Desktop program(files, helpFolder(), farm);

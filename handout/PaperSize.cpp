@@ -2,7 +2,8 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdlib>
+
+#include "platform/paperLocale.h"
 
 namespace verdalis {
 namespace {
@@ -24,11 +25,7 @@ PaperSize paperOfLocale(std::string_view locale) {
 }
 
 PaperSize usualPaper() {
-  for (const char* const name : {"LC_ALL", "LC_PAPER", "LANG"}) {
-    const char* const locale = std::getenv(name);  // NOLINT(concurrency-mt-unsafe): nothing sets it
-    if (locale != nullptr && *locale != '\0') return paperOfLocale(locale);
-  }
-  return PaperSize::letter;
+  return paperOfLocale(paperLocale());
 }
 
 }  // namespace verdalis

@@ -9,6 +9,8 @@
 #include "document/farmText.h"
 #include "document/recoveryMark.h"
 #include "main/frmMain.h"
+#include "platform/localTime.h"
+#include "platform/paths.h"
 #include "text/RunTimeError.h"
 #include "text/encoding.h"
 #include "text/quote.h"
@@ -22,9 +24,7 @@ constexpr const char* filter = "Verdalis Farm (*.verdalis)|*.verdalis";
 constexpr const char* aboutCopy = "recovery copy";
 
 std::string timeText(std::chrono::system_clock::time_point time) {
-  const std::time_t seconds = std::chrono::system_clock::to_time_t(time);
-  std::tm local{};
-  localtime_r(&seconds, &local);
+  const std::tm local = localTime(std::chrono::system_clock::to_time_t(time));
   std::string text(20, '\0');
   text.resize(std::strftime(text.data(), text.size(), "%Y-%m-%d %H:%M", &local));
   return text;
@@ -500,7 +500,7 @@ void FarmFiles::offer(const OrphanCopy& copy) {
   try {
     FarmDocument document = readFarm(readFarmFile(copy.path).text);
     const auto mark = takeMark(document);
-    name = nameOf(document, mark ? std::optional(fs::path(mark->path)) : std::nullopt);
+    name = nameOf(document, mark ? std::optional(pathOf(mark->path)) : std::nullopt);
     name = name.empty() ? "a farm without a name" : quoteForMessage(name);
   } catch (const RunTimeError&) {
     name = "a farm that can no longer be read";
@@ -521,7 +521,7 @@ void FarmFiles::restore(const OrphanCopy& copy) {
   const SharedDocument before = keeper_.shared();
   const std::optional<Place> placeBefore = place_;
   keeper_.replace(document, "Restore");
-  place_ = mark ? std::optional(Place{mark->path, {mark->size, mark->hash}}) : std::nullopt;
+  place_ = mark ? std::optional(Place{pathOf(mark->path), {mark->size, mark->hash}}) : std::nullopt;
   restored_.push_back({before, keeper_.shared(), placeBefore, place_});
   if (place_) keeper_.markUnsaved();
   copies_->adopt(copy);

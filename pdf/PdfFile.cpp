@@ -5,6 +5,7 @@
 #include <exception>
 #include <utility>
 
+#include "pdf/support.h"
 #include "text/RunTimeError.h"
 
 namespace verdalis {
@@ -21,6 +22,10 @@ cairo_status_t append(void* bytes, const unsigned char* data, unsigned int lengt
 }
 
 }  // namespace
+
+bool drawsPdf() {
+  return true;
+}
 
 PdfFile::PdfFile(double width, double height, const std::string& title)
     : surface_(cairo_pdf_surface_create_for_stream(append, &bytes_, width, height)) {

@@ -5,10 +5,11 @@
 
 #include "controls/ask.h"
 #include "data/StockGrids.h"
-#include "data/owner.h"
 #include "data/writeFile.h"
 #include "model/CropKind.h"
 #include "model/YieldUnit.h"
+#include "platform/errors.h"
+#include "platform/fileAccess.h"
 #include "screens/CustomGrid.h"
 #include "text/RunTimeError.h"
 #include "text/encoding.h"
@@ -350,7 +351,7 @@ void CustomCropPane::deleteCrop() {
   std::filesystem::remove(deleted.path, error);
   open();
   if (error) {
-    onDeleteFailed(deleted, error.message());
+    onDeleteFailed(deleted, reasonText(error));
   } else if (former) {
     onDeleted(*former);
   }

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "controls/ask.h"
+#include "platform/paths.h"
 #include "text/RunTimeError.h"
 #include "text/numbers.h"
 #include "text/quote.h"
@@ -151,7 +152,7 @@ TrendReading BatchSetupPane::readValues(bool validate) const {
   if (optBatchOption[0]->checked()) {
     return readRange({txtBatchMinimum[0].text(), txtBatchMinimum[1].text(), cboBatchSteps.text()}, validate);
   }
-  if (optBatchOption[1]->checked()) return readValuesFile(lblBatchFile.caption(), validate);
+  if (optBatchOption[1]->checked()) return readValuesFile(pathOf(lblBatchFile.caption()), validate);
   if (optBatchOption[2]->checked()) return readValuesList(txtBatchList.text(), validate);
   return {{},
           Message{defaultTitle, "Please select an option for trend processing", MessageKind::notice,

@@ -1,14 +1,12 @@
 #include "trend/saveExport.h"
 
-#include <fcntl.h>
-#include <unistd.h>
-
 #include <cerrno>
 #include <optional>
 #include <system_error>
 #include <utility>
 
 #include "controls/ask.h"
+#include "platform/fileAccess.h"
 #include "screens/modHelp.h"
 #include "text/RunTimeError.h"
 #include "trend/exportText.h"
@@ -29,13 +27,9 @@ ExportError systemError(int reason) {
 /// not created yet, so that a failed export leaves no empty file. \returns the error; nothing if it can be
 /// written.
 std::optional<ExportError> tryToOpen(const std::filesystem::path& path) {
-  constexpr int flags = O_WRONLY | O_CLOEXEC | O_NONBLOCK;
-  const int file = ::open(path.c_str(), flags);  // NOLINT(cppcoreguidelines-pro-type-vararg)
-  if (file >= 0) {
-    ::close(file);
-    return std::nullopt;
-  }
-  if (errno != ENOENT) return systemError(errno);
+  const int reason = errorOfOpening(path);
+  if (reason == 0) return std::nullopt;
+  if (reason != ENOENT) return systemError(reason);
   try {
     const FileReplacement canBeCreated(path);
   } catch (const RunTimeError&) {

@@ -5,6 +5,7 @@
 #include "cli/Messages.h"
 #include "cli/TerminalServices.h"
 #include "cli/output.h"
+#include "cli/report/reportDocument.h"
 #include "cli/textOptions.h"
 #include "document/farmSections.h"
 #include "pdf/drawHandout.h"
@@ -31,6 +32,7 @@ void addFullReportOptions(CLI::App& command, FullReportRequest& request) {
 
 FullReport::FullReport(const FullReportRequest& request) : file_(request.file), paper_(usualPaper()) {
   if (file_ && file_->empty()) throw Refusal("--full-report needs the name of a file.");
+  if (file_) requireReportKind("--full-report", *file_, false);
   if (request.paper) paper_ = readPaper(*request.paper);
   if (request.paper && !file_) throw Refusal("--paper is for --full-report only.");
 }

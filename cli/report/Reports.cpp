@@ -7,6 +7,7 @@
 #include "cli/output.h"
 #include "cli/report/reportDocument.h"
 #include "cli/textOptions.h"
+#include "platform/paths.h"
 #include "text/quote.h"
 
 namespace verdalis {
@@ -33,6 +34,9 @@ void addReportOptions(CLI::App& command, ReportRequest& request) {
 Reports::Reports(const ReportRequest& request) : results_(request.results) {
   for (const std::string& asked : request.details)
     details_.push_back(parse(asked));
+  if (results_) requireReportKind("--report", *results_, true);
+  for (const Details& details : details_)
+    requireReportKind("--details-report", details.file, true);
 }
 
 Reports::Details Reports::parse(const std::string& asked) {
@@ -72,7 +76,7 @@ void Reports::write(ResultPrinter printer, const std::vector<ResultPrinter::Opti
 void Reports::print(const std::string& file, const ResultPrinter& printer,
                     void (ResultPrinter::*report)(PageSurface&) const) {
   const auto keep = [&](const std::string& bytes) { files_.push_back({file, bytes}); };
-  (printer.*report)(*reportDocument(file, keep));
+  (printer.*report)(*reportDocument(pathOf(file), keep));
 }
 
 void Reports::deliver() const {

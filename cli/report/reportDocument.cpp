@@ -2,9 +2,12 @@
 
 #include <utility>
 
+#include "cli/Messages.h"
 #include "cli/report/TextPage.h"
 #include "pdf/PdfFont.h"
 #include "pdf/drawPdf.h"
+#include "pdf/support.h"
+#include "platform/paths.h"
 
 namespace verdalis {
 namespace {
@@ -30,10 +33,17 @@ std::unique_ptr<PageSurface> reportDocument(const std::filesystem::path& path,
   return document;
 }
 
+void requireReportKind(const std::string& option, const std::string& file, bool textInstead) {
+  if (drawsPdf() || (textInstead && pathOf(file).extension() == ".txt")) return;
+  throw Refusal(option + ": This program prints reports as text, not as PDF. " +
+                (textInstead ? "Name a file that ends in .txt, or print from the window."
+                             : "Use Report... in the menu File of the window."));
+}
+
 std::filesystem::path copyPath(const std::filesystem::path& path, int n) {
   if (n == 1) return path;
   std::filesystem::path name = path.stem();
-  name += "-" + std::to_string(n);
+  name += pathOf("-" + std::to_string(n)).native();
   name += path.extension();
   return path.parent_path() / name;
 }

@@ -7,6 +7,7 @@
 #include "cli/TerminalServices.h"
 #include "cli/output.h"
 #include "cli/report/reportDocument.h"
+#include "platform/paths.h"
 
 namespace verdalis {
 namespace {
@@ -112,7 +113,7 @@ std::optional<std::filesystem::path> ScriptServices::chooseOpen(const FileQuesti
   if (choices.empty()) return std::nullopt;
   const std::string path = takeFirst(choices);
   if (path.empty()) return std::nullopt;
-  return std::filesystem::path(path);
+  return pathOf(path);
 }
 
 std::optional<std::filesystem::path> ScriptServices::chooseSave(const FileQuestion& question) {

@@ -17,6 +17,7 @@
 #include "desktop/HelpViewer.h"
 #include "desktop/Page.h"
 #include "desktop/Theme.h"
+#include "platform/paths.h"
 
 namespace {
 
@@ -277,7 +278,7 @@ int main(int argc, char** argv) {
   sized.setPointSizeF(sized.pointSizeF() * font);
   QApplication::setFont(sized);
   applyTheme(application, arguments[2] == QLatin1String("dark") ? Scheme::dark : Scheme::light);
-  Desktop desktop(std::filesystem::path(programText(arguments[4])), QStringLiteral(VERDALIS_HELP));
+  Desktop desktop(pathOf(programText(arguments[4])), QStringLiteral(VERDALIS_HELP));
   const Photographer camera(arguments[1], arguments[3]);
   photograph(desktop, camera);
   photographTrends(desktop, camera);

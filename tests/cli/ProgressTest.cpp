@@ -4,8 +4,8 @@
 #include <iostream>
 #include <sstream>
 
-#include "cli/Interrupt.h"
 #include "cli/Progress.h"
+#include "platform/Interrupt.h"
 
 namespace verdalis {
 namespace {

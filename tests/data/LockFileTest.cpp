@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "data/LockFile.h"
+#include "platform/LockFile.h"
 #include "tests/data/KilledWriter.h"
 #include "tests/data/OrdinaryUser.h"
 #include "tests/support/TemporaryFolder.h"

@@ -6,8 +6,9 @@
 #include <filesystem>
 #include <utility>
 
-#include "data/owner.h"
 #include "data/writeFile.h"
+#include "platform/fileAccess.h"
+#include "platform/posix/owner.h"
 #include "tests/data/CropLibrary.h"
 #include "tests/data/KilledWriter.h"
 #include "tests/data/OrdinaryUser.h"

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "data/sharedFolders.h"
+#include "platform/folders.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace verdalis::testing {

@@ -7,7 +7,9 @@
 #include <fstream>
 #include <iterator>
 
+#include "desktop/SchemeWatcher.h"
 #include "desktop/Theme.h"
+#include "desktop/posix/PortalListener.h"
 #include "tests/desktop/RunningDesktop.h"
 
 namespace verdalis::testing {
@@ -207,9 +209,10 @@ TEST_F(CustomCrop, CellShadesFollowTheYieldsInBothSchemes) {
   const auto ground = [&](int row, int column) { return grid()->item(row, column)->background().color(); };
   std::vector<QColor> low;
   desktop::SchemeWatcher watcher(*qApp, desktop::Scheme::light);
+  desktop::PortalListener portal([&](auto preference) { watcher.preferenceChanged(preference); });
   const auto prefer = [&](unsigned value) {
-    watcher.settingChanged(QStringLiteral("org.freedesktop.appearance"), QStringLiteral("color-scheme"),
-                           QDBusVariant(value));
+    portal.settingChanged(QStringLiteral("org.freedesktop.appearance"), QStringLiteral("color-scheme"),
+                          QDBusVariant(value));
     QTest::qWait(0);
   };
   for (const auto scheme : {desktop::Scheme::light, desktop::Scheme::dark}) {

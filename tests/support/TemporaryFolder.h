@@ -1,12 +1,10 @@
 #pragma once
 
-#include <unistd.h>
-
 #include <algorithm>
-#include <cerrno>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <random>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -20,14 +18,12 @@ namespace verdalis::testing {
 class TemporaryFolder {
  public:
   /// \param name part of the folder's name.
-  /// \throws std::system_error if the folder cannot be created.
+  /// \throws std::filesystem::filesystem_error if the folder cannot be created.
   explicit TemporaryFolder(const std::string& name = "test") {
-    std::string pattern =
-        (std::filesystem::temp_directory_path() / ("verdalis-" + name + "-XXXXXX")).string();
-    if (::mkdtemp(pattern.data()) == nullptr) {
-      throw std::system_error(errno, std::generic_category(), pattern);
-    }
-    path_ = pattern;
+    std::random_device random;
+    do
+      path_ = std::filesystem::temp_directory_path() / ("verdalis-" + name + "-" + std::to_string(random()));
+    while (!std::filesystem::create_directory(path_));
   }
   TemporaryFolder(const TemporaryFolder&) = delete;
   TemporaryFolder& operator=(const TemporaryFolder&) = delete;

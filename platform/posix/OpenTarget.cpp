@@ -1,4 +1,4 @@
-#include "data/OpenTarget.h"
+#include "platform/OpenTarget.h"
 
 #include <fcntl.h>
 #include <unistd.h>

@@ -1,4 +1,4 @@
-#include "data/LockFile.h"
+#include "platform/LockFile.h"
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -9,7 +9,7 @@
 #include <chrono>
 #include <thread>
 
-#include "data/owner.h"
+#include "platform/posix/owner.h"
 
 namespace verdalis {
 namespace {

@@ -1,11 +1,11 @@
 #pragma once
 
-#include <csignal>
+#include <memory>
 
 namespace verdalis {
 
-/// While an Interrupt exists, Ctrl+C (SIGINT) does not end the program but is noted for the run. This also
-/// works if the parent process has blocked the signal. At most one Interrupt may exist at a time.
+/// While an Interrupt exists, Ctrl+C does not end the program but is noted for the run. This also works if
+/// the parent process has blocked the signal. At most one Interrupt may exist at a time.
 class Interrupt {
  public:
   Interrupt();
@@ -17,8 +17,8 @@ class Interrupt {
   [[nodiscard]] static bool requested();
 
  private:
-  struct sigaction before_ {};
-  sigset_t maskBefore_{};
+  struct Before;
+  std::unique_ptr<Before> before_;  ///< What held before, to be put back
 };
 
 }  // namespace verdalis

@@ -3,6 +3,7 @@
 #include <sys/stat.h>
 
 #include <filesystem>
+#include <optional>
 
 namespace verdalis {
 
@@ -17,8 +18,7 @@ struct Owner {
 /// a folder that passes on its group decides.
 [[nodiscard]] Owner ownerFor(const std::filesystem::path& file);
 
-/// Creates a folder, which root gives to the owner of the folder above it.
-/// \returns false if it could not be created; errno says why.
-bool makeFolder(const std::filesystem::path& folder, mode_t mode = 0777);
+/// What the system knows of the file that a path leads to; nothing if there is none.
+[[nodiscard]] std::optional<struct stat> statusOf(const std::filesystem::path& path);
 
 }  // namespace verdalis

@@ -1,14 +1,15 @@
-#include "data/TemporaryFile.h"
+#include "platform/TemporaryFile.h"
 
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <system_error>
+
+#include "platform/posix/owner.h"
 
 namespace verdalis {
 namespace {
@@ -73,14 +74,6 @@ void removeIfAbandoned(const fs::path& file) {
 
 }  // namespace
 
-bool isTemporaryName(std::string_view name, std::string_view start) {
-  const auto isLetterOrDigit = [](char c) {
-    return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
-  };
-  return name.size() == start.size() + pattern.size() && name.starts_with(start) &&
-         std::all_of(name.begin() + start.size(), name.end(), isLetterOrDigit);
-}
-
 TemporaryFile::TemporaryFile(const fs::path& folder, Naming naming) : folder_(folder) {
   if (naming == Naming::whenComplete && createWithoutName(folder)) return;
   // A cleaner may remove the file before it is locked; then another one is created.
@@ -100,8 +93,9 @@ TemporaryFile::~TemporaryFile() {
 }
 
 void TemporaryFile::create(const fs::path& folder) {
-  name_ = (folder / (std::string(prefix) + std::string(pattern))).string();
-  descriptor_ = ::mkostemp(name_.data(), O_CLOEXEC);
+  std::string name = (folder / (std::string(prefix) + std::string(pattern))).string();
+  descriptor_ = ::mkostemp(name.data(), O_CLOEXEC);
+  name_ = name;
 }
 
 bool TemporaryFile::createWithoutName(const fs::path& folder) {
@@ -113,8 +107,10 @@ bool TemporaryFile::createWithoutName(const fs::path& folder) {
   return isOpen();
 }
 
-void TemporaryFile::giveTo(uid_t owner, gid_t group) const {
-  const int ignored = ::fchown(descriptor_, owner, group);
+void TemporaryFile::giveToOwnerOf(const fs::path& target) const {
+  const Owner owner = ownerFor(target);
+  // A file system that has no owners ignores this.
+  const int ignored = ::fchown(descriptor_, owner.user, owner.group);
   static_cast<void>(ignored);
 }
 
@@ -134,14 +130,14 @@ bool TemporaryFile::putInto(const fs::path& target, const fs::path& step) {
   constexpr int mostAttempts = 100;
   for (int attempt = 0; attempt < mostAttempts && name_.empty(); ++attempt) {
     if (errno != EEXIST) return false;
-    const std::string name = (step.empty() ? folder_ / randomName() : step).string();
+    const fs::path name = step.empty() ? folder_ / randomName() : step;
     if (giveName(descriptor_, name)) name_ = name;
   }
   return !name_.empty() && ::rename(name_.c_str(), target.c_str()) == 0;
 }
 
-bool TemporaryFile::moveTo(const fs::path& target, mode_t mode, const fs::path& step) {
-  if (::fchmod(descriptor_, mode) != 0 || ::fsync(descriptor_) != 0) return false;
+bool TemporaryFile::moveTo(const fs::path& target, fs::perms permissions, const fs::path& step) {
+  if (::fchmod(descriptor_, static_cast<mode_t>(permissions)) != 0 || ::fsync(descriptor_) != 0) return false;
   if (!putInto(target, step)) return false;
   ::close(descriptor_);
   descriptor_ = -1;

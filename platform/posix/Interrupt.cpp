@@ -1,6 +1,7 @@
-#include "cli/Interrupt.h"
+#include "platform/Interrupt.h"
 
 #include <atomic>
+#include <csignal>
 
 namespace verdalis {
 namespace {
@@ -14,22 +15,27 @@ extern "C" void noteInterrupt(int /*signal*/) {
 
 }  // namespace
 
-Interrupt::Interrupt() {
+struct Interrupt::Before {
+  struct sigaction action {};
+  sigset_t mask{};
+};
+
+Interrupt::Interrupt() : before_(std::make_unique<Before>()) {
   noted = false;
   struct sigaction action {};
   action.sa_handler = noteInterrupt;
   action.sa_flags = SA_RESTART;
   sigemptyset(&action.sa_mask);
-  sigaction(SIGINT, &action, &before_);
+  sigaction(SIGINT, &action, &before_->action);
   sigset_t interrupt{};
   sigemptyset(&interrupt);
   sigaddset(&interrupt, SIGINT);
-  pthread_sigmask(SIG_UNBLOCK, &interrupt, &maskBefore_);
+  pthread_sigmask(SIG_UNBLOCK, &interrupt, &before_->mask);
 }
 
 Interrupt::~Interrupt() {
-  pthread_sigmask(SIG_SETMASK, &maskBefore_, nullptr);
-  sigaction(SIGINT, &before_, nullptr);
+  pthread_sigmask(SIG_SETMASK, &before_->mask, nullptr);
+  sigaction(SIGINT, &before_->action, nullptr);
 }
 
 bool Interrupt::requested() {

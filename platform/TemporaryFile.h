@@ -1,7 +1,5 @@
 #pragma once
 
-#include <sys/stat.h>
-
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -14,7 +12,7 @@ namespace verdalis {
 class TemporaryFile {
  public:
   /// When the file gets its name. A file without a name goes with its program, even if that is killed. Where
-  /// the file system has no such files, the name is given at once.
+  /// the system has no such files, the name is given at once.
   enum class Naming { atOnce, whenComplete };
 
   /// Creates the file in a folder. The name is short, because the name of the file to replace may have the
@@ -27,15 +25,16 @@ class TemporaryFile {
   /// Whether the file has been created.
   [[nodiscard]] bool isOpen() const { return descriptor_ >= 0; }
 
-  /// Sets the owner, the group, or both; -1 keeps what it is. A file system that has no owners ignores this.
-  void giveTo(uid_t owner, gid_t group) const;
+  /// Gives the file to whom the target belongs or would belong: root does not take files from their users.
+  /// Where files have no such owners, this does nothing.
+  void giveToOwnerOf(const std::filesystem::path& target) const;
 
   [[nodiscard]] bool write(std::string_view bytes) const;
 
   /// Flushes the contents to disk, sets the permissions, and renames the file.
   /// \param step the name, in the same folder and unused, that a file without a name has for the moment
   /// before it replaces an existing target; a random one if empty
-  [[nodiscard]] bool moveTo(const std::filesystem::path& target, mode_t mode,
+  [[nodiscard]] bool moveTo(const std::filesystem::path& target, std::filesystem::perms permissions,
                             const std::filesystem::path& step = {});
 
  private:
@@ -45,12 +44,12 @@ class TemporaryFile {
   void close();
 
   std::filesystem::path folder_;
-  std::string name_;  ///< Empty while it has none
+  std::filesystem::path name_;  ///< Empty while it has none
   int descriptor_ = -1;
 };
 
-/// Whether a name consists of `start` and six letters or digits, which the system puts at the end of the
-/// names of temporary files and folders.
+/// Whether a name consists of `start` and six letters or digits, as the names of temporary files and folders
+/// do.
 [[nodiscard]] bool isTemporaryName(std::string_view name, std::string_view start);
 
 /// Removes the temporary files in a folder that belong to this user and that no program is writing any more.

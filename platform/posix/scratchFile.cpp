@@ -1,0 +1,9 @@
+#include "platform/scratchFile.h"
+
+namespace verdalis {
+
+std::FILE* openScratchFile() {
+  return std::tmpfile();
+}
+
+}  // namespace verdalis
