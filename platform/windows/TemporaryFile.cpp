@@ -1,0 +1,92 @@
+#include "platform/TemporaryFile.h"
+
+#include <cerrno>
+#include <system_error>
+
+#include "platform/windows/system.h"
+
+namespace verdalis {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view prefix = ".saving-";
+
+/// A virus scanner or an indexer has new files open for a moment.
+bool renameSoon(const std::wstring& from, const std::wstring& to) {
+  constexpr int mostAttempts = 20;
+  constexpr DWORD millisecondsBetween = 25;
+  for (int attempt = 1;; ++attempt) {
+    if (MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0)
+      return true;
+    const DWORD error = GetLastError();
+    const bool mayPass = error == ERROR_SHARING_VIOLATION || error == ERROR_ACCESS_DENIED;
+    if (!mayPass || attempt == mostAttempts) {
+      errno = errnoOf(error);
+      return false;
+    }
+    Sleep(millisecondsBetween);
+  }
+}
+
+}  // namespace
+
+// Nobody else can open a file that is open for nobody, and the system closes it with its program: that is
+// the lock. A file without a name does not exist here.
+TemporaryFile::TemporaryFile(const fs::path& folder, Naming /*naming*/) : folder_(folder) {
+  create(folder);
+}
+
+TemporaryFile::~TemporaryFile() {
+  close();
+}
+
+void TemporaryFile::create(const fs::path& folder) {
+  constexpr int mostAttempts = 100;
+  for (int attempt = 0; attempt < mostAttempts; ++attempt) {
+    const std::string letters = randomLetters();
+    if (letters.empty()) return;
+    name_ = folder / (std::string(prefix) + letters);
+    descriptor_ = openFile(name_, GENERIC_WRITE, 0, CREATE_NEW, FILE_ATTRIBUTE_NORMAL);
+    if (isOpen() || errno != EEXIST) return;
+  }
+}
+
+void TemporaryFile::giveToOwnerOf(const fs::path& /*target*/) const {}
+
+bool TemporaryFile::write(std::string_view bytes) const {
+  return isOpen() && writeAll(descriptor_, bytes);
+}
+
+bool TemporaryFile::moveTo(const fs::path& target, fs::perms /*permissions*/, const fs::path& /*step*/) {
+  if (!isOpen()) return false;
+  if (FlushFileBuffers(handleOf(descriptor_)) == 0) {
+    keepErrno();
+    return false;
+  }
+  closeFile(descriptor_);
+  descriptor_ = -1;
+  if (renameSoon(systemName(name_), systemName(target))) return true;
+  DeleteFileW(systemName(name_).c_str());
+  return false;
+}
+
+void TemporaryFile::close() {
+  if (!isOpen()) return;
+  closeFile(descriptor_);
+  descriptor_ = -1;
+  DeleteFileW(systemName(name_).c_str());
+}
+
+void removeAbandonedFiles(const fs::path& folder) {
+  std::error_code error;
+  for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
+    if (!isTemporaryName(narrowText(entry->path().filename().native()), prefix)) continue;
+    // This fails for a file that its program has still open.
+    const int file = openFile(entry->path(), DELETE, 0, OPEN_EXISTING,
+                              FILE_FLAG_DELETE_ON_CLOSE | FILE_FLAG_OPEN_REPARSE_POINT);
+    if (file >= 0) closeFile(file);
+  }
+}
+
+}  // namespace verdalis
