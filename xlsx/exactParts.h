@@ -26,7 +26,8 @@ class ExactCells {
   void take(std::string_view piece, std::string& out);
 
   /// To be called after the last piece.
-  /// \throws RunTimeError (fileNotFound) if there are cells of the list that did not come
+  /// \throws RunTimeError (fileNotFound) if the sheet has no end, or if there are cells of the list that did
+  /// not come
   void finish() const;
 
  private:
@@ -35,6 +36,7 @@ class ExactCells {
   const SheetNumbers& numbers_;
   std::size_t next_ = 0;         ///< The first number of the list whose cell has not come
   std::optional<double> value_;  ///< Of the cell that passes, if it has a number
+  bool whole_ = false;           ///< Whether the last piece was the end of the sheet
 };
 
 /// The points that a chart keeps of the columns that it shows, for programs that do not read the sheet.

@@ -35,7 +35,8 @@ std::string passed(Part& part, std::string_view xml) {
 
 std::string cellsOf(const SheetNumbers& numbers, std::string_view xml) {
   ExactCells cells(numbers);
-  std::string out = passed(cells, xml);
+  const std::string out = passed(cells, xml);
+  EXPECT_EQ(passed(cells, "</worksheet>"), "</worksheet>");
   cells.finish();
   return out;
 }
@@ -80,6 +81,14 @@ TEST(ExactCells, ReplaceNumbersOnly) {
 TEST(ExactCells, LeaveATextThatWasWrittenOverANumber) {
   const std::string xml = R"(<c r="A1" t="s"><v>3</v></c><c r="B1" s="4"/>)";
   EXPECT_EQ(cellsOf(numbersOf({{{0, 0}, 0.5}, {{0, 1}, 0.5}}), xml), xml);
+}
+
+TEST(ExactCells, AreRefusedIfTheSheetHasNoEnd) {
+  const SheetNumbers numbers = numbersOf({{{0, 0}, 0.5}});
+  ExactCells cells(numbers);
+  EXPECT_EQ(passed(cells, R"(<c r="A1"><v>1</v></c></sheetData>)"),
+            R"(<c r="A1"><v>0.5</v></c></sheetData>)");
+  EXPECT_THROW(cells.finish(), RunTimeError);
 }
 
 TEST(ExactCells, AreRefusedIfNumbersAndCellsDoNotMeet) {
