@@ -13,7 +13,6 @@
 namespace verdalis::testing {
 namespace {
 
-using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 
 struct WorkbookOutput : ::testing::Test {

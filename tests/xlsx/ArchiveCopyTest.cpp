@@ -55,8 +55,10 @@ class FullDisk {
 
 /// A workbook whose parts are longer than what is read at once, and some of their pieces too.
 Handout longHandout() {
+  constexpr int count = 4000;
   std::vector<HandoutRow> rows;
-  for (int i = 0; i < 4000; ++i)
+  rows.reserve(count);
+  for (int i = 0; i < count; ++i)
     rows.push_back(rowOf({i / 7.0, std::string(i % 1000 == 0 ? 30000 : 5, 'x') + std::to_string(i)}));
   return tableOf({{"a", "", true, plain}, {"b", "", false, {}}}, std::move(rows));
 }

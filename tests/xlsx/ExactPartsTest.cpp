@@ -35,7 +35,7 @@ std::string passed(Part& part, std::string_view xml) {
 
 std::string cellsOf(const SheetNumbers& numbers, std::string_view xml) {
   ExactCells cells(numbers);
-  const std::string out = passed(cells, xml);
+  std::string out = passed(cells, xml);
   EXPECT_EQ(passed(cells, "</worksheet>"), "</worksheet>");
   cells.finish();
   return out;

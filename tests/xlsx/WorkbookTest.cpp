@@ -75,6 +75,7 @@ TEST(Workbook, TextsAreNeverFormulasNumbersOrLinks) {
   const std::vector<std::string> texts{"=1+1",  "+5",    "-5",     "@SUM(A1)", "12.5", "http://example.org",
                                        "\tTab", "{=A1}", "<b>&\"", "_x0041_"};
   std::vector<HandoutRow> rows;
+  rows.reserve(texts.size());
   for (const std::string& text : texts)
     rows.push_back(rowOf({text}));
   const WorkbookFile book(writeWorkbook(tableOf({{"Crop", "", false, {}}}, rows)));
