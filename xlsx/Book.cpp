@@ -4,8 +4,10 @@
 #include <string_view>
 #include <utility>
 
-#include "text/RunTimeError.h"
+#include "xlsx/ArchiveCopy.h"
 #include "xlsx/cleanText.h"
+#include "xlsx/exactParts.h"
+#include "xlsx/library.h"
 
 namespace verdalis {
 namespace {
@@ -48,17 +50,17 @@ std::string numberFormat(const NumberStyle& style) {
 }
 
 void require(lxw_error error) {
-  if (error == LXW_NO_ERROR) return;
-  throw RunTimeError(
-      ErrorNumber::fileNotFound,
-      "The workbook cannot be made: " + std::string(lxw_strerror(error)) + " Check that the disk has room.");
+  if (error != LXW_NO_ERROR) failToMake(lxw_strerror(error));
 }
 
-Book::Book(const std::filesystem::path& file, const std::filesystem::path& folder)
-    : folder_(folder.string()) {
+Book::Book(std::filesystem::path file, std::filesystem::path folder)
+    : file_(std::move(file)),
+      folder_(std::move(folder)),
+      rounded_(folder_ / "rounded.xlsx"),
+      temporary_(libraryPath(folder_)) {
   lxw_workbook_options options{};
-  options.tmpdir = folder_.data();
-  book_ = workbook_new_opt(file.c_str(), &options);
+  options.tmpdir = temporary_.data();
+  book_ = workbook_new_opt(libraryPath(rounded_).c_str(), &options);
   if (book_ == nullptr) require(LXW_ERROR_MEMORY_MALLOC_FAILED);
 }
 
@@ -91,8 +93,30 @@ lxw_format* Book::format(const Look& look) {
   return format;
 }
 
+SheetNumbers& Book::addSheet() {
+  return sheets_.emplace_back();
+}
+
+void Book::addChart(const SheetNumbers& numbers) {
+  charts_.push_back(&numbers);
+}
+
 void Book::close() {
   require(workbook_close(std::exchange(book_, nullptr)));
+  ArchiveCopy archive(rounded_, folder_);
+  for (std::size_t i = 0; i < sheets_.size(); ++i) {
+    sheets_[i].sort();
+    ExactCells cells(sheets_[i]);
+    archive.change("xl/worksheets/sheet" + std::to_string(i + 1) + ".xml",
+                   [&](std::string_view piece, std::string& out) { cells.take(piece, out); });
+    cells.finish();
+  }
+  for (std::size_t i = 0; i < charts_.size(); ++i) {
+    ExactPoints points(*charts_[i]);
+    archive.change("xl/charts/chart" + std::to_string(i + 1) + ".xml",
+                   [&](std::string_view piece, std::string& out) { points.take(piece, out); });
+  }
+  archive.write(file_);
 }
 
 }  // namespace verdalis

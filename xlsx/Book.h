@@ -3,12 +3,15 @@
 #include <xlsxwriter.h>
 
 #include <cstdint>
+#include <deque>
 #include <filesystem>
 #include <map>
 #include <string>
 #include <tuple>
+#include <vector>
 
 #include "charts/Chart.h"
+#include "xlsx/SheetNumbers.h"
 
 namespace verdalis {
 
@@ -32,7 +35,7 @@ class Book {
   };
 
   /// \throws RunTimeError (fileNotFound) if there is no memory
-  Book(const std::filesystem::path& file, const std::filesystem::path& folder);
+  Book(std::filesystem::path file, std::filesystem::path folder);
   Book(const Book&) = delete;
   Book& operator=(const Book&) = delete;
   ~Book();
@@ -40,13 +43,26 @@ class Book {
   [[nodiscard]] lxw_workbook* book() const { return book_; }
   [[nodiscard]] lxw_format* format(const Look& look);
 
-  /// Writes the file.
+  /// A list for the numbers of the next sheet, which close() writes with all their digits. To be called for
+  /// each sheet in order.
+  [[nodiscard]] SheetNumbers& addSheet();
+
+  /// To be called for each chart in order, with the list of its sheet.
+  void addChart(const SheetNumbers& numbers);
+
+  /// Writes the file. The library writes 16 significant digits of a number; after it the numbers are written
+  /// again, from the lists.
   /// \throws RunTimeError (fileNotFound) if it cannot be written
   void close();
 
  private:
-  std::string folder_;
+  std::filesystem::path file_;
+  std::filesystem::path folder_;
+  std::filesystem::path rounded_;  ///< As the library writes it
+  std::string temporary_;          ///< The folder as the library takes it
   lxw_workbook* book_ = nullptr;
+  std::deque<SheetNumbers> sheets_;
+  std::vector<const SheetNumbers*> charts_;
   std::map<Look, lxw_format*> formats_;
 };
 

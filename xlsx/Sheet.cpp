@@ -46,7 +46,7 @@ void requireInside(SheetPlace place) {
 
 }  // namespace
 
-Sheet::Sheet(Book& book, std::string name) : book_(book), name_(std::move(name)) {
+Sheet::Sheet(Book& book, std::string name) : book_(book), name_(std::move(name)), numbers_(book.addSheet()) {
   sheet_ = workbook_add_worksheet(book_.book(), name_.c_str());
   if (sheet_ == nullptr) require(LXW_ERROR_MEMORY_MALLOC_FAILED);
   worksheet_set_landscape(sheet_);
@@ -83,6 +83,7 @@ void Sheet::write(SheetPlace place, double number, const NumberStyle& style, Boo
   requireInside(place);
   look.number = numberFormat(shownStyle(number, style));
   require(worksheet_write_number(sheet_, rowOf(place), columnOf(place), number, book_.format(look)));
+  numbers_.add(place, number);
   widen(place.column, widthOf(styled(number, style)) + 1);
 }
 
@@ -108,6 +109,12 @@ std::size_t Sheet::writeHead(SheetPlace place, const std::string& text, bool rig
   for (const std::string& line : lines)
     widen(place.column, widthOf(line) + 2);
   return lines.size();
+}
+
+void Sheet::insert(SheetPlace place, lxw_chart* chart, lxw_chart_options& options) {
+  requireInside(place);
+  require(worksheet_insert_chart_opt(sheet_, rowOf(place), columnOf(place), chart, &options));
+  book_.addChart(numbers_);
 }
 
 void Sheet::setHeight(std::size_t row, std::size_t lines) {

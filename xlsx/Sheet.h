@@ -7,14 +7,9 @@
 
 #include "handout/Handout.h"
 #include "xlsx/Book.h"
+#include "xlsx/SheetNumbers.h"
 
 namespace verdalis {
-
-/// A place in a sheet, counted from 0.
-struct SheetPlace {
-  std::size_t row = 0;
-  std::size_t column = 0;
-};
 
 /// A sheet of a workbook, filled cell by cell. Its columns grow with what is written.
 class Sheet {
@@ -44,6 +39,9 @@ class Sheet {
   /// \returns the number of lines
   std::size_t writeHead(SheetPlace place, const std::string& text, bool right);
 
+  /// Puts a chart over the cells, with the numbers of this sheet.
+  void insert(SheetPlace place, lxw_chart* chart, lxw_chart_options& options);
+
   void setHeight(std::size_t row, std::size_t lines);
   void freezeAbove(std::size_t row);
 
@@ -60,6 +58,7 @@ class Sheet {
   Book& book_;
   std::string name_;
   lxw_worksheet* sheet_ = nullptr;
+  SheetNumbers& numbers_;
   std::vector<std::size_t> widths_;
 };
 

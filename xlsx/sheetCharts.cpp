@@ -78,8 +78,7 @@ std::size_t insert(Sheet& sheet, lxw_chart* made, const Chart& chart, SheetPlace
   options.object_position = LXW_OBJECT_MOVE_DONT_SIZE;
   std::string summary = cleanText(chart.summary);
   if (!summary.empty()) options.description = summary.data();
-  require(worksheet_insert_chart_opt(sheet.sheet(), static_cast<lxw_row_t>(place.row),
-                                     static_cast<lxw_col_t>(place.column), made, &options));
+  sheet.insert(place, made, options);
   return place.row + static_cast<std::size_t>(std::ceil(height / rowHeight)) + 1;
 }
 

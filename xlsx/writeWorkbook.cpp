@@ -44,20 +44,21 @@ class PlainNumbers {
   locale_t before_;
 };
 
+/// Makes an empty folder among the temporary files that is for this user only.
+fs::path newPrivateFolder() {
+  std::error_code error;
+  std::string name = (fs::temp_directory_path(error) / "verdalis-XXXXXX").string();
+  if (!error && ::mkdtemp(name.data()) != nullptr) return name;
+  const int reason = error ? error.value() : errno;
+  throw RunTimeError(ErrorNumber::fileNotFound,
+                     "The workbook cannot be made, because there is no folder for temporary files: " +
+                         std::generic_category().message(reason) + ".");
+}
+
 /// A folder for this user only, which goes with all that is in it.
 class PrivateFolder {
  public:
-  PrivateFolder() {
-    std::error_code error;
-    std::string name = (fs::temp_directory_path(error) / "verdalis-XXXXXX").string();
-    if (error || ::mkdtemp(name.data()) == nullptr) {
-      const int reason = error ? error.value() : errno;
-      throw RunTimeError(ErrorNumber::fileNotFound,
-                         "The workbook cannot be made, because there is no folder for temporary files: " +
-                             std::generic_category().message(reason) + ".");
-    }
-    path_ = name;
-  }
+  PrivateFolder() : path_(newPrivateFolder()) {}
   PrivateFolder(const PrivateFolder&) = delete;
   PrivateFolder& operator=(const PrivateFolder&) = delete;
   ~PrivateFolder() {

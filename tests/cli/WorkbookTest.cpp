@@ -13,7 +13,6 @@
 namespace verdalis::testing {
 namespace {
 
-using ::testing::ElementsAre;
 using ::testing::HasSubstr;
 
 struct WorkbookOutput : ::testing::Test {
@@ -52,12 +51,7 @@ struct WorkbookOutput : ::testing::Test {
     return WorkbookFile(result.out);
   }
 
-  /// A number of the CSV as the file of a workbook keeps it, with 16 digits.
-  static double kept(const std::string& text) {
-    std::array<char, 40> digits{};
-    std::snprintf(digits.data(), digits.size(), "%.16G", std::strtod(text.c_str(), nullptr));
-    return std::strtod(digits.data(), nullptr);
-  }
+  static double number(const std::string& text) { return std::strtod(text.c_str(), nullptr); }
 };
 
 TEST_F(WorkbookOutput, OfEvaluateHasEveryCellOfTheCsv) {
@@ -74,7 +68,7 @@ TEST_F(WorkbookOutput, OfEvaluateHasEveryCellOfTheCsv) {
       if (row[column].isText) {
         EXPECT_EQ(row[column].text, lines[i][column]);
       } else {
-        EXPECT_EQ(row[column].number, kept(lines[i][column])) << i << " " << column;
+        EXPECT_EQ(row[column].number, number(lines[i][column])) << i << " " << column;
       }
     }
   }
@@ -91,9 +85,9 @@ TEST_F(WorkbookOutput, OfTrendHasEveryRowOfTheCsv) {
   const std::size_t head = file.rowOf(1, "Step");
   for (std::size_t i = 1; i < lines.size(); ++i) {
     const auto row = file.row(1, head + i, 19);
-    EXPECT_EQ(row[1].number, kept(lines[i][1]));
+    EXPECT_EQ(row[1].number, number(lines[i][1]));
     EXPECT_EQ(row[4].text, lines[i][5]);
-    EXPECT_EQ(row[18].number, kept(lines[i][19])) << i;
+    EXPECT_EQ(row[18].number, number(lines[i][19])) << i;
   }
 }
 
@@ -107,8 +101,8 @@ TEST_F(WorkbookOutput, OfExploreHasTheAnswerFirst) {
   const std::size_t head = file.rowOf(0, "Gross irrigation (in)");
   ASSERT_GT(head, 0U);
   for (std::size_t i = 1; i < lines.size(); ++i) {
-    EXPECT_EQ(file.row(0, head + i, 2)[0].number, kept(lines[i][0]));
-    EXPECT_EQ(file.row(0, head + i, 2)[1].number, kept(lines[i][1]));
+    EXPECT_EQ(file.row(0, head + i, 2)[0].number, number(lines[i][0]));
+    EXPECT_EQ(file.row(0, head + i, 2)[1].number, number(lines[i][1]));
   }
 }
 

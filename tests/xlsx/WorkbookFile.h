@@ -49,6 +49,14 @@ class WorkbookFile {
     return part("xl/worksheets/sheet" + std::to_string(sheet + 1) + ".xml");
   }
 
+  /// A line for each part of the archive, in order, as `unzip` tells it with these options. Without the part
+  /// that tells when the workbook was made.
+  [[nodiscard]] std::string listing(const std::string& options) const {
+    const std::string command = "cd '" + folder_.path().string() + "' && unzip " + options +
+                                " book.xlsx -x docProps/core.xml >listing";
+    return std::system(command.c_str()) == 0 ? folder_.read("listing") : "";
+  }
+
   /// The cells of a sheet (from 0) by their names, such as "B12". Empty ones are not there.
   [[nodiscard]] std::map<std::string, Cell> cells(std::size_t sheet) const {
     std::map<std::string, Cell> cells;

@@ -1,0 +1,18 @@
+#include "xlsx/library.h"
+
+#include "text/RunTimeError.h"
+
+namespace verdalis {
+
+std::string libraryPath(const std::filesystem::path& path) {
+  const std::u8string text = path.u8string();
+  return {text.begin(), text.end()};
+}
+
+void failToMake(std::string_view reason) {
+  const std::string stop = reason.ends_with('.') ? "" : ".";
+  throw RunTimeError(ErrorNumber::fileNotFound, "The workbook cannot be made: " + std::string(reason) + stop +
+                                                    " Check that the disk has room.");
+}
+
+}  // namespace verdalis
