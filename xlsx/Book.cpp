@@ -4,6 +4,7 @@
 #include <string_view>
 #include <utility>
 
+#include "platform/paths.h"
 #include "xlsx/ArchiveCopy.h"
 #include "xlsx/cleanText.h"
 #include "xlsx/exactParts.h"
@@ -57,10 +58,10 @@ Book::Book(std::filesystem::path file, std::filesystem::path folder)
     : file_(std::move(file)),
       folder_(std::move(folder)),
       rounded_(folder_ / "rounded.xlsx"),
-      temporary_(libraryPath(folder_)) {
+      temporary_(libraryName(folder_)) {
   lxw_workbook_options options{};
   options.tmpdir = temporary_.data();
-  book_ = workbook_new_opt(libraryPath(rounded_).c_str(), &options);
+  book_ = workbook_new_opt(libraryName(rounded_).c_str(), &options);
   if (book_ == nullptr) require(LXW_ERROR_MEMORY_MALLOC_FAILED);
 }
 

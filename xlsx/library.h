@@ -8,7 +8,7 @@ namespace verdalis {
 
 // What the calls of the libraries need.
 
-/// A path as the libraries take it, in UTF-8.
+/// A path as libzip takes it, in UTF-8.
 [[nodiscard]] std::string libraryPath(const std::filesystem::path& path);
 
 /// \param reason in the words of a library

@@ -36,6 +36,13 @@ Book::Look caption() {
   return look;
 }
 
+/// A text in a chart. The library would take one that begins with "=" for a formula.
+std::string chartText(const std::string& text) {
+  std::string clean = cleanText(text);
+  if (clean.starts_with('=')) clean.insert(0, 1, ' ');
+  return clean;
+}
+
 /// A range of one column as a series takes it.
 struct Range {
   std::size_t first = 0;
@@ -56,14 +63,14 @@ void setValues(const Sheet& sheet, lxw_chart_series* series, const Range& range)
 }
 
 void setAxis(lxw_chart_axis* axis, const ChartAxis& from) {
-  if (!from.title.empty()) chart_axis_set_name(axis, cleanText(from.title).c_str());
+  if (!from.title.empty()) chart_axis_set_name(axis, chartText(from.title).c_str());
   chart_axis_set_num_format(axis, numberFormat(from.style).c_str());
 }
 
 lxw_chart* makeChart(Sheet& sheet, const Chart& chart, std::uint8_t type) {
   lxw_chart* const made = workbook_add_chart(sheet.book().book(), type);
   if (made == nullptr) require(LXW_ERROR_MEMORY_MALLOC_FAILED);
-  chart_title_set_name(made, cleanText(chart.title).c_str());
+  chart_title_set_name(made, chartText(chart.title).c_str());
   lxw_chart_font font{};
   font.size = 12;
   chart_title_set_name_font(made, &font);
@@ -194,7 +201,7 @@ class Lines {
   }
 
   static void name(lxw_chart_series* series, const std::string& text) {
-    const std::string clean = cleanText(text);
+    const std::string clean = chartText(text);
     if (!clean.empty()) chart_series_set_name(series, clean.c_str());
   }
 

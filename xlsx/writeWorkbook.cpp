@@ -1,15 +1,16 @@
 #include "xlsx/writeWorkbook.h"
 
 #include <algorithm>
-#include <cerrno>
-#include <clocale>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <memory>
 #include <system_error>
 #include <vector>
 
+#include "platform/PlainNumbers.h"
+#include "platform/TemporaryFolder.h"
+#include "platform/errors.h"
 #include "text/RunTimeError.h"
 #include "xlsx/Book.h"
 #include "xlsx/Sheet.h"
@@ -28,57 +29,33 @@ constexpr std::size_t mostRowsAboveCharts = 40;
 constexpr std::uintmax_t bytesOfCell = 200;  // more than a cell takes while the file is made
 constexpr std::uintmax_t bytesOfBook = 1U << 20U;
 
-/// Numbers are printed with a decimal point on this thread, whatever the user's locale.
-class PlainNumbers {
- public:
-  PlainNumbers() : plain_(newlocale(LC_ALL_MASK, "C", nullptr)), before_(uselocale(plain_)) {}
-  PlainNumbers(const PlainNumbers&) = delete;
-  PlainNumbers& operator=(const PlainNumbers&) = delete;
-  ~PlainNumbers() {
-    uselocale(before_);
-    if (plain_ != nullptr) freelocale(plain_);
-  }
-
- private:
-  locale_t plain_;
-  locale_t before_;
-};
-
 /// Makes an empty folder among the temporary files that is for this user only.
-fs::path newPrivateFolder() {
-  std::error_code error;
-  std::string name = (fs::temp_directory_path(error) / "verdalis-XXXXXX").string();
-  if (!error && ::mkdtemp(name.data()) != nullptr) return name;
-  const int reason = error ? error.value() : errno;
+std::unique_ptr<TemporaryFolder> newPrivateFolder() try {
+  return std::make_unique<TemporaryFolder>(fs::temp_directory_path(), "verdalis-");
+} catch (const fs::filesystem_error& error) {
   throw RunTimeError(ErrorNumber::fileNotFound,
                      "The workbook cannot be made, because there is no folder for temporary files: " +
-                         std::generic_category().message(reason) + ".");
+                         reasonText(error.code()) + ".");
 }
 
 /// A folder for this user only, which goes with all that is in it.
 class PrivateFolder {
  public:
-  PrivateFolder() : path_(newPrivateFolder()) {}
-  PrivateFolder(const PrivateFolder&) = delete;
-  PrivateFolder& operator=(const PrivateFolder&) = delete;
-  ~PrivateFolder() {
-    std::error_code ignored;
-    fs::remove_all(path_, ignored);
-  }
+  PrivateFolder() : folder_(newPrivateFolder()) {}
 
-  [[nodiscard]] const fs::path& path() const { return path_; }
+  [[nodiscard]] const fs::path& path() const { return folder_->path(); }
 
   /// The library does not notice a full disk.
   void requireRoom(std::uintmax_t bytes) const {
     std::error_code error;
-    const fs::space_info space = fs::space(path_, error);
+    const fs::space_info space = fs::space(path(), error);
     if (error || space.available >= bytes) return;
     throw RunTimeError(ErrorNumber::fileNotFound,
-                       "The workbook cannot be made, because " + path_.parent_path().string() + " is full.");
+                       "The workbook cannot be made, because " + path().parent_path().string() + " is full.");
   }
 
  private:
-  fs::path path_;
+  std::unique_ptr<TemporaryFolder> folder_;
 };
 
 std::string join(const std::vector<std::string>& texts) {

@@ -202,6 +202,17 @@ TEST(Workbook, DrawsCurvesFromTheirNumbers) {
   EXPECT_THAT(book.part("xl/drawings/drawing1.xml"), HasSubstr("It rises."));
 }
 
+TEST(Workbook, TakesNoTextOfAChartForAFormula) {
+  LineChart lines{{"=x", {}}, {"=y", {}}, {{"=SUM(A1)", {{1, 1, {}}, {2, 2, {}}}, true, true}}, {}, {}, {}};
+  const WorkbookFile book(writeWorkbook(chartOf({"=A1", "", lines, {}})));
+  ASSERT_TRUE(book.sound());
+  const std::string chart = book.part("xl/charts/chart1.xml");
+  for (const char* const text : {" =SUM(A1)<", " =A1<", " =x<", " =y<"})
+    EXPECT_THAT(chart, HasSubstr(text));
+  EXPECT_THAT(chart, Not(HasSubstr("<c:f>SUM")));
+  EXPECT_THAT(chart, Not(HasSubstr("<c:f>A1")));
+}
+
 TEST(Workbook, PutsChartsWhereNoCellIs) {
   LineChart lines{{}, {}, {{"", {{1, 1, {}}, {2, 2, {}}}, true, true}}, {}, {}, {}};
   const WorkbookFile book(writeWorkbook(chartOf({"A", "", lines, {}})));
