@@ -17,6 +17,7 @@
 #include "explore/bestPlan.h"
 #include "model/EfficiencyFraction.h"
 #include "platform/Interrupt.h"
+#include "platform/paths.h"
 #include "results/detailsSection.h"
 #include "results/optionsSection.h"
 #include "text/RunTimeError.h"
@@ -422,7 +423,7 @@ void makeOutcome(const TrendArguments& request, Reports& reports, FullReport& fu
 /// Writes a text like deliver(), but one piece at a time.
 void deliverPieces(TextPieces& text, const std::optional<std::string>& file, std::ostream& out) {
   std::optional<Interrupt> untilWritten;  // as in deliver()
-  if (file && !isOpenTarget(*file)) untilWritten.emplace();
+  if (file && !isOpenTarget(pathOf(*file))) untilWritten.emplace();
   ResultStream result(file, out);
   text.forEach([&](const std::string& piece) { result.write(piece); });
   result.finish();

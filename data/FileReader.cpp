@@ -9,6 +9,7 @@
 #include "data/readFile.h"
 #include "model/CropKind.h"
 #include "platform/fileAccess.h"
+#include "platform/paths.h"
 #include "text/RunTimeError.h"
 #include "text/encoding.h"
 #include "text/numbers.h"
@@ -231,8 +232,9 @@ void FileReader::addFarmCrops() {
 void FileReader::readSoils(Crop& crop) const {
   try {
     const std::string name = lowerCase(crop.cropType);
-    if (name.find('/') != std::string::npos) return;  // would lead out of the folder
-    const fs::path file = home_ / "crops" / "soils" / (name + ".txt");
+    const fs::path own = pathOf(name + ".txt");
+    if (own != own.filename()) return;  // would lead out of the folder
+    const fs::path file = home_ / "crops" / "soils" / own;
     if (isHidden(file)) return;
     const std::string text = readFile(file);
     LineReader lines(text);

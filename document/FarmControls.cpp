@@ -8,6 +8,7 @@
 #include "document/copyFields.h"
 #include "document/savedOption.h"
 #include "model/savedFields.h"
+#include "platform/paths.h"
 #include "text/RunTimeError.h"
 #include "text/numbers.h"
 
@@ -431,7 +432,7 @@ BatchProcess FarmControls::processOf(const DocumentProcess& process) const {
         made.SetValueArray(readRange({process.minimum, process.maximum, process.steps}, false).values);
         break;
       case TrendValuesKind::import:
-        made.SetValueArray(readValuesFile(process.file, false).values);
+        made.SetValueArray(readValuesFile(pathOf(process.file), false).values);
         break;
       case TrendValuesKind::manual:
         made.SetValueArray(readValuesList(process.list, false).values);
