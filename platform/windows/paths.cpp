@@ -34,7 +34,7 @@ fs::path shortName(const fs::path& folder) {
 }  // namespace
 
 fs::path pathOf(std::string_view name) {
-  return wideText(name);
+  return fs::path(wideText(name)).make_preferred();
 }
 
 std::string libraryName(const fs::path& path) {

@@ -81,7 +81,7 @@ xdotool type --delay 60 12
 press alt+r # Annual Rainfall
 xdotool type --delay 60 16
 press alt+7 # 75 - 25
-press alt+d # Load Default Values
+press alt+u # Load Default Values
 press alt+w # fallow for negative returns: on and off again, which leaves the focus before the crops
 sleep 0.3
 press alt+w
