@@ -6,6 +6,7 @@
 
 #include "charts/frame.h"
 #include "charts/kinds.h"
+#include "text/powersOfTen.h"
 
 namespace verdalis {
 namespace {
@@ -51,7 +52,7 @@ std::vector<std::size_t> shownOf(std::size_t count, double pixels) {
 std::optional<NumberStyle> exactStyle(const std::vector<double>& values, NumberStyle style) {
   constexpr int mostDecimals = 3;
   const auto isExact = [&](double value) {
-    const double unit = std::pow(10.0, style.decimals);
+    const double unit = powerOfTen(style.decimals);
     return std::abs(value * unit - std::round(value * unit)) < 1e-6;
   };
   while (!std::all_of(values.begin(), values.end(), isExact)) {

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "text/numbers.h"
+#include "text/powersOfTen.h"
 
 namespace verdalis {
 namespace {
@@ -18,7 +19,7 @@ constexpr double longest = 1e15;  // from here on numbers are written with an ex
 /// The smallest round step that needs no more than `most` ticks in a span.
 double stepFor(const Span& span, std::size_t most) {
   const double least = span.length() / static_cast<double>(std::max<std::size_t>(most, 2));
-  const double power = std::pow(10.0, std::floor(std::log10(least)));
+  const double power = powerOfTen(decimalExponent(least));
   for (const double digit : {1.0, 2.0, 5.0, 10.0}) {
     if (digit * power >= least * (1 - finest)) return digit * power;
   }
@@ -32,8 +33,7 @@ struct Unit {
 };
 
 NumberStyle fitting(NumberStyle style, double step) {
-  const double digits = -std::floor(std::log10(step) + finest);
-  style.decimals = static_cast<int>(std::clamp(digits, 0.0, static_cast<double>(mostDecimals)));
+  style.decimals = std::clamp(-decimalExponent(step * (1 + finest)), 0, mostDecimals);
   style.thousands = true;
   return style;
 }
@@ -89,7 +89,7 @@ std::vector<Tick> roundTicks(const Span& span, std::size_t most, const NumberSty
   ticks.reserve(values.size());
   for (const double value : values) {
     // Steps finer than any decimals that an axis has room for
-    const bool fine = step < std::pow(10.0, -mostDecimals);
+    const bool fine = step < powerOfTen(-mostDecimals);
     ticks.push_back({value, fine ? style.before + generalText(value) + style.after
                                  : shortNumber(value / unit.size, written)});
   }

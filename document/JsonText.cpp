@@ -5,6 +5,7 @@
 #include <iterator>
 #include <nlohmann/json.hpp>
 
+#include "text/numbers.h"
 #include "text/quote.h"
 
 namespace verdalis {
@@ -103,6 +104,10 @@ std::string tokenAt(std::string_view text, std::size_t position, const std::stri
                                                               : wordAt(text, position);
 }
 
+std::string tooLarge(std::string_view number) {
+  return "The number " + quoteForMessage(number) + " is too large.";
+}
+
 /// What to tell a user about an error of the library.
 /// \param at the position of the last character that was read.
 std::string reasonFor(std::string_view error, std::string_view text, std::size_t at,
@@ -110,7 +115,7 @@ std::string reasonFor(std::string_view error, std::string_view text, std::size_t
   const auto says = [&](std::string_view part) { return error.find(part) != std::string_view::npos; };
   if (at < text.size() && text[at] == '\0') return "There is a zero byte.";
   if (says("ill-formed UTF-8")) return "A text is not in UTF-8.";
-  if (says("out_of_range")) return "The number " + quoteForMessage(named) + " is too large.";
+  if (says("out_of_range")) return tooLarge(named);
   if (says("missing closing quote") || says("unexpected end of input")) return "The file ends too early.";
   if (says("control character"))
     return "A text has no quotation mark at its end, or has a control character in it.";
@@ -129,8 +134,14 @@ std::size_t lineAt(std::string_view text, std::size_t position) {
   return 1 + static_cast<std::size_t>(std::count(before.begin(), before.end(), '\n'));
 }
 
+/// The library as it checks texts here. It reads numbers by the C library, which may round them in its own
+/// way, so its numbers are passed over. The long ones reach beyond the largest double even where they are no
+/// more exact, and leave it to us to refuse what is too large for a double.
+using CheckedJson =
+    nlohmann::basic_json<std::map, std::vector, std::string, bool, std::int64_t, std::uint64_t, long double>;
+
 /// Notes where the values begin, while the library reads and checks the text.
-class JsonIndexer : public nlohmann::json::json_sax_t {
+class JsonIndexer : public CheckedJson::json_sax_t {
  public:
   JsonIndexer(std::string_view text, std::vector<JsonText::Entry>& entries)
       : text_(text),
@@ -139,7 +150,7 @@ class JsonIndexer : public nlohmann::json::json_sax_t {
 
   void run() {
     const char* const end = text_.data() + text_.size();
-    nlohmann::json::sax_parse(Reading(text_.data(), end, progress_), Reading(end, end, progress_), this);
+    CheckedJson::sax_parse(Reading(text_.data(), end, progress_), Reading(end, end, progress_), this);
     // The library takes a zero byte for the end.
     const std::size_t rest = text_.find_first_not_of(blanks, position_);
     if (rest != std::string_view::npos) fail(rest, {}, {});
@@ -149,7 +160,13 @@ class JsonIndexer : public nlohmann::json::json_sax_t {
   bool boolean(bool /*value*/) override { return plain(); }
   bool number_integer(number_integer_t /*value*/) override { return plain(); }
   bool number_unsigned(number_unsigned_t /*value*/) override { return plain(); }
-  bool number_float(number_float_t /*value*/, const string_t& /*token*/) override { return plain(); }
+  bool number_float(number_float_t /*value*/, const string_t& /*token*/) override {
+    plain();
+    const std::size_t begin = entries_.back().begin;
+    const std::string_view digits = text_.substr(begin, position_ - begin);
+    if (!isNumeric(digits)) throw JsonFault(lineAt(text_, begin), tooLarge(digits));
+    return true;
+  }
   bool string(string_t& /*value*/) override { return whole(); }
   bool key(string_t& /*value*/) override { return whole(); }
   bool binary(binary_t& /*value*/) override { return true; }  // not in texts

@@ -170,7 +170,8 @@ std::vector<double> PlanSearch::profitsOf(const KeptCandidate& candidate) const 
 
 /// The factors of the seasons with which the best candidate comes closest to the least regret: those where
 /// the losses of the candidate that the weighted profits prefer are level. They are approached in steps; any
-/// factors give a bound that holds, good ones only make it tight.
+/// factors of 0 or more with a sum of 1 give a bound that holds, good ones only make it tight. So no answer
+/// depends on exp(), the only function here of which C libraries may differ in the last bit.
 std::vector<double> PlanSearch::levelFactors(const std::vector<double>& bestProfits) {
   constexpr int mostSteps = 40;
   const std::size_t seasons = tables_.seasons();

@@ -17,6 +17,7 @@
 #include "questions/values.h"
 #include "text/RunTimeError.h"
 #include "text/numbers.h"
+#include "text/powersOfTen.h"
 
 namespace verdalis {
 namespace {
@@ -26,7 +27,7 @@ constexpr double usualSteps = 120;  // of a slider from end to end
 /// 1, 2 or 5 times a power of ten, near `width`.
 double roundStep(double width) {
   if (!(width > 0) || !std::isfinite(width)) return 1;
-  const double power = std::pow(10, std::floor(std::log10(width)));
+  const double power = powerOfTen(decimalExponent(width));
   const double lead = width / power;
   return power * (lead < 1.5 ? 1 : lead < 3.5 ? 2 : lead < 7.5 ? 5 : 10);
 }

@@ -8,6 +8,7 @@
 
 #include "engine/MakingSplits.h"
 #include "model/LandDivision.h"
+#include "text/powersOfTen.h"
 
 namespace verdalis::reference {
 namespace {
@@ -47,7 +48,7 @@ class RandomFarm::Maker {
   }
 
  private:
-  // The library's distributions may give other numbers elsewhere, as may its powers; these are the same
+  // The library's distributions may give other numbers elsewhere, as may its pow(); these are the same
   // everywhere, because basic arithmetic is.
   std::size_t below(std::size_t end) { return static_cast<std::size_t>(random_() % end); }
   bool chance(double p) { return between(0, 1) < p; }
@@ -221,7 +222,7 @@ class RandomFarm::Maker {
   /// Makes a crop faulty: unrealistic numbers, whose sums may overflow, or no table.
   void spoil(Crop& crop) {
     const auto huge = [&] {
-      const double size = std::pow(10.0, between(300, 308));
+      const double size = between(1, 10) * powerOfTen(300 + static_cast<int>(below(8)));
       return chance(0.5) ? size : -size;
     };
     switch (below(6)) {

@@ -1,12 +1,15 @@
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
+#include <array>
 #include <bit>
+#include <clocale>
 #include <nlohmann/json.hpp>
 #include <vector>
 
 #include "document/JsonText.h"
 #include "tests/document/arbitraryDocument.h"
+#include "text/quote.h"
 
 namespace verdalis {
 namespace {
@@ -89,6 +92,72 @@ TEST(JsonText, NumbersAreTheNearestFloats) {
   ASSERT_EQ(numbers.size(), expected.size());
   for (std::size_t i = 0; i < numbers.size(); ++i)
     EXPECT_EQ(std::bit_cast<std::uint64_t>(numbers[i]), std::bit_cast<std::uint64_t>(expected[i])) << i;
+}
+
+struct HardNumber {
+  std::string_view text;
+  double nearest;  ///< As the compiler reads the same digits
+};
+
+/// Numbers whose nearest float is hard to find, and those at both ends of the floats.
+constexpr std::array<HardNumber, 16> hardNumbers{{
+    {"0.1", 0.1},
+    {"1e-320", 1e-320},
+    {"9007199254740993", 9007199254740993.0},
+    {"9007199254740992.99999", 9007199254740992.99999},
+    {"9007199254740993.00001", 9007199254740993.00001},
+    {"123456789.123456789123", 123456789.123456789123},
+    {"-123456789.123456789123", -123456789.123456789123},
+    {"8.98846567431157953e307", 8.98846567431157953e307},
+    {"2.2250738585072011e-308", 2.2250738585072011e-308},
+    {"2.22507385850720138309e-308", 2.22507385850720138309e-308},
+    {"6929495644600919.5", 6929495644600919.5},
+    {"7317770170789331.3", 7317770170789331.3},
+    {"1.00000000000000011102230246251565404236316680908203125",
+     1.00000000000000011102230246251565404236316680908203125},
+    {"1.7976931348623157e308", 1.7976931348623157e308},
+    {"1.797693134862315807e308", 1.797693134862315807e308},
+    {"179769313486231570000E288", 179769313486231570000E288},
+}};
+
+void expectNearestFloats() {
+  for (const HardNumber& number : hardNumbers) {
+    const std::string text = "[" + std::string(number.text) + ", 1]";
+    const JsonText json(text);
+    ASSERT_EQ(inside(json.root()).size(), 2U) << text;
+    EXPECT_EQ(std::bit_cast<std::uint64_t>(inside(json.root())[0].number()),
+              std::bit_cast<std::uint64_t>(number.nearest))
+        << text;
+  }
+}
+
+TEST(JsonText, HardNumbersAreTheNearestFloats) {
+  expectNearestFloats();
+}
+
+TEST(JsonText, ADecimalCommaOfTheLocaleHasNoEffect) {
+  const std::string before = std::setlocale(LC_NUMERIC, nullptr);
+  if (std::setlocale(LC_NUMERIC, "de_DE.UTF-8") == nullptr) {
+    GTEST_SKIP() << "the locale de_DE.UTF-8 is not installed here";
+  }
+  expectNearestFloats();
+  std::setlocale(LC_NUMERIC, before.c_str());
+}
+
+TEST(JsonText, NumbersBeyondTheLargestFloatAreFaults) {
+  const std::string digits(400, '1');
+  for (const std::string& number :
+       {std::string("1e400"), std::string("-1e400"), std::string("1e5000"),
+        std::string("1.797693134862315809e308"), std::string("0.1e310"), digits, digits + ".5"}) {
+    const std::string text = "[1,\n" + number + ",\n2]";
+    try {
+      const JsonText json(text);
+      ADD_FAILURE() << "no fault: " << text;
+    } catch (const JsonFault& fault) {
+      EXPECT_EQ(fault.line(), 2U);
+      EXPECT_EQ(fault.what(), "The number " + quoteForMessage(number) + " is too large.");
+    }
+  }
 }
 
 void expectFault(std::string_view text, std::size_t line) {
