@@ -4,6 +4,7 @@
 ;   OUTPUT          the installer to make
 ;   FILES           a script that installs the files (made from STAGE)
 ;   UNFILES         a script that removes exactly these files
+Target amd64-unicode
 Unicode true
 SetCompressor /SOLID lzma
 RequestExecutionLevel user

@@ -1,6 +1,7 @@
 #include "platform/LockFile.h"
 
 #include <cerrno>
+#include <system_error>
 
 #include "platform/windows/system.h"
 
@@ -31,7 +32,8 @@ LockFile::LockFile(const fs::path& path) : path_(path) {
     const bool inUse = isInUse(GetLastError());
     if (!inUse) return;
     if (attempt == mostAttempts) {
-      errno = fs::exists(path) ? EWOULDBLOCK : EACCES;
+      std::error_code error;
+      errno = fs::exists(path, error) ? EWOULDBLOCK : EACCES;
       return;
     }
     Sleep(10);
