@@ -222,7 +222,9 @@ class RandomFarm::Maker {
   /// Makes a crop faulty: unrealistic numbers, whose sums may overflow, or no table.
   void spoil(Crop& crop) {
     const auto huge = [&] {
-      const double size = between(1, 10) * powerOfTen(300 + static_cast<int>(below(8)));
+      // One draw after the other: the compiler chooses the order within an expression.
+      const double power = powerOfTen(300 + static_cast<int>(below(8)));
+      const double size = power * between(1, 10);
       return chance(0.5) ? size : -size;
     };
     switch (below(6)) {
