@@ -50,6 +50,8 @@ int errorOfReplacing(const fs::path& file) {
 }
 
 int errorOfOpening(const fs::path& file) {
+  const DWORD attributes = GetFileAttributesW(systemName(file).c_str());
+  if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) return EISDIR;
   return errorOf(openFile(file, GENERIC_WRITE, shared, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL));
 }
 

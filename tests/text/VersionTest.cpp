@@ -1,5 +1,6 @@
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <regex>
 
 #include "text/version.h"
 
@@ -7,8 +8,10 @@ namespace verdalis {
 namespace {
 
 TEST(Version, TextConsistsOfNumberAndBuild) {
-  EXPECT_THAT(versionNumber(), ::testing::MatchesRegex("[0-9]+\\.[0-9]+"));
-  EXPECT_THAT(buildNumber(), ::testing::MatchesRegex("[0-9]+"));
+  const std::regex number("[0-9]+");
+  const std::regex version("[0-9]+\\.[0-9]+");
+  EXPECT_TRUE(std::regex_match(versionNumber(), version)) << versionNumber();
+  EXPECT_TRUE(std::regex_match(buildNumber(), number)) << buildNumber();
   EXPECT_EQ(versionText(), versionNumber() + " build " + buildNumber());
 }
 
