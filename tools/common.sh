@@ -46,6 +46,11 @@ configure() {
   )
 }
 
+# cmake_value NAME: a value that CMakeLists.txt sets.
+cmake_value() {
+  sed -nE "s/^(project|set)\($1 (VERSION )?\"?([0-9.-]+)\"?.*/\3/p" "$root/CMakeLists.txt"
+}
+
 # compile FOLDER [TARGET]: builds a target, or all of them, in build/FOLDER.
 compile() {
   quietly "$root/build/$1/build.log" cmake --build "$root/build/$1" --parallel "$jobs" --target "${2-all}"
