@@ -57,11 +57,26 @@ void keepErrno() {
   errno = errnoOf(GetLastError());
 }
 
+namespace {
+
+/// Whether a path leads through a file as if it were a folder.
+bool isBelowFile(const fs::path& path) {
+  std::error_code error;
+  for (fs::path above = path.parent_path(); above.has_relative_path(); above = above.parent_path()) {
+    const fs::file_status status = fs::status(above, error);
+    if (fs::exists(status)) return !fs::is_directory(status);
+  }
+  return false;
+}
+
+}  // namespace
+
 int openFile(const fs::path& path, DWORD access, DWORD share, DWORD creation, DWORD flags) {
   const HANDLE handle =
       CreateFileW(systemName(path).c_str(), access, share, nullptr, creation, flags, nullptr);
   if (handle == INVALID_HANDLE_VALUE) {
     keepErrno();
+    if (errno == ENOENT && isBelowFile(path)) errno = ENOTDIR;
     return -1;
   }
   const int descriptor = _open_osfhandle(reinterpret_cast<std::intptr_t>(handle), _O_BINARY | _O_NOINHERIT);

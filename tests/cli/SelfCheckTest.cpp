@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <regex>
 #include <sstream>
 #include <string>
 
@@ -15,7 +16,6 @@ namespace {
 namespace fs = std::filesystem;
 using ::testing::AllOf;
 using ::testing::HasSubstr;
-using ::testing::MatchesRegex;
 
 struct Told {
   bool passed = false;
@@ -35,8 +35,9 @@ TEST(SelfCheckOption, SaysInASentenceThatThisMachineComputesAsItShould) {
   const CliResult result = runCli({"--self-check"});
   EXPECT_EQ(result.exitCode, 0);
   EXPECT_EQ(result.err, "");
-  EXPECT_THAT(result.out, MatchesRegex("This machine computes as it should: 295 farms, "
-                                       "[1-9],[0-9]{3},[0-9]{3} plans, [0-9]+\\.[0-9] s\\.\n"));
+  const std::regex sentence(
+      "This machine computes as it should: 295 farms, [1-9],[0-9]{3},[0-9]{3} plans, [0-9]+\\.[0-9] s\\.\n");
+  EXPECT_TRUE(std::regex_match(result.out, sentence)) << result.out;
 }
 
 TEST(SelfCheckOption, StandsAlone) {
