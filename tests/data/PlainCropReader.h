@@ -170,6 +170,16 @@ inline std::optional<std::string> plainValue(const Texts& lines, std::size_t lin
   return lines[line - 1].substr(sign + 1);
 }
 
+/// Whether a name or a text of units has at most 255 characters, each of one or more bytes of UTF-8.
+inline bool plainIsShort(const std::string& text) {
+  std::size_t characters = 0;
+  for (const char c : text) {
+    const int byte = static_cast<unsigned char>(c);
+    if (byte < 0x80 || byte > 0xBF) ++characters;
+  }
+  return characters <= 255;
+}
+
 /// The crop in a file; nothing if it is not a crop file.
 inline std::optional<PlainCrop> plainCrop(const std::string& text) {
   const Texts lines = plainLines(text);
@@ -179,6 +189,7 @@ inline std::optional<PlainCrop> plainCrop(const std::string& text) {
   const auto water = plainValue(lines, 7);
   const auto values = plainValue(lines, 9);
   if (!name || !units || !rain || !water || !values) return std::nullopt;
+  if (!plainIsShort(*name) || !plainIsShort(*units)) return std::nullopt;
   const auto table = plainTable(*rain, *water, *values);
   if (!table) return std::nullopt;
   Texts words = plainSplit(*units);
