@@ -1,5 +1,4 @@
 #include <gtest/gtest.h>
-#include <rapidcheck/gtest.h>
 
 #include <cmath>
 #include <limits>
@@ -7,7 +6,6 @@
 #include <utility>
 #include <vector>
 
-#include "tests/text/Generators.h"
 #include "text/RunTimeError.h"
 #include "text/numbers.h"
 
@@ -133,40 +131,6 @@ TEST(Val, RoundsLongDecimalsCorrectly) {
   const std::string half = "1.00000000000000011102230246251565404236316680908203125";
   EXPECT_EQ(Val(half), 1.0);
   EXPECT_EQ(Val(half + std::string(2000, '0') + "1"), std::nextafter(1.0, 2.0));
-}
-
-RC_GTEST_PROP(ValProperty, IgnoresWhatFollowsTheNumber, ()) {
-  const auto values = *testing::manyNumbers();
-  // Only tails that do not continue the number.
-  const auto tail = *rc::gen::oneOf(rc::gen::just(std::string(" ")), rc::gen::just(std::string("x")),
-                                    rc::gen::just(std::string(",")), rc::gen::just(std::string("-")),
-                                    rc::gen::just(std::string("\"")), rc::gen::just(std::string("E")),
-                                    rc::gen::just(std::string("e+")));
-  const auto garbage = *rc::gen::suchThat(testing::anyBytes(), [](const std::string& bytes) {
-    return bytes.empty() || ((bytes[0] < '0' || bytes[0] > '9') && bytes[0] != '+' && bytes[0] != '-');
-  });
-  const std::string behind = tail + garbage;
-  for (const double value : values) {
-    std::string text = " \t";
-    text += generalText(value);
-    RC_ASSERT(Val(text) == value);
-    text += behind;
-    RC_ASSERT(Val(text) == value);
-  }
-}
-
-RC_GTEST_PROP(ValProperty, AcceptsAnyBytes, ()) {
-  const auto bytes = *testing::anyBytes();
-  try {
-    RC_ASSERT(std::isfinite(Val(bytes)));
-  } catch (const RunTimeError& error) {
-    RC_ASSERT(error.number() == ErrorNumber::overflow);
-  }
-}
-
-RC_GTEST_PROP(ValProperty, AgreesWithToDoubleOnNumericTextsWithoutCommas, ()) {
-  const auto text = *rc::gen::container<std::string>(rc::gen::elementOf(std::string("0123456789.eE+- ")));
-  if (isNumeric(text)) RC_ASSERT(Val(text) == toDouble(text));
 }
 
 }  // namespace
