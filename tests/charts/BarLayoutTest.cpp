@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "tests/charts/AnyChart.h"
+#include "tests/charts/drawings.h"
 
 namespace verdalis {
 namespace {

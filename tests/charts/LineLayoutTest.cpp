@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "tests/charts/AnyChart.h"
+#include "tests/charts/drawings.h"
 
 namespace verdalis {
 namespace {

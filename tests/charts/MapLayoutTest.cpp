@@ -4,7 +4,7 @@
 #include <cmath>
 #include <set>
 
-#include "tests/charts/AnyChart.h"
+#include "tests/charts/drawings.h"
 
 namespace verdalis {
 namespace {

@@ -1,12 +1,8 @@
 #include <gtest/gtest.h>
-#include <rapidcheck/gtest.h>
 
-#include <algorithm>
 #include <cmath>
-#include <set>
 
 #include "charts/ticks.h"
-#include "tests/charts/AnyChart.h"
 
 namespace verdalis {
 namespace {
@@ -35,27 +31,6 @@ TEST(Ticks, ShortSumsLoseNothing) {
 TEST(Ticks, DecimalsAreThoseOfTheStep) {
   EXPECT_EQ(textsOf({3.9, 5.1}, 5, {"$", "", 4, false}), (Texts{"$4.0", "$4.5", "$5.0"}));
   EXPECT_EQ(textsOf({2, 28}, 7, {"", " in", 2, false}), (Texts{"5 in", "10 in", "15 in", "20 in", "25 in"}));
-}
-
-RC_GTEST_PROP(Ticks, AreInsideAscendingAndNotMany, ()) {
-  const double a = *testing::anyNumber();
-  const double b = *testing::anyNumber();
-  RC_PRE(canShow(a) && canShow(b));
-  const Span span = spanOf(a, b);
-  RC_ASSERT(span.length() > 0);
-  const auto most = *rc::gen::inRange<std::size_t>(0, 40);
-  const std::vector<Tick> ticks = roundTicks(span, most, dollars);
-  RC_ASSERT(ticks.size() <= std::max<std::size_t>(most, 2) + 1);
-  const Span wide = roundSpan(span, most);
-  RC_ASSERT(wide.low <= span.low + span.length() * 1e-5);
-  RC_ASSERT(wide.high >= span.high - span.length() * 1e-5);
-  std::set<std::string> texts;
-  for (std::size_t i = 0; i < ticks.size(); ++i) {
-    RC_ASSERT(ticks[i].value >= span.low - span.length() * 1e-5);
-    RC_ASSERT(ticks[i].value <= span.high + span.length() * 1e-5);
-    RC_ASSERT(i == 0 || ticks[i].value > ticks[i - 1].value);
-    RC_ASSERT(texts.insert(ticks[i].text).second);
-  }
 }
 
 TEST(Ticks, NumbersThatAreNoneAreHeld) {
