@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "tests/handout/AnyHandout.h"
+#include "tests/handout/pages.h"
 
 namespace verdalis {
 namespace {

@@ -6,7 +6,7 @@
 #include <cmath>
 #include <limits>
 
-#include "tests/handout/AnyHandout.h"
+#include "tests/handout/pages.h"
 
 namespace verdalis {
 namespace {
