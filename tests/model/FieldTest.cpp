@@ -5,6 +5,7 @@
 #include <string>
 
 #include "model/Field.h"
+#include "model/PricedField.h"
 #include "tests/support/Crops.h"
 #include "tests/support/Errors.h"
 #include "tests/support/PlainFarm.h"
@@ -228,6 +229,12 @@ TEST_F(FieldPricing, ReportDoesNotCutWithinACharacter) {
   EXPECT_THAT(fieldOf(crop, 10, 5).toString(), HasSubstr("\tFrühger Yield = "));
   crop.cropType = "Pflänzü";
   EXPECT_THAT(fieldOf(crop, 10, 5).toString(), HasSubstr("\tPflänzü Yield = "));
+}
+
+TEST(PricedField, RejectsAnEfficiencyOf0) {
+  const Crop corn = cornCrop();
+  const auto price = [&] { (void)priceField({100, 8, 16}, corn, defaultPlant(), 0); };
+  EXPECT_NE(errorText(ErrorNumber::divisionByZero, price), "");
 }
 
 }  // namespace

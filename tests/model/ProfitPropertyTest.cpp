@@ -9,7 +9,6 @@
 #include "model/FieldCollection.h"
 #include "model/PricedField.h"
 #include "tests/support/Crops.h"
-#include "tests/support/Errors.h"
 #include "tests/support/PlainFarm.h"
 #include "tests/support/Plant.h"
 #include "tests/support/RandomFarm.h"
@@ -119,12 +118,6 @@ RC_GTEST_PROP(PricedField, IsTheSumOfItsParts, (std::uint64_t seed)) {
     RC_ASSERT(crop.yieldTable->cell(reading.lo, reading.rain) == reading.atLo);
     RC_ASSERT(crop.yieldTable->cell(reading.hi, reading.rain) == reading.atHi);
   }
-}
-
-TEST(PricedField, RejectsAnEfficiencyOf0) {
-  const Crop corn = cornCrop();
-  const auto price = [&] { (void)priceField({100, 8, 16}, corn, defaultPlant(), 0); };
-  EXPECT_NE(errorText(ErrorNumber::divisionByZero, price), "");
 }
 
 RC_GTEST_PROP(FarmCopy, PricesLikeItsSourceToTheLastBit, (std::uint64_t seed)) {
