@@ -1,15 +1,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <rapidcheck/gtest.h>
 
-#include <algorithm>
 #include <cstdint>
 #include <memory>
 #include <string>
 #include <vector>
 
 #include "engine/MakingCropCombos.h"
-#include "tests/support/Crops.h"
+#include "tests/engine/cropLists.h"
 #include "tests/support/Errors.h"
 
 // All assignments of the selected crops to the fields.
@@ -19,24 +17,6 @@ namespace {
 
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
-
-CropScenario cropsNamed(const std::vector<std::string>& names) {
-  CropScenario crops;
-  for (const std::string& name : names)
-    crops.Add(std::make_shared<Crop>(namedCrop(name)));
-  return crops;
-}
-
-std::vector<std::string> listOf(const CropCombinations& combinations) {
-  std::vector<std::string> list;
-  for (std::uint64_t i = 1; i <= combinations.Count(); ++i)
-    list.push_back(combinations.Item(i).toString());
-  return list;
-}
-
-std::vector<std::string> combos(const std::vector<std::string>& names, std::int16_t n) {
-  return listOf(makeCropCombos(cropsNamed(names), n));
-}
 
 TEST(CropCombinations, StartWithTheLastCropOnEveryField) {
   EXPECT_THAT(combos({"A", "B"}, 2), ElementsAre("B, B", "B, A", "A, B", "A, A"));
@@ -93,21 +73,6 @@ TEST(CropCombinations, RejectACountThatOverflows) {
   std::vector<std::string> names(66'000, "A");
   EXPECT_THAT(errorText(ErrorNumber::overflow, [&] { (void)makeCropCombos(cropsNamed(names), 4); }),
               HasSubstr("too many crops"));
-}
-
-RC_GTEST_PROP(CropCombinations, AreAllSequencesInDescendingOrderOfCropPositions, ()) {
-  const int k = *rc::gen::inRange(1, 7);
-  const auto n = static_cast<std::int16_t>(*rc::gen::inRange(1, 5));
-  const std::vector<std::string> letters{"a", "b", "c", "d", "e", "f"};
-  const std::vector<std::string> names(letters.begin(), letters.begin() + k);
-  const auto list = combos(names, n);
-  std::size_t expected = 1;
-  for (int i = 0; i < n; ++i)
-    expected *= static_cast<std::size_t>(k);
-  RC_ASSERT(list.size() == expected);
-  // With one letter per crop, descending positions give descending texts without duplicates.
-  RC_ASSERT(std::is_sorted(list.begin(), list.end(), std::greater<>()));
-  RC_ASSERT(std::adjacent_find(list.begin(), list.end()) == list.end());
 }
 
 }  // namespace

@@ -1,13 +1,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <rapidcheck/gtest.h>
 
-#include <algorithm>
-#include <array>
 #include <cstdint>
-#include <limits>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "engine/BestMix.h"
@@ -27,12 +22,6 @@ class Ranking : public ::testing::Test {
  private:
   ScopedEfficiency efficiency_{0.85};
 };
-
-BestMix rankingOf(std::int16_t size) {
-  BestMix best;
-  best.setSize(size);
-  return best;
-}
 
 TEST_F(Ranking, HasNoPlacesInitially) {
   EXPECT_EQ(BestMix().getSize(), 0);
@@ -209,27 +198,6 @@ TEST_F(Ranking, HasTwoOperationsThatDoNothing) {
   best.ridDuplicates();
   best.setCollection();
   EXPECT_THAT(namesIn(best), ElementsAre("A", "A"));
-}
-
-RC_GTEST_PROP(RankingOrder, IsAStableSortWithLaterCandidatesFirst, ()) {
-  const ScopedEfficiency efficiency(0.85);
-  const auto size = static_cast<std::int16_t>(*rc::gen::inRange(1, 30));
-  const auto profits = *rc::gen::container<std::vector<double>>(
-      rc::gen::map(rc::gen::inRange(-6, 7), [](int k) { return k * 0.1; }));
-  BestMix best = rankingOf(size);
-  std::vector<std::pair<double, std::string>> sorted;
-  for (std::size_t i = 0; i < profits.size(); ++i) {
-    submit(best, candidate(std::to_string(i), profits[i]));
-    sorted.insert(sorted.begin(), {profits[i], std::to_string(i)});  // later candidates first
-  }
-  std::stable_sort(sorted.begin(), sorted.end(),
-                   [](const auto& a, const auto& b) { return a.first > b.first; });
-  std::vector<std::string> expected(static_cast<std::size_t>(size), "-");
-  for (std::size_t i = 0; i < std::min(expected.size(), sorted.size()); ++i)
-    expected[i] = sorted[i].second;
-  RC_ASSERT(namesIn(best) == expected);
-  const bool full = sorted.size() >= expected.size();
-  if (!profits.empty()) RC_ASSERT(best.LowEnd == (full ? sorted[expected.size() - 1].first : 0));
 }
 
 }  // namespace

@@ -1,15 +1,14 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <rapidcheck/gtest.h>
 
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdint>
-#include <string>
 #include <vector>
 
 #include "engine/MakingSplits.h"
+#include "tests/engine/waterShares.h"
 #include "tests/support/Errors.h"
 
 // The water splits, their number and their order.
@@ -29,14 +28,6 @@ std::vector<std::vector<double>> waterSplits(std::int16_t n, std::int16_t factor
   for (const Split& split : makeWaterSplits(n, netVolume, 100, state))
     result.push_back(split.getSplits());
   return result;
-}
-
-/// The possible shares for a factor.
-std::vector<double> shares(std::int16_t factor) {
-  std::vector<double> levels;
-  for (double level = 0; level <= 100; level += 100.0 / factor)
-    levels.push_back(level);
-  return levels;
 }
 
 /// All tuples of shares whose rounded sum is 100, in descending order by first share, second share and so on.
@@ -197,30 +188,6 @@ TEST(WaterSplits, AreAllTuplesOfSharesThatRoundTo100InDescendingOrder) {
   expectTuples(3, 99);
   for (std::int16_t factor = 1; factor <= 15; ++factor)
     expectTuples(4, factor);
-}
-
-RC_GTEST_PROP(WaterSplits, AllRoundTo100AndAreUnique, ()) {
-  const auto n = static_cast<std::int16_t>(*rc::gen::inRange(1, 5));
-  const auto factor = static_cast<std::int16_t>(*rc::gen::inRange(1, n == 4 ? 41 : 100));
-  ProgramState state;
-  state.FineFactor = factor;
-  const SplitCollection splits = makeWaterSplits(n, 100, 0, state);
-  const auto levels = shares(factor);
-  std::vector<double> previous;
-  for (const Split& split : splits) {
-    // Converts acre-inches back to shares.
-    Split percentages;
-    for (const double volume : split.getSplits()) {
-      const auto level =
-          std::find_if(levels.begin(), levels.end(), [&](double l) { return (l / 100) * 100 == volume; });
-      RC_ASSERT(level != levels.end());
-      percentages.addSplit(*level);
-    }
-    RC_ASSERT(percentages.total() == 100);
-    RC_ASSERT(percentages.Count() == n);
-    RC_ASSERT(previous.empty() || split.getSplits() < previous);
-    previous = split.getSplits();
-  }
 }
 
 TEST(WaterSplits, DoNotDependOnTheAcres) {

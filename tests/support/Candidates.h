@@ -39,6 +39,13 @@ inline FieldCollection candidate(const std::string& name, double profit) {
   return candidateOf({{name, profit}});
 }
 
+/// A ranking with this number of places.
+inline BestMix rankingOf(std::int16_t size) {
+  BestMix best;
+  best.setSize(size);
+  return best;
+}
+
 /// Submits a candidate.
 inline void submit(BestMix& best, FieldCollection offered) {
   best.submit(offered);
