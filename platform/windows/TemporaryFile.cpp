@@ -82,10 +82,14 @@ void removeAbandonedFiles(const fs::path& folder) {
   std::error_code error;
   for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
     if (!isTemporaryName(narrowText(entry->path().filename().native()), prefix)) continue;
-    // This fails for a file that its program has still open.
-    const int file = openFile(entry->path(), DELETE, 0, OPEN_EXISTING,
-                              FILE_FLAG_DELETE_ON_CLOSE | FILE_FLAG_OPEN_REPARSE_POINT);
-    if (file >= 0) closeFile(file);
+    // This fails for a file that its program has still open, and for a folder.
+    const int file = openFile(entry->path(), DELETE | FILE_READ_ATTRIBUTES, 0, OPEN_EXISTING,
+                              FILE_FLAG_OPEN_REPARSE_POINT);
+    if (file < 0) continue;
+    FILE_DISPOSITION_INFO goes{TRUE};
+    if ((attributesOf(file) & FILE_ATTRIBUTE_REPARSE_POINT) == 0)
+      SetFileInformationByHandle(handleOf(file), FileDispositionInfo, &goes, sizeof(goes));
+    closeFile(file);
   }
 }
 
