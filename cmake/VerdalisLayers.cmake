@@ -71,7 +71,7 @@ function(verdalis_remove_system_tests variable)
   set(kept "")
   set(foreign "#include [<\"](rapidcheck|unistd|fcntl|csignal|sys/|platform/posix/|tests/xlsx/WorkbookFile)")
   list(FILTER ${variable} EXCLUDE REGEX
-    "/(SharedFolders|SoilsFile|OpenOutput|Report|FullReport|ScriptedPrint|Readme|Notices|CustomCropNotices)Test")
+    "/(OpenOutput|Report|FullReport|ScriptedPrint|Readme|Notices|CustomCropNotices)Test")
   foreach(source IN LISTS ${variable})
     set(files ${source})
     set(next ${source})
