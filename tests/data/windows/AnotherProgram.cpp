@@ -1,0 +1,81 @@
+#include "tests/data/AnotherProgram.h"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <string>
+
+#include "platform/windows/system.h"
+
+// A running program cannot be copied here. The test program is started again, and finds its deed in these
+// variables of the environment.
+
+namespace verdalis::testing {
+namespace {
+
+constexpr const wchar_t* deedVariable = L"VERDALIS_TEST_DEED";
+constexpr const wchar_t* pathVariable = L"VERDALIS_TEST_PATH";
+constexpr const wchar_t* textVariable = L"VERDALIS_TEST_TEXT";
+
+constexpr unsigned succeeded = 70;  // as no other end of a program
+constexpr unsigned failed = 71;
+
+std::wstring variable(const wchar_t* name) {
+  const wchar_t* const text = _wgetenv(name);
+  return text == nullptr ? std::wstring() : std::wstring(text);
+}
+
+/// Does the deed before the first test, if this is the other program.
+class OtherProgram : public ::testing::Environment {
+ public:
+  void SetUp() override {
+    const std::wstring deed = variable(deedVariable);
+    if (deed.empty()) return;
+    const bool done =
+        perform(static_cast<Deed>(std::stoi(deed)), std::filesystem::path(variable(pathVariable)),
+                narrowText(variable(textVariable)));
+    TerminateProcess(GetCurrentProcess(), done ? succeeded : failed);
+  }
+};
+
+// GoogleTest owns it.
+[[maybe_unused]] ::testing::Environment* const other = ::testing::AddGlobalTestEnvironment(new OtherProgram);
+
+/// Starts this program again without its arguments and waits for its end. \returns its exit code
+std::optional<DWORD> runAgain() {
+  std::wstring program(1U << 15U, L'\0');
+  program.resize(GetModuleFileNameW(nullptr, program.data(), static_cast<DWORD>(program.size())));
+  STARTUPINFOW start{};
+  start.cb = sizeof(start);
+  PROCESS_INFORMATION process{};
+  if (CreateProcessW(program.c_str(), nullptr, nullptr, nullptr, FALSE, DETACHED_PROCESS, nullptr, nullptr,
+                     &start, &process) == 0) {
+    return std::nullopt;
+  }
+  WaitForSingleObject(process.hProcess, INFINITE);
+  DWORD code = 0;
+  GetExitCodeProcess(process.hProcess, &code);
+  CloseHandle(process.hThread);
+  CloseHandle(process.hProcess);
+  return code;
+}
+
+}  // namespace
+
+bool anotherProgram(Deed deed, const std::filesystem::path& path, const std::string& text) {
+  SetEnvironmentVariableW(deedVariable, std::to_wstring(static_cast<int>(deed)).c_str());
+  SetEnvironmentVariableW(pathVariable, path.c_str());
+  SetEnvironmentVariableW(textVariable, wideText(text).c_str());
+  const std::optional<DWORD> code = runAgain();
+  SetEnvironmentVariableW(deedVariable, nullptr);
+  EXPECT_TRUE(code) << "the other program cannot be started";
+  return code == succeeded;
+}
+
+void beKilled() {
+  TerminateProcess(GetCurrentProcess(), failed);
+  for (;;)
+    Sleep(INFINITE);
+}
+
+}  // namespace verdalis::testing
