@@ -31,8 +31,9 @@ bool renameSoon(const std::wstring& from, const std::wstring& to) {
 
 }  // namespace
 
-// Nobody else can open a file that is open for nobody, and the system closes it with its program: that is
-// the lock. A file without a name does not exist here.
+// That the file is open is its lock: the system closes it with its program, and who clears up wants to have a
+// file alone. It is open until it has its final name, and others may read it then. A file without a name does
+// not exist here.
 TemporaryFile::TemporaryFile(const fs::path& folder, Naming /*naming*/) : folder_(folder) {
   create(folder);
 }
@@ -47,7 +48,8 @@ void TemporaryFile::create(const fs::path& folder) {
     const std::string letters = randomLetters();
     if (letters.empty()) return;
     name_ = folder / (std::string(prefix) + letters);
-    descriptor_ = openFile(name_, GENERIC_WRITE, 0, CREATE_NEW, FILE_ATTRIBUTE_NORMAL);
+    descriptor_ = openFile(name_, GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                           CREATE_NEW, FILE_ATTRIBUTE_NORMAL);
     if (isOpen() || errno != EEXIST) return;
   }
 }
@@ -64,11 +66,11 @@ bool TemporaryFile::moveTo(const fs::path& target, fs::perms /*permissions*/, co
     keepErrno();
     return false;
   }
+  const bool moved = renameSoon(systemName(name_), systemName(target));
   closeFile(descriptor_);
   descriptor_ = -1;
-  if (renameSoon(systemName(name_), systemName(target))) return true;
-  DeleteFileW(systemName(name_).c_str());
-  return false;
+  if (!moved) DeleteFileW(systemName(name_).c_str());
+  return moved;
 }
 
 void TemporaryFile::close() {
