@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <chrono>
@@ -11,8 +12,8 @@
 #include <vector>
 
 #include "data/farmFile.h"
-#include "tests/data/AnotherProcess.h"
 #include "tests/data/FarmFileFailure.h"
+#include "tests/data/FarmVersions.h"
 #include "tests/data/FullDisk.h"
 #include "tests/data/KilledAtEachCall.h"
 #include "tests/data/NoUnnamedFiles.h"
@@ -24,16 +25,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using Names = std::vector<std::string>;
-
-/// Every state of a file that is written with these texts in turn.
-std::string versionOfText(int version) {
-  return std::string(static_cast<std::size_t>(10'000 + 1'000 * version), static_cast<char>('a' + version));
-}
-
-bool isWhole(const std::string& text) {
-  const int version = text.empty() ? -1 : text.front() - 'a';
-  return version >= 0 && text == versionOfText(version);
-}
 
 TEST(FarmFile, IsReadToItsEndWhateverItsSizeSaid) {
   EXPECT_FALSE(readFarmFile("/proc/self/status").text.empty()) << "the system gives its size as 0";
@@ -179,26 +170,6 @@ TEST(FarmFile, IsWholeAfterKillsAtRandom) {
     EXPECT_LE(folder.names().size(), 2U);
   }
   writeFarmFile(file, "last");
-  EXPECT_EQ(folder.names(), Names{"farm.verdalis"});
-}
-
-TEST(FarmFile, IsWholeWhenTwoProgramsWriteIt) {
-  const TemporaryFolder folder;
-  const fs::path file = folder / "farm.verdalis";
-  const auto write = [&](int version) {
-    for (int round = 0; round < 50; ++round) {
-      writeFarmFile(file, versionOfText(version));
-      if (!isWhole(readFarmFile(file).text)) return false;
-    }
-    return true;
-  };
-  EXPECT_TRUE(inAnotherProcess([&] {
-    const pid_t other = ::fork();
-    if (other == 0) ::_exit(write(1) ? 0 : 1);
-    const bool whole = write(2);
-    int status = 0;
-    return ::waitpid(other, &status, 0) == other && status == 0 && whole;
-  }));
   EXPECT_EQ(folder.names(), Names{"farm.verdalis"});
 }
 

@@ -3,9 +3,11 @@
 #include <cstdint>
 #include <filesystem>
 #include <string>
+#include <vector>
 
 #include "data/farmFile.h"
 #include "data/readFile.h"
+#include "tests/data/AnotherProgram.h"
 #include "tests/data/Failure.h"
 #include "tests/data/FarmFileFailure.h"
 #include "tests/support/PosixFiles.h"
@@ -61,6 +63,13 @@ TEST(FarmFile, KnowsWhetherAnotherProgramHasChangedIt) {
   EXPECT_EQ(changeSince(file, stamp), FileChange::gone);
   EXPECT_EQ(changeSince(folder / "missing" / "farm", stamp), FileChange::gone);
   EXPECT_EQ(changeSince(folder.path(), stamp), FileChange::changed) << "a folder in its place";
+}
+
+TEST(FarmFile, IsWholeWhenTwoProgramsWriteIt) {
+  const TemporaryFolder folder;
+  const fs::path file = folder / "farm.verdalis";
+  EXPECT_TRUE(severalPrograms(Deed::saveFarmOften, file, {"1", "2"}));
+  EXPECT_EQ(folder.names(), std::vector<std::string>{"farm.verdalis"});
 }
 
 }  // namespace

@@ -62,37 +62,6 @@ TEST(LockFile, PatientWithAProgramThatOnlyLooks) {
   }));
 }
 
-// Each process adds one to a number while it holds the lock. A sum is missing if two ever hold it at once.
-TEST(LockFile, NeverHasTwoHolders) {
-  const TemporaryFolder folder;
-  const fs::path counter = folder.write("counter", "0");
-  constexpr int rounds = 100;
-  const auto count = [&] {
-    for (int done = 0; done < rounds;) {
-      const LockFile lock(folder / "a.lock");
-      if (!lock.isHeld()) continue;
-      folder.write("counter", std::to_string(std::stoi(folder.read("counter")) + 1));
-      ++done;
-    }
-    return true;
-  };
-  EXPECT_TRUE(inAnotherProcess([&] {
-    std::vector<pid_t> others;
-    for (int i = 0; i < 3; ++i) {
-      const pid_t other = ::fork();
-      if (other == 0) ::_exit(count() ? 0 : 1);
-      others.push_back(other);
-    }
-    bool passed = true;
-    for (const pid_t other : others) {
-      int status = 0;
-      passed = ::waitpid(other, &status, 0) == other && status == 0 && passed;
-    }
-    return passed;
-  }));
-  EXPECT_EQ(folder.read("counter"), std::to_string(3 * rounds));
-}
-
 TEST(LockFile, OfRootDoesNotStopTheUser) {
   if (::geteuid() != 0) GTEST_SKIP() << "only root can lock for another user";
   constexpr unsigned nobody = 65534;

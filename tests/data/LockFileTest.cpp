@@ -47,5 +47,13 @@ TEST(LockFile, IsFreeAfterItsHolderWasKilled) {
   EXPECT_TRUE(folder.names().empty());
 }
 
+// Each process adds one to a number while it holds the lock. A sum is missing if two ever hold it at once.
+TEST(LockFile, NeverHasTwoHolders) {
+  const TemporaryFolder folder;
+  folder.write("counter", "0");
+  EXPECT_TRUE(severalPrograms(Deed::countLocked, folder.path(), {"one", "two", "three"}));
+  EXPECT_EQ(folder.read("counter"), std::to_string(3 * countRounds));
+}
+
 }  // namespace
 }  // namespace verdalis::testing

@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 #include <rapidcheck.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <cstdint>
@@ -11,7 +10,6 @@
 #include <vector>
 
 #include "data/RecentFarms.h"
-#include "tests/data/AnotherProcess.h"
 #include "tests/data/Failure.h"
 #include "tests/data/FullDisk.h"
 #include "tests/data/KilledAtEachCall.h"
@@ -136,31 +134,6 @@ TEST(RecentFarms, AreOldOrNewWheneverTheProgramIsKilled) {
   if (kills == 0) GTEST_SKIP() << "processes cannot be traced";
   recent.add("/c");
   EXPECT_EQ(folder.names("recent"), std::vector<std::string>{"farms"});
-}
-
-TEST(RecentFarms, AreWholeWhenTwoProgramsAddToThem) {
-  const TemporaryFolder folder;
-  const RecentFarms recent(folder.path());
-  const auto add = [&](const std::string& start) {
-    for (int i = 0; i < 60; ++i) {
-      recent.add(start + std::to_string(i));
-      const Paths farms = recent.list();
-      const bool whole = !farms.empty() && farms.size() <= 9 &&
-                         std::all_of(farms.begin(), farms.end(), [](const fs::path& farm) {
-                           return farm.native().starts_with("/one/") || farm.native().starts_with("/two/");
-                         });
-      if (!whole) return false;
-    }
-    return true;
-  };
-  EXPECT_TRUE(inAnotherProcess([&] {
-    const pid_t other = ::fork();
-    if (other == 0) ::_exit(add("/one/") ? 0 : 1);
-    const bool whole = add("/two/");
-    int status = 0;
-    return ::waitpid(other, &status, 0) == other && status == 0 && whole;
-  }));
-  EXPECT_EQ(recent.list().size(), 9U);
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "data/RecentFarms.h"
+#include "tests/data/AnotherProgram.h"
 #include "tests/support/PosixFiles.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -56,6 +57,13 @@ TEST(RecentFarms, KeepAllButEndsOfLines) {
   for (auto farm = odd.rbegin(); farm != odd.rend(); ++farm)
     recent.add(*farm);
   EXPECT_EQ(recent.list(), odd);
+}
+
+TEST(RecentFarms, AreWholeWhenTwoProgramsAddToThem) {
+  const TemporaryFolder folder;
+  const RecentFarms recent(folder.path());
+  EXPECT_TRUE(severalPrograms(Deed::addFarmsOften, folder.path(), {"/one", "/two"}));
+  EXPECT_EQ(recent.list().size(), 9U);
 }
 
 }  // namespace

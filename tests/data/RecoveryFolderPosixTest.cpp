@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -10,11 +11,9 @@
 #include <random>
 #include <string>
 #include <thread>
-#include <vector>
 
 #include "data/RecoveryFolder.h"
 #include "data/farmFile.h"
-#include "tests/data/AnotherProcess.h"
 #include "tests/data/Failure.h"
 #include "tests/data/FullDisk.h"
 #include "tests/data/KilledAtEachCall.h"
@@ -226,49 +225,6 @@ TEST_F(RecoveryAfterAKill, AtRandomTheLastCopyIsWhole) {
       EXPECT_TRUE(isWhole(text));
   }
   discardAll();
-  EXPECT_TRUE(names().empty());
-}
-
-TEST_F(Recovery, ManyProgramsThatStartAtOnceShareTheOrphans) {
-  constexpr int programs = 4;
-  constexpr int orphans = 12;
-  for (int i = 0; i < orphans; ++i)
-    folder_.write("state/recovery-" + std::to_string(i) + ".verdalis", "farm " + std::to_string(i));
-  const auto restoreAll = [&](int program) {
-    RecoveryFolder recovery(state());
-    for (const OrphanCopy& orphan : recovery.orphans()) {
-      if (!recovery.claim(orphan)) continue;
-      const std::string text = readFarmFile(orphan.path).text;
-      folder_.write("restored/" + std::to_string(program) + " " + text, text);
-      recovery.adopt(orphan);
-      recovery.write(text);
-    }
-    recovery.remove();
-    return true;
-  };
-  EXPECT_TRUE(inAnotherProcess([&] {
-    std::vector<pid_t> others;
-    for (int program = 0; program < programs; ++program) {
-      const pid_t other = ::fork();
-      if (other == 0) {
-        bool passed = false;
-        try {
-          passed = restoreAll(program);
-        } catch (...) {
-        }
-        ::_exit(passed ? 0 : 1);
-      }
-      others.push_back(other);
-    }
-    bool passed = true;
-    for (const pid_t other : others) {
-      int status = 0;
-      passed = ::waitpid(other, &status, 0) == other && status == 0 && passed;
-    }
-    return passed;
-  }));
-  EXPECT_EQ(folder_.names("restored").size(), static_cast<std::size_t>(orphans)) << "each is restored once";
-  EXPECT_TRUE(orphanTexts().empty());
   EXPECT_TRUE(names().empty());
 }
 

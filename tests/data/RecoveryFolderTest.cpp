@@ -178,5 +178,15 @@ TEST_F(Recovery, SaysWhyTheFolderCannotBeUsed) {
   EXPECT_EQ(copies(), Texts{"now it works"});
 }
 
+TEST_F(Recovery, ManyProgramsThatStartAtOnceShareTheOrphans) {
+  constexpr int orphans = 12;
+  for (int i = 0; i < orphans; ++i)
+    folder_.write("state/recovery-" + std::to_string(i) + ".verdalis", "farm " + std::to_string(i));
+  EXPECT_TRUE(severalPrograms(Deed::restoreAll, state(), {"one", "two", "three", "four"}));
+  EXPECT_EQ(folder_.names("restored").size(), static_cast<std::size_t>(orphans)) << "each is restored once";
+  EXPECT_TRUE(orphanTexts().empty());
+  EXPECT_TRUE(names().empty());
+}
+
 }  // namespace
 }  // namespace verdalis::testing

@@ -23,33 +23,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// The one that ends first removes the folder while the other one is about to use it.
-TEST_F(SavingCrops, ManyProcessesDoNotDisturbEachOther) {
-  constexpr int rounds = 40;
-  const auto save = [&](const std::string& file) {
-    for (int i = 0; i < rounds; ++i) {
-      FileReplacement replacement(home() / file);
-      replacement.write(file);
-      clearLeftovers(home());
-      if (folder().names("crops/custom") != Names{"mine.txt"}) return false;
-      replacement.keep();
-    }
-    return true;
-  };
-  EXPECT_TRUE(inAnotherProcess([&] {
-    const pid_t other = ::fork();
-    if (other == 0) ::_exit(save("crops/corn.txt") ? 0 : 1);
-    const bool saved = save("crops/custom/mine.txt");
-    int status = 0;
-    return ::waitpid(other, &status, 0) == other && status == 0 && saved;
-  }));
-  EXPECT_EQ(folder().read("crops/corn.txt"), "crops/corn.txt");
-  EXPECT_EQ(folder().read("crops/custom/mine.txt"), "crops/custom/mine.txt");
-  EXPECT_EQ(folder().names("crops"), (Names{"corn.txt", "custom", "soils"}));
-  EXPECT_EQ(folder().names("crops/custom"), Names{"mine.txt"});
-  EXPECT_EQ(folder().names(), Names{"crops"});
-}
-
 TEST_F(SavingCrops, KeepsThePermissions) {
   for (const unsigned mode : {0600U, 0640U, 0644U, 0660U, 0755U}) {
     fs::permissions(home() / "crops/corn.txt", static_cast<fs::perms>(mode));

@@ -141,5 +141,15 @@ TEST(ClearLeftovers, OfAMissingHomeFolderDoesNothing) {
   EXPECT_EQ(folder.names(), Names{"file"});
 }
 
+// The one that ends first removes the folder while the other one is about to use it.
+TEST_F(SavingCrops, ManyProcessesDoNotDisturbEachOther) {
+  EXPECT_TRUE(severalPrograms(Deed::saveOften, home(), {"crops/corn.txt", "crops/custom/mine.txt"}));
+  EXPECT_EQ(folder().read("crops/corn.txt"), "crops/corn.txt");
+  EXPECT_EQ(folder().read("crops/custom/mine.txt"), "crops/custom/mine.txt");
+  EXPECT_EQ(folder().names("crops"), (Names{"corn.txt", "custom", "soils"}));
+  EXPECT_EQ(folder().names("crops/custom"), Names{"mine.txt"});
+  EXPECT_EQ(folder().names(), Names{"crops"});
+}
+
 }  // namespace
 }  // namespace verdalis::testing

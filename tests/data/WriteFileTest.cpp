@@ -6,6 +6,7 @@
 
 #include "data/writeFile.h"
 #include "tests/data/NotWritten.h"
+#include "tests/data/OrdinaryUser.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace verdalis {
@@ -13,6 +14,8 @@ namespace {
 
 namespace fs = std::filesystem;
 using testing::expectNotWritten;
+using testing::openToAll;
+using testing::staysAsItWas;
 using testing::TemporaryFolder;
 using Names = std::vector<std::string>;
 
@@ -83,6 +86,16 @@ TEST(WriteFile, DoesNotReplaceAFolder) {
   expectNotWritten(folder / "a.txt");
   EXPECT_TRUE(fs::is_directory(folder / "a.txt"));
   EXPECT_EQ(folder.names(), Names{"a.txt"});
+}
+
+TEST(WriteFile, DoesNotReplaceAWriteProtectedFile) {
+  const TemporaryFolder folder;
+  const auto file = folder.write("a.txt", "old");
+  openToAll(folder);
+  fs::permissions(file, static_cast<fs::perms>(0444));
+  const auto stayed = staysAsItWas(folder, file);
+  if (!stayed) GTEST_SKIP() << "root, and no other user at hand";
+  EXPECT_TRUE(*stayed);
 }
 
 }  // namespace

@@ -41,35 +41,48 @@ class OtherProgram : public ::testing::Environment {
 // GoogleTest owns it.
 [[maybe_unused]] ::testing::Environment* const other = ::testing::AddGlobalTestEnvironment(new OtherProgram);
 
-/// Starts this program again without its arguments and waits for its end. \returns its exit code
-std::optional<DWORD> runAgain() {
+/// Starts this program again without its arguments. \returns its handle, null if it cannot be started
+HANDLE startAgain() {
   std::wstring program(1U << 15U, L'\0');
   program.resize(GetModuleFileNameW(nullptr, program.data(), static_cast<DWORD>(program.size())));
   STARTUPINFOW start{};
   start.cb = sizeof(start);
+  start.dwFlags = STARTF_USESTDHANDLES;
+  start.hStdError = GetStdHandle(STD_ERROR_HANDLE);
   PROCESS_INFORMATION process{};
-  if (CreateProcessW(program.c_str(), nullptr, nullptr, nullptr, FALSE, DETACHED_PROCESS, nullptr, nullptr,
-                     &start, &process) == 0) {
-    return std::nullopt;
-  }
-  WaitForSingleObject(process.hProcess, INFINITE);
-  DWORD code = 0;
-  GetExitCodeProcess(process.hProcess, &code);
+  const bool started = CreateProcessW(program.c_str(), nullptr, nullptr, nullptr, TRUE, DETACHED_PROCESS,
+                                      nullptr, nullptr, &start, &process) != 0;
+  EXPECT_TRUE(started) << "the other program cannot be started";
+  if (!started) return nullptr;
   CloseHandle(process.hThread);
-  CloseHandle(process.hProcess);
-  return code;
+  return process.hProcess;
+}
+
+/// Waits for the end of a program. \returns whether its deed succeeded
+bool hasSucceeded(HANDLE program) {
+  DWORD code = failed;
+  WaitForSingleObject(program, INFINITE);
+  GetExitCodeProcess(program, &code);
+  CloseHandle(program);
+  EXPECT_TRUE(code == succeeded || code == failed) << "the other program has ended with " << code;
+  return code == succeeded;
 }
 
 }  // namespace
 
-bool anotherProgram(Deed deed, const std::filesystem::path& path, const std::string& text) {
+bool severalPrograms(Deed deed, const std::filesystem::path& path, const std::vector<std::string>& texts) {
   SetEnvironmentVariableW(deedVariable, std::to_wstring(static_cast<int>(deed)).c_str());
   SetEnvironmentVariableW(pathVariable, path.c_str());
-  SetEnvironmentVariableW(textVariable, wideText(text).c_str());
-  const std::optional<DWORD> code = runAgain();
+  std::vector<HANDLE> programs;
+  for (const std::string& text : texts) {
+    SetEnvironmentVariableW(textVariable, wideText(text).c_str());
+    programs.push_back(startAgain());
+  }
   SetEnvironmentVariableW(deedVariable, nullptr);
-  EXPECT_TRUE(code) << "the other program cannot be started";
-  return code == succeeded;
+  bool all = true;
+  for (const HANDLE program : programs)
+    all = program != nullptr && hasSucceeded(program) && all;
+  return all;
 }
 
 void beKilled() {
