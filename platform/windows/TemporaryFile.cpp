@@ -12,13 +12,16 @@ namespace fs = std::filesystem;
 
 constexpr std::string_view prefix = ".saving-";
 
+bool rename(const std::wstring& from, const std::wstring& to) {
+  return MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0;
+}
+
 /// A virus scanner or an indexer has new files open for a moment.
 bool renameSoon(const std::wstring& from, const std::wstring& to) {
   constexpr int mostAttempts = 20;
   constexpr DWORD millisecondsBetween = 25;
   for (int attempt = 1;; ++attempt) {
-    if (MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0)
-      return true;
+    if (rename(from, to)) return true;
     const DWORD error = GetLastError();
     const bool mayPass = error == ERROR_SHARING_VIOLATION || error == ERROR_ACCESS_DENIED;
     if (!mayPass || attempt == mostAttempts) {
@@ -66,10 +69,13 @@ bool TemporaryFile::moveTo(const fs::path& target, fs::perms /*permissions*/, co
     keepErrno();
     return false;
   }
-  const bool moved = renameSoon(systemName(name_), systemName(target));
+  const std::wstring from = systemName(name_);
+  const std::wstring to = systemName(target);
+  bool moved = renameSoon(from, to);
   closeFile(descriptor_);
   descriptor_ = -1;
-  if (!moved) DeleteFileW(systemName(name_).c_str());
+  if (!moved) moved = rename(from, to);  // where only closed files can be renamed
+  if (!moved) DeleteFileW(from.c_str());
   return moved;
 }
 
