@@ -17,7 +17,6 @@
 #include "tests/data/FullDisk.h"
 #include "tests/data/KilledAtEachCall.h"
 #include "tests/data/NoUnnamedFiles.h"
-#include "tests/data/OrdinaryUser.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace verdalis::testing {
@@ -44,24 +43,6 @@ TEST(FarmFile, MustBeARegularFile) {
   }
   EXPECT_TRUE(fs::is_fifo(folder / "pipe"));
   EXPECT_EQ(folder.names(), (Names{"link", "pipe"}));
-}
-
-TEST(FarmFile, SaysWhyItCannotBeRead) {
-  const TemporaryFolder folder;
-  const fs::path missing = folder / "missing.verdalis";
-  EXPECT_EQ(readFailure(missing),
-            "The file " + missing.string() + " cannot be read: No such file or directory.");
-  fs::create_symlink("loop", folder / "loop");
-  EXPECT_TRUE(readFailure(folder / "loop").ends_with("Too many levels of symbolic links."));
-  const fs::path secret = folder.write("secret", "mine");
-  openToAll(folder);
-  fs::permissions(secret, fs::perms::none);
-  const auto refused = asOrdinaryUser([&] {
-    return readFailure(secret) == "The file " + secret.string() + " cannot be read: Permission denied." &&
-           changeSince(secret, stampOf("mine")) == FileChange::changed;
-  });
-  if (!refused) GTEST_SKIP() << "root, and no other user at hand";
-  EXPECT_TRUE(*refused);
 }
 
 TEST(FarmFile, KeepsPermissionsAndLinks) {
@@ -183,25 +164,6 @@ TEST(FarmFile, KeepsTheOldFileIfTheDiskIsFull) {
     EXPECT_EQ(folder.read("farm.verdalis"), "old");
     EXPECT_EQ(folder.names(), Names{"farm.verdalis"});
   }
-}
-
-TEST(FarmFile, KeepsTheOldFileInAReadOnlyFolder) {
-  const TemporaryFolder folder;
-  folder.write("below/farm.verdalis", "old");
-  fs::permissions(folder.write("farm.verdalis", "old"), static_cast<fs::perms>(0444));
-  openToAll(folder);
-  fs::permissions(folder / "farm.verdalis", static_cast<fs::perms>(0444));
-  fs::permissions(folder / "below", static_cast<fs::perms>(0555));
-  const auto kept = asOrdinaryUser([&] {
-    for (const fs::path& file :
-         {folder / "below/farm.verdalis", folder / "below/new.verdalis", folder / "farm.verdalis"}) {
-      if (!writeFailure(file).ends_with(" cannot be written: Permission denied.")) return false;
-    }
-    return folder.read("below/farm.verdalis") == "old" && folder.read("farm.verdalis") == "old";
-  });
-  if (!kept) GTEST_SKIP() << "root, and no other user at hand";
-  EXPECT_TRUE(*kept);
-  EXPECT_EQ(folder.names("below"), Names{"farm.verdalis"});
 }
 
 }  // namespace

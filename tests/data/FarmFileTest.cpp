@@ -10,6 +10,7 @@
 #include "tests/data/AnotherProgram.h"
 #include "tests/data/Failure.h"
 #include "tests/data/FarmFileFailure.h"
+#include "tests/data/OrdinaryUser.h"
 #include "tests/support/PosixFiles.h"
 #include "tests/support/TemporaryFolder.h"
 #include "text/RunTimeError.h"
@@ -18,6 +19,7 @@ namespace verdalis::testing {
 namespace {
 
 namespace fs = std::filesystem;
+using Names = std::vector<std::string>;
 
 /// Creates a file of zeros that takes no space.
 fs::path largeFile(const TemporaryFolder& folder, std::uintmax_t size) {
@@ -69,7 +71,47 @@ TEST(FarmFile, IsWholeWhenTwoProgramsWriteIt) {
   const TemporaryFolder folder;
   const fs::path file = folder / "farm.verdalis";
   EXPECT_TRUE(severalPrograms(Deed::saveFarmOften, file, {"1", "2"}));
-  EXPECT_EQ(folder.names(), std::vector<std::string>{"farm.verdalis"});
+  EXPECT_EQ(folder.names(), Names{"farm.verdalis"});
+}
+
+TEST(FarmFile, SaysWhyItCannotBeRead) {
+  const TemporaryFolder folder;
+  const fs::path missing = folder / "missing.verdalis";
+  EXPECT_EQ(readFailure(missing),
+            "The file " + missing.string() + " cannot be read: No such file or directory.");
+  if (!hasPosixFiles) return;
+  fs::create_symlink("loop", folder / "loop");
+  EXPECT_TRUE(readFailure(folder / "loop").ends_with("Too many levels of symbolic links."));
+  const fs::path secret = folder.write("secret", "mine");
+  openToAll(folder);
+  fs::permissions(secret, fs::perms::none);
+  const auto refused = asOrdinaryUser([&] {
+    return readFailure(secret) == "The file " + secret.string() + " cannot be read: Permission denied." &&
+           changeSince(secret, stampOf("mine")) == FileChange::changed;
+  });
+  if (!refused) GTEST_SKIP() << "root, and no other user at hand";
+  EXPECT_TRUE(*refused);
+}
+
+TEST(FarmFile, KeepsTheOldFileInAReadOnlyFolder) {
+  const TemporaryFolder folder;
+  folder.write("below/farm.verdalis", "old");
+  fs::permissions(folder.write("farm.verdalis", "old"), static_cast<fs::perms>(0444));
+  openToAll(folder);
+  fs::permissions(folder / "farm.verdalis", static_cast<fs::perms>(0444));
+  fs::permissions(folder / "below", static_cast<fs::perms>(0555));
+  const auto kept = asOrdinaryUser([&] {
+    std::vector<fs::path> files{folder / "farm.verdalis"};
+    if (hasPosixFiles)
+      files.insert(files.end(), {folder / "below/farm.verdalis", folder / "below/new.verdalis"});
+    for (const fs::path& file : files) {
+      if (!writeFailure(file).ends_with(" cannot be written: Permission denied.")) return false;
+    }
+    return folder.read("below/farm.verdalis") == "old" && folder.read("farm.verdalis") == "old";
+  });
+  if (!kept) GTEST_SKIP() << "root, and no other user at hand";
+  EXPECT_TRUE(*kept);
+  EXPECT_EQ(folder.names("below"), Names{"farm.verdalis"});
 }
 
 }  // namespace
