@@ -10,7 +10,8 @@
 #include "tests/data/AnotherProgram.h"
 #include "tests/data/Failure.h"
 #include "tests/data/FarmFileFailure.h"
-#include "tests/data/OrdinaryUser.h"
+#include "tests/data/OpenToAll.h"
+#include "tests/data/PlainUser.h"
 #include "tests/support/PosixFiles.h"
 #include "tests/support/TemporaryFolder.h"
 #include "text/RunTimeError.h"
@@ -85,7 +86,7 @@ TEST(FarmFile, SaysWhyItCannotBeRead) {
   const fs::path secret = folder.write("secret", "mine");
   openToAll(folder);
   fs::permissions(secret, fs::perms::none);
-  const auto refused = asOrdinaryUser([&] {
+  const auto refused = asPlainUser([&] {
     return readFailure(secret) == "The file " + secret.string() + " cannot be read: Permission denied." &&
            changeSince(secret, stampOf("mine")) == FileChange::changed;
   });
@@ -100,7 +101,7 @@ TEST(FarmFile, KeepsTheOldFileInAReadOnlyFolder) {
   openToAll(folder);
   fs::permissions(folder / "farm.verdalis", static_cast<fs::perms>(0444));
   fs::permissions(folder / "below", static_cast<fs::perms>(0555));
-  const auto kept = asOrdinaryUser([&] {
+  const auto kept = asPlainUser([&] {
     std::vector<fs::path> files{folder / "farm.verdalis"};
     if (hasPosixFiles)
       files.insert(files.end(), {folder / "below/farm.verdalis", folder / "below/new.verdalis"});

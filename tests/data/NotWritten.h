@@ -8,7 +8,7 @@
 
 #include "data/writeFile.h"
 #include "tests/data/Failure.h"
-#include "tests/data/OrdinaryUser.h"
+#include "tests/data/PlainUser.h"
 #include "tests/support/TemporaryFolder.h"
 #include "text/RunTimeError.h"
 
@@ -22,7 +22,7 @@ inline void expectNotWritten(const std::filesystem::path& path) {
 
 /// Whether writing fails and keeps the old text, as a user who is subject to permissions.
 inline std::optional<bool> staysAsItWas(const TemporaryFolder& folder, const std::filesystem::path& file) {
-  return asOrdinaryUser([&] {
+  return asPlainUser([&] {
     try {
       writeFile(file, "new");
     } catch (const RunTimeError& error) {

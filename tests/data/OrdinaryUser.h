@@ -1,25 +1,39 @@
 #pragma once
 
-#include <filesystem>
+#include <grp.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
 #include <functional>
 #include <optional>
 
-#include "tests/support/TemporaryFolder.h"
+#include "tests/data/OpenToAll.h"
 
 namespace verdalis::testing {
 
-/// Allows every user to read and write a test folder.
-inline void openToAll(const TemporaryFolder& folder) {
-  namespace fs = std::filesystem;
-  fs::permissions(folder.path(), fs::perms::all);
-  for (const auto& entry : fs::recursive_directory_iterator(folder.path())) {
-    if (!entry.is_symlink()) fs::permissions(entry.path(), fs::perms::all);
+/// Runs `test` as a user who is subject to permissions. Root is not, so root runs it in a process of the user
+/// "nobody".
+/// \returns the result of `test`; nothing if no such process can be started, and then there is nothing to
+/// test.
+inline std::optional<bool> asOrdinaryUser(const std::function<bool()>& test) {
+  if (::geteuid() != 0) return test();
+  constexpr unsigned nobody = 65534;
+  constexpr int noSuchUser = 77;
+  const pid_t child = ::fork();
+  if (child < 0) return std::nullopt;
+  if (child == 0) {
+    if (::setgroups(0, nullptr) != 0 || ::setgid(nobody) != 0 || ::setuid(nobody) != 0) ::_exit(noSuchUser);
+    bool passed = false;
+    try {
+      passed = test();
+    } catch (...) {
+    }
+    ::_exit(passed ? 0 : 1);
   }
+  int status = 0;
+  if (::waitpid(child, &status, 0) != child || !WIFEXITED(status)) return false;
+  if (WEXITSTATUS(status) == noSuchUser) return std::nullopt;
+  return WEXITSTATUS(status) == 0;
 }
-
-/// Runs `test` as a user who is subject to permissions. On Debian root is not, so root runs it in a process
-/// of the user "nobody". \returns the result of `test`; nothing if no such process can be started, and then
-/// there is nothing to test.
-std::optional<bool> asOrdinaryUser(const std::function<bool()>& test);
 
 }  // namespace verdalis::testing

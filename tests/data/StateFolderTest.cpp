@@ -6,7 +6,8 @@
 
 #include "data/stateFolder.h"
 #include "tests/data/Failure.h"
-#include "tests/data/OrdinaryUser.h"
+#include "tests/data/OpenToAll.h"
+#include "tests/data/PlainUser.h"
 #include "tests/support/PosixFiles.h"
 #include "tests/support/TemporaryFolder.h"
 #include "text/RunTimeError.h"
@@ -33,7 +34,7 @@ TEST(PrivateFolder, SaysWhyItCannotBeMade) {
   fs::create_directory(folder / "closed");
   openToAll(folder);
   fs::permissions(folder / "closed", static_cast<fs::perms>(0555));
-  const auto refused = asOrdinaryUser([&] {
+  const auto refused = asPlainUser([&] {
     return failureOf(ErrorNumber::fileNotFound,
                      [&] { makePrivateFolder(folder / "closed" / "new" / "folder"); })
         .ends_with(" cannot be made: Permission denied.");

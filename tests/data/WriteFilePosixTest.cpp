@@ -9,7 +9,7 @@
 #include "tests/data/Failure.h"
 #include "tests/data/FullDisk.h"
 #include "tests/data/NotWritten.h"
-#include "tests/data/OrdinaryUser.h"
+#include "tests/data/OpenToAll.h"
 #include "tests/support/TemporaryFolder.h"
 #include "text/RunTimeError.h"
 

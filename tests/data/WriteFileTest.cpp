@@ -6,7 +6,7 @@
 
 #include "data/writeFile.h"
 #include "tests/data/NotWritten.h"
-#include "tests/data/OrdinaryUser.h"
+#include "tests/data/OpenToAll.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace verdalis {

@@ -80,7 +80,7 @@ bool severalPrograms(Deed deed, const std::filesystem::path& path, const std::ve
   }
   SetEnvironmentVariableW(deedVariable, nullptr);
   bool all = true;
-  for (const HANDLE program : programs)
+  for (HANDLE program : programs)
     all = program != nullptr && hasSucceeded(program) && all;
   return all;
 }
