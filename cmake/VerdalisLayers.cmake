@@ -66,12 +66,12 @@ endfunction()
 # verdalis_remove_system_tests(VARIABLE)
 # Removes from a list of tests those that need RapidCheck, which Debian builds for its own machines only, and those that
 # use calls of POSIX or programs of Debian, directly or by one of their headers; and those that are about what Debian has:
-# places of files, names of files in any bytes, open files with names, PDF, a shell, and the words of its errors.
+# open files with names, PDF, a shell, and the words of its errors.
 function(verdalis_remove_system_tests variable)
   set(kept "")
   set(foreign "#include [<\"](rapidcheck|unistd|fcntl|csignal|sys/|platform/posix/|tests/xlsx/WorkbookFile)")
   list(FILTER ${variable} EXCLUDE REGEX
-    "/(SharedFolders|SoilsFile|OpenOutput|Report|FullReport|ScriptedPrint|Readme|Notices|CustomCropNotices)Test")
+    "/(OpenOutput|ReportPdf|FullReport|Readme|Notices|CustomCropNotices)Test")
   foreach(source IN LISTS ${variable})
     set(files ${source})
     set(next ${source})
@@ -100,8 +100,8 @@ function(verdalis_remove_system_tests variable)
 endfunction()
 
 # verdalis_tests(NAME [LINKS layer...] [LIBS target...])
-# Creates the test program test_NAME from all sources in tests/NAME/. It links only the given layers. Each test is a CTest
-# entry, so that failures are readable and CTest can use every core.
+# Creates the test program test_NAME from all sources in tests/NAME/, and those in its folder posix or windows. It links
+# only the given layers. Each test is a CTest entry, so that failures are readable and CTest can use every core.
 function(verdalis_tests name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "LINKS;LIBS")
   file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/${name}/*.cpp)
@@ -113,8 +113,11 @@ function(verdalis_tests name)
   endif()
   if(WIN32)
     set(drive Z:) # where Wine shows the files of this machine
+    file(GLOB helpers CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/${name}/windows/*.cpp)
+  else()
+    file(GLOB helpers CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/tests/${name}/posix/*.cpp)
   endif()
-  add_executable(test_${name} ${sources})
+  add_executable(test_${name} ${sources} ${helpers})
   verdalis_use_source()
   target_link_libraries(test_${name} PRIVATE verdalis_flags GTest::gmock_main ${VERDALIS_PROPERTIES} ${arg_LIBS})
   target_compile_definitions(test_${name} PRIVATE

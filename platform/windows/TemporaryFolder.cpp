@@ -16,6 +16,12 @@ namespace fs = std::filesystem;
   throw fs::filesystem_error("TemporaryFolder", parent, std::error_code(errno, std::generic_category()));
 }
 
+/// Whether an open folder is one, and neither a file nor a link of the user.
+bool isPlainFolder(int folder) {
+  const DWORD attributes = attributesOf(folder);
+  return (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0 && (attributes & FILE_ATTRIBUTE_REPARSE_POINT) == 0;
+}
+
 }  // namespace
 
 TemporaryFolder::TemporaryFolder(const fs::path& parent, std::string_view start) {
@@ -53,10 +59,12 @@ void removeAbandonedFolders(const fs::path& parent, std::string_view start) {
   for (fs::directory_iterator entry(parent, error), end; !error && entry != end; entry.increment(error)) {
     if (!isTemporaryName(narrowText(entry->path().filename().native()), start)) continue;
     // This fails for a folder that its program has still open.
-    const int folder = openFile(entry->path(), DELETE, 0, OPEN_EXISTING,
+    const int folder = openFile(entry->path(), DELETE | FILE_READ_ATTRIBUTES, 0, OPEN_EXISTING,
                                 FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT);
     if (folder < 0) continue;
+    const bool isOurs = isPlainFolder(folder);
     closeFile(folder);
+    if (!isOurs) continue;
     std::error_code ignored;
     fs::remove_all(entry->path(), ignored);
   }

@@ -88,6 +88,12 @@ HANDLE handleOf(int descriptor) {
   return reinterpret_cast<HANDLE>(_get_osfhandle(descriptor));  // NOLINT(performance-no-int-to-ptr)
 }
 
+DWORD attributesOf(int descriptor) {
+  BY_HANDLE_FILE_INFORMATION status{};
+  if (GetFileInformationByHandle(handleOf(descriptor), &status) == 0) return FILE_ATTRIBUTE_REPARSE_POINT;
+  return status.dwFileAttributes;
+}
+
 bool writeAll(int descriptor, std::string_view bytes) {
   constexpr std::size_t mostAtOnce = 1U << 24U;
   while (!bytes.empty()) {

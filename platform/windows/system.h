@@ -33,6 +33,9 @@ void keepErrno();
 /// The system's handle of an open file.
 [[nodiscard]] HANDLE handleOf(int descriptor);
 
+/// The attributes of an open file or folder; those of a link if they cannot be found out.
+[[nodiscard]] DWORD attributesOf(int descriptor);
+
 /// Writes all bytes to an open file.
 /// \returns false with errno if that failed
 [[nodiscard]] bool writeAll(int descriptor, std::string_view bytes);

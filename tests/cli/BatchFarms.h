@@ -20,6 +20,13 @@ inline CliResult runBatch(const Args& args, const std::string& table) {
   return {exitCode, out.str(), err.str()};
 }
 
+/// Runs `batch` on the small home's farm: 100 acres, 10 gross inches and 11 inches of rain.
+inline CliResult runSmallBatch(const SmallHome& home, const Args& more, const std::string& table) {
+  Args args{"--home", home.path(), "--set", "txtArea=100", "--set", "txtMax=10", "--set", "txtAnnRain=11"};
+  args.insert(args.end(), more.begin(), more.end());
+  return runBatch(args, table);
+}
+
 inline std::vector<std::string> linesOf(const std::string& text) {
   std::vector<std::string> lines;
   std::istringstream stream(text);

@@ -1,11 +1,4 @@
 #include <gtest/gtest.h>
-#include <rapidcheck/gtest.h>
-
-#include <algorithm>
-#include <array>
-#include <cstdlib>
-#include <map>
-#include <optional>
 
 #include "tests/cli/BatchFarms.h"
 
@@ -15,13 +8,6 @@ namespace verdalis::testing {
 namespace {
 
 using nlohmann::json;
-
-/// Runs `batch` on the small home's farm: 100 acres, 10 gross inches and 11 inches of rain.
-CliResult small(const SmallHome& home, const Args& more, const std::string& table) {
-  Args args{"--home", home.path(), "--set", "txtArea=100", "--set", "txtMax=10", "--set", "txtAnnRain=11"};
-  args.insert(args.end(), more.begin(), more.end());
-  return runBatch(args, table);
-}
 
 /// The JSON of the rows of a call that must succeed without messages.
 std::vector<json> rowsOf(const CliResult& result) {
@@ -40,8 +26,8 @@ double profitOf(const json& row) {
 TEST(Batch, EachRowIsEvaluatedAsAFarm) {
   const SmallHome home;
   const CliResult result =
-      small(home, {"--crop", "Plain", "--split", "5", "--factor", "1"},
-            "name,price Plain,max-yield Plain\nNorth,2,10\n\"South, \"\"40\"\"\",3,10\n");
+      runSmallBatch(home, {"--crop", "Plain", "--split", "5", "--factor", "1"},
+                    "name,price Plain,max-yield Plain\nNorth,2,10\n\"South, \"\"40\"\"\",3,10\n");
   EXPECT_EQ(result.exitCode, 0) << result.err;
   const auto lines = linesOf(result.out);
   ASSERT_EQ(lines.size(), 3U);
@@ -53,8 +39,8 @@ TEST(Batch, EachRowIsEvaluatedAsAFarm) {
 TEST(Batch, JsonHasOneObjectPerLine) {
   const SmallHome home;
   const auto rows =
-      rowsOf(small(home, {"--crop", "Plain", "--split", "5", "--factor", "1", "--format", "json"},
-                   "price Plain,max-yield Plain,name\n2,10,North\n3,10,\n"));
+      rowsOf(runSmallBatch(home, {"--crop", "Plain", "--split", "5", "--factor", "1", "--format", "json"},
+                           "price Plain,max-yield Plain,name\n2,10,North\n3,10,\n"));
   ASSERT_EQ(rows.size(), 2U);
   EXPECT_EQ(rows[0].at("farm"), 1);
   EXPECT_EQ(rows[0].at("name"), "North");
@@ -71,21 +57,21 @@ TEST(Batch, KeepsOneOptionByDefault) {
   const Args farm{"--crop",    "Thirsty",     "--split",      "0",        "--price",
                   "Thirsty=1", "--max-yield", "Thirsty=1000", "--format", "json"};
   std::vector<std::size_t> counts;
-  for (const json& row : rowsOf(small(home, farm, table)))
+  for (const json& row : rowsOf(runSmallBatch(home, farm, table)))
     counts.push_back(row.at("options").size());
   EXPECT_EQ(counts, (std::vector<std::size_t>{1, 3, 2}));
   Args keeping = farm;
   keeping.insert(keeping.end(), {"--keep", "4"});
-  EXPECT_EQ(rowsOf(small(home, keeping, "name\nx\n")).at(0).at("options").size(), 4U);
+  EXPECT_EQ(rowsOf(runSmallBatch(home, keeping, "name\nx\n")).at(0).at("options").size(), 4U);
 }
 
 TEST(Batch, EachRowStartsWithTheValuesOfTheOptions) {
   const SmallHome home;
   const auto rows =
-      rowsOf(small(home,
-                   {"--crop", "Plain", "--split", "5", "--price", "Plain=2", "--max-yield", "Plain=10",
-                    "--format", "json"},
-                   "price Plain,crops,no-split,split\n5,,,\n,Half; plain,True,0\n,,,\n,,False,\n"));
+      rowsOf(runSmallBatch(home,
+                           {"--crop", "Plain", "--split", "5", "--price", "Plain=2", "--max-yield",
+                            "Plain=10", "--format", "json"},
+                           "price Plain,crops,no-split,split\n5,,,\n,Half; plain,True,0\n,,,\n,,False,\n"));
   ASSERT_EQ(rows.size(), 4U);
   EXPECT_EQ(profitOf(rows[0]), 100 * 5 * 5);
   EXPECT_EQ(rows[1].at("cropCombinations"), 4);
@@ -98,7 +84,7 @@ TEST(Batch, ARowCanTurnNoSplitOff) {
   const Args farm{"--crop",       "Thirsty", "--price",    "Thirsty=1", "--max-yield",
                   "Thirsty=1000", "--split", "0",          "--factor",  "1",
                   "--keep",       "9",       "--no-split", "--format",  "json"};
-  const auto rows = rowsOf(small(home, farm, "no-split\nFalse\nTrue\n\"\"\n"));
+  const auto rows = rowsOf(runSmallBatch(home, farm, "no-split\nFalse\nTrue\n\"\"\n"));
   ASSERT_EQ(rows.size(), 3U);
   EXPECT_LT(rows[0].at("options").size(), rows[1].at("options").size());
   EXPECT_EQ(rows[1].at("options"), rows[2].at("options"));
@@ -120,7 +106,8 @@ TEST(Batch, WishesOfARowReplaceThoseOfTheOptions) {
   const SmallHome home;
   const Args farm{"--crop",   "Plain",   "--crop", "Half",   "--price",        "Plain=9",  "--max-yield",
                   "Plain=10", "--split", "0",      "--wish", "at most 1 crop", "--format", "json"};
-  const auto rows = rowsOf(small(home, farm, "wish\n\"\"\nHalf at least 50 acres; at least 2 crops\n"));
+  const auto rows =
+      rowsOf(runSmallBatch(home, farm, "wish\n\"\"\nHalf at least 50 acres; at least 2 crops\n"));
   ASSERT_EQ(rows.size(), 2U);
   EXPECT_EQ(rows[0].at("wishes"), json::array({"at most 1 crop"}));
   EXPECT_EQ(rows[1].at("wishes"), json::array({"Half at least 50 acres", "at least 2 crops"}));
@@ -131,7 +118,7 @@ TEST(Batch, ARowWithoutAPlanForItsWishesIsReported) {
   const SmallHome home;
   const Args farm{"--crop", "Plain", "--split", "0", "--format", "json"};
   const CliResult result =
-      small(home, farm, "name,wish\nA,\nB,Plain at most 10 acres;at most 1 crop\nC,at most 1 crop\n");
+      runSmallBatch(home, farm, "name,wish\nA,\nB,Plain at most 10 acres;at most 1 crop\nC,at most 1 crop\n");
   EXPECT_EQ(result.exitCode, 1);
   EXPECT_NE(result.err.find("Row 2, \"B\": No plan meets all wishes."), std::string::npos) << result.err;
   EXPECT_NE(result.err.find("Plain at most 10 acres"), std::string::npos) << result.err;
@@ -147,7 +134,7 @@ TEST(Batch, MixesKeepsOneOptionPerMix) {
   const SmallHome home;
   const Args farm{"--crop",  "Plain", "--crop", "Half", "--price", "Plain=9",  "--max-yield", "Plain=10",
                   "--split", "0",     "--keep", "50",   "--mixes", "--format", "json"};
-  EXPECT_EQ(rowsOf(small(home, farm, "name\nx\n")).at(0).at("options").size(), 3U);
+  EXPECT_EQ(rowsOf(runSmallBatch(home, farm, "name\nx\n")).at(0).at("options").size(), 3U);
 }
 
 TEST(Batch, ARefusedRowDoesNotStopTheOthers) {
@@ -166,7 +153,8 @@ TEST(Batch, ARefusedRowDoesNotStopTheOthers) {
       "I,1e308,,\n"
       "\n"
       "K,60,,\n";
-  const CliResult result = small(home, {"--crop", "Plain", "--split", "0", "--output", output}, table);
+  const CliResult result =
+      runSmallBatch(home, {"--crop", "Plain", "--split", "0", "--output", output}, table);
   EXPECT_EQ(result.exitCode, 1);
   EXPECT_EQ(result.out, "");
   const auto told = linesOf(result.err);
@@ -190,7 +178,7 @@ TEST(Batch, ARefusedRowDoesNotStopTheOthers) {
 
 TEST(Batch, WarningsNameTheirRow) {
   const SmallHome home;
-  const CliResult result = small(home, {"--crop", "Plain", "--split", "5"}, "factor\n10\n11\n");
+  const CliResult result = runSmallBatch(home, {"--crop", "Plain", "--split", "5"}, "factor\n10\n11\n");
   EXPECT_EQ(result.exitCode, 0);
   EXPECT_EQ(result.err.find("verdalis-cli: Row 2: Caution: Using a larger split-factor"), 0U) << result.err;
   EXPECT_EQ(linesOf(result.err).size(), 1U);
@@ -198,10 +186,10 @@ TEST(Batch, WarningsNameTheirRow) {
 
 TEST(Batch, ATableWithoutRowsHasNoResults) {
   const SmallHome home;
-  const CliResult csv = small(home, {}, "name\n\n");
+  const CliResult csv = runSmallBatch(home, {}, "name\n\n");
   EXPECT_EQ(csv.exitCode, 0) << csv.err;
   EXPECT_EQ(linesOf(csv.out).size(), 1U);
-  const CliResult jsonOnes = small(home, {"--format", "json"}, "name");
+  const CliResult jsonOnes = runSmallBatch(home, {"--format", "json"}, "name");
   EXPECT_EQ(jsonOnes.exitCode, 0) << jsonOnes.err;
   EXPECT_EQ(jsonOnes.out, "");
 }
@@ -228,7 +216,7 @@ TEST(Batch, ATableWithAnInvalidHeaderIsRefused) {
            {"txtGPM\n", "has no effect on a run until it is applied on its pane"},
            {"a\"b\n",
             "The first line of the table: Cell 1: A text that is not in quotes contains a quote"}}) {
-    const CliResult result = small(home, {"--crop", "Plain", "--split", "0"}, table);
+    const CliResult result = runSmallBatch(home, {"--crop", "Plain", "--split", "0"}, table);
     EXPECT_EQ(result.exitCode, 2) << table;
     EXPECT_EQ(result.out, "") << table;
     EXPECT_NE(result.err.find(why), std::string::npos) << table << result.err;
@@ -244,7 +232,7 @@ TEST(Batch, InvalidOptionsAreRefused) {
                                              {"--jobs", "x"},
                                              {"--format", "table"},
                                              {"--explain", "1.1"}}) {
-    const CliResult result = small(home, wrong, "name\nA\n");
+    const CliResult result = runSmallBatch(home, wrong, "name\nA\n");
     EXPECT_EQ(result.exitCode, 2) << wrong[0] << wrong[1] << result.err;
   }
   EXPECT_EQ(runCli({"batch"}).exitCode, 2);
@@ -264,10 +252,10 @@ TEST(Batch, WishesAreRefusedWithTheSameWordsAsByEvaluate) {
   };
   Args unreadable = farm;
   unreadable.insert(unreadable.end(), {"--wish", "more money"});
-  EXPECT_EQ(small(home, unreadable, "name\nA\n").err, refusal("more money"));
+  EXPECT_EQ(runSmallBatch(home, unreadable, "name\nA\n").err, refusal("more money"));
   for (const std::string wish :
        {"more money", "Rice at least 1 acre", "Half at least 1 acre", "field 2 is Plain"}) {
-    const CliResult row = small(home, farm, "wish\n" + wish + "\n");
+    const CliResult row = runSmallBatch(home, farm, "wish\n" + wish + "\n");
     EXPECT_EQ(row.exitCode, 1) << wish;
     const std::string why = refusal(wish);
     EXPECT_NE(row.err.find(why.substr(why.find("wish "))), std::string::npos) << row.err << why;
@@ -276,7 +264,7 @@ TEST(Batch, WishesAreRefusedWithTheSameWordsAsByEvaluate) {
 
 TEST(Batch, AnOutputThatCannotBeWrittenIsReported) {
   const SmallHome home;
-  const CliResult result = small(home, {"--output", home.path() + "/none/x.csv"}, "name\nA\n");
+  const CliResult result = runSmallBatch(home, {"--output", home.path() + "/none/x.csv"}, "name\nA\n");
   EXPECT_EQ(result.exitCode, 1);
   EXPECT_NE(result.err.find("cannot be written"), std::string::npos);
 }
@@ -309,158 +297,6 @@ TEST(Batch, CellsAreCheckedLikeTheOptions) {
   }
   EXPECT_EQ(result.exitCode, 1);
   EXPECT_EQ(linesOf(result.out).size(), 4U) << "the last row";
-}
-
-/// A row of the table, and the options for `evaluate` on the same farm.
-struct RandomRow {
-  std::map<std::string, std::string> cells;
-  Args options;
-};
-
-RandomRow randomRow() {
-  RandomRow row;
-  const auto set = [&](const std::string& column, const std::string& text, const Args& options) {
-    row.cells[column] = text;
-    row.options.insert(row.options.end(), options.begin(), options.end());
-  };
-  const auto number = [](int from, int to) {
-    return std::to_string(*rc::gen::inRange(from, to)) + "." + std::to_string(*rc::gen::inRange(0, 100));
-  };
-  const auto maybe = [] { return *rc::gen::inRange(0, 3) > 0; };
-  for (const auto& [control, from, to] : std::vector<std::tuple<std::string, int, int>>{
-           {"txtArea", 0, 400}, {"txtMax", 0, 30}, {"txtEff", 50, 110}}) {
-    const std::string text = number(from, to);
-    if (maybe()) set(control, text, {"--set", control + "=" + text});
-  }
-  const std::string rain = *rc::gen::element<std::string>("11", "15", "21", "14.5", "30", "x");
-  if (maybe()) set("txtAnnRain", rain, {"--set", "txtAnnRain=" + rain});
-  const std::string soil = *rc::gen::element<std::string>("Loamy Sand", "Valent", "Valentine");
-  if (maybe()) set("txtSoil", soil, {"--set", "txtSoil=" + soil});
-  const std::string price = number(0, 12);
-  if (maybe()) set("price Corn", price, {"--price", "Corn=" + price});
-  const std::string yield = number(0, 90);
-  if (maybe()) set("max-yield Wheat", yield, {"--max-yield", "Wheat=" + yield});
-  const std::string split = std::to_string(*rc::gen::inRange(0, 7));
-  if (maybe()) set("split", split, {"--split", split});
-  const std::string factor = std::to_string(*rc::gen::inRange(0, 9));
-  if (maybe()) set("factor", factor, {"--factor", factor});
-  const std::string keep = std::to_string(*rc::gen::inRange(0, 12));
-  set("keep", keep, {"--keep", keep});
-  if (maybe()) set("no-split", "True", {"--no-split"});
-  const auto crops = *rc::gen::container<std::vector<std::string>>(
-      rc::gen::element<std::string>("Corn", "Wheat", "Fallow", "sunflower", "Alfalfa"));
-  std::string list;
-  Args ticks;
-  for (const std::string& crop : crops) {
-    list += (list.empty() ? "" : ";") + crop;
-    ticks.insert(ticks.end(), {"--crop", crop});
-  }
-  set("crops", list, ticks);
-  return row;
-}
-
-RC_GTEST_PROP(BatchRows, EqualEvaluationsOfTheSameFarms, ()) {
-  static const ExampleHome home;
-  const std::vector<std::string> columns{"txtArea", "txtMax",     "txtEff",          "txtAnnRain",
-                                         "txtSoil", "price Corn", "max-yield Wheat", "split",
-                                         "factor",  "keep",       "no-split",        "crops"};
-  std::string table = "name";
-  for (const std::string& column : columns)
-    table += "," + column;
-  std::vector<RandomRow> rows;
-  for (int i = 0; i < 6; ++i) {
-    rows.push_back(randomRow());
-    table += "\nx";
-    for (const std::string& column : columns)
-      table += "," + rows.back().cells[column];
-  }
-  const auto jobs = std::to_string(*rc::gen::inRange(1, 5));
-  const CliResult all = runBatch({"--home", home.path(), "--jobs", jobs}, table);
-  std::string expected;
-  bool isOneRefused = false;
-  for (std::size_t i = 0; i < rows.size(); ++i) {
-    Args args{"evaluate", "--home", home.path(), "--format", "csv"};
-    args.insert(args.end(), rows[i].options.begin(), rows[i].options.end());
-    const CliResult one = runCli(args);
-    if (one.exitCode != 0) {
-      isOneRefused = true;
-      // Both report the same reason, after the option or the column.
-      const auto told = linesOf(one.err);
-      const std::string reason = told.back().substr(told.back().rfind(": ") + 2);
-      RC_ASSERT(all.err.find("Row " + std::to_string(i + 1) + ", \"x\": ") != std::string::npos);
-      RC_ASSERT(all.err.find(reason) != std::string::npos);
-      continue;
-    }
-    const auto lines = linesOf(one.out);
-    for (std::size_t line = 1; line < lines.size(); ++line)
-      expected += std::to_string(i + 1) + ",x," + lines[line] + "\n";
-  }
-  RC_ASSERT(all.exitCode == (isOneRefused ? 1 : 0));
-  RC_ASSERT(all.out.substr(all.out.find('\n') + 1) == expected);
-}
-
-RC_GTEST_PROP(BatchRows, DoNotDependOnPiecesOrTheNumberOfJobs, ()) {
-  static const SmallHome home;
-  const std::string head = "name,txtArea,txtMax,price Thirsty,wish\n";
-  const auto count = *rc::gen::inRange<std::size_t>(0, 60);
-  std::vector<std::string> rows;
-  for (std::size_t i = 0; i < count; ++i) {
-    rows.push_back("farm " + std::to_string(i) + "," + std::to_string(*rc::gen::inRange(0, 300)) + "," +
-                   std::to_string(*rc::gen::inRange(0, 20)) + "," + std::to_string(*rc::gen::inRange(-1, 9)) +
-                   "," + *rc::gen::element<std::string>("", "Plain at least 1 acre", "at most 0 crops", "?"));
-  }
-  const auto evaluate = [&](std::size_t from, std::size_t to, const std::string& jobs) {
-    const std::vector<std::string> part(rows.begin() + static_cast<std::ptrdiff_t>(from),
-                                        rows.begin() + static_cast<std::ptrdiff_t>(to));
-    return small(home,
-                 {"--crop", "Thirsty", "--crop", "Plain", "--split", "0", "--max-yield", "Thirsty=100",
-                  "--jobs", jobs},
-                 head + textOf(part));
-  };
-  const CliResult whole = evaluate(0, count, "1");
-  const CliResult shared = evaluate(0, count, std::to_string(*rc::gen::inRange(2, 9)));
-  RC_ASSERT(shared.out == whole.out);
-  RC_ASSERT(shared.err == whole.err);
-  RC_ASSERT(shared.exitCode == whole.exitCode);
-  const auto cut = *rc::gen::inRange<std::size_t>(0, count + 1);
-  std::string pieces;
-  for (const CliResult& piece : {evaluate(0, cut, "2"), evaluate(cut, count, "2")}) {
-    const auto lines = linesOf(piece.out);
-    for (std::size_t i = 1; i < lines.size(); ++i)
-      pieces += lines[i].substr(lines[i].find(',')) + "\n";
-  }
-  std::string expected;
-  const auto lines = linesOf(whole.out);
-  for (std::size_t i = 1; i < lines.size(); ++i)
-    expected += lines[i].substr(lines[i].find(',')) + "\n";
-  RC_ASSERT(pieces == expected);
-}
-
-TEST(Batch, GnuParallelGivesTheSameRows) {
-  if (std::system("parallel --version >/dev/null 2>&1") != 0) GTEST_SKIP() << "GNU parallel is not installed";
-  const ExampleHome home;
-  std::string table = "name,txtArea,price Corn\n";
-  for (int i = 0; i < 200; ++i)
-    table +=
-        "farm " + std::to_string(i) + "," + std::to_string(40 + i) + "," + std::to_string(3 + i % 5) + "\n";
-  home.folder().write("farms.csv", table);
-  const std::string batch = VERDALIS_BINARY_DIR "/cli/verdalis-cli batch - --home " + home.path() +
-                            " --crop Corn --crop Wheat --jobs 1 --format json";
-  const auto run = [&](const std::string& command, const std::string& file) {
-    EXPECT_EQ(std::system(("cd " + home.path() + " && " + command + " >" + file).c_str()), 0);
-    std::vector<json> rows;
-    for (const std::string& line : linesOf(bytesOf(home.folder() / file))) {
-      rows.push_back(json::parse(line));
-      rows.back().erase("farm");
-    }
-    return rows;
-  };
-  const auto whole = run(batch + " <farms.csv", "whole");
-  const auto pieces = run("HOME=" + home.path() + " parallel --will-cite --pipe --header : -k -j 2 -N 30 '" +
-                              batch + "' <farms.csv",
-                          "pieces");
-  EXPECT_EQ(whole.size(), 200U);
-  EXPECT_EQ(pieces, whole);
 }
 
 }  // namespace

@@ -1,39 +1,19 @@
 #include <gtest/gtest.h>
-#include <rapidcheck.h>
 
-#include <bit>
-#include <cmath>
-#include <cstdlib>
-#include <cstring>
-#include <limits>
 #include <nlohmann/json.hpp>
 #include <sstream>
+#include <string>
+#include <utility>
+#include <vector>
 
 #include "cli/OptionsWriter.h"
-#include "text/quote.h"
+#include "tests/cli/TwoOptions.h"
 
 namespace verdalis {
 namespace {
 
-std::string written(OptionsWriter writer, const EvaluationResult& result) {
-  std::ostringstream out;
-  writer(out, result);
-  return out.str();
-}
-
-EvaluationResult twoOptions() {
-  FieldResult corn{62.5, "Corn",      11.9,    14,      176.34,   "bu.",   4.6,
-                   205,  "Silt Loam", 31562.5, 50687.5, 25000.25, 6562.25, 605.5};
-  FieldResult fallow{1250, "Fallow", 0, 0, 0, "", 0, 0, "Silt Loam", 50000, 0, 50000, 0, 0};
-  FieldResult hay{10, "Hay, \"wet\"", 8.5, 10, 5.25, "ton", 120, 8, "Fine Sand", 1000, 6300, 900, 100, 12};
-  EvaluationResult result;
-  result.waterSplits = 286;
-  result.cropCombinations = 1296;
-  result.efficiency = 0.85;
-  result.seconds = 0.25;
-  result.options = {{-30875, 81562.5, 50687.5, 743.75, {corn, fallow}}, {5300, 1000, 6300, 85, {hay}}};
-  return result;
-}
+using testing::twoOptions;
+using testing::written;
 
 TEST(TableWriter, WritesAReadableTable) {
   EXPECT_EQ(written(writeTable, twoOptions()),
@@ -118,51 +98,6 @@ TEST(CsvWriter, WritesOneRowPerField) {
   EXPECT_EQ(written(writeCsv, {}), csvHead);
 }
 
-/// The records of an RFC 4180 text, read by a separate parser.
-std::vector<std::vector<std::string>> records(const std::string& text) {
-  std::vector<std::vector<std::string>> result(1, {std::string()});
-  bool inside = false;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    const char c = text[i];
-    std::string& field = result.back().back();
-    if (inside && c == '"' && text.substr(i, 2) == "\"\"") {
-      field += '"';
-      ++i;
-    } else if (c == '"') {
-      inside = !inside;
-    } else if (!inside && c == ',') {
-      result.back().emplace_back();
-    } else if (!inside && text.substr(i, 2) == "\r\n") {
-      result.emplace_back(1, std::string());
-      ++i;
-    } else {
-      field += c;
-    }
-  }
-  result.pop_back();
-  return result;
-}
-
-/// A text as a spreadsheet shall take it: with an apostrophe if it would be a formula otherwise.
-std::string asCsvText(const std::string& text) {
-  const bool isMarked = beginsLikeFormula(text) || text.starts_with('\t') || text.starts_with('\r');
-  return isMarked ? "'" + text : text;
-}
-
-TEST(CsvWriter, QuotedNamesReadBack) {
-  EXPECT_TRUE(rc::check([](const std::string& name, const std::string& unit) {
-    EvaluationResult result = twoOptions();
-    result.options[0].fields[1].crop = name;
-    result.options[0].fields[1].yieldUnit = unit;
-    const auto rows = records(written(writeCsv, result));
-    RC_ASSERT(rows.size() == 4U);
-    for (const auto& row : rows)
-      RC_ASSERT(row.size() == 17U);
-    RC_ASSERT(rows[2][2] == asCsvText(name));
-    RC_ASSERT(rows[2][7] == asCsvText(unit));
-  }));
-}
-
 TEST(CsvWriter, QuotesOnlyWhereNecessary) {
   for (const auto& [name, text] : std::vector<std::pair<std::string, std::string>>{{"Corn", "Corn"},
                                                                                    {"a b", "a b"},
@@ -176,41 +111,6 @@ TEST(CsvWriter, QuotesOnlyWhereNecessary) {
     result.options[0].fields[0].crop = name;
     EXPECT_EQ(written(writeCsv, result).find(csvHead + "1,1," + text + ",10,"), 0U) << name;
   }
-}
-
-bool sameBits(double a, double b) {
-  return std::bit_cast<std::uint64_t>(a) == std::bit_cast<std::uint64_t>(b);
-}
-
-/// A random finite 64-bit float from any bit pattern.
-double anyFloat() {
-  const std::uint64_t bits = *rc::gen::arbitrary<std::uint64_t>();
-  double value = 0;
-  std::memcpy(&value, &bits, sizeof value);
-  return std::isfinite(value) ? value
-                              : *rc::gen::elementOf(std::vector<double>{0.0, -0.0, 0.1, 1e15, 123456789.0});
-}
-
-TEST(NumbersReadBack, ToTheSameBits) {
-  EXPECT_TRUE(rc::check([] {
-    const double value = anyFloat();
-    EvaluationResult result = twoOptions();
-    result.efficiency = value;
-    result.options = {result.options[0]};
-    result.options[0].profit = value;
-    result.options[0].fields[0].acres = value;
-    result.options[0].fields[0].maxYield = value;
-
-    const auto rows = records(written(writeCsv, result));
-    for (const std::size_t column : {3U, 9U, 16U})
-      RC_ASSERT(sameBits(std::strtod(rows[1][column].c_str(), nullptr), value));
-
-    const auto json = nlohmann::json::parse(written(writeJson, result));
-    const auto option = json["options"][0];
-    RC_ASSERT(sameBits(json["efficiency"].get<double>(), value));
-    RC_ASSERT(sameBits(option["profit"].get<double>(), value));
-    RC_ASSERT(sameBits(option["fields"][0]["acres"].get<double>(), value));
-  }));
 }
 
 TEST(JsonWriter, WritesOneReadableObject) {

@@ -1,5 +1,4 @@
 #include <gtest/gtest.h>
-#include <rapidcheck.h>
 
 #include <set>
 #include <sstream>
@@ -172,61 +171,6 @@ TEST(Script, ListsEveryNamedControl) {
        {"frmWelcome", "frmWelcome.Command1", "frmMain", "mnuTools(0)", "pneMain", "txtArea", "Option1(2)",
         "cropScroll", "cr(0)", "cr(0).txtPrice", "theResults.rh(0).lblCrop", "theDetails.lblNC", "fgsummary"})
     EXPECT_EQ(names.count(name), 1U) << name;
-}
-
-TEST(Script, AnswersAnyLine) {
-  const SmallHome home;
-  ScriptSession session(home.path());
-  static_cast<void>(session.execute("click frmWelcome.Command1"));
-  const std::vector<std::string> words{"click",
-                                       "type",
-                                       "leave",
-                                       "scroll",
-                                       "pick",
-                                       "cell",
-                                       "point",
-                                       "key",
-                                       "answer",
-                                       "choose",
-                                       "clock",
-                                       "cancel",
-                                       "get",
-                                       "controls",
-                                       "clipboard",
-                                       "txtArea",
-                                       "cr(0)",
-                                       "Option1(",
-                                       "cr(0).",
-                                       "pane",
-                                       "windows",
-                                       "fgsummary",
-                                       "txtSoil",
-                                       "cr(99999999)",
-                                       "frmMain",
-                                       ".",
-                                       "..",
-                                       "#",
-                                       "-1",
-                                       "99999999999999999999",
-                                       "\\",
-                                       "\\n",
-                                       "yes",
-                                       "Return",
-                                       "theResults.rh(0)",
-                                       "2024-05-06T01:02:03",
-                                       "1e9"};
-  EXPECT_TRUE(rc::check([&] {
-    std::string line;
-    const int count = *rc::gen::inRange(0, 6);
-    for (int i = 0; i < count; ++i) {
-      line += *rc::gen::inRange(0, 4) == 0 ? *rc::gen::arbitrary<std::string>() : *rc::gen::elementOf(words);
-      if (*rc::gen::inRange(0, 5) != 0) line += ' ';
-    }
-    const auto answer = session.execute(line);
-    RC_ASSERT(answer.at("ok").is_boolean());
-    RC_ASSERT(answer.at("ok").template get<bool>() != answer.contains("error"));
-    RC_ASSERT(!answer.dump(-1, ' ', false, json::error_handler_t::replace).empty());
-  }));
 }
 
 }  // namespace

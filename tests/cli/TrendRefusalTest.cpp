@@ -1,14 +1,14 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <cctype>
 #include <cstdint>
 #include <filesystem>
 #include <string>
-#include <vector>
 
 #include "tests/cli/CliRun.h"
+#include "tests/cli/PlainField.h"
+#include "tests/cli/TrendRefusalFixture.h"
 
 // A trend that cannot run reports the reason and writes nothing.
 
@@ -19,68 +19,10 @@ using ::testing::AllOf;
 using ::testing::EndsWith;
 using ::testing::HasSubstr;
 using ::testing::StartsWith;
-using Args = std::vector<std::string>;
-
-/// One field of Plain on 100 acres: 50 of 100 bushels at $2.
-const Args plain{"--split", "5", "--crop", "Plain", "--price", "Plain=2", "--max-yield", "Plain=100"};
-
-const Args irrigationCosts{"--variable", "4"};
-const Args rain{"--variable", "5"};
-
-Args operator+(Args args, const Args& more) {
-  args.insert(args.end(), more.begin(), more.end());
-  return args;
-}
-
-Args ofPlain(const std::string& variable) {
-  return {"--variable", variable, "--trend-crop", "Plain"};
-}
 
 Args range(const std::string& from, const std::string& to, const std::string& steps) {
   return {"--from", from, "--to", to, "--steps", steps};
 }
-
-class TrendRefusalTest : public ::testing::Test {
- protected:
-  SmallHome home;
-
-  [[nodiscard]] std::string file(const std::string& name) const { return (home.folder() / name).string(); }
-
-  [[nodiscard]] CliResult trend(const Args& more) const {
-    Args args = home.arguments(plain + more);
-    args.front() = "trend";
-    return runCli(args);
-  }
-
-  /// Runs a trend with an export. It must fail with a message and without a result, and no file may change.
-  void expectEnd(int exitCode, const Args& more,
-                 const ::testing::Matcher<const std::string&>& message) const {
-    static_cast<void>(home.folder().write("trend.xls", "an export of before"));
-    const std::vector<std::string> before = home.folder().names();
-    const CliResult result = trend(more + Args{"--export", file("trend.xls")});
-    const std::string what = ::testing::PrintToString(more).substr(0, 300);
-    EXPECT_EQ(result.exitCode, exitCode) << what;
-    EXPECT_EQ(result.out, "") << what;
-    const std::string begin = "verdalis-cli: ";
-    ASSERT_THAT(result.err, AllOf(StartsWith(begin), EndsWith("\n"))) << what;
-    EXPECT_THAT(result.err.substr(begin.size(), result.err.size() - begin.size() - 1), message) << what;
-    EXPECT_EQ(home.folder().names(), before) << what;
-    EXPECT_EQ(bytesOf(file("trend.xls")), "an export of before") << what;
-  }
-  void expectRefused(const Args& more, const ::testing::Matcher<const std::string&>& message) const {
-    expectEnd(2, more, message);
-  }
-  void expectRunTimeError(const Args& more, const ::testing::Matcher<const std::string&>& message) const {
-    expectEnd(1, more, message);
-  }
-
-  /// Requires that both kinds of trend reject a file of values with this message.
-  void expectFileRefused(const std::string& path,
-                         const ::testing::Matcher<const std::string&>& message) const {
-    expectRefused(irrigationCosts + Args{"--values-file", path}, message);
-    expectRefused(irrigationCosts + Args{"--values-file", path, "--option", "1"}, message);
-  }
-};
 
 TEST_F(TrendRefusalTest, RejectsAFileThatCannotBeRead) {
   const auto cannot = [](const std::string& path) {
@@ -95,18 +37,11 @@ TEST_F(TrendRefusalTest, RejectsAFileThatCannotBeRead) {
       "--values-file2: Please select a file! The file none cannot be read.");
 }
 
-TEST_F(TrendRefusalTest, RejectsAFileWithoutReadPermission) {
-  if (::geteuid() == 0) GTEST_SKIP() << "root may read every file";
-  const auto secret = home.folder().write("secret.txt", "1,2");
-  std::filesystem::permissions(secret, std::filesystem::perms::none);
-  expectFileRefused(secret,
-                    "--values-file: Please select a file! The file " + secret.string() + " cannot be read.");
-}
-
 TEST_F(TrendRefusalTest, RejectsAFileWithoutValues) {
-  const std::string empty = home.folder().write("empty.txt", "");
+  const std::string empty = home.folder().write("empty.txt", "").string();
   expectFileRefused(empty, "--values-file: Please select a file! The file " + empty + " is empty.");
-  expectFileRefused(home.folder().write("lines.txt", "\r\n\n"), "--values-file: Please select a file!");
+  expectFileRefused(home.folder().write("lines.txt", "\r\n\n").string(),
+                    "--values-file: Please select a file!");
 }
 
 TEST_F(TrendRefusalTest, RejectsAFileWithAnEntryThatIsNotANumber) {
@@ -115,11 +50,11 @@ TEST_F(TrendRefusalTest, RejectsAFileWithAnEntryThatIsNotANumber) {
            " Every entry must be a number, with commas only between the numbers, such as 2, 2.5, 3. The end "
            "of a line does not separate them.";
   };
-  const std::string word = home.folder().write("word.txt", "70, x,80");
+  const std::string word = home.folder().write("word.txt", "70, x,80").string();
   expectFileRefused(word, entry("2", word, ", \"x\", is not a number."));
-  const std::string hole = home.folder().write("hole.txt", "70,,80");
+  const std::string hole = home.folder().write("hole.txt", "70,,80").string();
   expectFileRefused(hole, entry("2", hole, " is empty."));
-  const std::string large = home.folder().write("large.txt", "70,80,1e999");
+  const std::string large = home.folder().write("large.txt", "70,80,1e999").string();
   expectFileRefused(large, entry("3", large, ", \"1e999\", is not a number."));
 }
 
@@ -127,7 +62,7 @@ TEST_F(TrendRefusalTest, RejectsAFileThatIsNotText) {
   std::string bytes;
   for (int i = 0; i < 5000; ++i)
     bytes += static_cast<char>(i * 7 % 256 == ',' ? 0 : i * 7 % 256);
-  const std::string binary = home.folder().write("binary", bytes);
+  const std::string binary = home.folder().write("binary", bytes).string();
   expectFileRefused(binary, AllOf(StartsWith("--values-file: Entry 1 of the file " + binary + ", \""),
                                   HasSubstr("is not a number.")));
   const CliResult result = trend(irrigationCosts + Args{"--values-file", binary});
@@ -140,7 +75,7 @@ TEST_F(TrendRefusalTest, RejectsAFileWithAMillionValues) {
   std::string million;
   for (int i = 0; i < 1'000'000; ++i)
     million += i == 0 ? "12" : ",12";
-  const std::string path = home.folder().write("million.txt", million);
+  const std::string path = home.folder().write("million.txt", million).string();
   const Args values{"--values-file", path};
   expectRefused(irrigationCosts + values,
                 "1,000,000 values with 100 options each are more than the 150,000 options that a variable "
@@ -159,7 +94,7 @@ TEST_F(TrendRefusalTest, RejectsAFileWithAMillionValues) {
 }
 
 TEST_F(TrendRefusalTest, RejectsAFileThatIsTooLarge) {
-  const std::string path = home.folder().write("large.txt", "1,2");
+  const std::string path = home.folder().write("large.txt", "1,2").string();
   std::filesystem::resize_file(path, (std::uintmax_t{32} << 20U) + 1);  // a sparse file takes no disk space
   expectFileRefused(path, "--values-file: The file " + path +
                               " has more than 32 MB, which is too much for a list of trend values. Select "
@@ -223,7 +158,7 @@ TEST_F(TrendRefusalTest, RejectsRainfallOutsideTheYieldTables) {
   const std::string below =
       "Values for Annual Rainfall cannot be below 11 inches.  Please modify the values.";
   const std::string above = "Values for Annual Rainfall cannot exceed 21 inches.  Please modify the values.";
-  const std::string list = home.folder().write("rain.txt", "11,21,21.01");
+  const std::string list = home.folder().write("rain.txt", "11,21,21.01").string();
   for (const Args& kind : {Args{}, Args{"--option", "1"}}) {
     expectRefused(rain + Args{"--values", "10.99"} + kind, "--values: " + below);
     expectRefused(rain + Args{"--values", "-0"} + kind, "--values: " + below);
@@ -280,35 +215,6 @@ TEST_F(TrendRefusalTest, RejectsTooManyCombinations) {
       irrigationCosts + range("1", "2", "182") +
           Args{"--option", "1", "--variable2", "3", "--from2", "50", "--to2", "90", "--steps2", "181"},
       "The values make 32,942" + message);
-}
-
-TEST_F(TrendRefusalTest, ReportsAnExportThatCannotBeWritten) {
-  struct Place {
-    std::string path;
-    std::string why;
-  };
-  static_cast<void>(home.folder().write("a-file", ""));
-  std::vector<Place> places{{file("none/trend.xls"), ": No such file or directory.\n"},
-                            {file("a-file/trend.xls"), ": Not a directory.\n"},
-                            {home.path(), ": Is a directory.\n"},
-                            {"/proc/trend.xls", ""}};
-  if (::geteuid() != 0) {  // root can write everywhere
-    std::filesystem::create_directory(file("closed"));
-    std::filesystem::permissions(file("closed"),
-                                 std::filesystem::perms::owner_read | std::filesystem::perms::owner_exec);
-    places.push_back({file("closed/trend.xls"), ": Permission denied.\n"});
-  }
-  const std::vector<std::string> before = home.folder().names();
-  for (const Place& place : places) {
-    for (const Args& kind : {Args{}, Args{"--option", "1"}}) {
-      const CliResult result = trend(ofPlain("0") + Args{"--values", "1,2", "--export", place.path} + kind);
-      EXPECT_EQ(result.exitCode, 1) << place.path;
-      EXPECT_EQ(result.out, "") << place.path;
-      EXPECT_THAT(result.err, AllOf(StartsWith("verdalis-cli: The file " + place.path + " cannot be written"),
-                                    EndsWith(place.why)));
-      EXPECT_EQ(home.folder().names(), before) << place.path;
-    }
-  }
 }
 
 /// The trend runs, and standard error says that the crop name is not used.

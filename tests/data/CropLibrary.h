@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "data/FileReader.h"
+#include "platform/paths.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace verdalis::testing {
@@ -24,12 +25,14 @@ class CropLibrary {
   [[nodiscard]] const TemporaryFolder& folder() const { return folder_; }
   [[nodiscard]] const std::filesystem::path& home() const { return folder_.path(); }
 
-  void stock(const std::string& file, std::string_view bytes) const { folder_.write("crops/" + file, bytes); }
+  void stock(const std::string& file, std::string_view bytes) const {
+    folder_.write(pathOf("crops/" + file), bytes);
+  }
   void custom(const std::string& file, std::string_view bytes) const {
-    folder_.write("crops/custom/" + file, bytes);
+    folder_.write(pathOf("crops/custom/" + file), bytes);
   }
   void soils(const std::string& file, std::string_view bytes) const {
-    folder_.write("crops/soils/" + file, bytes);
+    folder_.write(pathOf("crops/soils/" + file), bytes);
   }
 
   [[nodiscard]] FileReader read() const {

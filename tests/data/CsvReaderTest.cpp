@@ -1,54 +1,15 @@
 #include <gtest/gtest.h>
-#include <rapidcheck/gtest.h>
 
-#include <algorithm>
+#include <cstddef>
 #include <string>
 #include <vector>
 
 #include "data/CsvReader.h"
+#include "tests/data/CsvText.h"
 #include "text/RunTimeError.h"
 
 namespace verdalis::testing {
 namespace {
-
-using Cells = std::vector<std::string>;
-
-/// A text that comes in pieces of a length.
-class PiecewiseText final : public ByteSource {
- public:
-  explicit PiecewiseText(std::string text, std::size_t piece = 7) : text_(std::move(text)), piece_(piece) {}
-
-  [[nodiscard]] std::size_t read(char* to, std::size_t size) override {
-    const std::size_t count = std::min({size, piece_, text_.size() - at_});
-    std::copy_n(text_.data() + at_, count, to);
-    at_ += count;
-    return count;
-  }
-
- private:
-  std::string text_;
-  std::size_t piece_;
-  std::size_t at_ = 0;
-};
-
-std::vector<CsvRow> rowsOf(const std::string& text, std::size_t piece = 7) {
-  PiecewiseText source(text, piece);
-  CsvReader reader(source);
-  std::vector<CsvRow> rows;
-  for (CsvRow row; reader.next(row);)
-    rows.push_back(row);
-  return rows;
-}
-
-std::vector<Cells> cellsOf(const std::string& text, std::size_t piece = 7) {
-  std::vector<Cells> all;
-  for (const CsvRow& row : rowsOf(text, piece)) {
-    EXPECT_EQ(row.fault, "");
-    EXPECT_EQ(row.count, row.cells.size());
-    all.push_back(row.cells);
-  }
-  return all;
-}
 
 TEST(CsvReader, LinesEndWithLfOrCrLf) {
   EXPECT_EQ(cellsOf("a,b\nc,d\r\ne,f"), (std::vector<Cells>{{"a", "b"}, {"c", "d"}, {"e", "f"}}));
@@ -140,41 +101,6 @@ TEST(CsvReader, AFailureOfTheSourceGoesOn) {
   CsvReader reader(source);
   CsvRow row;
   EXPECT_THROW(static_cast<void>(reader.next(row)), RunTimeError);
-}
-
-std::string written(const std::vector<Cells>& rows, bool crLf) {
-  std::string text;
-  for (const Cells& row : rows) {
-    for (std::size_t i = 0; i < row.size(); ++i) {
-      std::string cell = row[i];
-      for (std::size_t at = 0; (at = cell.find('"', at)) != std::string::npos; at += 2)
-        cell.insert(at, 1, '"');
-      text += (i == 0 ? "\"" : ",\"") + cell + '"';
-    }
-    text += crLf ? "\r\n" : "\n";
-  }
-  return text;
-}
-
-RC_GTEST_PROP(CsvReader, WhatIsWrittenInQuotesIsReadBack, (bool crLf)) {
-  const auto cell = rc::gen::container<std::string>(rc::gen::element('a', ',', '"', '\r', '\n', ' '));
-  const auto rows =
-      *rc::gen::container<std::vector<Cells>>(rc::gen::nonEmpty(rc::gen::container<Cells>(cell)));
-  const auto piece = *rc::gen::inRange<std::size_t>(1, 20);
-  RC_ASSERT(cellsOf(written(rows, crLf), piece) == rows);
-}
-
-RC_GTEST_PROP(CsvReader, TheSizeOfThePiecesDoesNotMatter, ()) {
-  const auto text = *rc::gen::container<std::string>(
-      rc::gen::element('a', ',', '"', '\r', '\n', ' ', '\xEF', '\xBB', '\xBF'));
-  const auto whole = rowsOf(text, 1000);
-  const auto pieces = rowsOf(text, *rc::gen::inRange<std::size_t>(1, 5));
-  RC_ASSERT(whole.size() == pieces.size());
-  for (std::size_t i = 0; i < whole.size(); ++i) {
-    RC_ASSERT(whole[i].cells == pieces[i].cells);
-    RC_ASSERT(whole[i].count == pieces[i].count);
-    RC_ASSERT(whole[i].fault == pieces[i].fault);
-  }
 }
 
 }  // namespace

@@ -1,6 +1,4 @@
 #include <gtest/gtest.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 #include <cerrno>
 #include <filesystem>
@@ -9,8 +7,8 @@
 #include <vector>
 
 #include "platform/LockFile.h"
-#include "tests/data/KilledWriter.h"
-#include "tests/data/OrdinaryUser.h"
+#include "tests/data/AnotherProgram.h"
+#include "tests/support/PosixFiles.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace verdalis::testing {
@@ -29,7 +27,7 @@ TEST(LockFile, IsHeldByOneAtATime) {
   const LockFile second(path);
   EXPECT_FALSE(second.isHeld());
   EXPECT_EQ(errno, EWOULDBLOCK);
-  EXPECT_TRUE(inAnotherProcess([&] { return !LockFile(path).isHeld() && isHeldByAnyone(path); }));
+  EXPECT_TRUE(anotherProgram(Deed::findLockHeld, path));
   EXPECT_TRUE(first->isHeld());
   first.reset();
   EXPECT_FALSE(isHeldByAnyone(path));
@@ -39,109 +37,22 @@ TEST(LockFile, IsHeldByOneAtATime) {
 
 TEST(LockFile, IsFreeAfterItsHolderWasKilled) {
   const TemporaryFolder folder;
-  inAnotherProcess([&] {
-    const LockFile lock(folder / "a.lock");
-    ::kill(::getpid(), SIGKILL);
-    return false;
-  });
-  EXPECT_EQ(folder.names(), Names{"a.lock"});
-  EXPECT_EQ(fs::file_size(folder / "a.lock"), 0U);
+  EXPECT_FALSE(anotherProgram(Deed::lockAndBeKilled, folder / "a.lock"));
+  EXPECT_EQ(folder.names(), hasPosixFiles ? Names{"a.lock"} : Names{}) << "Windows removes it";
+  if (hasPosixFiles) {
+    EXPECT_EQ(fs::file_size(folder / "a.lock"), 0U);
+  }
   EXPECT_FALSE(isHeldByAnyone(folder / "a.lock"));
   EXPECT_TRUE(LockFile(folder / "a.lock").isHeld());
   EXPECT_TRUE(folder.names().empty());
 }
 
-TEST(LockFile, CanBeLostByRemovingIt) {
-  const TemporaryFolder folder;
-  const fs::path path = folder / "a.lock";
-  auto first = std::make_unique<LockFile>(path);
-  fs::remove(path);
-  EXPECT_FALSE(first->isHeld());
-  const LockFile second(path);
-  EXPECT_TRUE(second.isHeld());
-  EXPECT_FALSE(first->isHeld());
-  first.reset();
-  EXPECT_TRUE(second.isHeld()) << "only the holder removes it";
-}
-
-TEST(LockFile, IsNotBehindALink) {
-  const TemporaryFolder folder;
-  fs::create_symlink("elsewhere", folder / "a.lock");
-  EXPECT_FALSE(LockFile(folder / "a.lock").isHeld());
-  EXPECT_TRUE(isHeldByAnyone(folder / "a.lock")) << "that cannot be found out";
-  EXPECT_FALSE(LockFile(folder / "missing" / "a.lock").isHeld());
-  EXPECT_EQ(errno, ENOENT);
-  EXPECT_EQ(folder.names(), Names{"a.lock"});
-}
-
-TEST(LockFile, PatientWithAProgramThatOnlyLooks) {
-  const TemporaryFolder folder;
-  const fs::path path = folder.write("a.lock", "");
-  EXPECT_TRUE(inAnotherProcess([&] {
-    const pid_t looker = ::fork();
-    if (looker == 0) {
-      for (;;)
-        static_cast<void>(isHeldByAnyone(path));
-    }
-    int taken = 0;
-    for (int i = 0; i < 200; ++i)
-      taken += LockFile(path).isHeld() ? 1 : 0;
-    ::kill(looker, SIGKILL);
-    int status = 0;
-    ::waitpid(looker, &status, 0);
-    return taken == 200;
-  }));
-}
-
 // Each process adds one to a number while it holds the lock. A sum is missing if two ever hold it at once.
 TEST(LockFile, NeverHasTwoHolders) {
   const TemporaryFolder folder;
-  const fs::path counter = folder.write("counter", "0");
-  constexpr int rounds = 100;
-  const auto count = [&] {
-    for (int done = 0; done < rounds;) {
-      const LockFile lock(folder / "a.lock");
-      if (!lock.isHeld()) continue;
-      folder.write("counter", std::to_string(std::stoi(folder.read("counter")) + 1));
-      ++done;
-    }
-    return true;
-  };
-  EXPECT_TRUE(inAnotherProcess([&] {
-    std::vector<pid_t> others;
-    for (int i = 0; i < 3; ++i) {
-      const pid_t other = ::fork();
-      if (other == 0) ::_exit(count() ? 0 : 1);
-      others.push_back(other);
-    }
-    bool passed = true;
-    for (const pid_t other : others) {
-      int status = 0;
-      passed = ::waitpid(other, &status, 0) == other && status == 0 && passed;
-    }
-    return passed;
-  }));
-  EXPECT_EQ(folder.read("counter"), std::to_string(3 * rounds));
-}
-
-TEST(LockFile, OfRootDoesNotStopTheUser) {
-  if (::geteuid() != 0) GTEST_SKIP() << "only root can lock for another user";
-  constexpr unsigned nobody = 65534;
-  const TemporaryFolder folder;
-  ASSERT_EQ(::chown(folder.path().c_str(), nobody, nobody), 0);
-  inAnotherProcess([&] {
-    const LockFile lock(folder / "a.lock");
-    ::kill(::getpid(), SIGKILL);
-    return false;
-  });
-  struct stat status {};
-  ASSERT_EQ(::stat((folder / "a.lock").c_str(), &status), 0);
-  EXPECT_EQ(status.st_uid, nobody);
-  ASSERT_EQ(::chown((folder / "a.lock").c_str(), 0, 0), 0);  // as if root was killed before it gave it away
-  const auto taken = asOrdinaryUser([&] { return LockFile(folder / "a.lock").isHeld(); });
-  if (!taken) GTEST_SKIP() << "no other user at hand";
-  EXPECT_TRUE(*taken);
-  EXPECT_TRUE(folder.names().empty());
+  folder.write("counter", "0");
+  EXPECT_TRUE(severalPrograms(Deed::countLocked, folder.path(), {"one", "two", "three"}));
+  EXPECT_EQ(folder.read("counter"), std::to_string(3 * countRounds));
 }
 
 }  // namespace

@@ -9,8 +9,8 @@
 #include "data/writeFile.h"
 #include "platform/fileAccess.h"
 #include "platform/posix/owner.h"
+#include "tests/data/AnotherProgram.h"
 #include "tests/data/CropLibrary.h"
-#include "tests/data/KilledWriter.h"
 #include "tests/data/OrdinaryUser.h"
 
 namespace verdalis::testing {
@@ -76,7 +76,7 @@ TEST_F(SavingAsRoot, GivesANewFileToTheOwnerOfItsFolder) {
 
 TEST_F(SavingAsRoot, LeavesNothingThatStopsTheUserEvenIfKilled) {
   fs::permissions(home(), fs::perms::owner_all);
-  replaceAndBeKilled(home() / "crops/corn.txt");
+  EXPECT_FALSE(anotherProgram(Deed::replaceAndBeKilled, home() / "crops/corn.txt", "new"));
   EXPECT_EQ(idsOf(home() / ".saving"), Ids(farmer, farm));
   for (const auto& entry : fs::directory_iterator(home() / ".saving"))
     EXPECT_EQ(idsOf(entry.path()), Ids(farmer, farm));

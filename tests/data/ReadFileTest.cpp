@@ -1,27 +1,24 @@
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
 #include <filesystem>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "data/readFile.h"
 #include "tests/data/Failure.h"
-#include "tests/data/OrdinaryUser.h"
+#include "tests/data/Unreadable.h"
+#include "tests/support/PosixFiles.h"
 #include "tests/support/TemporaryFolder.h"
 #include "text/RunTimeError.h"
 
 namespace verdalis {
 namespace {
 
-using testing::asOrdinaryUser;
+using testing::expectUnreadable;
 using testing::failureOf;
+using testing::hasPosixFiles;
 using testing::TemporaryFolder;
-
-void expectUnreadable(const std::filesystem::path& path) {
-  const auto text = failureOf(ErrorNumber::fileNotFound, [&] { static_cast<void>(readFile(path)); });
-  EXPECT_NE(text.find(path.string()), std::string::npos) << text;
-}
 
 TEST(ReadFile, ReturnsUtf8Unchanged) {
   const TemporaryFolder folder;
@@ -48,13 +45,6 @@ TEST(ReadFile, ReturnsAnEmptyTextForAnEmptyFile) {
   EXPECT_EQ(readFile(folder.write("a.txt", "")), "");
 }
 
-TEST(ReadFile, FollowsALink) {
-  const TemporaryFolder folder;
-  folder.write("a.txt", "here");
-  std::filesystem::create_symlink("a.txt", folder / "link");
-  EXPECT_EQ(readFile(folder / "link"), "here");
-}
-
 TEST(ReadFile, FailsWithThePathIfNotARegularFile) {
   const TemporaryFolder folder;
   expectUnreadable(folder / "missing.txt");
@@ -62,18 +52,13 @@ TEST(ReadFile, FailsWithThePathIfNotARegularFile) {
   expectUnreadable(folder.write("a.txt", "x") / "below a file.txt");
   expectUnreadable(folder / std::string(300, 'n'));
   expectUnreadable("");
+  if (!hasPosixFiles) return;
   std::filesystem::create_symlink("nowhere", folder / "broken");
   expectUnreadable(folder / "broken");
   std::filesystem::create_symlink("circle", folder / "circle");
   expectUnreadable(folder / "circle");
   expectUnreadable("/dev/zero");
   expectUnreadable("/dev/null");
-}
-
-TEST(ReadFile, DoesNotBlockOnAPipe) {
-  const TemporaryFolder folder;
-  ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
-  expectUnreadable(folder / "pipe");
 }
 
 TEST(ReadFile, FailsForAFileAboveTheLimit) {
@@ -88,23 +73,6 @@ TEST(ReadFile, ReadsAFileOfManyMegabytes) {
   std::string bytes;
   bytes.resize(20'000'000, 'x');
   EXPECT_TRUE(readFile(folder.write("a.txt", bytes)) == bytes);
-}
-
-TEST(ReadFile, FailsWithoutReadPermission) {
-  const TemporaryFolder folder;
-  const auto file = folder.write("a.txt", "secret");
-  openToAll(folder);
-  std::filesystem::permissions(file, std::filesystem::perms::none);
-  const auto failed = asOrdinaryUser([&] {
-    try {
-      static_cast<void>(readFile(file));
-    } catch (const RunTimeError& error) {
-      return error.number() == ErrorNumber::fileNotFound;
-    }
-    return false;
-  });
-  if (!failed) GTEST_SKIP() << "root, and no other user at hand";
-  EXPECT_TRUE(*failed);
 }
 
 std::vector<std::string> linesOf(std::string_view text) {

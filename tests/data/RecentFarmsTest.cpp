@@ -1,22 +1,13 @@
 #include <gtest/gtest.h>
-#include <rapidcheck.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
-#include <algorithm>
-#include <cstdint>
 #include <filesystem>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "data/RecentFarms.h"
-#include "tests/data/Failure.h"
-#include "tests/data/FullDisk.h"
-#include "tests/data/KilledAtEachCall.h"
-#include "tests/data/KilledWriter.h"
+#include "tests/data/AnotherProgram.h"
+#include "tests/support/PosixFiles.h"
 #include "tests/support/TemporaryFolder.h"
-#include "text/RunTimeError.h"
 
 namespace verdalis::testing {
 namespace {
@@ -24,7 +15,10 @@ namespace {
 namespace fs = std::filesystem;
 using Paths = std::vector<fs::path>;
 
-const fs::path listFile = "recent/farms";
+/// The whole path of a farm on this system.
+fs::path farmAt(const std::string& name) {
+  return fs::absolute(fs::path("/farms") / name).make_preferred();
+}
 
 TEST(RecentFarms, AreTheLastNineNewestFirst) {
   const TemporaryFolder folder;
@@ -32,170 +26,43 @@ TEST(RecentFarms, AreTheLastNineNewestFirst) {
   EXPECT_TRUE(recent.list().empty());
   EXPECT_TRUE(folder.names().empty()) << "reading makes no folder";
   for (int i = 1; i <= 12; ++i)
-    recent.add("/farms/" + std::to_string(i) + ".verdalis");
+    recent.add(farmAt(std::to_string(i) + ".verdalis"));
   ASSERT_EQ(recent.list().size(), 9U);
-  EXPECT_EQ(recent.list().front(), "/farms/12.verdalis");
-  EXPECT_EQ(recent.list().back(), "/farms/4.verdalis");
-  recent.add("/farms/7.verdalis");
-  EXPECT_EQ(recent.list().front(), "/farms/7.verdalis");
+  EXPECT_EQ(recent.list().front(), farmAt("12.verdalis"));
+  EXPECT_EQ(recent.list().back(), farmAt("4.verdalis"));
+  recent.add(farmAt("7.verdalis"));
+  EXPECT_EQ(recent.list().front(), farmAt("7.verdalis"));
   EXPECT_EQ(recent.list().size(), 9U) << "a farm is in the list once";
-  recent.remove("/farms/7.verdalis");
-  recent.remove("/farms/missing.verdalis");
-  EXPECT_EQ(recent.list().front(), "/farms/12.verdalis");
+  recent.remove(farmAt("7.verdalis"));
+  recent.remove(farmAt("missing.verdalis"));
+  EXPECT_EQ(recent.list().front(), farmAt("12.verdalis"));
   EXPECT_EQ(recent.list().size(), 8U);
   EXPECT_EQ(folder.names(), std::vector<std::string>{"recent"});
   EXPECT_EQ(folder.names("recent"), std::vector<std::string>{"farms"});
-  EXPECT_EQ(static_cast<unsigned>(fs::status(folder / "recent").permissions()), 0700U);
-}
-
-TEST(RecentFarms, AgreeWithAPlainList) {
-  const TemporaryFolder folder;
-  rc::check([&] {
-    // Each step waits for the disk.
-    const auto steps =
-        *rc::gen::resize(20, rc::gen::arbitrary<std::vector<std::pair<bool, unsigned char>>>());
-    fs::remove_all(folder / "recent");
-    const RecentFarms recent(folder.path());
-    Paths expected;
-    for (const auto& [isAdded, number] : steps) {
-      const fs::path farm = "/f/" + std::to_string(number % 14);
-      expected.erase(std::remove(expected.begin(), expected.end(), farm), expected.end());
-      if (isAdded) {
-        recent.add(farm);
-        expected.insert(expected.begin(), farm);
-        expected.resize(std::min<std::size_t>(expected.size(), 9));
-      } else {
-        recent.remove(farm);
-      }
-      RC_ASSERT(recent.list() == expected);
-    }
-  });
-}
-
-TEST(RecentFarms, AreKeptByAbsolutePaths) {
-  const TemporaryFolder folder;
-  const RecentFarms recent(folder / "state");
-  folder.write("farms/a.verdalis", "");
-  fs::create_directories(folder / "elsewhere/deep");
-  fs::create_directory_symlink("../elsewhere/deep", folder / "farms/link");
-  fs::create_symlink("a.verdalis", folder / "farms/b.verdalis");
-  const fs::path before = fs::current_path();
-  fs::current_path(folder / "farms");
-  recent.add("a.verdalis");
-  recent.add("./link/../c.verdalis");
-  recent.add("./b.verdalis");
-  recent.add(folder.path() / "farms" / "." / "a.verdalis");
-  const fs::path real = fs::canonical(folder.path());
-  EXPECT_EQ(recent.list(),
-            (Paths{folder / "farms/a.verdalis", real / "farms/b.verdalis", real / "elsewhere/c.verdalis"}));
-  recent.remove("a.verdalis");
-  fs::current_path(before);
-  EXPECT_EQ(recent.list().size(), 2U);
+  if (hasPosixFiles) {
+    EXPECT_EQ(static_cast<unsigned>(fs::status(folder / "recent").permissions()), 0700U);
+  }
 }
 
 TEST(RecentFarms, KeepAllButEndsOfLines) {
   const TemporaryFolder folder;
   const RecentFarms recent(folder.path());
-  recent.add("/farms/two\nlines");
-  recent.add("/farms/two\rlines");
-  recent.add("/" + std::string(5'000, 'n'));
+  recent.add(farmAt("two\nlines"));
+  recent.add(farmAt("two\rlines"));
+  recent.add(farmAt(std::string(5'000, 'n')));
   EXPECT_TRUE(recent.list().empty());
   EXPECT_TRUE(folder.names().empty());
-  const Paths odd{"/farms/no text \xFF\xFE", "/farms/ leading and trailing ", "/farms/B\xC3\xA4uerle"};
+  Paths odd{farmAt(" leading and trailing "), farmAt("B\xC3\xA4uerle")};
+  if (hasPosixFiles) odd.push_back(farmAt("no text \xFF\xFE"));
   for (auto farm = odd.rbegin(); farm != odd.rend(); ++farm)
     recent.add(*farm);
   EXPECT_EQ(recent.list(), odd);
 }
 
-TEST(RecentFarms, OfADamagedFileAreWhatCanBeFound) {
-  const TemporaryFolder folder;
-  const RecentFarms recent(folder.path());
-  folder.write(listFile, "\n\nrelative\n/a\n/a\n/b\r\n/c" + std::string(1, '\0') + "d\n/" +
-                             std::string(9'000, 'x') + "\n/e");
-  EXPECT_EQ(recent.list(), (Paths{"/a", "/e"}));
-  recent.add("/f");
-  EXPECT_EQ(folder.read(listFile), "/f\n/a\n/e\n");
-  std::string many;
-  for (int i = 0; i < 100'000; ++i)
-    many += "/" + std::to_string(i) + "\n";
-  folder.write(listFile, many);
-  EXPECT_EQ(recent.list().size(), 9U);
-  fs::resize_file(folder / listFile, std::uintmax_t{1} << 40U);
-  EXPECT_TRUE(recent.list().empty());
-  recent.add("/g");
-  EXPECT_EQ(recent.list(), Paths{"/g"});
-  rc::check([&](const std::string& noise) {
-    folder.write(listFile, noise);
-    for (const fs::path& farm : recent.list())
-      RC_ASSERT(farm.is_absolute());
-    recent.add("/h");
-    RC_ASSERT(recent.list().front() == "/h");
-  });
-}
-
-TEST(RecentFarms, OfAnUnreadableFileAreNone) {
-  const TemporaryFolder folder;
-  const RecentFarms recent(folder.path());
-  fs::create_directories(folder / listFile);
-  EXPECT_TRUE(recent.list().empty());
-  failureOf(ErrorNumber::fileNotFound, [&] { recent.add("/a"); });
-  fs::remove(folder / listFile);
-  ASSERT_EQ(::mkfifo((folder / listFile).c_str(), 0600), 0);
-  EXPECT_TRUE(recent.list().empty());
-  const RecentFarms nowhere(folder.write("file", ""));
-  EXPECT_TRUE(nowhere.list().empty());
-  failureOf(ErrorNumber::fileNotFound, [&] { nowhere.add("/a"); });
-  nowhere.remove("/a");
-}
-
-TEST(RecentFarms, StayIfTheDiskIsFull) {
-  const TemporaryFolder folder;
-  const RecentFarms recent(folder.path());
-  recent.add("/a");
-  const FullDisk full(4);
-  failureOf(ErrorNumber::fileNotFound, [&] { recent.add("/b"); });
-  EXPECT_EQ(recent.list(), Paths{"/a"});
-}
-
-TEST(RecentFarms, AreOldOrNewWheneverTheProgramIsKilled) {
-  const TemporaryFolder folder;
-  const RecentFarms recent(folder.path());
-  const int kills = killAtEachCall(
-      [&] {
-        recent.add("/b");
-        recent.add("/a");
-      },
-      [&] { recent.add("/b"); },
-      [&](int call) {
-        EXPECT_TRUE(recent.list() == Paths({"/a", "/b"}) || recent.list() == Paths({"/b", "/a"})) << call;
-      });
-  if (kills == 0) GTEST_SKIP() << "processes cannot be traced";
-  recent.add("/c");
-  EXPECT_EQ(folder.names("recent"), std::vector<std::string>{"farms"});
-}
-
 TEST(RecentFarms, AreWholeWhenTwoProgramsAddToThem) {
   const TemporaryFolder folder;
   const RecentFarms recent(folder.path());
-  const auto add = [&](const std::string& start) {
-    for (int i = 0; i < 60; ++i) {
-      recent.add(start + std::to_string(i));
-      const Paths farms = recent.list();
-      const bool whole = !farms.empty() && farms.size() <= 9 &&
-                         std::all_of(farms.begin(), farms.end(), [](const fs::path& farm) {
-                           return farm.native().starts_with("/one/") || farm.native().starts_with("/two/");
-                         });
-      if (!whole) return false;
-    }
-    return true;
-  };
-  EXPECT_TRUE(inAnotherProcess([&] {
-    const pid_t other = ::fork();
-    if (other == 0) ::_exit(add("/one/") ? 0 : 1);
-    const bool whole = add("/two/");
-    int status = 0;
-    return ::waitpid(other, &status, 0) == other && status == 0 && whole;
-  }));
+  EXPECT_TRUE(severalPrograms(Deed::addFarmsOften, folder.path(), {"/one", "/two"}));
   EXPECT_EQ(recent.list().size(), 9U);
 }
 

@@ -5,6 +5,7 @@
 
 #include "data/sharedFolders.h"
 #include "platform/folders.h"
+#include "tests/support/PosixFiles.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace verdalis::testing {
@@ -20,9 +21,9 @@ TEST(SharedFolders, OfAnInstalledProgramAreBesideItWhereverItIs) {
 
 TEST(SharedFolders, OfABuildIncludeTheSourceTreeLast) {
   const TemporaryFolder folder;
-  folder.write("build/cli/verdalis-source.txt", "/home/ann/verdalis source\n");
-  EXPECT_EQ(sharedFolders(folder / "build/cli"),
-            (Folders{folder / "build/share/verdalis", "/home/ann/verdalis source"}));
+  const fs::path source = fs::absolute("/home/ann/verdalis source").make_preferred();
+  folder.write("build/cli/verdalis-source.txt", source.string() + "\n");
+  EXPECT_EQ(sharedFolders(folder / "build/cli"), (Folders{folder / "build/share/verdalis", source}));
 }
 
 TEST(SharedFolders, LeaveOutASourceTreeThatIsNotAWholePath) {
@@ -39,7 +40,7 @@ TEST(SharedFolders, OfAnUnknownProgramAreNone) {
 }
 
 TEST(ProgramFolder, IsThatOfTheRunningProgram) {
-  EXPECT_TRUE(fs::exists(programFolder() / "test_data"));
+  EXPECT_TRUE(fs::exists(programFolder() / (hasPosixFiles ? "test_data" : "test_data.exe")));
 }
 
 }  // namespace

@@ -1,34 +1,23 @@
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
 #include <filesystem>
-#include <optional>
 #include <string>
 #include <vector>
 
 #include "data/writeFile.h"
-#include "tests/data/Failure.h"
-#include "tests/data/FullDisk.h"
-#include "tests/data/OrdinaryUser.h"
+#include "tests/data/NotWritten.h"
+#include "tests/data/OpenToAll.h"
 #include "tests/support/TemporaryFolder.h"
-#include "text/RunTimeError.h"
 
 namespace verdalis {
 namespace {
 
 namespace fs = std::filesystem;
-using testing::asOrdinaryUser;
-using testing::failureOf;
-using testing::FullDisk;
+using testing::expectNotWritten;
 using testing::openToAll;
+using testing::staysAsItWas;
 using testing::TemporaryFolder;
-
 using Names = std::vector<std::string>;
-
-void expectNotWritten(const fs::path& path) {
-  const auto text = failureOf(ErrorNumber::fileNotFound, [&] { writeFile(path, "new"); });
-  EXPECT_NE(text.find(path.string()), std::string::npos) << text;
-}
 
 TEST(WriteFile, AcceptsANameOfTheMaximumLength) {
   const TemporaryFolder folder;
@@ -83,62 +72,6 @@ TEST(WriteFile, AcceptsANameWithoutAFolder) {
   EXPECT_EQ(folder.read("a.txt"), "here");
 }
 
-TEST(WriteFile, KeepsThePermissions) {
-  const TemporaryFolder folder;
-  for (const unsigned mode : {0600U, 0640U, 0644U, 0660U, 0666U, 0755U}) {
-    fs::permissions(folder.write("a.txt", "old"), static_cast<fs::perms>(mode));
-    writeFile(folder / "a.txt", "new");
-    EXPECT_EQ(static_cast<unsigned>(fs::status(folder / "a.txt").permissions()), mode);
-  }
-}
-
-TEST(WriteFile, CreatesFilesWithThePermissionsOfTheMask) {
-  const TemporaryFolder folder;
-  const mode_t before = ::umask(027);
-  writeFile(folder / "a.txt", "new");
-  const mode_t kept = ::umask(before);
-  EXPECT_EQ(static_cast<unsigned>(fs::status(folder / "a.txt").permissions()), 0640U);
-  EXPECT_EQ(kept, 027U) << "the mask of the process has changed";
-}
-
-TEST(WriteFile, FollowsLinks) {
-  const TemporaryFolder folder;
-  folder.write("real/a.txt", "old");
-  fs::create_symlink("real/a.txt", folder / "link");
-  fs::create_symlink(folder / "link", folder / "link of a link");
-  writeFile(folder / "link of a link", "new");
-  EXPECT_EQ(folder.read("real/a.txt"), "new");
-  EXPECT_TRUE(fs::is_symlink(folder / "link"));
-  EXPECT_TRUE(fs::is_symlink(folder / "link of a link"));
-  EXPECT_EQ(folder.names("real"), Names{"a.txt"});
-}
-
-TEST(WriteFile, FollowsALinkToAFileThatDoesNotExistYet) {
-  const TemporaryFolder folder;
-  fs::create_directory(folder / "real");
-  fs::create_symlink("real/a.txt", folder / "link");
-  writeFile(folder / "link", "new");
-  EXPECT_EQ(folder.read("real/a.txt"), "new");
-  EXPECT_TRUE(fs::is_symlink(folder / "link"));
-}
-
-TEST(WriteFile, FollowsALinkToAFolder) {
-  const TemporaryFolder folder;
-  fs::create_directory(folder / "real");
-  fs::create_directory_symlink("real", folder / "link");
-  writeFile(folder / "link/a.txt", "new");
-  EXPECT_EQ(folder.read("real/a.txt"), "new");
-}
-
-TEST(WriteFile, FailsForALoopOfLinks) {
-  const TemporaryFolder folder;
-  fs::create_symlink("two", folder / "one");
-  fs::create_symlink("one", folder / "two");
-  expectNotWritten(folder / "one");
-  EXPECT_EQ(folder.names(), (Names{"one", "two"}));
-  EXPECT_TRUE(fs::is_symlink(folder / "one"));
-}
-
 TEST(WriteFile, FailsIfTheFolderDoesNotExist) {
   const TemporaryFolder folder;
   expectNotWritten(folder / "missing/a.txt");
@@ -155,67 +88,11 @@ TEST(WriteFile, DoesNotReplaceAFolder) {
   EXPECT_EQ(folder.names(), Names{"a.txt"});
 }
 
-TEST(WriteFile, DoesNotReplaceAPipe) {
-  const TemporaryFolder folder;
-  ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0600), 0);
-  fs::create_symlink("pipe", folder / "link");
-  expectNotWritten(folder / "pipe");
-  expectNotWritten(folder / "link");
-  EXPECT_TRUE(fs::is_fifo(folder / "pipe"));
-  EXPECT_EQ(folder.names(), (Names{"link", "pipe"}));
-}
-
-TEST(WriteFile, KeepsTheOldFileIfTheDiskIsFull) {
-  const TemporaryFolder folder;
-  folder.write("a.txt", "old");
-  for (const rlim_t room : {0U, 1U, 4096U, 99'999U}) {
-    const FullDisk full(room);
-    const auto text =
-        failureOf(ErrorNumber::fileNotFound, [&] { writeFile(folder / "a.txt", std::string(100'000, 'n')); });
-    EXPECT_NE(text.find("a.txt"), std::string::npos);
-    EXPECT_EQ(folder.read("a.txt"), "old");
-    EXPECT_EQ(folder.names(), Names{"a.txt"}) << "room for " << room;
-  }
-  const FullDisk full(100'000);
-  writeFile(folder / "a.txt", std::string(100'000, 'n'));
-  EXPECT_EQ(folder.read("a.txt").size(), 100'000U);
-}
-
-TEST(WriteFile, CreatesNoFileIfTheDiskIsFull) {
-  const TemporaryFolder folder;
-  const FullDisk full(2);
-  expectNotWritten(folder / "a.txt");
-  EXPECT_EQ(folder.names(), Names{});
-}
-
-/// Whether writing fails and keeps the old text, as a user who is subject to permissions.
-std::optional<bool> staysAsItWas(const TemporaryFolder& folder, const fs::path& file) {
-  return asOrdinaryUser([&] {
-    try {
-      writeFile(file, "new");
-    } catch (const RunTimeError& error) {
-      return error.number() == ErrorNumber::fileNotFound && folder.read(file) == "old" &&
-             folder.names(file.parent_path()).size() == 1;
-    }
-    return false;
-  });
-}
-
 TEST(WriteFile, DoesNotReplaceAWriteProtectedFile) {
   const TemporaryFolder folder;
   const auto file = folder.write("a.txt", "old");
   openToAll(folder);
   fs::permissions(file, static_cast<fs::perms>(0444));
-  const auto stayed = staysAsItWas(folder, file);
-  if (!stayed) GTEST_SKIP() << "root, and no other user at hand";
-  EXPECT_TRUE(*stayed);
-}
-
-TEST(WriteFile, DoesNotReplaceAFileInAReadOnlyFolder) {
-  const TemporaryFolder folder;
-  const auto file = folder.write("below/a.txt", "old");
-  openToAll(folder);
-  fs::permissions(folder / "below", static_cast<fs::perms>(0555));
   const auto stayed = staysAsItWas(folder, file);
   if (!stayed) GTEST_SKIP() << "root, and no other user at hand";
   EXPECT_TRUE(*stayed);

@@ -3,11 +3,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <csignal>
-#include <filesystem>
 #include <functional>
-
-#include "data/writeFile.h"
 
 namespace verdalis::testing {
 
@@ -25,16 +21,6 @@ inline bool inAnotherProcess(const std::function<bool()>& action) {
   }
   int status = 0;
   return child > 0 && ::waitpid(child, &status, 0) == child && WIFEXITED(status) && WEXITSTATUS(status) == 0;
-}
-
-/// Replaces a file by "new" in another process, which is killed after writing and before keep().
-inline void replaceAndBeKilled(const std::filesystem::path& file) {
-  inAnotherProcess([&] {
-    FileReplacement replacement(file);
-    replacement.write("new");
-    ::kill(::getpid(), SIGKILL);
-    return false;
-  });
 }
 
 }  // namespace verdalis::testing
