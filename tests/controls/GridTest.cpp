@@ -1,19 +1,9 @@
-#include <rapidcheck.h>
-
 #include <limits>
 
-#include "controls/Grid.h"
-#include "tests/controls/Fixture.h"
+#include "tests/controls/GridFixture.h"
 
-namespace verdalis {
+namespace verdalis::testing {
 namespace {
-
-class Grids : public ::verdalis::testing::ControlsFixture {
- protected:
-  Grids() { grid.onStateChange.connect(writes("watcher")); }
-
-  Grid grid{window, "grdCustom", 3, 2};
-};
 
 TEST_F(Grids, OnlyCellsInsideTheGridHoldTexts) {
   grid.setCell(2, 1, "a");
@@ -123,22 +113,5 @@ TEST_F(Grids, CharactersAndKeysRaiseTheirEvents) {
   EXPECT_TRUE(take().empty());
 }
 
-TEST_F(Grids, ResizingToAnySizeKeepsTheCellsThatFit) {
-  rc::check([this] {
-    const int rows = *rc::gen::inRange(1, 8);
-    const int columns = *rc::gen::inRange(1, 8);
-    grid.setSize(5, 5);
-    for (int i = 0; i < 25; ++i)
-      grid.setCell(i / 5, i % 5, std::to_string(i));
-    grid.setSize(rows, columns);
-    for (int row = 0; row < rows; ++row) {
-      for (int column = 0; column < columns; ++column) {
-        const std::string expected = row < 5 && column < 5 ? std::to_string(row * 5 + column) : "";
-        RC_ASSERT(grid.cell(row, column) == expected);
-      }
-    }
-  });
-}
-
 }  // namespace
-}  // namespace verdalis
+}  // namespace verdalis::testing

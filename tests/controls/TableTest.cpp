@@ -1,60 +1,10 @@
-#include <rapidcheck.h>
+#include <memory>
+#include <string>
 
-#include <algorithm>
-#include <numeric>
+#include "tests/controls/TableFixture.h"
 
-#include "controls/Table.h"
-#include "tests/controls/Fixture.h"
-
-namespace verdalis {
+namespace verdalis::testing {
 namespace {
-
-class Tables : public ::verdalis::testing::ControlsFixture {
- protected:
-  Tables() {
-    table.onStateChange.connect(writes("watcher"));
-    table.onChoose.connect([this](std::size_t record) { log.push_back("chose " + std::to_string(record)); });
-  }
-
-  /// Fills the table with rows of texts; without `before`, so that it sorts by the texts.
-  void fill(const std::vector<std::vector<std::string>>& rows) {
-    std::vector<Table::Column> columns;
-    for (std::size_t column = 0; column < (rows.empty() ? 1 : rows.front().size()); ++column)
-      columns.push_back({"Column " + std::to_string(column)});
-    Table::Contents contents;
-    contents.records = rows.size();
-    contents.cell = [rows](std::size_t record, std::size_t column) {
-      return Table::Cell{rows[record][column], {}, false};
-    };
-    table.setContents(std::move(columns), std::move(contents));
-    static_cast<void>(take());
-  }
-
-  /// Fills the table with numbers, which it sorts by their size.
-  void fillNumbers(const std::vector<int>& numbers) {
-    Table::Contents contents;
-    contents.records = numbers.size();
-    contents.cell = [numbers](std::size_t record, std::size_t) {
-      return Table::Cell{std::to_string(numbers[record]), {}, false};
-    };
-    contents.before = [numbers](std::size_t a, std::size_t b, std::size_t) {
-      return numbers[a] < numbers[b];
-    };
-    table.setContents({{"Number"}}, std::move(contents));
-    static_cast<void>(take());
-  }
-
-  [[nodiscard]] std::vector<std::size_t> onShow() const {
-    std::vector<std::size_t> records;
-    for (std::size_t place = 0; place < table.places(); ++place)
-      records.push_back(table.record(place));
-    return records;
-  }
-
-  using Records = std::vector<std::size_t>;
-
-  Table table{window, "tblOptions"};
-};
 
 TEST_F(Tables, ANewTableIsEmpty) {
   EXPECT_EQ(table.kind(), ControlKind::Table);
@@ -234,30 +184,5 @@ TEST_F(Tables, AListenerMayEndTheTable) {
   EXPECT_EQ(inner, nullptr);
 }
 
-TEST_F(Tables, SortedAndFilteredLinesAreThoseOfAPlainSort) {
-  rc::check([this] {
-    const auto numbers = *rc::gen::container<std::vector<int>>(rc::gen::inRange(0, 9));
-    const int least = *rc::gen::inRange(0, 5);
-    const bool down = *rc::gen::arbitrary<bool>();
-    fillNumbers(numbers);
-    table.clickHeading(0);
-    if (down) table.clickHeading(0);
-    table.setFilter([&](std::size_t record) { return numbers[record] >= least; });
-    Records expected(numbers.size());
-    std::iota(expected.begin(), expected.end(), 0U);
-    std::erase_if(expected, [&](std::size_t record) { return numbers[record] < least; });
-    std::stable_sort(expected.begin(), expected.end(), [&](std::size_t a, std::size_t b) {
-      return down ? numbers[a] > numbers[b] : numbers[a] < numbers[b];
-    });
-    RC_ASSERT(onShow() == expected);
-    for (std::size_t record = 0; record < numbers.size(); ++record) {
-      const auto found = std::find(expected.begin(), expected.end(), record);
-      const auto place = table.placeOf(record);
-      RC_ASSERT(place.has_value() == (found != expected.end()));
-      if (place) RC_ASSERT(*place == static_cast<std::size_t>(found - expected.begin()));
-    }
-  });
-}
-
 }  // namespace
-}  // namespace verdalis
+}  // namespace verdalis::testing

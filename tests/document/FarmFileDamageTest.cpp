@@ -1,19 +1,16 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <rapidcheck/gtest.h>
 
 #include <algorithm>
 #include <nlohmann/json.hpp>
-#include <optional>
 #include <set>
 
 #include "data/readFile.h"
 #include "document/documentKeys.h"
 #include "document/farmText.h"
-#include "tests/document/arbitraryDocument.h"
 #include "tests/document/fullDocument.h"
 #include "tests/document/jsonPlaces.h"
-#include "text/RunTimeError.h"
+#include "tests/document/refusal.h"
 #include "text/version.h"
 
 namespace verdalis {
@@ -23,18 +20,8 @@ using Tree = nlohmann::ordered_json;
 using testing::documentWithEverything;
 using testing::forEachPlace;
 using ::testing::HasSubstr;
+using testing::refusal;
 using ::testing::StartsWith;
-
-/// What readFarm() says about a text; nothing if it reads it.
-std::optional<std::string> refusal(std::string_view text) {
-  try {
-    static_cast<void>(readFarm(text));
-  } catch (const RunTimeError& error) {
-    EXPECT_EQ(error.number(), ErrorNumber::invalidCall);
-    return error.what();
-  }
-  return std::nullopt;
-}
 
 std::string damagedAt(std::size_t line, const std::string& reason) {
   return "The farm file is damaged at line " + std::to_string(line) + ": " + reason;
@@ -153,36 +140,6 @@ TEST(FarmFileDamage, EachBeginningOfAFileIsRefused) {
     if (length > 0) {
       ASSERT_THAT(*said, StartsWith("The farm file is damaged at line ")) << length;
     }
-  }
-}
-
-RC_GTEST_PROP(FarmFileDamage, EachBeginningOfAnyFileIsRefused, ()) {
-  const std::string text = writeFarm(*testing::arbitraryDocument());
-  const auto end = static_cast<int>(text.rfind('}'));
-  for (int i = 0; i < 20; ++i)
-    RC_ASSERT(refusal(text.substr(0, static_cast<std::size_t>(*rc::gen::inRange(0, end + 1)))));
-}
-
-RC_GTEST_PROP(FarmFileDamage, GarbledBytesAreRefusedOrReadAsADocument, ()) {
-  static const std::string whole = writeFarm(documentWithEverything());
-  std::string text = whole;
-  for (int i = *rc::gen::inRange(1, 4); i > 0; --i) {
-    const auto at = static_cast<std::size_t>(*rc::gen::inRange<int>(0, static_cast<int>(text.size())));
-    const auto piece =
-        rc::gen::oneOf(rc::gen::map(rc::gen::arbitrary<char>(), [](char c) { return std::string(1, c); }),
-                       rc::gen::element<std::string>("", "{", "}", "[", "]", "\"", ",", ":", "\\", "-",
-                                                     "1e999", "null", "\n", "\xE4", "\xEF\xBB\xBF", "99"));
-    text.replace(at, static_cast<std::size_t>(*rc::gen::inRange(0, 4)), *piece);
-  }
-  try {
-    const FarmDocument read = readFarm(text);
-    const std::string again = writeFarm(read);
-    RC_ASSERT(readFarm(again) == read);
-    RC_ASSERT(writeFarm(readFarm(again)) == again);
-  } catch (const RunTimeError& error) {
-    const std::string_view said = error.what();
-    RC_ASSERT(said.starts_with("The farm file is damaged at line ") ||
-              said.starts_with("This is not a farm file") || said.starts_with("This farm file has version "));
   }
 }
 

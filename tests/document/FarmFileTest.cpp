@@ -1,13 +1,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <rapidcheck/gtest.h>
 
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 
 #include "document/farmText.h"
-#include "tests/document/arbitraryDocument.h"
 #include "tests/document/fullDocument.h"
 #include "text/RunTimeError.h"
 #include "text/version.h"
@@ -15,7 +13,6 @@
 namespace verdalis {
 namespace {
 
-using testing::arbitraryDocument;
 using testing::documentWithEverything;
 using ::testing::HasSubstr;
 
@@ -37,14 +34,6 @@ TEST(FarmFile, ReadingAnEmptyDocumentAndWritingItGivesTheSameBytes) {
   const std::string text = writeFarm(FarmDocument());
   EXPECT_EQ(readFarm(text), FarmDocument());
   EXPECT_EQ(writeFarm(readFarm(text)), text);
-}
-
-RC_GTEST_PROP(FarmFile, AWrittenDocumentIsReadAsTheSameDocumentAndWrittenAsTheSameBytes, ()) {
-  const FarmDocument document = *arbitraryDocument();
-  const std::string text = writeFarm(document);
-  const FarmDocument again = readFarm(text);
-  RC_ASSERT(again == document);
-  RC_ASSERT(writeFarm(again) == text);
 }
 
 TEST(FarmFile, TheKeptFileOfVersion1IsReadAndWrittenAsTheSameBytes) {

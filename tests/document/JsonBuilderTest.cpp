@@ -1,32 +1,15 @@
 #include <gtest/gtest.h>
-#include <rapidcheck/gtest.h>
 
-#include <bit>
-#include <cmath>
 #include <limits>
-#include <nlohmann/json.hpp>
+#include <string>
 
-#include "document/JsonBuilder.h"
-#include "tests/document/arbitraryDocument.h"
+#include "tests/document/builtJson.h"
 
 namespace verdalis {
 namespace {
 
-template <class Value>
-std::string written(const Value& value) {
-  JsonBuilder out;
-  out.value(value);
-  std::string text = out.take();
-  EXPECT_TRUE(text.ends_with('\n'));
-  text.pop_back();
-  return text;
-}
-
-std::string indented(std::string_view json) {
-  JsonBuilder out;
-  out.json(json);
-  return out.take();
-}
+using testing::indented;
+using testing::written;
 
 TEST(JsonBuilder, IndentsObjectsAndLists) {
   JsonBuilder out;
@@ -83,22 +66,6 @@ TEST(JsonBuilder, WritesJsonWithItsIndents) {
             "{\n  \"a\": [\n    1.10,\n    {}\n  ],\n  \"b\": \"x, {y: \\\"\"\n}\n");
   EXPECT_EQ(indented(" [ 1 ,\r\n\t[ ] ] "), "[\n  1,\n  []\n]\n");
   EXPECT_EQ(indented("[[],{},\"{\",[[]]]"), "[\n  [],\n  {},\n  \"{\",\n  [\n    []\n  ]\n]\n");
-}
-
-RC_GTEST_PROP(JsonBuilder, NumbersReadBackToTheLastBit, ()) {
-  const double number = *testing::arbitraryNumber();
-  const auto read = nlohmann::json::parse(written(number)).get<double>();
-  RC_ASSERT(std::bit_cast<std::uint64_t>(read) == std::bit_cast<std::uint64_t>(number));
-}
-
-RC_GTEST_PROP(JsonBuilder, TextsReadBack, ()) {
-  const std::string text = *testing::arbitraryText();
-  RC_ASSERT(nlohmann::json::parse(written(text)).get<std::string>() == text);
-}
-
-RC_GTEST_PROP(JsonBuilder, IndentingAWrittenDocumentAgainChangesNothing, ()) {
-  const std::string text = writeFarm(*testing::arbitraryDocument());
-  RC_ASSERT(indented(text) == text);
 }
 
 }  // namespace

@@ -1,25 +1,20 @@
 #include <gtest/gtest.h>
-#include <rapidcheck/gtest.h>
 
 #include <array>
 #include <bit>
 #include <clocale>
-#include <nlohmann/json.hpp>
+#include <cstdint>
+#include <string>
+#include <string_view>
 #include <vector>
 
-#include "document/JsonText.h"
-#include "tests/document/arbitraryDocument.h"
+#include "tests/document/jsonValues.h"
 #include "text/quote.h"
 
 namespace verdalis {
 namespace {
 
-std::vector<JsonValue> inside(const JsonValue& value) {
-  std::vector<JsonValue> values;
-  for (JsonValue each = value.inside(); each != value.end(); each = each.next())
-    values.push_back(each);
-  return values;
-}
+using testing::inside;
 
 TEST(JsonText, KnowsTheKindsOfValues) {
   const JsonText json(R"([{}, [], "", null, true, false, 0, -1])");
@@ -191,36 +186,6 @@ TEST(JsonText, DeepNestingIsAFault) {
   const auto nested = [](std::size_t depth) { return std::string(depth, '[') + std::string(depth, ']'); };
   EXPECT_EQ(JsonText(nested(JsonText::deepestNesting)).root().raw(), nested(JsonText::deepestNesting));
   expectFault(nested(JsonText::deepestNesting + 1), 1);
-}
-
-/// The value as the library sees it.
-nlohmann::ordered_json treeOf(const JsonValue& value) {
-  if (value.isNull()) return nullptr;
-  if (value.isBoolean()) return value.boolean();
-  if (value.isNumber()) return value.number();
-  if (value.isText()) return value.text();
-  if (value.isList()) {
-    auto list = nlohmann::ordered_json::array();
-    for (const JsonValue& item : inside(value))
-      list.push_back(treeOf(item));
-    return list;
-  }
-  auto object = nlohmann::ordered_json::object();
-  const auto members = inside(value);
-  for (std::size_t i = 0; i < members.size(); i += 2)
-    object[members[i].text()] = treeOf(members[i + 1]);
-  return object;
-}
-
-RC_GTEST_PROP(JsonText, AgreesWithATreeOfTheLibrary, ()) {
-  const auto document = *testing::arbitraryDocument();
-  const std::string text = writeFarm(document);
-  const JsonText json(text);
-  const auto tree = nlohmann::ordered_json::parse(text);
-  RC_ASSERT(treeOf(json.root()) == tree);
-  const std::string compact = json.root().compact();
-  RC_ASSERT(JsonText(compact).root().raw() == compact);
-  RC_ASSERT(treeOf(JsonText(compact).root()) == tree);
 }
 
 }  // namespace

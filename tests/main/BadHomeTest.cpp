@@ -1,13 +1,10 @@
-#include <gtest/gtest.h>
-#include <sys/stat.h>
-
 #include <cstdint>
+#include <filesystem>
 #include <random>
 #include <string>
 
 #include "data/readFile.h"
-#include "tests/data/OrdinaryUser.h"
-#include "tests/main/RunningProgram.h"
+#include "tests/main/BadHome.h"
 
 // Damaged home folders: whatever they contain, the start finishes and the main pane can be used.
 
@@ -15,35 +12,6 @@ namespace verdalis::testing {
 namespace {
 
 namespace fs = std::filesystem;
-
-class BadHome : public ::testing::Test {
- protected:
-  RunningProgram running;
-
-  void saveInputs(const std::string& bytes) { running.folder.write("inputs.txt", bytes); }
-
-  /// Starts the program and types a farm.
-  void expectUsable() {
-    EXPECT_TRUE(running.start().isOpen());
-    EXPECT_EQ(running.program->main().panes.top().name(), "pneMain");
-    auto& area = running.control<TextBox>("txtArea");
-    ASSERT_TRUE(area.isReachable());
-    area.type("100");
-    running.control<TextBox>("txtMax").type("10");
-    EXPECT_EQ(running.program->main().pneMain.lblVolume.caption(), "1,000");
-  }
-
-  void expectToldAndUsable(const std::string& part) {
-    expectUsable();
-    ASSERT_EQ(running.fakes.messageBox.log.size(), 1U);
-    EXPECT_EQ(running.fakes.messageBox.log[0].title, "Verdalis");
-    EXPECT_EQ(running.fakes.messageBox.log[0].icon, MessageIcon::critical);
-    EXPECT_NE(running.fakes.messageBox.log[0].text.find(part), std::string::npos)
-        << running.fakes.messageBox.log[0].text;
-  }
-
-  fs::path crops() const { return running.home() / "crops"; }
-};
 
 std::string noise(std::size_t size) {
   std::mt19937_64 random(7);
@@ -110,26 +78,9 @@ TEST_F(BadHome, AFolderInPlaceOfTheSavedInputsDoesNotStopARun) {
   EXPECT_TRUE(running.fakes.messageBox.log.empty());
 }
 
-TEST_F(BadHome, PipesDoNotBlockTheStart) {
-  ASSERT_EQ(::mkfifo((running.home() / "inputs.txt").c_str(), 0600), 0);
-  ASSERT_EQ(::mkfifo((crops() / "a.txt").c_str(), 0600), 0);
-  fs::create_directories(crops() / "soils");
-  ASSERT_EQ(::mkfifo((crops() / "soils" / "corn.txt").c_str(), 0600), 0);
-  expectUsable();
-  running.typeFarm();
-  running.press("Command1");
-  EXPECT_EQ(running.program->main().panes.top().name(), "pneResults");
-}
-
 TEST_F(BadHome, AFileInPlaceOfTheCropsIsReported) {
   fs::remove_all(crops());
   running.folder.write("crops", "CROP=Corn");
-  expectToldAndUsable(crops().string());
-}
-
-TEST_F(BadHome, ALinkToItselfInPlaceOfTheCropsIsReported) {
-  fs::remove_all(crops());
-  fs::create_symlink(crops(), crops());
   expectToldAndUsable(crops().string());
 }
 
@@ -170,36 +121,6 @@ TEST_F(BadHome, ALongNameIsShownInItsRowAndAVeryLongOneIsTold) {
   ASSERT_FALSE(main.notices.all().empty());
   EXPECT_NE(main.notices.all()[0].text.find("The name of the crop has more than 255 characters."),
             std::string::npos);
-}
-
-TEST_F(BadHome, UnreadableCropsAreReported) {
-  openToAll(running.folder);
-  fs::permissions(crops(), fs::perms::none);
-  const auto told = asOrdinaryUser([&] {
-    frmMain& main = running.start();
-    return main.isOpen() && running.fakes.messageBox.log.size() == 1 &&
-           running.fakes.messageBox.log[0].text.find("Permission denied") != std::string::npos;
-  });
-  if (!told) GTEST_SKIP() << "there is no ordinary user to be";
-  EXPECT_TRUE(*told);
-}
-
-TEST_F(BadHome, InaccessibleSavedInputsDoNotStopTheProgram) {
-  saveInputs("0\r\n77\r\n");
-  openToAll(running.folder);
-  fs::permissions(running.home() / "inputs.txt", fs::perms::none);
-  fs::permissions(running.home(), fs::perms::owner_read | fs::perms::owner_exec | fs::perms::others_read |
-                                      fs::perms::others_exec);
-  const auto ran = asOrdinaryUser([&] {
-    frmMain& main = running.start();
-    if (!main.pneMain.txtArea.text().empty()) return false;
-    running.typeFarm();
-    running.press("Command1");
-    return main.panes.top().name() == "pneResults" && running.fakes.messageBox.log.empty();
-  });
-  fs::permissions(running.home(), fs::perms::all);
-  if (!ran) GTEST_SKIP() << "there is no ordinary user to be";
-  EXPECT_TRUE(*ran);
 }
 
 }  // namespace

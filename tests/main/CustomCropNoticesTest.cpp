@@ -23,8 +23,8 @@ TEST_F(Notices, AReplacedCropIsOfferedBack) {
   folder.write("crops/custom/Oats.txt", oats);
   start();
   saveCrop("Oats", "99");
-  EXPECT_THAT(shown(), AllOf(HasSubstr("There was a custom crop Oats already"),
-                             HasSubstr((home() / "crops/custom/Oats.txt").string())));
+  EXPECT_THAT(shown(),
+              AllOf(HasSubstr("There was a custom crop Oats already"), HasSubstr(customFile("Oats.txt"))));
   EXPECT_NE(folder.read("crops/custom/Oats.txt"), oats);
   EXPECT_EQ(rowNamed("Oats").Crop->yieldTable->cell(0, 11), 99);
   press("cmdNotice");
@@ -76,8 +76,7 @@ TEST_F(Notices, ADeletedCropIsOfferedBack) {
   select("Oats");
   press("cmdCustomGrid(6)");
   EXPECT_EQ(folder.names("crops/custom"), Strings{"Rye.txt"});
-  EXPECT_THAT(shown(), AllOf(HasSubstr("Oats has been deleted"),
-                             HasSubstr((home() / "crops/custom/Oats.txt").string())));
+  EXPECT_THAT(shown(), AllOf(HasSubstr("Oats has been deleted"), HasSubstr(customFile("Oats.txt"))));
   select("Rye");
   control<TextBox>("txtCustom(0)").type("Rye 2");
   press("cmdNotice");

@@ -75,6 +75,11 @@ class Notices : public ::testing::Test, protected RunningProgram {
   [[nodiscard]] std::string before() const { return folder.read("inputs.txt.before"); }
   [[nodiscard]] bool isKept() const { return std::filesystem::exists(home() / "inputs.txt.before"); }
 
+  /// The file of a custom crop, as the program tells it.
+  [[nodiscard]] std::string customFile(const std::string& name) const {
+    return (home() / "crops" / "custom" / name).string();
+  }
+
   [[nodiscard]] static std::vector<std::string> blockNames(const std::string& text) {
     std::vector<std::string> names;
     for (const SavedCropBlock& block : savedCropBlocks(text))

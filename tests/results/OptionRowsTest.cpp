@@ -1,5 +1,4 @@
 #include <gtest/gtest.h>
-#include <rapidcheck.h>
 
 #include <limits>
 
@@ -15,24 +14,6 @@ using namespace testing;
 std::shared_ptr<Field> cropField(const std::string& crop, double acres, double depth = 0,
                                  double profit = 10) {
   return plainField(acres, profit + 50, 50, depth, crop);
-}
-
-TEST(NetReturnOf, IsThatOfTheOptionToTheLastBitAndStoresNothing) {
-  rc::check([] {
-    const auto acres = [] { return static_cast<double>(*rc::gen::inRange(1, 4000)) / 7; };
-    const auto money = [] { return static_cast<double>(*rc::gen::inRange(0, 90000)) / 13; };
-    auto option = optionOf({});
-    for (int fields = *rc::gen::inRange(1, 5); fields > 0; --fields)
-      option->Add(plainField(acres(), money(), money(), 8.5));
-    const bool priced = *rc::gen::arbitrary<bool>();
-    if (priced) static_cast<void>(option->getCosts(0.85));
-    FieldCollection copy = option->Copy();
-    const double told = netReturnOf(*option, 0.85);
-    RC_ASSERT(told == copy.getProfit(0.85));
-    RC_ASSERT((option->TotalCost != 0) == (priced && copy.getCosts(0.85) != 0));
-    for (const auto& field : *option)
-      RC_ASSERT(field->TotalReturn == 0);
-  });
 }
 
 TEST(NetReturnOf, UsesTheReturnsThatAFieldHas) {

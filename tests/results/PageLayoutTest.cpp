@@ -1,36 +1,20 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <rapidcheck.h>
 
-#include <algorithm>
 #include <cmath>
 
-#include "results/PageLayout.h"
+#include "tests/results/PlainPaper.h"
 
 // The positions of texts on paper.
 
 namespace verdalis {
 namespace {
 
+using testing::card;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
+using testing::PlainMetrics;
 using ::testing::SizeIs;
-
-/// Every character is half as wide as the font is large, bold ones a tenth more.
-class PlainMetrics : public FontMetrics {
- public:
-  [[nodiscard]] double width(const std::string& text, const PageFont& font) const override {
-    double characters = 0;
-    for (const char byte : text)
-      characters += (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U ? 0 : 1;
-    return characters * font.size * (font.bold ? 0.55 : 0.5);
-  }
-  [[nodiscard]] double ascent(const PageFont& font) const override { return font.size * 0.8; }
-  [[nodiscard]] double lineHeight(const PageFont& font) const override { return font.size * 1.2; }
-};
-
-/// A sheet with 100 x 60 points to print on: 20 characters of size 10 on each of 5 lines.
-constexpr Paper card{120, 70, 10, 5};
 
 class PageLayoutTest : public ::testing::Test {
  protected:
@@ -246,55 +230,6 @@ TEST_F(PageLayoutTest, TheEndIsReportedOnce) {
   EXPECT_EQ(ends, 0);
   page.endDocument();
   EXPECT_EQ(ends, 1);
-}
-
-std::string withoutBlanks(std::string text) {
-  text.erase(std::remove(text.begin(), text.end(), ' '), text.end());
-  return text;
-}
-
-TEST(PageLayout, NoTextIsCutOffOrOverlapsAnother) {
-  rc::check([] {
-    const PlainMetrics metrics;
-    PageLayout page(metrics, card);
-    page.setFontSize(10);
-    std::string printed;
-    for (int step = *rc::gen::inRange(0, 60); step > 0; --step) {
-      switch (*rc::gen::inRange(0, 4)) {
-        case 0:
-          page.setFontSize(*rc::gen::inRange(1, 24));
-          break;
-        case 1:
-          page.setCurrentX(*rc::gen::inRange(-100, 3000));
-          break;
-        default:
-          const std::string text =
-              *rc::gen::container<std::string>(rc::gen::elementOf(std::string("abcdefg      ")));
-          printed += text;
-          *rc::gen::arbitrary<bool>() ? page.print(text) : page.printLine(text);
-      }
-    }
-    page.endDocument();
-    std::string placed;
-    for (std::size_t i = 0; i < page.texts().size(); ++i) {
-      const PlacedText& text = page.texts()[i];
-      placed += text.text;
-      const double right = text.x + metrics.width(text.text, text.font);
-      RC_ASSERT(text.x >= card.sideMargin);
-      RC_ASSERT(right <= card.width - card.sideMargin + 1e-9);
-      RC_ASSERT(text.y <= card.height - card.endMargin);
-      RC_ASSERT(text.page < page.pages());
-      if (i == 0) continue;
-      const PlacedText& before = page.texts()[i - 1];
-      RC_ASSERT(text.page >= before.page);
-      if (text.page == before.page && text.y == before.y) {
-        RC_ASSERT(text.x >= before.x + metrics.width(before.text, before.font) - 1e-9);
-      } else if (text.page == before.page) {
-        RC_ASSERT(text.y > before.y);
-      }
-    }
-    RC_ASSERT(withoutBlanks(placed) == withoutBlanks(printed));
-  });
 }
 
 }  // namespace

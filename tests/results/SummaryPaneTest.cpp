@@ -1,11 +1,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <rapidcheck.h>
 
-#include "results/SummaryPane.h"
-#include "tests/results/Options.h"
+#include <algorithm>
+
+#include "tests/results/SummaryPaneFixture.h"
 #include "tests/support/Errors.h"
-#include "tests/support/FakeServices.h"
 #include "text/RunTimeError.h"
 
 namespace verdalis {
@@ -13,47 +12,6 @@ namespace {
 
 using namespace testing;
 using ::testing::ElementsAre;
-
-class SummaryPaneTest : public ::testing::Test {
- protected:
-  SummaryPaneTest() {
-    window.open();
-    pane.onShowPane.connect([this] { ++shows; });
-    pane.onBack.connect([this] { ++backs; });
-  }
-
-  [[nodiscard]] std::vector<std::string> column(int number) const {
-    std::vector<std::string> cells;
-    cells.reserve(static_cast<std::size_t>(pane.fgsummary.rows()));
-    for (int row = 0; row < pane.fgsummary.rows(); ++row)
-      cells.push_back(pane.fgsummary.cell(row, number));
-    return cells;
-  }
-
-  ScopedEfficiency efficiency{0.85};
-  FakeServices fake;
-  Desk desk;
-  Window window{desk, "frmMain", Frame::Scope::transparent};
-  SummaryPane::SavedOptions saved;
-  std::string annualRain = "16";
-  std::vector<std::pair<std::filesystem::path, std::string>> written;
-  int shows = 0;
-  int backs = 0;
-  SummaryPane pane{window,
-                   fake.services,
-                   saved,
-                   {[this] { return annualRain; },
-                    [this](const std::filesystem::path& path, std::string_view bytes) {
-                      written.emplace_back(path, std::string(bytes));
-                    }}};
-};
-
-Option fieldsOf(int count) {
-  auto option = std::make_shared<FieldCollection>();
-  for (int i = 0; i < count; ++i)
-    option->Add(plainField(10, 100, 50));
-  return option;
-}
 
 TEST_F(SummaryPaneTest, ControlsHaveTheirNamesAndCaptions) {
   EXPECT_EQ(pane.caption(), "Summary of Saved Options");
@@ -284,33 +242,6 @@ TEST_F(SummaryPaneTest, SingleFieldOptionsAreRemovedByPairsOfColumns) {
     EXPECT_EQ(saved.size(), 4U);
     EXPECT_EQ(std::find(saved.begin(), saved.end(), expected), saved.end()) << clicked;
   }
-}
-
-TEST_F(SummaryPaneTest, TheRemovedOptionIsFoundByCountingItsColumns) {
-  EXPECT_TRUE(rc::check("the counting of columns", [this] {
-    const auto sizes = *rc::gen::nonEmpty(rc::gen::container<std::vector<int>>(rc::gen::inRange(1, 5)));
-    saved.clear();
-    for (const int size : sizes)
-      saved.push_back(fieldsOf(size));
-    const auto before = saved;
-    pane.showSummary();
-    const int clicked = *rc::gen::inRange(0, pane.fgsummary.columns());
-    std::optional<std::size_t> expected;
-    int n = 1;
-    for (std::size_t i = 0; i < sizes.size() && !expected; ++i) {
-      for (int j = 0; j <= sizes[i]; ++j) {
-        if (n == clicked) {
-          expected = i;
-          break;
-        }
-        ++n;
-      }
-    }
-    pane.fgsummary.clickCell(1, clicked);
-    auto after = before;
-    if (expected) after.erase(after.begin() + static_cast<std::ptrdiff_t>(*expected));
-    RC_ASSERT(saved == after);
-  }));
 }
 
 TEST_F(SummaryPaneTest, BackIsRaised) {

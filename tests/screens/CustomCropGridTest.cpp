@@ -1,8 +1,6 @@
-#include <rapidcheck.h>
-
 #include "data/StockGrids.h"
 #include "screens/CustomGrid.h"
-#include "tests/screens/CustomCropFixture.h"
+#include "tests/screens/CustomCropPaste.h"
 
 namespace verdalis::testing {
 namespace {
@@ -123,22 +121,6 @@ TEST_F(CustomCropGrid, CopyingTheGridIncludesItsHeadings) {
   EXPECT_EQ(box.buttons, MessageButtons::ok);
 }
 
-class CustomCropPaste : public CustomCropEditor {
- protected:
-  CustomCropPaste() {
-    makeSmallest();
-    list(3).pick(1);
-    pane.cmdCustomGrid0.click();
-  }
-
-  /// The data cells after pasting, one text per row.
-  Strings pasted(const std::string& text) {
-    fakes.clipboard.contents = text;
-    pane.cmdCustomGrid4.click();
-    return {grid().cell(1, 1) + "|" + grid().cell(1, 2), grid().cell(2, 1) + "|" + grid().cell(2, 2)};
-  }
-};
-
 TEST_F(CustomCropPaste, EveryKindOfLineEndEndsARow) {
   for (const char* text : {"1\t2\r\n3\t4\r\n", "1\t2\n3\t4\n", "1\t2\r3\t4", "1\t2\r\n3\t4\r\n\r\n"})
     EXPECT_EQ(pasted(text), (Strings{"1|2", "3|4"})) << text;
@@ -210,21 +192,6 @@ TEST_F(CustomCropPaste, AHugeClipboardIsCutToTheGrid) {
   EXPECT_TRUE(fakes.messageBox.log.empty());
   pasted(digits + "x");
   EXPECT_EQ(theBox().title, "Try again");
-}
-
-TEST_F(CustomCropPaste, RestoresTheDataOfACopy) {
-  EXPECT_TRUE(rc::check("a table comes back as it was copied", [this] {
-    const auto cell = rc::gen::map(rc::gen::inRange(0, 100000), [](int n) {
-      return n % 7 == 0 ? std::string() : std::to_string(n / 10) + "." + std::to_string(n % 10);
-    });
-    const auto cells = *rc::gen::container<Strings>(4, cell);
-    fillCustomGrid(grid(), cells);
-    const Strings before{rowOf(1)[1] + "|" + rowOf(1)[2], rowOf(2)[1] + "|" + rowOf(2)[2]};
-    std::string data = cells[0] + "\t" + cells[1] + "\r\n" + cells[2] + "\t" + cells[3];
-    // An empty field at the very end of a text is a field too.
-    RC_ASSERT(pasted("9\t9\n9\t9") == (Strings{"9|9", "9|9"}));
-    RC_ASSERT(pasted(data) == before);
-  }));
 }
 
 struct DefaultRow {

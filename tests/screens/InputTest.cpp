@@ -1,59 +1,14 @@
 #include <gtest/gtest.h>
-#include <rapidcheck.h>
 
 #include <string>
 #include <vector>
 
-#include "controls/inputs.h"
 #include "screens/FieldTable.h"
-#include "screens/modInputTest.h"
-#include "tests/support/FakeServices.h"
+#include "tests/screens/InputFixture.h"
 #include "text/RunTimeError.h"
-#include "text/numbers.h"
 
-namespace verdalis {
+namespace verdalis::testing {
 namespace {
-
-class InputTest : public ::testing::Test {
- protected:
-  /// Types a text into a field that contained "7" and leaves it.
-  /// \returns the texts of the messages.
-  std::vector<std::string> messagesFor(const std::string& text, double limit) {
-    box.setText("7");
-    test = box.onLeave.connectScoped(
-        [this, limit] { testInput(&box, limit, "Tillage Cost", fakes.messageBox); });
-    box.type(text);
-    box.leave();
-    std::vector<std::string> texts;
-    for (const Message& message : fakes.messageBox.take()) {
-      EXPECT_EQ(message.title, "Input error");
-      EXPECT_EQ(message.icon, MessageIcon::exclamation);
-      EXPECT_EQ(message.buttons, MessageButtons::ok);
-      texts.push_back(message.text);
-    }
-    return texts;
-  }
-
-  void expectPasses(const std::string& text, double limit) {
-    EXPECT_TRUE(messagesFor(text, limit).empty()) << text;
-    EXPECT_EQ(box.text(), text);
-    EXPECT_EQ(desk.focus(), nullptr);
-  }
-
-  void expectFails(const std::string& text, double limit, const std::string& message) {
-    EXPECT_EQ(messagesFor(text, limit), std::vector<std::string>{message}) << text;
-    EXPECT_EQ(box.text(), "7") << text;
-    EXPECT_FALSE(box.canUndo());
-    EXPECT_EQ(desk.focus(), &box);
-  }
-
-  Desk desk;
-  Window window{desk, "frmMain", Frame::Scope::transparent};
-  TextBox box{window, "txtTillage"};
-  TextBox other{window, "txtOther"};
-  Connection test;
-  ::verdalis::testing::FakeServices fakes;
-};
 
 TEST_F(InputTest, IncompleteEntriesPass) {
   expectPasses("", 100);
@@ -158,13 +113,6 @@ TEST_F(InputTest, TheMessageBoxDoesNotDeactivateTheWindow) {
   EXPECT_EQ(deactivations, 0);
 }
 
-TEST_F(InputTest, NoTypedTextThrows) {
-  rc::check([this](const std::string& text, double limit) {
-    static_cast<void>(messagesFor(text, limit));
-    RC_ASSERT(box.text() == text || box.text() == "7");
-  });
-}
-
 class ZeroTexts : public InputTest {
  protected:
   Frame pane{window, "pneOther"};
@@ -237,4 +185,4 @@ TEST(FieldLimit, DependsOnItsKey) {
 }
 
 }  // namespace
-}  // namespace verdalis
+}  // namespace verdalis::testing

@@ -1,6 +1,3 @@
-#include <gtest/gtest.h>
-#include <rapidcheck.h>
-
 #include <map>
 #include <memory>
 #include <set>
@@ -8,62 +5,11 @@
 #include <vector>
 
 #include "model/EfficiencyFraction.h"
-#include "screens/IrrigCostsPane.h"
-#include "tests/support/FakeServices.h"
+#include "tests/screens/IrrigCostsFixture.h"
 #include "text/RunTimeError.h"
 
-namespace verdalis {
+namespace verdalis::testing {
 namespace {
-
-class IrrigCosts : public ::testing::Test {
- protected:
-  IrrigCosts() {
-    pane.areaText = [this] { return area; };
-    listeners.push_back(pane.onApplied.connectScoped([this] { ++applied; }));
-    listeners.push_back(pane.onBack.connectScoped([this] { ++backs; }));
-    listeners.push_back(pane.onHelp.connectScoped([this](int index) { helped.push_back(index); }));
-    window.open();
-  }
-
-  void expectDefaults() const {
-    EXPECT_EQ(pane.txtGPM.text(), "750");
-    EXPECT_EQ(pane.txtEstHours.text(), "1800");
-    EXPECT_EQ(pane.txtLift.text(), "120");
-    EXPECT_EQ(pane.txtPSI.text(), "35");
-    EXPECT_EQ(pane.txtRepairsPerAcre.text(), "0.33");
-    EXPECT_EQ(pane.cboFuelType.text(), "Natural Gas");
-    EXPECT_EQ(pane.cboFuelType.index(), 2);
-    EXPECT_EQ(pane.txtCost.text(), "5.10");
-    EXPECT_EQ(pane.txtLaborPerHour.text(), "10");
-  }
-
-  /// Types into a field, leaves it, and returns the message or an empty text.
-  std::string messageFor(TextBox& box, const std::string& text) {
-    box.setText("");
-    box.type(text);
-    box.leave();
-    const std::vector<Message> messages = fakes.messageBox.take();
-    EXPECT_LE(messages.size(), 1U);
-    if (messages.empty()) return {};
-    EXPECT_EQ(messages[0].title, "Input error");
-    EXPECT_EQ(messages[0].icon, MessageIcon::exclamation);
-    EXPECT_EQ(box.text(), "");
-    EXPECT_EQ(desk.focus(), &box);
-    return messages[0].text;
-  }
-
-  Desk desk;
-  ::verdalis::testing::FakeServices fakes;
-  std::shared_ptr<IrrigationCosts> plant = std::make_shared<IrrigationCosts>();
-  Window window{desk, "frmMain", Frame::Scope::transparent};
-  TextBox elsewhere{window, "txtElsewhere"};
-  IrrigCostsPane pane{window, fakes.services, plant};
-  std::vector<Connection> listeners;
-  std::string area = "100";
-  int applied = 0;
-  int backs = 0;
-  std::vector<int> helped;
-};
 
 TEST_F(IrrigCosts, StartsWithItsTextsAndStartValues) {
   EXPECT_EQ(pane.name(), "pneIrrigCosts");
@@ -419,17 +365,5 @@ TEST_F(IrrigCosts, TheButtonsNeedNoListeners) {
   EXPECT_TRUE(plant->active);
 }
 
-TEST_F(IrrigCosts, NoTypedTextThrows) {
-  pane.showDefaults();
-  rc::check([this](const std::string& text) {
-    for (const IrrigCostsField& field : IrrigCostsPane::fields()) {
-      if (field.box != nullptr) (pane.*field.box).type(text);
-    }
-    pane.cboFuelType.pick(0);
-    RC_ASSERT(pane.lblICosts.caption().starts_with("$"));
-    pane.showDefaults();
-  });
-}
-
 }  // namespace
-}  // namespace verdalis
+}  // namespace verdalis::testing
