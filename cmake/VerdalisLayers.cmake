@@ -66,12 +66,13 @@ endfunction()
 # verdalis_remove_system_tests(VARIABLE)
 # Removes from a list of tests those that need RapidCheck, which Debian builds for its own machines only, and those that
 # use calls of POSIX or programs of Debian, directly or by one of their headers. Also those named ...PosixTest, or listed
-# here, because they are about what Debian has: open files with names, PDF, a shell, and the words of its errors.
+# here, because they are about what Debian has: the usual folders of a program, open files with names, PDF, a shell, and
+# the words of its errors.
 function(verdalis_remove_system_tests variable)
   set(kept "")
   set(foreign "#include [<\"](rapidcheck|unistd|fcntl|csignal|sys/|platform/posix/|tests/xlsx/WorkbookFile)")
   list(FILTER ${variable} EXCLUDE REGEX
-    "PosixTest|/(OpenOutput|ReportPdf|FullReport|Readme)Test")
+    "PosixTest|/(SharedFolders|OpenOutput|ReportPdf|FullReport|Readme)Test")
   foreach(source IN LISTS ${variable})
     set(files ${source})
     set(next ${source})
