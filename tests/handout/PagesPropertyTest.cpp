@@ -13,7 +13,6 @@ using testing::anyHandout;
 using testing::faultOfPage;
 using testing::lettersOf;
 using testing::PlainMeasure;
-using testing::textsOf;
 
 PaperSize anyPaper() {
   return *rc::gen::element(PaperSize::a4, PaperSize::letter);

@@ -16,7 +16,6 @@ namespace {
 namespace fs = std::filesystem;
 using ::testing::AllOf;
 using ::testing::HasSubstr;
-using ::testing::Not;
 using Strings = std::vector<std::string>;
 
 TEST_F(Notices, AReplacedCropIsOfferedBack) {
