@@ -20,6 +20,10 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_G
    AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
   # At -O3, GCC 12 wrongly warns that "text" + string is an overlapping copy.
   target_compile_options(verdalis_flags INTERFACE -Wno-restrict)
+  if(CMAKE_CXX_FLAGS MATCHES "-fsanitize")
+    # With the sanitizers it wrongly warns of the standard library's <regex>.
+    target_compile_options(verdalis_flags INTERFACE -Wno-maybe-uninitialized)
+  endif()
 endif()
 if(whole_paths)
   # Failed assertions name a source within the tree, not on the machine that built the program.
